@@ -1,0 +1,23 @@
+# tidewatch_module(<room> SOURCES <file>... [KNOWS <target>...])
+#
+# One room of the house as a static library `tidewatch_<room>`. KNOWS names the rooms and libraries that its
+# headers and sources may include; whoever links the room sees them too.
+function(tidewatch_module room)
+    cmake_parse_arguments(ARG "" "" "SOURCES;KNOWS" ${ARGN})
+    add_library(tidewatch_${room} STATIC ${ARG_SOURCES})
+    target_link_libraries(tidewatch_${room} PUBLIC ${ARG_KNOWS} PRIVATE tidewatch_options)
+    target_include_directories(tidewatch_${room} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+endfunction()
+
+# tidewatch_test(<name> SOURCES <file>... [KNOWS <target>...])
+#
+# One test program on GoogleTest, registered case by case, with locale, time zone and home pinned.
+function(tidewatch_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;KNOWS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_KNOWS} tidewatch_options GTest::gmock_main)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
+    gtest_discover_tests(${name} PROPERTIES
+        ENVIRONMENT "LC_ALL=C.UTF-8;TZ=UTC;HOME=${CMAKE_BINARY_DIR}/test-home;QT_QPA_PLATFORM=offscreen"
+        TIMEOUT 120)
+endfunction()

@@ -1,0 +1,24 @@
+# The language standard, warnings, sanitizers and compiler cache that every target is built with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+add_library(tidewatch_options INTERFACE)
+target_include_directories(tidewatch_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(tidewatch_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
+    -Wimplicit-fallthrough -Wcast-align -Wconversion -Wsign-conversion)
+if(TIDEWATCH_WERROR)
+    target_compile_options(tidewatch_options INTERFACE -Werror)
+endif()
+if(TIDEWATCH_SANITIZE)
+    add_compile_options(-fsanitize=${TIDEWATCH_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${TIDEWATCH_SANITIZE})
+endif()

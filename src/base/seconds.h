@@ -1,0 +1,25 @@
+#pragma once
+
+#include <compare>
+#include <cstdint>
+
+namespace tidewatch {
+
+/// A whole number of booked seconds. Sums are checked: an overflow ends the process with a message.
+class Seconds final {
+public:
+    constexpr Seconds() = default;
+    constexpr explicit Seconds(std::int64_t count) : count_(count) {}
+
+    [[nodiscard]] constexpr std::int64_t count() const noexcept { return count_; }
+
+    Seconds& operator+=(Seconds other);
+    [[nodiscard]] friend Seconds operator+(Seconds left, Seconds right) { return left += right; }
+
+    constexpr auto operator<=>(const Seconds&) const = default;
+
+private:
+    std::int64_t count_ = 0;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "base/result.h"
+
+namespace tidewatch::platform {
+
+/// Whether the program starts with the user's session. Main thread only.
+class LoginItem {
+public:
+    virtual ~LoginItem() = default;
+
+    [[nodiscard]] virtual bool isEnabled() const = 0;
+    virtual Outcome registerItem() = 0;
+    virtual Outcome unregisterItem() = 0;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+namespace tidewatch::platform {
+
+/// A point on the desktop, in points; y grows downward from the top edge of the main screen.
+struct Point {
+    double x = 0;
+    double y = 0;
+    bool operator==(const Point&) const = default;
+};
+
+/// A rectangle on the desktop, in points; `x`, `y` is its top left corner.
+struct Rectangle {
+    double x = 0;
+    double y = 0;
+    double width = 0;
+    double height = 0;
+
+    /// The left and top edges belong to the rectangle, the right and bottom ones do not.
+    [[nodiscard]] bool contains(Point point) const {
+        return point.x >= x && point.x < x + width && point.y >= y && point.y < y + height;
+    }
+    bool operator==(const Rectangle&) const = default;
+};
+
+/// One screen: all of it, and what panels and docks leave free of it.
+struct Screen {
+    Rectangle frame;
+    Rectangle visibleFrame;
+};
+
+/// The screens of the desktop as they are at the moment of asking. Main thread only.
+class Screens {
+public:
+    virtual ~Screens() = default;
+
+    [[nodiscard]] virtual std::vector<Screen> all() const = 0;
+
+    /// Nothing if no screen is attached.
+    [[nodiscard]] virtual std::optional<Screen> main() const = 0;
+};
+
+}  // namespace tidewatch::platform

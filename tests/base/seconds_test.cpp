@@ -1,0 +1,20 @@
+#include "base/seconds.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace tidewatch {
+namespace {
+
+TEST(Seconds, Add) {
+    EXPECT_EQ(Seconds(40) + Seconds(2), Seconds(42));
+}
+
+TEST(SecondsDeathTest, AnOverflowEndsTheProcessWithAMessage) {
+    const Seconds most(std::numeric_limits<std::int64_t>::max());
+    EXPECT_DEATH((void)(most + Seconds(1)), "a counter of seconds overflowed");
+}
+
+}  // namespace
+}  // namespace tidewatch
