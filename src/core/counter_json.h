@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+
+#include "core/counter_record.h"
+
+namespace tidewatch {
+
+/// Reads the text of a counter file: any JSON whose top level is an object that holds, `depth` objects deep,
+/// nothing but whole numbers. Nothing if the text is not JSON or has another shape.
+///
+/// - A number is taken if its value is a 64-bit integer, however it is spelled: 60, 6e1 and 60.0 are one;
+///   60.5, 1e30, "60", true and null are of another shape, and so is a file that holds one of them anywhere.
+/// - Of equal keys in one object the last stands. Keys are compared as bytes, after their escapes are read.
+/// - A byte order mark before the text is passed over.
+[[nodiscard]] std::optional<CounterRecord> readCounters(std::string text, std::size_t depth);
+
+/// The exact text of a counter file: two blanks of indent a level, a blank on both sides of the colon, keys
+/// in ascending order of their bytes, no end of line after the last brace. An object without members is an
+/// open brace, an empty line and a closing brace. In keys the quote, the backslash, the forward slash and
+/// what lies below U+0020 are escaped; everything else stands as UTF-8.
+/// `expectedSize` in bytes spares the growing of the text; any guess will do.
+[[nodiscard]] std::string writeCounters(const CounterRecord& record, std::size_t expectedSize);
+
+}  // namespace tidewatch

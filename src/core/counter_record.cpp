@@ -1,0 +1,157 @@
+#include "core/counter_record.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+#include "core/gentle_growth.h"
+#include "core/utf8.h"
+
+namespace tidewatch {
+
+Seconds CounterRecord::seconds(Path path) const {
+    const auto leaf = findLeaf(path);
+    return leaf ? seconds(*leaf) : Seconds();
+}
+
+void CounterRecord::set(Path path, Seconds seconds) {
+    counters_.set(makeLeaf(path), seconds.count());
+}
+
+void CounterRecord::add(Path path, Seconds amount) {
+    const auto leaf = makeLeaf(path);
+    counters_.set(leaf, (seconds(leaf) + amount).count());
+}
+
+CounterRecord::Range CounterRecord::children(std::size_t level, Index branch) const {
+    const auto& first = levels_[level].firstChildren;
+    return {first[branch], branch + 1 < first.size() ? first[branch + 1] : size(level + 1)};
+}
+
+std::optional<CounterRecord::Index> CounterRecord::find(std::size_t level, Range siblings,
+                                                        std::string_view text) const {
+    const ValidUtf8 valid(text);
+    const auto place = search(level, siblings, valid.text());
+    return place.found ? std::optional(place.index) : std::nullopt;
+}
+
+std::string_view CounterRecord::text(std::size_t level, Index node) const {
+    const auto id = levels_[level].texts[node];
+    return level == 0 ? keys_[id] : names_[id];
+}
+
+std::uint32_t CounterRecord::nameId(std::size_t level, Index node) const {
+    return levels_[level].texts[node];
+}
+
+void CounterRecord::appendBranch(std::size_t level, std::string_view text) {
+    append(level, text);
+    levels_[level].firstChildren.push_back(size(level + 1));
+}
+
+void CounterRecord::appendLeaf(std::string_view text, Seconds seconds) {
+    append(lastLevel(), text);
+    counters_.append(seconds.count());
+}
+
+void CounterRecord::settle() {
+    if (!inOrder_) {
+        CounterRecord ordered(depth());
+        copyInOrder(0, top(), ordered);
+        *this = std::move(ordered);
+    }
+    for (auto& level : levels_) {
+        level.texts.shrink_to_fit();
+        level.firstChildren.shrink_to_fit();
+    }
+    counters_.shrinkToFit();
+    keys_.shrinkToFit();
+}
+
+CounterRecord::Place CounterRecord::search(std::size_t level, Range siblings, std::string_view wanted) const {
+    if (siblings.size() == 0) return {siblings.end, false};
+    const auto last = text(level, siblings.end - 1);
+    if (wanted == last) return {siblings.end - 1, true};
+    if (wanted > last) return {siblings.end, false};
+
+    Index low = siblings.begin;
+    Index high = siblings.end - 1;
+    while (low < high) {
+        const auto middle = low + (high - low) / 2;
+        if (text(level, middle) < wanted) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return {low, text(level, low) == wanted};
+}
+
+std::optional<CounterRecord::Index> CounterRecord::findLeaf(Path path) const {
+    auto siblings = top();
+    std::optional<Index> node;
+    for (std::size_t level = 0; level < depth(); ++level) {
+        node = find(level, siblings, path[level]);
+        if (!node) return std::nullopt;
+        if (level < lastLevel()) siblings = children(level, *node);
+    }
+    return node;
+}
+
+CounterRecord::Index CounterRecord::makeLeaf(Path path) {
+    auto siblings = top();
+    Index parent = 0;
+    for (std::size_t level = 0;; ++level) {
+        const ValidUtf8 valid(path[level]);
+        const auto place = search(level, siblings, valid.text());
+        if (!place.found) {
+            insert(level, place.index, valid.text());
+            if (level > 0) {
+                auto& first = levels_[level - 1].firstChildren;
+                for (std::size_t i = parent + 1; i < first.size(); ++i) ++first[i];
+            }
+        }
+        if (level == lastLevel()) return place.index;
+        parent = place.index;
+        siblings = children(level, parent);
+    }
+}
+
+void CounterRecord::insert(std::size_t level, Index index, std::string_view text) {
+    auto& [texts, firstChildren] = levels_[level];
+    const bool atEnd = index == texts.size();
+    insertGently(texts, index, keepText(level, text));
+    if (level == lastLevel()) {
+        counters_.insert(index, 0);
+    } else {
+        insertGently(firstChildren, index, atEnd ? size(level + 1) : firstChildren[index]);
+    }
+}
+
+void CounterRecord::append(std::size_t level, std::string_view newText) {
+    const auto firstSibling = level == 0 ? 0 : levels_[level - 1].firstChildren.back();
+    if (size(level) > firstSibling && text(level, size(level) - 1) >= newText) inOrder_ = false;
+    levels_[level].texts.push_back(keepText(level, newText));
+}
+
+std::uint32_t CounterRecord::keepText(std::size_t level, std::string_view text) {
+    return level == 0 ? keys_.add(text) : names_.intern(text);
+}
+
+void CounterRecord::copyInOrder(std::size_t level, Range siblings, CounterRecord& target) const {
+    std::vector<Index> order(siblings.size());
+    std::iota(order.begin(), order.end(), siblings.begin);
+    std::ranges::stable_sort(order, {}, [&](Index node) { return text(level, node); });
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        const auto node = order[i];
+        if (i + 1 < order.size() && text(level, order[i + 1]) == text(level, node)) continue;
+        if (level == lastLevel()) {
+            target.appendLeaf(text(level, node), seconds(node));
+        } else {
+            target.appendBranch(level, text(level, node));
+            copyInOrder(level + 1, children(level, node), target);
+        }
+    }
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/instant.h"
+#include "base/named_string.h"
+#include "base/seconds.h"
+#include "core/day_rule.h"
+#include "core/store_frame.h"
+#include "platform/api/file_system.h"
+#include "platform/api/log.h"
+
+namespace tidewatch {
+
+struct DaySeconds {
+    DayKey day;
+    Seconds seconds;
+    bool operator==(const DaySeconds&) const = default;
+};
+
+/// Seconds booked per logical day ("today.json", which holds all days). Safe from any thread.
+class DailyStore final {
+public:
+    /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
+    /// All three must outlive it.
+    DailyStore(platform::FileSystem& files, platform::Log& log, const DayRule& dayRule);
+
+    /// The logical day that `instant` belongs to.
+    [[nodiscard]] DayKey dayKey(Instant instant) const { return dayRule_.dayKey(instant); }
+    [[nodiscard]] DayKey today() const { return dayRule_.today(); }
+
+    /// Seconds of `day`; 0 for a day never seen, which stays unseen.
+    [[nodiscard]] Seconds seconds(const DayKey& day) const;
+
+    /// Replaces what `day` holds, in memory only.
+    void set(Seconds seconds, const DayKey& day);
+
+    /// Every day that has an entry, in ascending order.
+    [[nodiscard]] std::vector<DaySeconds> allDays() const;
+
+    /// Writes the file. On failure logs and keeps memory as it is; the next flush tries again.
+    void flush() { frame_.flush(); }
+
+    [[nodiscard]] std::string directoryPath() const { return frame_.directoryPath(); }
+    [[nodiscard]] std::string dataFilePath() const { return frame_.filePath(); }
+
+private:
+    const DayRule& dayRule_;
+    StoreFrame frame_;
+};
+
+}  // namespace tidewatch

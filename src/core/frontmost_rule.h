@@ -1,0 +1,14 @@
+#pragma once
+
+#include <optional>
+
+#include "base/named_string.h"
+#include "platform/api/workspace.h"
+
+namespace tidewatch {
+
+/// The application in front that a second may be booked to. Nothing if there is none, if it has no
+/// identifier, or if it is this program itself. Main thread only.
+[[nodiscard]] std::optional<AppId> bookableApplication(const platform::Workspace& workspace);
+
+}  // namespace tidewatch

@@ -1,0 +1,35 @@
+#include "core/store_frame.h"
+
+#include "core/counter_json.h"
+#include "core/data_directory.h"
+
+namespace tidewatch {
+
+StoreFrame::StoreFrame(platform::FileSystem& files, platform::Log& log, const StoreFormat& format)
+    : files_(files),
+      log_(log),
+      directoryPath_(dataDirectory(files)),
+      filePath_(directoryPath_ + "/" + std::string(format.fileName)),
+      flushFailed_(format.flushFailed),
+      record_(format.depth) {
+    // Without the directory there is no file either, and the first flush will say so.
+    static_cast<void>(files_.createDirectories(directoryPath_));
+    if (auto text = files_.readWhole(filePath_)) {
+        expectedSize_ = text.value().size();
+        if (auto record = readCounters(std::move(text).value(), format.depth)) record_ = std::move(*record);
+    }
+}
+
+void StoreFrame::flush() {
+    const auto written = write();
+    if (!written) log_.warning(flushFailed_ + written.error().message);
+}
+
+Outcome StoreFrame::write() {
+    const std::lock_guard lock(mutex_);
+    const auto text = writeCounters(record_, expectedSize_);
+    expectedSize_ = text.size() + text.size() / 64 + 256;
+    return files_.replaceAtomically(filePath_, text);
+}
+
+}  // namespace tidewatch

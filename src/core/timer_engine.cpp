@@ -1,0 +1,116 @@
+#include "core/timer_engine.h"
+
+#include <chrono>
+#include <string>
+#include <tuple>
+
+#include "core/identifiers.h"
+
+namespace tidewatch {
+namespace {
+
+constexpr std::chrono::seconds tickInterval(1);
+constexpr int ticksBetweenFlushes = 30;
+
+}  // namespace
+
+TimerEngine::TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
+                         const IdleMonitor& idleMonitor, DailyStore& daily, AppUsageStore& apps,
+                         TickListeners listeners)
+    : clock_(clock),
+      mainLoop_(mainLoop),
+      settings_(settings),
+      idleMonitor_(idleMonitor),
+      daily_(daily),
+      apps_(apps),
+      listeners_(listeners),
+      games_(std::string(gamesApplicationId)),
+      currentDay_(daily.dayKey(clock.now())),
+      alive_(std::make_shared<TimerEngine*>(this)) {
+    todaySeconds_ = daily_.seconds(currentDay_);
+}
+
+void TimerEngine::start() {
+    if (ticker_) return;
+    ticker_ = mainLoop_.repeat(tickInterval, platform::TimerMode::common, [this] {
+        mainLoop_.post([engine = std::weak_ptr(alive_)] {
+            if (const auto alive = engine.lock()) (*alive)->tick();
+        });
+    });
+}
+
+void TimerEngine::stop() {
+    ticker_.reset();
+    writeDay();
+    flushStores();
+    if (listeners_.gameGate) listeners_.gameGate->flush();
+}
+
+void TimerEngine::resetToday() {
+    todaySeconds_ = Seconds();
+    liveSeconds_ = Seconds();
+    writeDay();
+    daily_.flush();
+    changed.emit();
+}
+
+void TimerEngine::tick() {
+    const auto before = std::tuple(liveSeconds_, todaySeconds_, status_);
+
+    if (const auto day = daily_.dayKey(clock_.now()); day != currentDay_) moveToDay(day);
+
+    const bool idle =
+        idleMonitor_.secondsSinceLastInput() >= static_cast<double>(settings_.idleThresholdSeconds());
+    if (idle) {
+        status_ = Status::idle;
+        if (listeners_.breakReminder) listeners_.breakReminder->userWentIdle();
+    } else {
+        bookSecond();
+    }
+    wasIdle_ = idle;
+
+    if (++ticksSinceFlush_ >= ticksBetweenFlushes) {
+        writeDay();
+        flushStores();
+        ticksSinceFlush_ = 0;
+    }
+
+    if (before != std::tuple(liveSeconds_, todaySeconds_, status_)) changed.emit();
+}
+
+// The new day's counter is reloaded, not zeroed: it may be a day that already has time.
+void TimerEngine::moveToDay(const DayKey& day) {
+    writeDay();
+    daily_.flush();
+    currentDay_ = day;
+    todaySeconds_ = daily_.seconds(day);
+    liveSeconds_ = Seconds();
+}
+
+void TimerEngine::bookSecond() {
+    if (wasIdle_) liveSeconds_ = Seconds();
+    liveSeconds_ += Seconds(1);
+    todaySeconds_ += Seconds(1);
+    status_ = Status::active;
+    writeDay();
+    if (listeners_.gameGate && listeners_.gameGate->playingNow()) {
+        apps_.incrementApp(games_, currentDay_);
+    } else {
+        apps_.incrementCurrentApp(currentDay_);
+    }
+    if (listeners_.gameGate) listeners_.gameGate->tickWorkSecond();
+    if (listeners_.breakReminder) listeners_.breakReminder->tickActiveSecond(todaySeconds_);
+    if (listeners_.projectTime) listeners_.projectTime->bookSecond(currentDay_);
+}
+
+void TimerEngine::writeDay() {
+    daily_.set(todaySeconds_, currentDay_);
+}
+
+void TimerEngine::flushStores() {
+    daily_.flush();
+    apps_.flush();
+    if (listeners_.projectTime) listeners_.projectTime->flush();
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <memory>
+
+#include "base/named_string.h"
+#include "base/seconds.h"
+#include "base/signal.h"
+#include "core/app_usage_store.h"
+#include "core/daily_store.h"
+#include "core/idle_monitor.h"
+#include "core/settings.h"
+#include "core/tick_listeners.h"
+#include "platform/api/clock.h"
+#include "platform/api/main_loop.h"
+
+namespace tidewatch {
+
+/// Decides once a second whether the user is at the machine and, if so, books exactly one second to every
+/// counter. Main thread only.
+///
+/// A tick books one second at most, whatever time has passed; ticks that do not happen (a sleeping machine,
+/// a blocked thread) are never made good. Every 30th tick, idle ones counted, the stores are written to the
+/// disk, so that a crash costs 29 seconds at most.
+class TimerEngine final {
+public:
+    enum class Status { active, idle };
+
+    /// Takes up the total that the daily store holds for the present day. Does not start ticking.
+    /// All that is given, null listeners apart, must outlive the engine.
+    TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
+                const IdleMonitor& idleMonitor, DailyStore& daily, AppUsageStore& apps,
+                TickListeners listeners);
+    TimerEngine(const TimerEngine&) = delete;
+    TimerEngine& operator=(const TimerEngine&) = delete;
+
+    /// Ticks every second from now on, also while a menu is open. Nothing happens if it ticks already.
+    void start();
+
+    /// Ends the ticking and writes the day and all stores to the disk.
+    void stop();
+
+    /// Puts the clock of the day and the session back to 0, on the disk too. The counters of applications
+    /// and projects keep what they have.
+    void resetToday();
+
+    /// The present session: seconds booked since the user last came back, since the day changed or since
+    /// the start, whichever came last. Keeps its value while the user is away.
+    [[nodiscard]] Seconds liveSeconds() const { return liveSeconds_; }
+
+    /// Seconds booked to the present day.
+    [[nodiscard]] Seconds todaySeconds() const { return todaySeconds_; }
+
+    [[nodiscard]] Status status() const { return status_; }
+
+    /// Announced after a tick or a reset that changed one of the three values above, at its end.
+    Signal<> changed;
+
+private:
+    void tick();
+    void moveToDay(const DayKey& day);
+    void bookSecond();
+    void writeDay();
+    void flushStores();
+
+    const platform::Clock& clock_;
+    platform::MainLoop& mainLoop_;
+    const Settings& settings_;
+    const IdleMonitor& idleMonitor_;
+    DailyStore& daily_;
+    AppUsageStore& apps_;
+    const TickListeners listeners_;
+    const AppId games_;
+
+    Seconds liveSeconds_;
+    Seconds todaySeconds_;
+    Status status_ = Status::active;
+    std::unique_ptr<platform::RepeatingTimer> ticker_;
+    DayKey currentDay_;
+    bool wasIdle_ = false;
+    int ticksSinceFlush_ = 0;
+    // Lets a tick that was posted find out that the engine is gone.
+    const std::shared_ptr<TimerEngine*> alive_;
+};
+
+}  // namespace tidewatch
