@@ -192,7 +192,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"TooShallowForThree", 3, R"({"a":{"b":1}})"}, Refused{"NotUtf8", 1, "{\"caf\xE9\":1}"},
         Refused{"LoneSurrogate", 1, R"({"\ud800":1})"}, Refused{"RawLineBreakInAKey", 1, "{\"a\nb\":1}"},
         Refused{"Nul", 1, std::string_view("{\"a\":1}\0", 8)}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& instance) { return instance.param.name; });
 
 TEST(CounterJson, EveryTruncationIsRefused) {
     CounterRecord record(3);

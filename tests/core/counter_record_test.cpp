@@ -76,7 +76,8 @@ TEST_P(CounterRecordOfDepth, BehavesLikeMapsOfMaps) {
 
 TEST_P(CounterRecordOfDepth, IsTheSameAfterAFile) {
     CounterRecord record(GetParam());
-    for (int step = 0; step < 500; ++step) record.add(views(randomPath()), Seconds(random() % 100));
+    for (int step = 0; step < 500; ++step)
+        record.add(views(randomPath()), Seconds(static_cast<std::int64_t>(random() % 100)));
     const auto text = writeCounters(record, 0);
     auto reread = readCounters(text, GetParam());
     ASSERT_TRUE(reread);

@@ -127,7 +127,8 @@ Instant utc(const char* text) {
     int minute = 0;
     int second = 0;
     EXPECT_EQ(std::sscanf(text, "%d-%u-%u %d:%d:%d", &year, &month, &day, &hour, &minute, &second), 6);
-    return sys_days(std::chrono::year(year) / month / day) + hours(hour) + minutes(minute) + seconds(second);
+    return sys_days(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day)) +
+           hours(hour) + minutes(minute) + seconds(second);
 }
 
 class DaylightSavingNights : public testing::TestWithParam<Night> {
@@ -198,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(DayRule, DaylightSavingNights,
                                                "2022-10-30 09:59:59", "2022-10-30 10:00:00"},
                                          Night{"MexicoAutumnFrom23", mexicoCityZone(), 2022y / 10 / 30, 23,
                                                "2022-10-31 04:59:59", "2022-10-31 05:00:00"}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& instance) { return instance.param.name; });
 
 }  // namespace
 }  // namespace tidewatch

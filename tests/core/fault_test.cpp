@@ -33,7 +33,7 @@ struct FaultTest : testing::Test {
         rooms.emplace(world);
         rooms->engine.start();
     }
-    void tick(int times) { world.loop.runFor(std::chrono::seconds(times)); }
+    void tick(int times) { world.mainLoop.runFor(std::chrono::seconds(times)); }
 
     void expectOnDisk(int daySeconds, int appSeconds) const {
         EXPECT_EQ(world.files.content(world.todayJson),

@@ -49,8 +49,8 @@ struct TimerEngineTest : testing::Test {
         rooms->engine.start();
         return rooms->engine;
     }
-    void tick(int times = 1) { world.loop.runFor(seconds(times)); }
-    void setTimeOfDay(seconds time) { world.clock.setNow(sys_days(2026y / 1 / 15) + time); }
+    void tick(int times = 1) { world.mainLoop.runFor(seconds(times)); }
+    void setTimeOfDay(milliseconds time) { world.clock.setNow(sys_days(2026y / 1 / 15) + time); }
 
     [[nodiscard]] Seconds stored(const DayKey& day) const { return rooms->daily.seconds(day); }
     [[nodiscard]] std::vector<AppSeconds> apps(const DayKey& day) const {
@@ -71,7 +71,7 @@ TEST_F(TimerEngineTest, StartsWithTheStoredTotalAndWithoutTicking) {
     EXPECT_EQ(unstarted.engine.todaySeconds(), Seconds(500));
     EXPECT_EQ(unstarted.engine.liveSeconds(), Seconds(0));
     EXPECT_EQ(unstarted.engine.status(), Status::active);
-    EXPECT_EQ(world.loop.timerCount(), 0u);
+    EXPECT_EQ(world.mainLoop.timerCount(), 0u);
 }
 
 TEST_F(TimerEngineTest, AnActiveSecondIsBookedOnceToEveryCounter) {
@@ -142,7 +142,7 @@ TEST_F(TimerEngineTest, WhatIsSetUnderTheNewDaysKeyInTheGapBecomesItsStart) {
     world.clock.advance(600ms);  // past the boundary, the engine's next tick still to come
     rooms->daily.set(engine.todaySeconds(), rooms->daily.today());
     EXPECT_EQ(stored(tomorrow), Seconds(5001));
-    world.loop.runFor(400ms);
+    world.mainLoop.runFor(400ms);
     EXPECT_EQ(engine.todaySeconds(), Seconds(5002));
     EXPECT_EQ(engine.liveSeconds(), Seconds(1));
     EXPECT_EQ(stored(today), Seconds(5001));
@@ -180,14 +180,14 @@ TEST_F(TimerEngineTest, ADayChangeWhileTheUserIsIdleReloadsAndBooksNothing) {
     setTimeOfDay(23h + 59min + 57s);
     auto& engine = start();
     tick();
-    world.input.set(1000);
+    world.inputActivity.set(1000);
     tick(3);
     EXPECT_EQ(engine.todaySeconds(), Seconds(0));
     EXPECT_EQ(engine.liveSeconds(), Seconds(0));
     EXPECT_EQ(engine.status(), Status::idle);
     EXPECT_EQ(stored(today), Seconds(1));
     EXPECT_EQ(stored(tomorrow), Seconds(0));
-    world.input.set(0);
+    world.inputActivity.set(0);
     tick();
     EXPECT_EQ(engine.liveSeconds(), Seconds(1));
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
@@ -195,10 +195,10 @@ TEST_F(TimerEngineTest, ADayChangeWhileTheUserIsIdleReloadsAndBooksNothing) {
 
 TEST_F(TimerEngineTest, ExactlyAtTheThresholdTheTickIsIdle) {
     auto& engine = start();
-    world.input.set(299.999);
+    world.inputActivity.set(299.999);
     tick();
     EXPECT_EQ(engine.status(), Status::active);
-    world.input.set(300.0);
+    world.inputActivity.set(300.0);
     tick();
     EXPECT_EQ(engine.status(), Status::idle);
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
@@ -206,7 +206,7 @@ TEST_F(TimerEngineTest, ExactlyAtTheThresholdTheTickIsIdle) {
 
 TEST_F(TimerEngineTest, AChangeOfThresholdTakesEffectOnTheNextTick) {
     auto& engine = start();
-    world.input.set(100);
+    world.inputActivity.set(100);
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
     rooms->settings.setIdleThresholdSeconds(60);
@@ -216,7 +216,7 @@ TEST_F(TimerEngineTest, AChangeOfThresholdTakesEffectOnTheNextTick) {
 }
 
 TEST_F(TimerEngineTest, WithoutASourceOfIdlenessNothingIsBooked) {
-    world.input.set(std::nullopt);
+    world.inputActivity.set(std::nullopt);
     auto& engine = start();
     tick(3);
     EXPECT_EQ(engine.status(), Status::idle);
@@ -226,7 +226,7 @@ TEST_F(TimerEngineTest, WithoutASourceOfIdlenessNothingIsBooked) {
 TEST_F(TimerEngineTest, EveryIdleTickTellsTheBreakReminderAndNobodyElse) {
     Listeners listeners;
     start(listeners.all());
-    world.input.set(1000);
+    world.inputActivity.set(1000);
     tick(3);
     EXPECT_THAT(listeners.calls, ElementsAre("idle", "idle", "idle"));
 }
@@ -234,10 +234,10 @@ TEST_F(TimerEngineTest, EveryIdleTickTellsTheBreakReminderAndNobodyElse) {
 TEST_F(TimerEngineTest, ASessionEndsAtTheFirstActiveTickAfterAnIdleOne) {
     auto& engine = start();
     tick(5);
-    world.input.set(1000);
+    world.inputActivity.set(1000);
     tick(2);
     EXPECT_EQ(engine.liveSeconds(), Seconds(5));
-    world.input.set(0);
+    world.inputActivity.set(0);
     tick();
     EXPECT_EQ(engine.liveSeconds(), Seconds(1));
     EXPECT_EQ(engine.todaySeconds(), Seconds(6));
@@ -271,7 +271,7 @@ TEST_F(TimerEngineTest, ResetTodayLeavesTheFlushCadenceAsItIs) {
 TEST_F(TimerEngineTest, StartCalledTwiceCreatesOneTimerOnly) {
     auto& engine = start();
     engine.start();
-    EXPECT_EQ(world.loop.timerCount(), 1u);
+    EXPECT_EQ(world.mainLoop.timerCount(), 1u);
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
 }
@@ -279,7 +279,7 @@ TEST_F(TimerEngineTest, StartCalledTwiceCreatesOneTimerOnly) {
 TEST_F(TimerEngineTest, StoppedAndStartedAgainItTicksAgain) {
     auto& engine = start();
     engine.stop();
-    EXPECT_EQ(world.loop.timerCount(), 0u);
+    EXPECT_EQ(world.mainLoop.timerCount(), 0u);
     engine.start();
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
@@ -334,7 +334,7 @@ TEST_F(TimerEngineTest, EveryThirtiethTickWritesTheStores) {
 }
 
 TEST_F(TimerEngineTest, IdleTicksCountForTheCadenceAndWriteThoughNothingChanged) {
-    world.input.set(1000);
+    world.inputActivity.set(1000);
     Listeners listeners;
     start(listeners.all());
     tick(30);
@@ -426,7 +426,7 @@ TEST_F(TimerEngineTest, ADayChangeDuringASleepIsFoundByTheFirstTick) {
 TEST_F(TimerEngineTest, ABlockedThreadIsNotMadeGood) {
     auto& engine = start();
     world.clock.advance(10min);
-    world.loop.run();
+    world.mainLoop.run();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
 }
 
@@ -464,14 +464,14 @@ TEST_F(TimerEngineTest, AClockSetBackWithinTheDayChangesNothing) {
 
 TEST_F(TimerEngineTest, ItTicksWhileAMenuIsOpen) {
     auto& engine = start();
-    world.loop.setMenu(platform::FakeMainLoop::Menu::open);
+    world.mainLoop.setMenu(platform::FakeMainLoop::Menu::open);
     tick(3);
     EXPECT_EQ(engine.todaySeconds(), Seconds(3));
 }
 
 TEST_F(TimerEngineTest, ATickThatWasPostedDoesNothingOnceTheEngineIsGone) {
     start();
-    world.loop.post([this] { rooms.reset(); });
+    world.mainLoop.post([this] { rooms.reset(); });
     tick();
     EXPECT_FALSE(rooms);
 }
@@ -491,7 +491,7 @@ TEST_F(TimerEngineTest, AnnouncesTheTurnToIdleAndThenKeepsSilent) {
     tick();
     int announced = 0;
     const auto listening = engine.changed.connect([&] { ++announced; });
-    world.input.set(1000);
+    world.inputActivity.set(1000);
     tick(5);
     EXPECT_EQ(announced, 1);
 }

@@ -29,7 +29,7 @@ INSTANTIATE_TEST_SUITE_P(Utf8, RepairedUtf8,
                                          Repair{"Surrogate", "\xED\xA0\x80",
                                                 "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
                                          Repair{"BeyondUnicode", "\xF5", "\xEF\xBF\xBD"}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& instance) { return instance.param.name; });
 
 }  // namespace
 }  // namespace tidewatch

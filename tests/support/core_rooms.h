@@ -15,10 +15,10 @@ struct CoreRooms {
     explicit CoreRooms(FakeWorld& world, TickListeners listeners = {})
         : settings(world.preferences),
           dayRule(world.clock, settings),
-          idleMonitor(world.input),
+          idleMonitor(world.inputActivity),
           daily(world.files, world.log, dayRule),
           apps(world.files, world.log, world.workspace),
-          engine(world.clock, world.loop, settings, idleMonitor, daily, apps, listeners) {}
+          engine(world.clock, world.mainLoop, settings, idleMonitor, daily, apps, listeners) {}
 
     Settings settings;
     DayRule dayRule;

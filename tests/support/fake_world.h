@@ -3,28 +3,17 @@
 #include <chrono>
 #include <string>
 
-#include "platform/fake/fake_clock.h"
-#include "platform/fake/fake_input_activity.h"
-#include "platform/fake/fake_log.h"
-#include "platform/fake/fake_main_loop.h"
-#include "platform/fake/fake_workspace.h"
-#include "platform/fake/memory_file_system.h"
-#include "platform/fake/memory_preferences.h"
+#include "platform/fake/fake_machine.h"
 #include "tests/support/fail_test.h"
 
 namespace tidewatch::test {
 
 /// A machine for a test: nine in the morning of 2026-01-15 in UTC, an empty disk, a user who is there, and
 /// no application in front. A warning that the test does not announce fails it.
-struct FakeWorld {
-    platform::FakeClock clock{std::chrono::sys_days(std::chrono::January / 15 / 2026) +
-                              std::chrono::hours(9)};
-    platform::FakeMainLoop loop{clock};
-    platform::MemoryFileSystem files;
-    platform::MemoryPreferences preferences;
-    platform::FakeInputActivity input;
-    platform::FakeWorkspace workspace;
-    platform::FakeLog log{failTest};
+struct FakeWorld : platform::FakeMachine {
+    FakeWorld()
+        : FakeMachine(std::chrono::sys_days(std::chrono::January / 15 / 2026) + std::chrono::hours(9),
+                      failTest) {}
 
     const std::string todayJson = "/home/user/.tidewatch/today.json";
     const std::string appsJson = "/home/user/.tidewatch/apps.json";
