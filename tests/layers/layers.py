@@ -62,7 +62,8 @@ def rooms():
         "platform/fake": room("base platform/api", "fmt simdjson"),
         "platform/linux": room("base platform/api", "fmt qt xcb system", machine=True),
         "platform/qt": room("base platform/api", "fmt qt xcb system", machine=True),
-        "main.cpp": room("base platform/api platform/linux platform/qt shell", "qt"),
+        "native": room("base platform/api platform/linux platform/qt", "qt", machine=True),
+        "main.cpp": room("platform/api native shell", "qt"),
     }
     below = "base platform/api"
     every_domain_room = ""
@@ -71,9 +72,11 @@ def rooms():
         plan[f"{name}/views"] = room(f"base shell/style {name}", "fmt qt")
         below += f" {name}"
         every_domain_room += f" {name} {name}/views"
-    plan["shell/style"] = room("base", "fmt qt")
-    plan["shell"] = room(f"base platform/api platform/qt shell/style shell/views {every_domain_room}", "fmt qt")
-    plan["shell/views"] = room("base shell/style shell", "fmt qt")
+    plan["shell/themes"] = room("base platform/api core")
+    plan["shell/style"] = room("base platform/api shell/themes", "fmt qt")
+    shell = f"base platform/api platform/qt shell/themes shell/style {every_domain_room}"
+    plan["shell"] = room(f"{shell} shell/views", "fmt qt")
+    plan["shell/views"] = room(f"{shell} shell", "fmt qt")
     return plan
 
 
