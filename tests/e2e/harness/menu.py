@@ -10,7 +10,10 @@ from harness.world import CLOCK_CLASS, CLOCK_TITLE
 # The rows that can be chosen, from the top.
 THEME, SIZE, IDLE, DAY_START, TOGGLE_VISIBLE, RESET, REVEAL, LOGIN_ITEM, QUIT = range(9)
 
-THEMES = ("ochre", "liquid", "classic", "minimal", "terminal")
+THEMES = ("ochre", "editorial", "minimal", "hacker", "liquid")
+SIZES = (0.1, 0.25, 0.5, 0.75, 1.0, 5.0)
+IDLE_SECONDS = (60, 180, 300, 600, 900, 1800)
+DAY_STARTS = (0, 4, 5, 6, 7, 8)
 
 
 class Menu:
