@@ -17,7 +17,9 @@ constexpr double greatestWidth = 160;
 }  // namespace
 
 LiquidBackground::LiquidBackground(QQuickItem* parent)
-    : QQuickPaintedItem(parent), ticker_([this] { update(); }) {}
+    : QQuickPaintedItem(parent), ticker_([this] { update(); }) {
+    watch(window());
+}
 
 LiquidBackground::~LiquidBackground() = default;
 
@@ -76,17 +78,25 @@ QSize LiquidBackground::paintedSize() const {
 void LiquidBackground::paint(QPainter* painter) {
     const double seconds = time_ ? time_->secondsSinceReferenceDate() : 0;
     const auto layers = liquidImage(paintedSize(), size() / unit_, liquidAngles(seconds), intensity_);
-    paintLiquid(*painter, layers, {size(), cornerRadius_ * unit_, unit_, ground_});
+    paintLiquid(*painter, layers, {contentsBoundingRect().size(), cornerRadius_ * unit_, unit_, ground_});
+}
+
+void LiquidBackground::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    // The liquid fills its window, which is of whole pixels.
+    setContentsSize({static_cast<int>(std::ceil(to.width())), static_cast<int>(std::ceil(to.height()))});
 }
 
 void LiquidBackground::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemSceneChange) {
-        if (window_) window_->removeEventFilter(this);
-        window_ = data.window;
-        if (window_) window_->installEventFilter(this);
-    }
+    if (change == ItemSceneChange) watch(data.window);
     QQuickPaintedItem::itemChange(change, data);
     if (change == ItemSceneChange || change == ItemVisibleHasChanged) updateMoving();
+}
+
+void LiquidBackground::watch(QQuickWindow* window) {
+    if (window_) window_->removeEventFilter(this);
+    window_ = window;
+    if (window_) window_->installEventFilter(this);
 }
 
 bool LiquidBackground::eventFilter(QObject* watched, QEvent* event) {

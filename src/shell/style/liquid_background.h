@@ -62,11 +62,13 @@ Q_SIGNALS:
     void changed();
 
 protected:
+    void geometryChange(const QRectF& to, const QRectF& from) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     template <class Value>
     void change(Value& value, Value to);
+    void watch(QQuickWindow* window);
     void updateMoving();
     [[nodiscard]] QSize paintedSize() const;
 
