@@ -12,6 +12,8 @@ endif()
 
 add_library(tidewatch_options INTERFACE)
 target_include_directories(tidewatch_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+# Our own signals have a member `emit`, which Qt would otherwise define away.
+target_compile_definitions(tidewatch_options INTERFACE QT_NO_KEYWORDS)
 target_compile_options(tidewatch_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference
     -Wimplicit-fallthrough -Wcast-align -Wconversion -Wsign-conversion)

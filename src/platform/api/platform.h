@@ -1,0 +1,33 @@
+#pragma once
+
+namespace tidewatch::platform {
+
+class Clock;
+class FileSystem;
+class InputActivity;
+class Log;
+class LoginItem;
+class MainLoop;
+class Preferences;
+class RunningInstance;
+class Screens;
+class WindowManager;
+class Workspace;
+
+/// All that the program needs of the machine, for the composition root to hand on. Owns nothing; what it
+/// refers to must outlive every user.
+struct Platform {
+    Log& log;
+    Clock& clock;
+    MainLoop& mainLoop;
+    FileSystem& files;
+    Preferences& preferences;
+    InputActivity& inputActivity;
+    Workspace& workspace;
+    Screens& screens;
+    WindowManager& windowManager;
+    LoginItem& loginItem;
+    RunningInstance& runningInstance;
+};
+
+}  // namespace tidewatch::platform

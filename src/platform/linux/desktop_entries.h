@@ -1,0 +1,51 @@
+#pragma once
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace tidewatch::platform {
+
+/// The applications that the desktop knows, by what their windows call themselves. Read from the
+/// `applications` folders at the first question and again when an unknown name turns up while a folder
+/// has changed. Main thread only.
+class DesktopEntries final {
+public:
+    /// `folders` as absolute paths, the most important first: an id found twice counts where it is found
+    /// first.
+    explicit DesktopEntries(std::vector<std::string> folders);
+
+    /// The folders that the desktop's base-directory variables name.
+    [[nodiscard]] static std::vector<std::string> standardFolders();
+
+    /// The desktop-file id, without ".desktop", of the application whose windows have this class: first by
+    /// the class that an entry announces, for the instance and then for the class, then by an id that equals
+    /// one of them or ends in it after a dot. Letter case does not matter. Nothing if no entry fits.
+    [[nodiscard]] std::optional<std::string> idForWindow(std::string_view instance,
+                                                         std::string_view windowClass);
+
+    /// Whether there is an entry of exactly this id.
+    [[nodiscard]] bool contains(const std::string& id);
+
+private:
+    struct Folder {
+        std::string path;
+        std::chrono::nanoseconds modified{-1};
+    };
+
+    bool refresh();
+    void readFolder(const std::string& root, const std::string& prefix);
+    void readEntry(const std::string& path, const std::string& id);
+    [[nodiscard]] std::optional<std::string> find(std::string_view instance,
+                                                  std::string_view windowClass) const;
+
+    std::vector<Folder> folders_;
+    std::unordered_map<std::string, std::string> idByAnnouncedClass_;
+    std::unordered_map<std::string, std::string> idByLowerCaseId_;
+    std::unordered_map<std::string, std::string> idByLastPart_;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,113 @@
+#include "platform/linux/x11_window_manager.h"
+
+#include <fmt/format.h>
+#include <xcb/shape.h>
+#include <xcb/xfixes.h>
+
+#include <QSocketNotifier>
+#include <QTimer>
+#include <utility>
+
+namespace tidewatch::platform {
+
+namespace {
+
+constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
+
+xcb_window_t xWindow(WindowHandle window) {
+    return static_cast<xcb_window_t>(window);
+}
+
+}  // namespace
+
+X11WindowManager::X11WindowManager()
+    : compositorSelection_(connection_.atom(fmt::format("_NET_WM_CM_S{}", connection_.screenNumber()))),
+      desktopAtom_(connection_.atom("_NET_WM_DESKTOP")),
+      shadowAtom_(connection_.atom("_COMPTON_SHADOW")) {
+    if (!connection_.alive()) return;
+    watchCompositor();
+    updateCompositing();
+    notifier_ =
+        std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { readEvents(); });
+}
+
+X11WindowManager::~X11WindowManager() = default;
+
+void X11WindowManager::prepareFloating(WindowHandle window) {
+    if (!connection_.alive()) return;
+    setCardinal(xWindow(window), desktopAtom_, everyDesktop);
+    setCardinal(xWindow(window), shadowAtom_, 0);
+    // The server must have seen this before the toolkit's connection asks to map the window.
+    const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
+        xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
+    // Events that came along with the answer no longer wake the notifier.
+    QTimer::singleShot(0, notifier_.get(), [this] { readEvents(); });
+}
+
+Connection X11WindowManager::onCompositingChanged(std::function<void()> changed) {
+    return compositingChanged_.connect(std::move(changed));
+}
+
+void X11WindowManager::setInputRegion(WindowHandle window, Rectangle region) {
+    if (!connection_.hasExtension(&xcb_shape_id)) return;
+    const xcb_rectangle_t rectangle{static_cast<std::int16_t>(region.x), static_cast<std::int16_t>(region.y),
+                                    static_cast<std::uint16_t>(region.width),
+                                    static_cast<std::uint16_t>(region.height)};
+    xcb_shape_rectangles(connection_.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+                         xWindow(window), 0, 0, 1, &rectangle);
+    xcb_flush(connection_.get());
+}
+
+Connection X11WindowManager::onCovered(WindowHandle window, std::function<void(bool covered)> changed) {
+    auto& signal = covered_[xWindow(window)];
+    if (!signal) signal = std::make_unique<Signal<bool>>();
+    if (connection_.alive()) {
+        const std::uint32_t mask = XCB_EVENT_MASK_VISIBILITY_CHANGE;
+        xcb_change_window_attributes(connection_.get(), xWindow(window), XCB_CW_EVENT_MASK, &mask);
+        xcb_flush(connection_.get());
+    }
+    return signal->connect(std::move(changed));
+}
+
+void X11WindowManager::watchCompositor() {
+    if (!connection_.hasExtension(&xcb_xfixes_id)) return;
+    selectionEvent_ =
+        xcb_get_extension_data(connection_.get(), &xcb_xfixes_id)->first_event + XCB_XFIXES_SELECTION_NOTIFY;
+    const XcbReply<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
+        connection_.get(), xcb_xfixes_query_version(connection_.get(), 1, 0), nullptr));
+    xcb_xfixes_select_selection_input(connection_.get(), connection_.root(), compositorSelection_,
+                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    xcb_flush(connection_.get());
+}
+
+void X11WindowManager::readEvents() {
+    while (const auto event = connection_.pollEvent()) {
+        const auto type = event->response_type & 0x7f;
+        if (type == selectionEvent_) {
+            updateCompositing();
+        } else if (type == XCB_VISIBILITY_NOTIFY) {
+            const auto& change = *reinterpret_cast<const xcb_visibility_notify_event_t*>(event.get());
+            if (const auto found = covered_.find(change.window); found != covered_.end()) {
+                found->second->emit(change.state == XCB_VISIBILITY_FULLY_OBSCURED);
+            }
+        }
+    }
+    if (!connection_.alive()) notifier_->setEnabled(false);
+}
+
+void X11WindowManager::updateCompositing() {
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
+        connection_.get(), xcb_get_selection_owner(connection_.get(), compositorSelection_), nullptr));
+    const bool compositing = reply && reply->owner != XCB_WINDOW_NONE;
+    if (std::exchange(compositing_, compositing) != compositing) compositingChanged_.emit();
+}
+
+void X11WindowManager::setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value) {
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, property, XCB_ATOM_CARDINAL, 32, 1,
+                        &value);
+}
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "platform/api/window_manager.h"
+#include "platform/linux/x11_connection.h"
+
+class QSocketNotifier;
+
+namespace tidewatch::platform {
+
+/// What the X server and an EWMH window manager offer about windows beyond the toolkit.
+class X11WindowManager final : public WindowManager {
+public:
+    X11WindowManager();
+    ~X11WindowManager() override;
+
+    void prepareFloating(WindowHandle window) override;
+    [[nodiscard]] bool isCompositing() const override { return compositing_; }
+    Connection onCompositingChanged(std::function<void()> changed) override;
+    void setInputRegion(WindowHandle window, Rectangle region) override;
+    Connection onCovered(WindowHandle window, std::function<void(bool covered)> changed) override;
+
+private:
+    void watchCompositor();
+    void readEvents();
+    void updateCompositing();
+    void setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value);
+
+    X11Connection connection_;
+    xcb_atom_t compositorSelection_;
+    xcb_atom_t desktopAtom_;
+    xcb_atom_t shadowAtom_;
+    int selectionEvent_ = -1;
+    bool compositing_ = false;
+    Signal<> compositingChanged_;
+    std::map<xcb_window_t, std::unique_ptr<Signal<bool>>> covered_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+}  // namespace tidewatch::platform
