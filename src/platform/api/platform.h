@@ -9,6 +9,7 @@ class Log;
 class LoginItem;
 class MainLoop;
 class Preferences;
+class ProcessEndings;
 class RunningInstance;
 class Screens;
 class WindowManager;
@@ -28,6 +29,7 @@ struct Platform {
     WindowManager& windowManager;
     LoginItem& loginItem;
     RunningInstance& runningInstance;
+    ProcessEndings& endings;
 };
 
 }  // namespace tidewatch::platform

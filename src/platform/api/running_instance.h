@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 namespace tidewatch::platform {
 
@@ -16,9 +17,9 @@ class RunningInstance {
 public:
     virtual ~RunningInstance() = default;
 
-    /// To be asked once, before any file is read. A directory in which no lock can be made counts as
-    /// `first`, with a line in the log.
-    [[nodiscard]] virtual InstanceClaim claim() = 0;
+    /// To be asked once, before any file in `directory`, the data directory, is read. One in which no lock
+    /// can be made counts as `first`, with a line in the log.
+    [[nodiscard]] virtual InstanceClaim claim(const std::string& directory) = 0;
 
     /// Called on the main thread each time a later start hands over to this instance.
     virtual void onReopen(std::function<void()> reopen) = 0;

@@ -18,39 +18,38 @@ QString socketPath(const std::string& directory) {
 
 }  // namespace
 
-LockedRunningInstance::LockedRunningInstance(std::string directory, Log& log)
-    : directory_(std::move(directory)), log_(log) {}
+LockedRunningInstance::LockedRunningInstance(Log& log) : log_(log) {}
 
 LockedRunningInstance::~LockedRunningInstance() = default;
 
-InstanceClaim LockedRunningInstance::claim() {
-    lock_ = std::make_unique<FileLock>(directory_ + "/lock");
+InstanceClaim LockedRunningInstance::claim(const std::string& directory) {
+    lock_ = std::make_unique<FileLock>(directory + "/lock");
     if (lock_->state() == FileLock::State::heldByAnother) {
-        return askOtherToReopen() ? InstanceClaim::handedOver : InstanceClaim::denied;
+        return askOtherToReopen(directory) ? InstanceClaim::handedOver : InstanceClaim::denied;
     }
     if (lock_->state() == FileLock::State::unavailable) {
         log_.warning(fmt::format(
-            "Tidewatch: no lock could be made in {}; a second instance would not be noticed", directory_));
+            "Tidewatch: no lock could be made in {}; a second instance would not be noticed", directory));
         return InstanceClaim::first;
     }
-    listen();
+    listen(directory);
     return InstanceClaim::first;
 }
 
-bool LockedRunningInstance::askOtherToReopen() const {
+bool LockedRunningInstance::askOtherToReopen(const std::string& directory) const {
     QLocalSocket socket;
-    socket.connectToServer(socketPath(directory_));
+    socket.connectToServer(socketPath(directory));
     return socket.waitForConnected(patienceMilliseconds) && socket.waitForReadyRead(patienceMilliseconds);
 }
 
-void LockedRunningInstance::listen() {
+void LockedRunningInstance::listen(const std::string& directory) {
     // Whoever left a socket here is gone: the lock is ours.
-    QLocalServer::removeServer(socketPath(directory_));
+    QLocalServer::removeServer(socketPath(directory));
     server_ = std::make_unique<QLocalServer>();
     server_->setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(server_.get(), &QLocalServer::newConnection, server_.get(),
                      [this] { answerRequests(); });
-    if (!server_->listen(socketPath(directory_))) {
+    if (!server_->listen(socketPath(directory))) {
         log_.warning(fmt::format("Tidewatch: a second start cannot be answered: {}",
                                  server_->errorString().toStdString()));
     }

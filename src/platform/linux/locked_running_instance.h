@@ -16,19 +16,18 @@ namespace tidewatch::platform {
 /// their request to come to the front. Neither needs a session bus.
 class LockedRunningInstance final : public RunningInstance {
 public:
-    /// `directory` is the data directory, made by whoever calls; `log` must outlive this object.
-    LockedRunningInstance(std::string directory, Log& log);
+    /// `log` must outlive this object.
+    explicit LockedRunningInstance(Log& log);
     ~LockedRunningInstance() override;
 
-    [[nodiscard]] InstanceClaim claim() override;
+    [[nodiscard]] InstanceClaim claim(const std::string& directory) override;
     void onReopen(std::function<void()> reopen) override { reopen_ = std::move(reopen); }
 
 private:
-    [[nodiscard]] bool askOtherToReopen() const;
-    void listen();
+    [[nodiscard]] bool askOtherToReopen(const std::string& directory) const;
+    void listen(const std::string& directory);
     void answerRequests();
 
-    std::string directory_;
     Log& log_;
     std::function<void()> reopen_;
     std::unique_ptr<FileLock> lock_;

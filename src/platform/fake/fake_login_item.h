@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <utility>
+
+#include "platform/api/login_item.h"
+
+namespace tidewatch::platform {
+
+/// A login item in memory; at first not registered.
+class FakeLoginItem final : public LoginItem {
+public:
+    [[nodiscard]] bool isEnabled() const override { return enabled_; }
+    Outcome registerItem() override { return set(true); }
+    Outcome unregisterItem() override { return set(false); }
+
+    /// Every later registration and unregistration fails so, until nothing is set again.
+    void setFailure(std::optional<Error> failure) { failure_ = std::move(failure); }
+
+private:
+    Outcome set(bool enabled) {
+        if (failure_) return *failure_;
+        enabled_ = enabled;
+        return success();
+    }
+
+    bool enabled_ = false;
+    std::optional<Error> failure_;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "platform/api/file_system.h"
+
+namespace tidewatch::platform {
+
+/// Files in memory, and everything that can go wrong with files. Safe from any thread.
+class MemoryFileSystem final : public FileSystem {
+public:
+    [[nodiscard]] std::string homeDirectory() const override { return "/home/user"; }
+    Outcome createDirectories(const std::string& path) override;
+    [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
+    Outcome replaceAtomically(const std::string& path, std::string_view content) override;
+
+    /// Puts a file there, past all faults, with the directories above it.
+    void put(const std::string& path, std::string_view content);
+
+    /// Cuts a file that exists down to its first `length` bytes.
+    void truncate(const std::string& path, std::size_t length);
+
+    /// What a file holds; nothing if there is none.
+    [[nodiscard]] std::optional<std::string> content(const std::string& path) const;
+    [[nodiscard]] bool hasDirectory(const std::string& path) const;
+
+    /// Writes that were asked for so far, failed ones included.
+    [[nodiscard]] int writeCount() const;
+
+    /// The n-th write from now on fails, 1 being the next; those after it succeed again.
+    void failWrite(int n);
+
+    /// No write of a byte or more succeeds while the disk is full.
+    enum class Disk { roomy, full };
+    void setDisk(Disk disk);
+
+    /// The directory, and with it all below it, cannot be made.
+    void makeUnmakeable(const std::string& directory);
+
+    /// The file is there but cannot be read.
+    void makeUnreadable(const std::string& path);
+
+private:
+    [[nodiscard]] std::optional<Error> fault(std::string_view content);
+
+    mutable std::mutex mutex_;
+    std::map<std::string, std::string> files_;
+    std::set<std::string> directories_;
+    std::set<std::string> unmakeable_;
+    std::set<std::string> unreadable_;
+    int writes_ = 0;
+    int failingWrite_ = 0;
+    Disk disk_ = Disk::roomy;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace tidewatch::platform {
+
+/// Owns an open file descriptor, or none (-1).
+class FileDescriptor final {
+public:
+    explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    ~FileDescriptor() {
+        if (descriptor_ >= 0) ::close(descriptor_);
+    }
+
+    [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
+    [[nodiscard]] int get() const { return descriptor_; }
+
+    /// Closes it now and tells whether that went well; some file systems report a failed write only here.
+    [[nodiscard]] bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
+
+private:
+    int descriptor_;
+};
+
+}  // namespace tidewatch::platform

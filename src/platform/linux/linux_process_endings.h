@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/api/process_endings.h"
+
+class QSocketNotifier;
+
+namespace tidewatch::platform {
+
+/// SIGTERM, SIGINT and SIGHUP, the session manager, and the toolkit's exit when the X server is gone.
+/// One instance in a process.
+class LinuxProcessEndings final : public ProcessEndings {
+public:
+    LinuxProcessEndings();
+    ~LinuxProcessEndings() override;
+    LinuxProcessEndings(const LinuxProcessEndings&) = delete;
+    LinuxProcessEndings& operator=(const LinuxProcessEndings&) = delete;
+
+    void onAsked(std::function<void()> asked) override;
+    void onSessionEnding(std::function<void()> saving) override;
+    void onDisplayLost(std::function<void()> lost) override;
+
+private:
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+}  // namespace tidewatch::platform

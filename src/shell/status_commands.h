@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "core/broadcaster.h"
+#include "core/daily_store.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
+#include "platform/api/login_item.h"
+#include "platform/api/workspace.h"
+#include "shell/floating_panel.h"
+#include "shell/themes/theme_controller.h"
+
+namespace tidewatch {
+
+/// What the rows of the status menu do. Main thread only.
+class StatusCommands final {
+public:
+    /// What the commands work on; all of it must outlive this object.
+    struct Targets {
+        TimerEngine& engine;
+        DailyStore& days;
+        Settings& settings;
+        ThemeController& theme;
+        const Broadcaster& broadcaster;
+        FloatingPanel& panel;
+        platform::Workspace& workspace;
+        platform::LoginItem& loginItem;
+        Dialogs& dialogs;
+        std::function<void()> refreshStatusBarTitle;
+        std::function<void()> terminate;
+    };
+
+    explicit StatusCommands(Targets targets);
+
+    void switchTheme(std::string_view id);
+    void switchSize(double scale);
+    void switchIdle(std::int64_t seconds);
+    void switchDayStart(int hour);
+    void toggleVisible();
+    void resetToday();
+
+    /// A failure is told in a dialog.
+    void revealData();
+    void toggleLoginItem();
+
+    void quit();
+
+private:
+    Targets to_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/api/screens.h"
+#include "shell/menu_row.h"
+#include "shell/status_title.h"
+#include "shell/themes/theme.h"
+
+namespace tidewatch {
+
+/// The floating clock's window: borderless, above all others, on every workspace, never with the focus.
+/// Shows today's time by itself. Positions are desktop points of the top left corner.
+class PanelWindow {
+public:
+    virtual ~PanelWindow() = default;
+
+    [[nodiscard]] virtual PanelSize size() const = 0;
+    [[nodiscard]] virtual platform::Point origin() const = 0;
+    virtual void setOrigin(platform::Point origin) = 0;
+
+    /// Changes the size about the top left corner, in a short movement if the window is on screen.
+    virtual void resize(PanelSize size) = 0;
+
+    /// Puts it on the screen above the others without activating it.
+    virtual void orderFrontRegardless() = 0;
+    virtual void orderOut() = 0;
+    [[nodiscard]] virtual bool isVisible() const = 0;
+
+    /// What the mouse does to the window; positions are desktop points.
+    struct Gestures {
+        std::function<void(platform::Point)> mouseDown;
+        std::function<void(platform::Point)> mouseDragged;
+        std::function<void(platform::Point)> mouseUp;
+        std::function<void()> menuRequested;
+    };
+    virtual void setGestures(Gestures gestures) = 0;
+};
+
+/// The item in the desktop's tray.
+class StatusItem {
+public:
+    enum class Click { left, right };
+
+    virtual ~StatusItem() = default;
+
+    virtual void setTitle(const StatusTitle& title) = 0;
+    virtual void onClick(std::function<void(Click)> clicked) = 0;
+
+    /// Whether there is a tray that shows the item at this moment.
+    [[nodiscard]] virtual bool isShown() const = 0;
+
+    /// Opens a menu of `rows` at the mouse; returns at once.
+    virtual void popUpMenu(const MenuRows& rows) = 0;
+};
+
+/// Messages that wait for the user's answer.
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    virtual void warn(const std::string& title, const std::string& text) = 0;
+};
+
+/// The statistics window, where it exists.
+class StatisticsWindow {
+public:
+    virtual ~StatisticsWindow() = default;
+    virtual void showWindow() = 0;
+    virtual void close() = 0;
+    [[nodiscard]] virtual bool isVisible() const = 0;
+};
+
+/// Makes what is on the screen. The main thread owns what it gives.
+class Surfaces {
+public:
+    virtual ~Surfaces() = default;
+
+    /// Makes the program's own fonts known; before any other surface.
+    virtual void registerFonts() = 0;
+    [[nodiscard]] virtual std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) = 0;
+    [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
+    [[nodiscard]] virtual Dialogs& dialogs() = 0;
+
+    /// Says something short beside the floating clock for a few seconds.
+    virtual void showHint(const std::string& text) = 0;
+};
+
+}  // namespace tidewatch

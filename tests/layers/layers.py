@@ -1,0 +1,294 @@
+#!/usr/bin/env python3
+"""Reads every #include and QML import under a source tree and tells which of them the plan of rooms forbids.
+
+Usage: layers.py SOURCE_DIRECTORY
+
+A room is a directory; the longest row of ROOMS that a file's path begins with is its room. What a row does not
+allow is forbidden. Prints one line a violation, "file:line: what", and ends with 1 if there is any.
+"""
+
+import re
+import sys
+from dataclasses import dataclass
+from pathlib import Path
+
+# Families of headers that are not the project's own.
+LIBRARIES = {
+    "fmt": r"fmt/.*",
+    "simdjson": r"simdjson\.h",
+    "qt": r"Q[A-Z]\w*(/.*)?|q[a-z]+\.h|qt\w+\.h",
+    "xcb": r"xcb/.*|X11/.*",
+    "system": r"(sys|linux|netinet|arpa|net|asm)/.*|"
+    r"(unistd|fcntl|poll|signal|pwd|grp|dirent|dlfcn|errno|spawn|termios|pthread|sched|malloc|limits|time|"
+    r"stdio|stdlib|string|strings|stdint|stddef|ctype|math|locale|assert)\.h",
+}
+
+STANDARD_HEADERS = set(
+    """algorithm any array atomic bit bitset charconv chrono climits cctype cerrno cfloat cinttypes clocale cmath
+    compare complex concepts condition_variable coroutine cstdarg cstddef cstdint cstdio cstdlib cstring ctime cuchar
+    cwchar cwctype deque exception execution filesystem format forward_list fstream functional future initializer_list
+    iomanip ios iosfwd iostream istream iterator latch barrier limits list locale map memory memory_resource mutex new
+    numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore set shared_mutex
+    source_location span sstream stack stdexcept stop_token streambuf string string_view syncstream system_error thread
+    tuple type_traits typeindex typeinfo unordered_map unordered_set utility valarray variant vector version csignal
+    csetjmp cassert cfenv""".split()
+)
+
+# Standard headers that reach past the seam: the disk, the clock and the environment are platform/api's.
+MACHINE_HEADERS = {"filesystem", "fstream", "ctime", "csignal", "iostream"}
+
+
+@dataclass(frozen=True)
+class Room:
+    """May include the rooms and libraries it knows; `machine`: may ask the machine itself."""
+
+    knows: frozenset
+    libraries: frozenset
+    machine: bool = False
+
+
+def room(knows="", libraries="", machine=False):
+    return Room(frozenset(knows.split()), frozenset(libraries.split()), machine)
+
+
+DOMAIN = ("core", "classification", "projects", "analysis", "wellbeing", "claude", "system")
+
+
+def rooms():
+    """The plan: each room with what it may know. A room always knows itself."""
+    plan = {
+        "base": room(libraries="fmt"),
+        "platform/api": room("base"),
+        "platform/fake": room("base platform/api", "fmt simdjson"),
+        "platform/linux": room("base platform/api", "fmt qt xcb system", machine=True),
+        "platform/qt": room("base platform/api", "fmt qt xcb system", machine=True),
+        "native": room("base platform/api platform/linux platform/qt", "qt", machine=True),
+        "main.cpp": room("platform/api native shell", "qt"),
+    }
+    below = "base platform/api"
+    every_domain_room = ""
+    for name in DOMAIN:
+        plan[name] = room(below, "fmt simdjson")
+        plan[f"{name}/views"] = room(f"base shell/style {name}", "fmt qt")
+        below += f" {name}"
+        every_domain_room += f" {name} {name}/views"
+    plan["shell/style"] = room("base", "fmt qt")
+    plan["shell"] = room(f"base platform/api platform/qt shell/style shell/views {every_domain_room}", "fmt qt")
+    plan["shell/views"] = room("base shell/style shell", "fmt qt")
+    return plan
+
+
+ROOMS = rooms()
+
+# What asks the clock, the disk or the environment behind the seam's back, in C++ and in QML.
+BANNED_CPP = [
+    (r"\b(system_clock|steady_clock|high_resolution_clock|utc_clock|file_clock)\b", "asks the time past platform::Clock"),
+    (r"\bstd::(time|clock)\s*\(|(?<![\w.>])time\s*\(\s*(nullptr|NULL|0|&\w+)\s*\)", "asks the time past platform::Clock"),
+    (r"\b(gettimeofday|clock_gettime|localtime|localtime_r|gmtime|gmtime_r|mktime|timegm|strftime|strptime)\s*\(",
+     "asks the time past platform::Clock"),
+    (r"\bQ(DateTime|Date|Time)::current\w*|\bQElapsedTimer\b|\bQDeadlineTimer\b", "asks the time past platform::Clock"),
+    (r"\b(fopen|freopen|opendir|ifstream|ofstream)\b|\bstd::fstream\b|\bstd::filesystem\b",
+     "reaches the disk past platform::FileSystem"),
+    (r"\bQ(SaveFile|TemporaryFile|TemporaryDir|Settings|StandardPaths|LockFile)\b",
+     "reaches the disk past platform::FileSystem and platform::Preferences"),
+    (r"\b(getenv|secure_getenv|setenv|putenv|qgetenv|qputenv|qEnvironmentVariable\w*)\b|\bQProcessEnvironment\b",
+     "reads the environment"),
+    (r"\bQProcess\b|\b(popen|posix_spawn|execv\w*|execl\w*|fork)\s*\(|\bstd::system\b", "starts a process"),
+]
+BANNED_QML = [
+    (r"\bnew\s+Date\b|\bDate\.now\b", "asks the time past platform::Clock"),
+    (r"\bXMLHttpRequest\b", "reaches files and the network"),
+    (r"\bQt\.(openUrlExternally)\b", "reaches the desktop"),
+]
+QML_IMPORTS_ALLOWED = re.compile(r"Qt(Qml|Quick|Test)?(\..+)?$|Tidewatch(\.\w+)*$")
+QML_IMPORTS_BANNED = re.compile(r"Qt\.labs\.|QtCore$|Qt\.core|QtQuick\.LocalStorage|QtMultimedia|QtWebEngine")
+
+CPP_SUFFIXES = {".h", ".cpp", ".hpp", ".cc"}
+INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
+QML_IMPORT = re.compile(r'^[ \t]*import[ \t]+("[^"]*"|[\w.]+)', re.MULTILINE)
+TOKENS = re.compile(
+    r'//[^\n]*|/\*.*?\*/|R"([^()\s\\]{0,16})\(.*?\)\1"|"(?:\\.|[^"\\\n])*"|(?<!\w)\'(?:\\.|[^\'\\\n])*\'', re.DOTALL
+)
+
+
+@dataclass(frozen=True)
+class Violation:
+    file: str
+    line: int
+    text: str
+
+    def __str__(self):
+        return f"{self.file}:{self.line}: {self.text}"
+
+
+def blanked(source, keep_strings):
+    """The source with comments, and if asked so literals, as blanks; every line keeps its number."""
+
+    def blank(match):
+        text = match.group(0)
+        if keep_strings and not text.startswith("/"):
+            return text
+        return re.sub(r"[^\n]", " ", text)
+
+    return TOKENS.sub(blank, source)
+
+
+def room_of(path):
+    """The room of a path relative to the source tree, "" if no row of the plan holds it."""
+    best = ""
+    for name in ROOMS:
+        if (path == name or path.startswith(name + "/")) and len(name) > len(best):
+            best = name
+    return best
+
+
+def circle_room_of(path):
+    """The room as far as circles go: the shell and its own views make one another and count as one."""
+    own_room = room_of(path)
+    return "shell" if own_room == "shell/views" else own_room
+
+
+def line_of(source, position):
+    return source.count("\n", 0, position) + 1
+
+
+def library_of(header):
+    for name, pattern in LIBRARIES.items():
+        if re.fullmatch(pattern, header):
+            return name
+    return None
+
+
+def objection_to_include(source_root, own_room, header, quoted):
+    """Why a file of `own_room` may not include `header`; None if it may."""
+    plan = ROOMS[own_room]
+    if quoted:
+        target = room_of(header)
+        if not target:
+            return f'includes "{header}", which is in no room'
+        if not (source_root / header).is_file() and "_autogen" not in header:
+            return None  # a generated or missing file is the compiler's business
+        if target != own_room and target not in plan.knows:
+            return f'{own_room} must not know {target} ("{header}")'
+        return None
+    if header in STANDARD_HEADERS:
+        if header in MACHINE_HEADERS and not plan.machine:
+            return f"<{header}> reaches past platform/api"
+        return None
+    library = library_of(header)
+    if library is None:
+        return f"<{header}> is no library of the plan"
+    if library not in plan.libraries:
+        return f"{own_room} must not know {library} (<{header}>)"
+    return None
+
+
+def check_cpp(source_root, path, own_room):
+    """The violations of one C++ file, and the other rooms that it includes."""
+    source = (source_root / path).read_text(encoding="utf-8")
+    violations, neighbours = [], set()
+    code = blanked(source, keep_strings=True)
+    for match in INCLUDE.finditer(code):
+        header = match.group(1) or match.group(2)
+        quoted = match.group(1) is not None
+        # A header of a library may stand in quotes, and one of ours between angle brackets: both are read.
+        if not quoted and room_of(header) and (source_root / header).is_file():
+            quoted = True
+        objection = objection_to_include(source_root, own_room, header, quoted)
+        if objection:
+            violations.append(Violation(path, line_of(code, match.start()), objection))
+        elif quoted and circle_room_of(header) != circle_room_of(path):
+            neighbours.add(circle_room_of(header))
+    if not ROOMS[own_room].machine:
+        violations += check_bans(path, blanked(source, keep_strings=False), BANNED_CPP)
+    return violations, neighbours
+
+
+def check_qml(source_root, path, own_room):
+    source = (source_root / path).read_text(encoding="utf-8")
+    violations = check_bans(path, blanked(source, keep_strings=False), BANNED_QML)
+    if "qt" not in ROOMS[own_room].libraries:
+        violations.append(Violation(path, 1, f"{own_room} holds no views"))
+    code = blanked(source, keep_strings=True)
+    for match in QML_IMPORT.finditer(code):
+        module = match.group(1)
+        if module.startswith('"'):
+            continue  # a relative import stays in its room
+        if QML_IMPORTS_BANNED.match(module) or not QML_IMPORTS_ALLOWED.match(module):
+            violations.append(Violation(path, line_of(code, match.start()), f"imports {module}"))
+    return violations
+
+
+def check_bans(path, code, bans):
+    found = []
+    for pattern, reason in bans:
+        for match in re.finditer(pattern, code):
+            found.append(Violation(path, line_of(code, match.start()), f"{match.group(0).strip()} {reason}"))
+    return found
+
+
+def circle_in(graph):
+    """Rooms that lead back to themselves, in order, as a list; empty if there are none."""
+    done, trail = set(), []
+
+    def visit(node):
+        if node in trail:
+            return trail[trail.index(node):] + [node]
+        if node in done:
+            return []
+        trail.append(node)
+        for neighbour in sorted(graph.get(node, ())):
+            circle = visit(neighbour)
+            if circle:
+                return circle
+        trail.pop()
+        done.add(node)
+        return []
+
+    for node in sorted(graph):
+        circle = visit(node)
+        if circle:
+            return circle
+    return []
+
+
+def check_tree(source_root):
+    """All violations under `source_root`, and the number of files read."""
+    violations, graph, count = [], {}, 0
+    for file in sorted(source_root.rglob("*")):
+        if not file.is_file() or file.suffix not in CPP_SUFFIXES | {".qml"}:
+            continue
+        path = file.relative_to(source_root).as_posix()
+        own_room = room_of(path)
+        count += 1
+        if not own_room:
+            violations.append(Violation(path, 1, "is in no room"))
+        elif file.suffix == ".qml":
+            violations += check_qml(source_root, path, own_room)
+        else:
+            found, neighbours = check_cpp(source_root, path, own_room)
+            violations += found
+            graph.setdefault(circle_room_of(path), set()).update(neighbours)
+    circle = circle_in(graph)
+    if circle:
+        violations.append(Violation(".", 0, "rooms in a circle: " + " -> ".join(circle)))
+    return violations, count
+
+
+def main():
+    if len(sys.argv) != 2:
+        print(__doc__, file=sys.stderr)
+        return 2
+    source_root = Path(sys.argv[1])
+    violations, count = check_tree(source_root)
+    for violation in violations:
+        print(violation)
+    if count == 0:
+        print(f"No source under {source_root}")
+        return 1
+    print(f"{count} files, {len(violations)} violations")
+    return 1 if violations else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

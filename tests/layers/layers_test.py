@@ -1,0 +1,254 @@
+#!/usr/bin/env python3
+"""Tests of layers.py: each forbidden thing, alone in a tree of its own, is found, and what is allowed is not."""
+
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+import layers
+
+SCRIPT = Path(__file__).with_name("layers.py")
+
+
+class Tree(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = Path(folder.name)
+
+    def write(self, path, *lines):
+        file = self.root / path
+        file.parent.mkdir(parents=True, exist_ok=True)
+        file.write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+    def violations(self):
+        return [str(violation) for violation in layers.check_tree(self.root)[0]]
+
+    def assert_violation(self, expected):
+        self.assertEqual(self.violations(), [expected])
+
+
+class Includes(Tree):
+    def test_a_tree_that_keeps_to_the_plan_is_clean(self):
+        self.write("base/signal.h", "#include <functional>", "#include <fmt/format.h>")
+        self.write("platform/api/clock.h", '#include "base/signal.h"')
+        self.write("core/daily_store.h", '#include "platform/api/clock.h"', "#include <simdjson.h>")
+        self.write("core/daily_store.cpp", '#include "core/daily_store.h"')
+        self.write("platform/linux/x11_clock.cpp", '#include "platform/api/clock.h"', "#include <xcb/xcb.h>",
+                   "#include <QTimer>", "#include <sys/stat.h>")
+        self.write("shell/composition.cpp", '#include "core/daily_store.h"', "#include <QQuickView>")
+        self.write("main.cpp", '#include "shell/composition.h"')
+        self.assertEqual(self.violations(), [])
+
+    def test_base_must_not_know_the_seam(self):
+        self.write("platform/api/clock.h")
+        self.write("base/a.h", '#include "platform/api/clock.h"')
+        self.assert_violation('base/a.h:1: base must not know platform/api ("platform/api/clock.h")')
+
+    def test_the_domain_must_not_know_qt(self):
+        self.write("core/a.h", "", "#include <QString>")
+        self.assert_violation("core/a.h:2: core must not know qt (<QString>)")
+
+    def test_the_domain_must_not_know_qt_in_quotes_either(self):
+        self.write("core/a.h", '#include "QString"')
+        self.assert_violation('core/a.h:1: includes "QString", which is in no room')
+
+    def test_the_domain_must_not_know_x11(self):
+        self.write("core/a.h", "#include <xcb/screensaver.h>")
+        self.assert_violation("core/a.h:1: core must not know xcb (<xcb/screensaver.h>)")
+
+    def test_the_domain_must_not_know_the_system(self):
+        self.write("core/a.h", "#include <unistd.h>")
+        self.assert_violation("core/a.h:1: core must not know system (<unistd.h>)")
+
+    def test_the_domain_must_not_know_a_domain_room_above_it(self):
+        self.write("projects/p.h")
+        self.write("core/a.h", '#include "projects/p.h"')
+        self.assert_violation('core/a.h:1: core must not know projects ("projects/p.h")')
+
+    def test_the_domain_may_know_a_domain_room_below_it(self):
+        self.write("core/a.h")
+        self.write("projects/p.h", '#include "core/a.h"')
+        self.assertEqual(self.violations(), [])
+
+    def test_the_seam_must_not_know_qt(self):
+        self.write("platform/api/a.h", "#include <QObject>")
+        self.assert_violation("platform/api/a.h:1: platform/api must not know qt (<QObject>)")
+
+    def test_the_native_platform_must_not_know_the_domain(self):
+        self.write("core/a.h")
+        self.write("platform/linux/b.cpp", '#include "core/a.h"')
+        self.assert_violation('platform/linux/b.cpp:1: platform/linux must not know core ("core/a.h")')
+
+    def test_the_shell_must_not_know_the_native_platform(self):
+        self.write("platform/linux/b.h")
+        self.write("shell/a.cpp", '#include "platform/linux/b.h"')
+        self.assert_violation('shell/a.cpp:1: shell must not know platform/linux ("platform/linux/b.h")')
+
+    def test_views_must_not_know_another_room(self):
+        self.write("projects/p.h")
+        self.write("core/views/a.cpp", '#include "projects/p.h"')
+        self.assert_violation('core/views/a.cpp:1: core/views must not know projects ("projects/p.h")')
+
+    def test_nothing_but_tests_knows_the_fakes(self):
+        self.write("platform/fake/f.h")
+        self.write("shell/a.cpp", '#include "platform/fake/f.h"')
+        self.assert_violation('shell/a.cpp:1: shell must not know platform/fake ("platform/fake/f.h")')
+
+    def test_a_header_of_ours_between_angle_brackets_is_read_too(self):
+        self.write("projects/p.h")
+        self.write("core/a.h", "#include <projects/p.h>")
+        self.assert_violation('core/a.h:1: core must not know projects ("projects/p.h")')
+
+    def test_an_unknown_library_is_no_library_of_the_plan(self):
+        self.write("base/a.h", "#include <boost/any.hpp>")
+        self.assert_violation("base/a.h:1: <boost/any.hpp> is no library of the plan")
+
+    def test_blanks_before_and_after_the_hash_do_not_hide_an_include(self):
+        self.write("core/a.h", "  #  include   <QString>")
+        self.assert_violation("core/a.h:1: core must not know qt (<QString>)")
+
+    def test_an_include_in_a_comment_is_none(self):
+        self.write("core/a.h", "// #include <QString>", "/*", "#include <QString>", "*/")
+        self.assertEqual(self.violations(), [])
+
+    def test_a_file_in_no_room_is_told(self):
+        self.write("helpers/a.h")
+        self.assert_violation("helpers/a.h:1: is in no room")
+
+
+class Bans(Tree):
+    def assert_banned(self, code, path="core/a.cpp"):
+        self.write(path, code)
+        found = self.violations()
+        self.assertEqual(len(found), 1, found)
+        self.assertTrue(found[0].startswith(f"{path}:1: "), found)
+
+    def assert_allowed(self, code, path="core/a.cpp"):
+        self.write(path, code)
+        self.assertEqual(self.violations(), [])
+
+    def test_asking_the_time_past_the_seam(self):
+        for code in (
+            "auto t = std::chrono::system_clock::now();",
+            "auto t = steady_clock::now();",
+            "auto t = std::time(nullptr);",
+            "auto t = time(nullptr);",
+            "auto t = time(0);",
+            "clock_gettime(CLOCK_REALTIME, &t);",
+            "localtime_r(&t, &broken);",
+            "auto t = mktime(&broken);",
+            "auto t = QDateTime::currentDateTime();",
+            "#include <ctime>",
+        ):
+            with self.subTest(code=code):
+                self.assert_banned(code)
+
+    def test_reaching_the_disk_past_the_seam(self):
+        for code in (
+            'FILE* f = fopen("a", "r");',
+            'std::ofstream out("a");',
+            'std::ifstream in("a");',
+            "#include <filesystem>",
+            "#include <fstream>",
+            "auto p = std::filesystem::path();",
+            "QSettings settings;",
+            "QSaveFile file;",
+        ):
+            with self.subTest(code=code):
+                self.assert_banned(code)
+
+    def test_reading_the_environment(self):
+        self.assert_banned('auto home = std::getenv("HOME");')
+        self.assert_banned('auto home = qgetenv("HOME");')
+
+    def test_starting_a_process(self):
+        self.assert_banned("QProcess process;")
+
+    def test_the_shell_is_bound_as_well(self):
+        self.assert_banned("auto t = std::chrono::steady_clock::now();", "shell/a.cpp")
+
+    def test_the_fakes_are_bound_as_well(self):
+        self.assert_banned("auto t = std::chrono::steady_clock::now();", "platform/fake/a.cpp")
+
+    def test_the_native_platform_is_free(self):
+        self.assert_allowed("auto t = std::chrono::system_clock::now();", "platform/linux/a.cpp")
+
+    def test_what_only_looks_alike_is_allowed(self):
+        self.assert_allowed("const hh_mm_ss time(seconds); clock.now(); clock_.monotonic(); lifetime(0); a.time(0);")
+
+    def test_words_in_comments_and_texts_are_allowed(self):
+        self.assert_allowed('auto s = "getenv fopen"; // system_clock\n/* steady_clock */ auto r = R"(QSettings)";')
+
+    def test_a_digit_separator_does_not_open_a_literal(self):
+        self.assert_banned("auto n = 1'000; auto t = steady_clock::now(); auto m = 2'000;")
+
+
+class Views(Tree):
+    def test_a_view_may_import_qt_quick_and_our_own_modules(self):
+        self.write("shell/views/Clock.qml", "import QtQuick", "import QtQuick.Shapes", "import Tidewatch.Style",
+                   'import "parts"')
+        self.assertEqual(self.violations(), [])
+
+    def test_a_view_must_not_import_what_reaches_the_machine(self):
+        self.write("shell/views/Clock.qml", "import QtQuick", "import Qt.labs.settings")
+        self.assert_violation("shell/views/Clock.qml:2: imports Qt.labs.settings")
+
+    def test_a_view_must_not_ask_the_time(self):
+        self.write("shell/views/Clock.qml", "Item { property var now: new Date() }")
+        self.assert_violation("shell/views/Clock.qml:1: new Date asks the time past platform::Clock")
+
+    def test_a_domain_room_holds_no_views(self):
+        self.write("core/Clock.qml", "Item {}")
+        self.assert_violation("core/Clock.qml:1: core holds no views")
+
+
+class Circles(Tree):
+    def test_a_circle_of_rooms_is_found(self):
+        self.assertEqual(layers.circle_in({"a": {"b"}, "b": {"c"}, "c": {"a"}}), ["a", "b", "c", "a"])
+
+    def test_a_graph_without_one_has_none(self):
+        self.assertEqual(layers.circle_in({"a": {"b", "c"}, "b": {"c"}}), [])
+
+    def test_a_circle_in_the_tree_is_told(self):
+        self.write("core/a.h", '#include "core/views/b.h"')
+        self.write("core/views/b.h", '#include "core/a.h"')
+        self.assertIn(".:0: rooms in a circle: core -> core/views -> core",
+                      self.violations_with_knowledge("core", "core/views"))
+
+    def violations_with_knowledge(self, name, neighbour):
+        """The violations if the plan itself allowed `name` to know `neighbour`."""
+        plan = layers.ROOMS[name]
+        layers.ROOMS[name] = layers.Room(plan.knows | {neighbour}, plan.libraries, plan.machine)
+        try:
+            return self.violations()
+        finally:
+            layers.ROOMS[name] = plan
+
+    def test_the_plan_itself_has_none_outside_the_shell(self):
+        graph = {name: set(plan.knows) for name, plan in layers.ROOMS.items() if not name.startswith("shell")}
+        self.assertEqual(layers.circle_in(graph), [])
+
+
+class CommandLine(Tree):
+    def run_script(self):
+        return subprocess.run([sys.executable, SCRIPT, self.root], capture_output=True, text=True, check=False)
+
+    def test_ends_with_0_on_a_clean_tree(self):
+        self.write("base/a.h")
+        self.assertEqual(self.run_script().returncode, 0)
+
+    def test_ends_with_1_and_the_place_on_a_violation(self):
+        self.write("base/a.h", "#include <QObject>")
+        result = self.run_script()
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("base/a.h:1: base must not know qt (<QObject>)", result.stdout)
+
+    def test_an_empty_tree_proves_nothing(self):
+        self.assertEqual(self.run_script().returncode, 1)
+
+
+if __name__ == "__main__":
+    unittest.main()
