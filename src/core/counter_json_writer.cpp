@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <array>
 #include <charconv>
 #include <string_view>
@@ -7,46 +5,10 @@
 #include <vector>
 
 #include "core/counter_json.h"
+#include "core/json_writer.h"
 
 namespace tidewatch {
 namespace {
-
-void appendEscaped(std::string& out, std::string_view text) {
-    for (const char c : text) {
-        switch (c) {
-            case '"':
-                out += "\\\"";
-                break;
-            case '\\':
-                out += "\\\\";
-                break;
-            case '/':
-                out += "\\/";
-                break;
-            case '\b':
-                out += "\\b";
-                break;
-            case '\f':
-                out += "\\f";
-                break;
-            case '\n':
-                out += "\\n";
-                break;
-            case '\r':
-                out += "\\r";
-                break;
-            case '\t':
-                out += "\\t";
-                break;
-            default:
-                if (static_cast<unsigned char>(c) < 0x20) {
-                    fmt::format_to(std::back_inserter(out), "\\u{:04x}", static_cast<unsigned>(c));
-                } else {
-                    out += c;
-                }
-        }
-    }
-}
 
 void appendNumber(std::string& out, std::int64_t number) {
     std::array<char, 20> digits;
@@ -101,7 +63,7 @@ private:
     void appendMemberStart(std::string& out, std::size_t level, std::string_view key) const {
         out += indents_[level];
         out += '"';
-        appendEscaped(out, key);
+        appendJsonEscaped(out, key);
         out += "\" : ";
     }
 
