@@ -17,7 +17,8 @@ function(tidewatch_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_KNOWS} tidewatch_options GTest::gmock_main)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
-    gtest_discover_tests(${name} PROPERTIES
-        ENVIRONMENT "LC_ALL=C.UTF-8;TZ=UTC;HOME=${CMAKE_BINARY_DIR}/test-home;QT_QPA_PLATFORM=offscreen"
-        TIMEOUT 120)
+    # Each test process starts through `env`: a list of variables does not survive the way through discovery.
+    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
+        "${CMAKE_COMMAND};-E;env;LC_ALL=C.UTF-8;TZ=UTC;HOME=${CMAKE_BINARY_DIR}/test-home;QT_QPA_PLATFORM=offscreen")
+    gtest_discover_tests(${name} PROPERTIES TIMEOUT 120)
 endfunction()

@@ -17,7 +17,7 @@ class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
 
-    [[nodiscard]] virtual PanelSize size() const = 0;
+    [[nodiscard]] virtual PanelSize panelSize() const = 0;
     [[nodiscard]] virtual platform::Point origin() const = 0;
     virtual void setOrigin(platform::Point origin) = 0;
 

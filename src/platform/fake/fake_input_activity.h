@@ -9,11 +9,16 @@ class FakeInputActivity final : public InputActivity {
 public:
     [[nodiscard]] std::optional<double> secondsSinceLastInput() const override { return seconds_; }
 
+    [[nodiscard]] InputCoverage coverage() const override { return coverage_; }
+
+    void setCoverage(InputCoverage coverage) { coverage_ = coverage; }
+
     /// Nothing stands for a machine without a source.
     void set(std::optional<double> seconds) { seconds_ = seconds; }
 
 private:
     std::optional<double> seconds_ = 0;
+    InputCoverage coverage_ = InputCoverage::everything;
 };
 
 }  // namespace tidewatch::platform

@@ -10,7 +10,7 @@ namespace tidewatch::platform {
 /// The answer to a claim as a test sets it; at first this is the only instance.
 class FakeRunningInstance final : public RunningInstance {
 public:
-    [[nodiscard]] InstanceClaim claim() override { return claim_; }
+    [[nodiscard]] InstanceClaim claim(const std::string&) override { return claim_; }
     void onReopen(std::function<void()> reopen) override { reopen_ = std::move(reopen); }
 
     void setClaim(InstanceClaim claim) { claim_ = claim; }

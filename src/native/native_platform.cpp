@@ -1,0 +1,61 @@
+#include "native/native_platform.h"
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include "platform/linux/autostart_login_item.h"
+#include "platform/linux/desktop_workspace.h"
+#include "platform/linux/linux_process_endings.h"
+#include "platform/linux/locked_running_instance.h"
+#include "platform/linux/posix_file_system.h"
+#include "platform/linux/stderr_log.h"
+#include "platform/linux/x11_input_activity.h"
+#include "platform/linux/x11_window_manager.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_main_loop.h"
+#include "platform/qt/qt_preferences.h"
+#include "platform/qt/qt_screens.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+constexpr char ownIdentifier[] = "com.brightlooms.tidewatch";
+
+std::string configDirectory() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
+}
+
+}  // namespace
+
+void prepareEnvironment() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+struct NativePlatform::Parts {
+    StderrLog log;
+    QtClock clock;
+    QtMainLoop mainLoop;
+    PosixFileSystem files;
+    QtPreferences preferences;
+    X11Connection idleConnection;
+    X11InputActivity inputActivity{idleConnection};
+    DesktopWorkspace workspace{AppId(ownIdentifier)};
+    QtScreens screens;
+    X11WindowManager windowManager;
+    AutostartLoginItem loginItem{files, configDirectory(),
+                                 QCoreApplication::applicationFilePath().toStdString()};
+    LockedRunningInstance runningInstance{log};
+    LinuxProcessEndings endings;
+    Platform all{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
+                 workspace, screens, windowManager, loginItem, runningInstance, endings};
+};
+
+NativePlatform::NativePlatform() : parts_(std::make_unique<Parts>()) {}
+NativePlatform::~NativePlatform() = default;
+
+const Platform& NativePlatform::platform() const {
+    return parts_->all;
+}
+
+}  // namespace tidewatch::platform

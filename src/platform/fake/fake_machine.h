@@ -1,0 +1,46 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "platform/api/platform.h"
+#include "platform/fake/fake_clock.h"
+#include "platform/fake/fake_input_activity.h"
+#include "platform/fake/fake_log.h"
+#include "platform/fake/fake_login_item.h"
+#include "platform/fake/fake_main_loop.h"
+#include "platform/fake/fake_process_endings.h"
+#include "platform/fake/fake_running_instance.h"
+#include "platform/fake/fake_screens.h"
+#include "platform/fake/fake_window_manager.h"
+#include "platform/fake/fake_workspace.h"
+#include "platform/fake/memory_file_system.h"
+#include "platform/fake/memory_preferences.h"
+
+namespace tidewatch::platform {
+
+/// Every operation of the seam on fakes.
+struct FakeMachine {
+    /// Starts at `now`, UTC; `complain` is for the log's unannounced warnings.
+    FakeMachine(Instant now, std::function<void(const std::string&)> complain)
+        : log(std::move(complain)), clock(now) {}
+
+    FakeLog log;
+    FakeClock clock;
+    FakeMainLoop mainLoop{clock};
+    MemoryFileSystem files;
+    MemoryPreferences preferences;
+    FakeInputActivity inputActivity;
+    FakeWorkspace workspace;
+    FakeScreens screens;
+    FakeWindowManager windowManager;
+    FakeLoginItem loginItem;
+    FakeRunningInstance runningInstance;
+    FakeProcessEndings endings;
+
+    Platform platform{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
+                      workspace, screens, windowManager, loginItem, runningInstance, endings};
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/api/window_manager.h"
+
+namespace tidewatch::platform {
+
+/// A desktop without a compositor, until a test starts one.
+class FakeWindowManager final : public WindowManager {
+public:
+    void prepareFloating(WindowHandle) override { ++prepared_; }
+    [[nodiscard]] bool isCompositing() const override { return compositing_; }
+    Connection onCompositingChanged(std::function<void()> changed) override {
+        return compositingChanged_.connect(std::move(changed));
+    }
+    void setInputRegion(WindowHandle, Rectangle region) override { inputRegion_ = region; }
+    Connection onCovered(WindowHandle, std::function<void(bool covered)> changed) override {
+        return covered_.connect(std::move(changed));
+    }
+
+    void setCompositing(bool compositing) {
+        compositing_ = compositing;
+        compositingChanged_.emit();
+    }
+    void cover(bool covered) { covered_.emit(covered); }
+
+    /// How often a window was prepared for being shown.
+    [[nodiscard]] int prepared() const { return prepared_; }
+    [[nodiscard]] Rectangle inputRegion() const { return inputRegion_; }
+
+private:
+    bool compositing_ = false;
+    int prepared_ = 0;
+    Rectangle inputRegion_;
+    Signal<> compositingChanged_;
+    Signal<bool> covered_;
+};
+
+}  // namespace tidewatch::platform

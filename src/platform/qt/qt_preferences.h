@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QSettings>
+#include <mutex>
+
+#include "platform/api/preference_value.h"
+#include "platform/api/preferences.h"
+
+namespace tidewatch::platform {
+
+/// Preferences in an INI file: `brightlooms/tidewatch.conf` under the user's configuration directory. What
+/// the file holds is text, so every value is read by the rules for texts.
+class QtPreferences final : public Preferences {
+public:
+    QtPreferences();
+
+    [[nodiscard]] bool contains(std::string_view key) const override;
+    [[nodiscard]] bool boolean(std::string_view key) const override;
+    [[nodiscard]] std::int64_t integer(std::string_view key) const override;
+    [[nodiscard]] double real(std::string_view key) const override;
+    [[nodiscard]] std::string text(std::string_view key) const override;
+    void setBoolean(std::string_view key, bool value) override;
+    void setInteger(std::string_view key, std::int64_t value) override;
+    void setReal(std::string_view key, double value) override;
+    void setText(std::string_view key, std::string_view value) override;
+    void remove(std::string_view key) override;
+
+private:
+    [[nodiscard]] PreferenceValue value(std::string_view key) const;
+    void set(std::string_view key, const QVariant& value);
+
+    mutable std::mutex mutex_;
+    QSettings settings_;
+};
+
+}  // namespace tidewatch::platform

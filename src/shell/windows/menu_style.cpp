@@ -1,0 +1,41 @@
+#include "shell/windows/menu_style.h"
+
+#include <QColor>
+
+namespace tidewatch {
+
+namespace {
+
+/// What `colour` looks like over `ground`: a menu is opaque, whatever lies below it.
+QString over(const Color& ground, const Color& colour) {
+    const auto mix = [&](double below, double above) {
+        return static_cast<float>(below * (1 - colour.alpha) + above * colour.alpha);
+    };
+    return QColor::fromRgbF(mix(ground.red, colour.red), mix(ground.green, colour.green),
+                            mix(ground.blue, colour.blue))
+        .name();
+}
+
+}  // namespace
+
+QString menuStyleSheet(const DashboardStyle& style) {
+    const auto shade = [&](const Color& colour) { return over(style.bg, colour); };
+    return QStringLiteral(
+               "QMenu { background: %1; border: 1px solid %2; padding: 5px; font-size: 13px; }"
+               "QMenu::item { color: %3; padding: 5px 22px 5px 26px; border-radius: 5px; margin: 0 1px; }"
+               "QMenu::item:selected { background: %4; }"
+               "QMenu::item:disabled { color: %5; background: transparent; }"
+               "QMenu::separator { height: 1px; background: %2; margin: 5px 10px; }"
+               "QMenu::indicator { width: 12px; height: 12px; left: 8px; }"
+               "QMenu::right-arrow { width: 8px; height: 8px; right: 8px; }")
+        .arg(shade(style.card), shade(style.stroke), shade(style.primaryText), shade(style.stroke),
+             shade(style.mute));
+}
+
+QString hintStyleSheet(const DashboardStyle& style) {
+    return QStringLiteral(
+               "QLabel { background: %1; border: 1px solid %2; color: %3; padding: 10px; font-size: 13px; }")
+        .arg(over(style.bg, style.card), over(style.bg, style.stroke), over(style.bg, style.primaryText));
+}
+
+}  // namespace tidewatch

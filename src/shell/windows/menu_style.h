@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+#include "shell/themes/dashboard_style.h"
+
+namespace tidewatch {
+
+/// The style sheet of menus in the colours of a theme.
+[[nodiscard]] QString menuStyleSheet(const DashboardStyle& style);
+
+/// The style sheet of the bubble that tells something beside the clock.
+[[nodiscard]] QString hintStyleSheet(const DashboardStyle& style);
+
+}  // namespace tidewatch

@@ -1,0 +1,45 @@
+#include "platform/linux/process_identity.h"
+
+#include <gtest/gtest.h>
+
+#include "platform_linux/temporary_directory.h"
+
+namespace tidewatch::platform {
+namespace {
+
+TEST(FlatpakId, IsTheNameOfTheApplicationGroup) {
+    EXPECT_EQ(flatpakId("[Application]\nname=org.example.Notes\nruntime=x\n"), "org.example.Notes");
+    EXPECT_EQ(flatpakId("[Instance]\nname=other\n[Application]\nname=org.example.Notes\n"),
+              "org.example.Notes");
+}
+
+TEST(FlatpakId, IsAbsentFromARuntimeAndFromNothing) {
+    EXPECT_EQ(flatpakId("[Runtime]\nname=org.example.Platform\n"), std::nullopt);
+    EXPECT_EQ(flatpakId(""), std::nullopt);
+}
+
+TEST(SnapId, IsTheNameAndTheApplicationOfTheScope) {
+    EXPECT_EQ(
+        snapId("0::/user.slice/app.slice/snap.editor.editor-3b5c3a7e-8b0f-4c43-9d0b-0f8a1e1f2a3b.scope\n"),
+        "editor_editor");
+    EXPECT_EQ(snapId("0::/user.slice/snap.suite.draw-9.3b5c3a7e.scope\n"), "suite_draw-9");
+}
+
+TEST(SnapId, IsAbsentForAnOrdinaryProcess) {
+    EXPECT_EQ(snapId("0::/user.slice/session-2.scope\n"), std::nullopt);
+    EXPECT_EQ(snapId(""), std::nullopt);
+}
+
+TEST(SandboxedApplication, ReadsWhatTheProcessDirectoryHolds) {
+    TemporaryDirectory proc;
+    proc.write("10/root/.flatpak-info", "[Application]\nname=org.example.Notes\n");
+    proc.write("11/cgroup", "0::/user.slice/snap.editor.editor.1234.scope\n");
+    proc.write("12/cgroup", "0::/user.slice\n");
+    EXPECT_EQ(sandboxedApplication(10, proc.path()), "org.example.Notes");
+    EXPECT_EQ(sandboxedApplication(11, proc.path()), "editor_editor");
+    EXPECT_EQ(sandboxedApplication(12, proc.path()), std::nullopt);
+    EXPECT_EQ(sandboxedApplication(13, proc.path()), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tidewatch::platform

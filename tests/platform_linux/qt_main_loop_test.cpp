@@ -1,0 +1,85 @@
+#include "platform/qt/qt_main_loop.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QThread>
+#include <string>
+#include <thread>
+
+namespace tidewatch::platform {
+namespace {
+
+using namespace std::chrono_literals;
+
+class QtMainLoopTest : public testing::Test {
+protected:
+    void runFor(int milliseconds) {
+        QElapsedTimer timer;
+        timer.start();
+        while (timer.elapsed() < milliseconds) QApplication::processEvents(QEventLoop::AllEvents, 5);
+    }
+
+    int argc_ = 1;
+    char name_[5] = "test";
+    char* argv_[2] = {name_, nullptr};
+    QApplication application_{argc_, argv_};
+    QtMainLoop loop_;
+};
+
+TEST_F(QtMainLoopTest, JobsRunLaterInTheOrderInWhichTheyWerePosted) {
+    std::string order;
+    loop_.post([&] { order += "a"; });
+    loop_.post([&] { order += "b"; });
+    EXPECT_EQ(order, "");
+    runFor(20);
+    EXPECT_EQ(order, "ab");
+}
+
+TEST_F(QtMainLoopTest, AJobFromAnotherThreadRunsOnTheMainThread) {
+    const auto* main = QThread::currentThread();
+    const QThread* ran = nullptr;
+    std::thread([&] { loop_.post([&] { ran = QThread::currentThread(); }); }).join();
+    runFor(20);
+    EXPECT_EQ(ran, main);
+}
+
+TEST_F(QtMainLoopTest, ADestroyedTimerDoesNotFire) {
+    int fired = 0;
+    auto timer = loop_.repeat(10ms, TimerMode::common, [&] { ++fired; });
+    runFor(60);
+    EXPECT_GT(fired, 0);
+    timer.reset();
+    const int before = fired;
+    runFor(40);
+    EXPECT_EQ(fired, before);
+}
+
+TEST_F(QtMainLoopTest, WhileAMenuIsOpenOnlyCommonTimersFire) {
+    int common = 0;
+    int refresh = 0;
+    const auto first = loop_.repeat(10ms, TimerMode::common, [&] { ++common; });
+    const auto second = loop_.repeat(10ms, TimerMode::defaultOnly, [&] { ++refresh; });
+    QMenu menu;
+    menu.addAction("row");
+    menu.popup({0, 0});
+    runFor(60);
+    EXPECT_GT(common, 0);
+    EXPECT_EQ(refresh, 0);
+    menu.close();
+    runFor(60);
+    EXPECT_GT(refresh, 0);
+}
+
+TEST_F(QtMainLoopTest, ABlockedThreadsFiringsAreNotMadeGood) {
+    int fired = 0;
+    const auto timer = loop_.repeat(20ms, TimerMode::common, [&] { ++fired; });
+    QThread::msleep(200);
+    runFor(1);
+    EXPECT_LE(fired, 2);
+}
+
+}  // namespace
+}  // namespace tidewatch::platform

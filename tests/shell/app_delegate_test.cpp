@@ -1,0 +1,206 @@
+#include "shell/app_delegate.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/shell_world.h"
+
+namespace tidewatch {
+namespace {
+
+using namespace std::chrono;
+using namespace std::chrono_literals;
+
+class AppDelegateTest : public ShellWorld {
+protected:
+    void clickPanel() {
+        surfaces_.panel().gestures().mouseDown({100, 100});
+        surfaces_.panel().gestures().mouseUp({100, 100});
+        machine_.mainLoop.run();
+    }
+};
+
+TEST_F(AppDelegateTest, LaunchesInTheStatedOrder) {
+    launch();
+    EXPECT_EQ(surfaces_.log(), (ScreenLog{"fonts", "panel", "show panel", "status item"}));
+    EXPECT_EQ(machine_.mainLoop.timerCount(), 2U);
+}
+
+TEST_F(AppDelegateTest, ThePanelHasTheThemesSizeTimesTheScale) {
+    machine_.preferences.setReal("sizeScale", 0.5);
+    machine_.preferences.setText("activeThemeID", "minimal");
+    launch();
+    EXPECT_EQ(surfaces_.panel().panelSize(), (PanelSize{90, 35}));
+}
+
+TEST_F(AppDelegateTest, StartedHiddenThePanelExistsAndShowsOnlyAfterToggleVisible) {
+    machine_.preferences.setBoolean("windowVisible", false);
+    launch();
+    EXPECT_FALSE(surfaces_.panel().isVisible());
+    program_->theme.switchTo("hacker");
+    runFor(1s);
+    EXPECT_EQ(surfaces_.panel().panelSize(), (PanelSize{65, 27.5}));
+    EXPECT_FALSE(surfaces_.panel().isVisible());
+    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(1));
+}
+
+TEST_F(AppDelegateTest, EachSecondsTickRunsBeforeTheRefresh) {
+    launch();
+    runFor(1s);
+    EXPECT_EQ(program_->days.seconds(DayKey("2026-01-15")), Seconds(1));
+    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(1));
+}
+
+TEST_F(AppDelegateTest, WhileAMenuIsOpenTheTitleStandsStillButTicksGoOn) {
+    launch();
+    runFor(1s);
+    const int titles = surfaces_.statusItem().titlesSet();
+    machine_.mainLoop.setMenu(platform::FakeMainLoop::Menu::open);
+    runFor(5s);
+    EXPECT_EQ(surfaces_.statusItem().titlesSet(), titles);
+    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(6));
+}
+
+TEST_F(AppDelegateTest, TheRefreshSetsTheRunningTotalUnderTheClocksKeyBetweenTheBoundaryAndTheTick) {
+    launch();
+    runFor(10s);
+    program_->engine.stop();
+    machine_.clock.setNow(sys_days(2026y / 1 / 16) + 1ms);
+    runFor(1s);
+    EXPECT_EQ(program_->days.seconds(DayKey("2026-01-16")), Seconds(10));
+}
+
+TEST_F(AppDelegateTest, ALeftClickOnTheStatusItemWritesTheStoresAndOpensTheStatisticsWindow) {
+    FakeStatisticsWindow statistics;
+    launch(&statistics);
+    runFor(5s);
+    surfaces_.statusItem().click(StatusItem::Click::left);
+    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_TRUE(surfaces_.statusItem().menus().empty());
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 5\n}");
+    EXPECT_EQ(file("apps.json"), "{\n  \"2026-01-15\" : {\n    \"org.example.Editor\" : 5\n  }\n}");
+}
+
+TEST_F(AppDelegateTest, ALeftClickWithTheStatisticsWindowOpenShowsTheMenuAndDoesNotCloseIt) {
+    FakeStatisticsWindow statistics;
+    launch(&statistics);
+    statistics.showWindow();
+    surfaces_.statusItem().click(StatusItem::Click::left);
+    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, ARightClickOpensTheMenu) {
+    FakeStatisticsWindow statistics;
+    launch(&statistics);
+    surfaces_.statusItem().click(StatusItem::Click::right);
+    EXPECT_FALSE(statistics.isVisible());
+    EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, WithoutAStatisticsWindowALeftClickOpensTheMenu) {
+    launch();
+    surfaces_.statusItem().click(StatusItem::Click::left);
+    EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, ARightClickOnThePanelOpensTheMenu) {
+    launch();
+    surfaces_.panel().gestures().menuRequested();
+    EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, AClickOnThePanelWritesTheStoresAndOpensTheStatisticsWindow) {
+    FakeStatisticsWindow statistics;
+    launch(&statistics);
+    runFor(3s);
+    clickPanel();
+    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 3\n}");
+}
+
+TEST_F(AppDelegateTest, AClickOnThePanelWhileTheStatisticsWindowIsVisibleClosesItAndWritesNothing) {
+    FakeStatisticsWindow statistics;
+    launch(&statistics);
+    runFor(3s);
+    statistics.showWindow();
+    const int writes = machine_.files.writeCount();
+    clickPanel();
+    EXPECT_FALSE(statistics.isVisible());
+    EXPECT_EQ(machine_.files.writeCount(), writes);
+}
+
+TEST_F(AppDelegateTest, AReopenShowsTheStatisticsWindowWhetherOrNotItIsVisible) {
+    FakeStatisticsWindow statistics;
+    launch(&statistics);
+    runFor(2s);
+    program_->delegate.applicationShouldHandleReopen();
+    EXPECT_TRUE(statistics.isVisible());
+    program_->delegate.applicationShouldHandleReopen();
+    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 2\n}");
+}
+
+TEST_F(AppDelegateTest, WithoutAStatisticsWindowAReopenBringsAHiddenPanelUp) {
+    machine_.preferences.setBoolean("windowVisible", false);
+    launch();
+    program_->delegate.applicationShouldHandleReopen();
+    EXPECT_TRUE(surfaces_.panel().isVisible());
+    EXPECT_TRUE(program_->settings.windowVisible());
+}
+
+TEST_F(AppDelegateTest, TheEndWritesEverythingAndARestartContinuesTheDay) {
+    launch();
+    runFor(17s);
+    program_->delegate.applicationWillTerminate();
+    launch();
+    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(17));
+    EXPECT_EQ(program_->engine.liveSeconds(), Seconds(0));
+    runFor(1s);
+    program_->delegate.applicationWillTerminate();
+    EXPECT_EQ(file("apps.json"), "{\n  \"2026-01-15\" : {\n    \"org.example.Editor\" : 18\n  }\n}");
+}
+
+TEST_F(AppDelegateTest, ASessionThatIsAboutToEndIsWrittenAndCountingGoesOn) {
+    launch();
+    runFor(4s);
+    program_->delegate.flushAllStores();
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 4\n}");
+    runFor(1s);
+    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(5));
+}
+
+TEST_F(AppDelegateTest, NothingBookedShowsTheDash) {
+    launch();
+    EXPECT_EQ(surfaces_.statusItem().title().text(), "—");
+    EXPECT_EQ(surfaces_.statusItem().title().mood, StatusTitle::Mood::none);
+}
+
+TEST_F(AppDelegateTest, AMissingTrayIsToldOnce) {
+    launch();
+    surfaces_.statusItem().setShown(false);
+    runFor(10s);
+    EXPECT_TRUE(surfaces_.hints().empty());
+    runFor(60s);
+    EXPECT_EQ(surfaces_.hints(),
+              std::vector<std::string>{
+                  "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj."});
+}
+
+TEST_F(AppDelegateTest, ATrayThatComesLateIsNotMissed) {
+    launch();
+    surfaces_.statusItem().setShown(false);
+    runFor(9s);
+    surfaces_.statusItem().setShown(true);
+    runFor(60s);
+    EXPECT_TRUE(surfaces_.hints().empty());
+}
+
+TEST_F(AppDelegateTest, BroadcastsThatRunAfterTheDelegateIsGoneDoNothing) {
+    launch();
+    program_->theme.switchTo("hacker");
+    program_.reset();
+    machine_.mainLoop.run();
+}
+
+}  // namespace
+}  // namespace tidewatch

@@ -1,0 +1,164 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "core/app_usage_store.h"
+#include "core/broadcaster.h"
+#include "core/daily_store.h"
+#include "core/day_rule.h"
+#include "core/idle_monitor.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
+#include "platform/fake/fake_machine.h"
+#include "shell/app_delegate.h"
+#include "shell/surfaces.h"
+#include "shell/themes/theme_controller.h"
+#include "shell/themes/theme_registry.h"
+
+namespace tidewatch {
+
+/// What happened on the fake screen, in order, one word or two a thing.
+using ScreenLog = std::vector<std::string>;
+
+class FakePanelWindow final : public PanelWindow {
+public:
+    FakePanelWindow(PanelSize size, ScreenLog& log) : size_(size), log_(log) {}
+
+    [[nodiscard]] PanelSize panelSize() const override { return size_; }
+    [[nodiscard]] platform::Point origin() const override { return origin_; }
+    void setOrigin(platform::Point origin) override { origin_ = origin; }
+    void resize(PanelSize size) override {
+        size_ = size;
+        log_.push_back("resize");
+    }
+    void orderFrontRegardless() override {
+        visible_ = true;
+        log_.push_back("show panel");
+    }
+    void orderOut() override {
+        visible_ = false;
+        log_.push_back("hide panel");
+    }
+    [[nodiscard]] bool isVisible() const override { return visible_; }
+    void setGestures(Gestures gestures) override { gestures_ = std::move(gestures); }
+
+    [[nodiscard]] const Gestures& gestures() const { return gestures_; }
+
+private:
+    PanelSize size_;
+    ScreenLog& log_;
+    platform::Point origin_{7, 7};
+    bool visible_ = false;
+    Gestures gestures_;
+};
+
+class FakeStatusItem final : public StatusItem {
+public:
+    void setTitle(const StatusTitle& title) override {
+        title_ = title;
+        ++titlesSet_;
+    }
+    void onClick(std::function<void(Click)> clicked) override { clicked_ = std::move(clicked); }
+    [[nodiscard]] bool isShown() const override { return shown_; }
+    void popUpMenu(const MenuRows& rows) override { menus_.push_back(rows); }
+
+    void click(Click click) const { clicked_(click); }
+    void setShown(bool shown) { shown_ = shown; }
+    [[nodiscard]] const StatusTitle& title() const { return title_; }
+    [[nodiscard]] int titlesSet() const { return titlesSet_; }
+    [[nodiscard]] const std::vector<MenuRows>& menus() const { return menus_; }
+
+private:
+    StatusTitle title_;
+    int titlesSet_ = 0;
+    bool shown_ = true;
+    std::function<void(Click)> clicked_;
+    std::vector<MenuRows> menus_;
+};
+
+class FakeStatisticsWindow final : public StatisticsWindow {
+public:
+    void showWindow() override { visible_ = true; }
+    void close() override { visible_ = false; }
+    [[nodiscard]] bool isVisible() const override { return visible_; }
+
+private:
+    bool visible_ = false;
+};
+
+class FakeSurfaces final : public Surfaces, private Dialogs {
+public:
+    void registerFonts() override { log_.push_back("fonts"); }
+    [[nodiscard]] std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) override {
+        log_.push_back("panel");
+        auto window = std::make_unique<FakePanelWindow>(size, log_);
+        panel_ = window.get();
+        return window;
+    }
+    [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override {
+        log_.push_back("status item");
+        auto item = std::make_unique<FakeStatusItem>();
+        statusItem_ = item.get();
+        return item;
+    }
+    [[nodiscard]] Dialogs& dialogs() override { return *this; }
+    void showHint(const std::string& text) override { hints_.push_back(text); }
+
+    [[nodiscard]] FakePanelWindow& panel() { return *panel_; }
+    [[nodiscard]] FakeStatusItem& statusItem() { return *statusItem_; }
+    [[nodiscard]] const ScreenLog& log() const { return log_; }
+    [[nodiscard]] const std::vector<std::string>& hints() const { return hints_; }
+    [[nodiscard]] const std::vector<std::string>& warnings() const { return warnings_; }
+
+private:
+    void warn(const std::string& title, const std::string& text) override {
+        warnings_.push_back(title + ": " + text);
+    }
+
+    ScreenLog log_;
+    FakePanelWindow* panel_ = nullptr;
+    FakeStatusItem* statusItem_ = nullptr;
+    std::vector<std::string> hints_;
+    std::vector<std::string> warnings_;
+};
+
+/// The whole program but for the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.
+class ShellWorld : public testing::Test {
+protected:
+    ShellWorld();
+
+    /// Builds the program and lets it launch.
+    void launch(StatisticsWindow* statistics = nullptr);
+    void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
+    [[nodiscard]] std::string file(const std::string& name) const;
+
+    platform::FakeMachine machine_;
+    FakeSurfaces surfaces_;
+    bool terminated_ = false;
+
+    struct Program;
+    std::unique_ptr<Program> program_;
+};
+
+/// What the composition root builds, on the fakes.
+struct ShellWorld::Program {
+    Program(const platform::Platform& platform, Surfaces& surfaces, StatisticsWindow* statistics,
+            std::function<void()> terminate);
+
+    Broadcaster broadcaster;
+    Settings settings;
+    DayRule dayRule;
+    IdleMonitor idleMonitor;
+    DailyStore days;
+    AppUsageStore apps;
+    TimerEngine engine;
+    ThemeRegistry themes;
+    ThemeController theme;
+    AppDelegate delegate;
+};
+
+}  // namespace tidewatch

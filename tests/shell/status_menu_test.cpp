@@ -1,0 +1,148 @@
+#include "shell/status_menu.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "shell/shell_world.h"
+
+namespace tidewatch {
+namespace {
+
+using namespace std::chrono_literals;
+
+class StatusMenuTest : public ShellWorld {
+protected:
+    MenuRows menu() {
+        if (!program_) launch();
+        surfaces_.statusItem().click(StatusItem::Click::right);
+        return surfaces_.statusItem().menus().back();
+    }
+
+    static const MenuRow& row(const MenuRows& rows, const std::string& title) {
+        const auto found =
+            std::find_if(rows.begin(), rows.end(), [&](const auto& each) { return each.title == title; });
+        if (found == rows.end()) throw std::out_of_range("no row " + title);
+        return *found;
+    }
+
+    static std::vector<std::string> titles(const MenuRows& rows) {
+        std::vector<std::string> titles;
+        for (const auto& each : rows) titles.push_back(each.isSeparator() ? "-" : each.title);
+        return titles;
+    }
+
+    static std::vector<std::string> checked(const MenuRow& menu) {
+        std::vector<std::string> titles;
+        for (const auto& each : menu.children) {
+            if (each.checked) titles.push_back(each.title);
+        }
+        return titles;
+    }
+
+    using Titles = std::vector<std::string>;
+};
+
+TEST_F(StatusMenuTest, HasItsRowsInOrder) {
+    EXPECT_EQ(titles(menu()), (Titles{"Sesión: 00:00:00", "Hoy: 00:00:00", "-", "Tema", "Tamaño", "Idle",
+                                      "El día empieza", "Ocultar ventana", "Reiniciar día", "-",
+                                      "Revelar archivo de datos", "-", "Iniciar al arrancar", "-", "Salir"}));
+}
+
+TEST_F(StatusMenuTest, IsMadeAnewAtEveryOpening) {
+    EXPECT_EQ(menu()[0].title, "Sesión: 00:00:00");
+    runFor(65s);
+    EXPECT_EQ(menu()[0].title, "Sesión: 00:01:05");
+    EXPECT_EQ(menu()[1].title, "Hoy: 00:01:05");
+}
+
+TEST_F(StatusMenuTest, TheClocksAreDisabledRows) {
+    const auto rows = menu();
+    EXPECT_FALSE(rows[0].isEnabled());
+    EXPECT_FALSE(rows[1].isEnabled());
+    EXPECT_TRUE(row(rows, "Reiniciar día").isEnabled());
+}
+
+TEST_F(StatusMenuTest, KeyEquivalents) {
+    const auto rows = menu();
+    EXPECT_EQ(row(rows, "Ocultar ventana").keyEquivalent, 'h');
+    EXPECT_EQ(row(rows, "Salir").keyEquivalent, 'q');
+    EXPECT_EQ(row(rows, "Reiniciar día").keyEquivalent, std::nullopt);
+}
+
+TEST_F(StatusMenuTest, ThemesInTheirOrderWithTheActiveOneChecked) {
+    machine_.preferences.setText("activeThemeID", "hacker");
+    const auto themes = row(menu(), "Tema");
+    EXPECT_EQ(titles(themes.children),
+              (Titles{"Ochre", "Editorial Light", "Minimalista", "Hacker", "Liquid Crystal"}));
+    EXPECT_EQ(checked(themes), Titles{"Hacker"});
+}
+
+TEST_F(StatusMenuTest, AnUnknownStoredThemeChecksTheFirst) {
+    machine_.preferences.setText("activeThemeID", "gone");
+    EXPECT_EQ(checked(row(menu(), "Tema")), Titles{"Ochre"});
+}
+
+TEST_F(StatusMenuTest, SizesWithTheNearestChecked) {
+    machine_.preferences.setReal("sizeScale", 0.33);
+    const auto sizes = row(menu(), "Tamaño");
+    EXPECT_EQ(titles(sizes.children), (Titles{"10%", "25%", "50%", "75%", "100%", "500%"}));
+    EXPECT_EQ(checked(sizes), Titles{"25%"});
+}
+
+TEST_F(StatusMenuTest, AStoredIdleThresholdOf240SecondsChecks3Minutes) {
+    machine_.preferences.setInteger("idleThresholdSeconds", 240);
+    const auto idle = row(menu(), "Idle");
+    EXPECT_EQ(titles(idle.children), (Titles{"1 min", "3 min", "5 min", "10 min", "15 min", "30 min"}));
+    EXPECT_EQ(checked(idle), Titles{"3 min"});
+}
+
+TEST_F(StatusMenuTest, DayStartsWithTheStoredHourChecked) {
+    machine_.preferences.setInteger("dayStartHour", 5);
+    const auto hours = row(menu(), "El día empieza");
+    EXPECT_EQ(titles(hours.children),
+              (Titles{"Medianoche (00:00)", "04:00", "05:00", "06:00", "07:00", "08:00"}));
+    EXPECT_EQ(checked(hours), Titles{"05:00"});
+}
+
+TEST_F(StatusMenuTest, ADayStartOutsideTheListChecksNone) {
+    machine_.preferences.setInteger("dayStartHour", 3);
+    EXPECT_EQ(checked(row(menu(), "El día empieza")), Titles{});
+}
+
+TEST_F(StatusMenuTest, AHiddenPanelCanBeShown) {
+    machine_.preferences.setBoolean("windowVisible", false);
+    EXPECT_TRUE(row(menu(), "Mostrar ventana").isEnabled());
+}
+
+TEST_F(StatusMenuTest, StartAtLoginIsCheckedWhenItIsEnabled) {
+    EXPECT_FALSE(row(menu(), "Iniciar al arrancar").checked);
+    ASSERT_TRUE(machine_.loginItem.registerItem().ok());
+    EXPECT_TRUE(row(menu(), "Iniciar al arrancar").checked);
+}
+
+TEST_F(StatusMenuTest, SaysWhenInputGoesUnseen) {
+    machine_.inputActivity.setCoverage(platform::InputCoverage::x11WindowsOnly);
+    EXPECT_EQ(menu()[2].title, "Wayland: solo se ven las ventanas X11");
+    EXPECT_FALSE(menu()[2].isEnabled());
+    machine_.inputActivity.setCoverage(platform::InputCoverage::nothing);
+    EXPECT_EQ(menu()[2].title, "Sin detección de actividad: no se cuenta");
+}
+
+TEST_F(StatusMenuTest, RowsCarryOutTheirCommands) {
+    const auto rows = menu();
+    row(row(rows, "Tema").children, "Minimalista").action();
+    row(row(rows, "Tamaño").children, "500%").action();
+    row(row(rows, "Idle").children, "1 min").action();
+    row(row(rows, "El día empieza").children, "04:00").action();
+    row(rows, "Salir").action();
+    EXPECT_EQ(program_->settings.activeThemeId(), "minimal");
+    EXPECT_EQ(program_->settings.sizeScale(), 5.0);
+    EXPECT_EQ(program_->settings.idleThresholdSeconds(), 60);
+    EXPECT_EQ(program_->settings.dayStartHour(), 4);
+    EXPECT_TRUE(terminated_);
+}
+
+}  // namespace
+}  // namespace tidewatch
