@@ -72,9 +72,11 @@ def rooms():
         plan[f"{name}/views"] = room(f"base shell/style {name}", "fmt qt")
         below += f" {name}"
         every_domain_room += f" {name} {name}/views"
-    plan["shell/style"] = room("base", "fmt qt")
-    plan["shell"] = room(f"base platform/api platform/qt shell/style shell/views {every_domain_room}", "fmt qt")
-    plan["shell/views"] = room("base shell/style shell", "fmt qt")
+    plan["shell/themes"] = room("base platform/api core")
+    plan["shell/style"] = room("base platform/api shell/themes", "fmt qt")
+    shell = f"base platform/api platform/qt shell/themes shell/style {every_domain_room}"
+    plan["shell"] = room(f"{shell} shell/views", "fmt qt")
+    plan["shell/views"] = room(f"{shell} shell", "fmt qt")
     return plan
 
 

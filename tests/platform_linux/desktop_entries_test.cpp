@@ -22,11 +22,17 @@ TEST_F(DesktopEntriesTest, AnAnnouncedClassNamesTheEntryWhateverItsLetterCase) {
     EXPECT_EQ(entries_.idForWindow("x", "Example-Writer"), "org.example.Writer");
 }
 
-TEST_F(DesktopEntriesTest, TheInstanceIsAskedForBeforeTheClass) {
+TEST_F(DesktopEntriesTest, APartOfAnApplicationWithAnEntryOfItsOwnGoesBeforeTheApplication) {
     shared_.write("browser.desktop", "[Desktop Entry]\nStartupWMClass=Browser\n");
     shared_.write("web-app.desktop", "[Desktop Entry]\nStartupWMClass=crx_one\n");
     EXPECT_EQ(entries_.idForWindow("crx_one", "Browser"), "web-app");
     EXPECT_EQ(entries_.idForWindow("crx_two", "Browser"), "browser");
+}
+
+TEST_F(DesktopEntriesTest, AClassThatNoEntryKnowsIsNotReplacedByTheInstance) {
+    shared_.write("terminal.desktop", "[Desktop Entry]\nStartupWMClass=terminal\n");
+    EXPECT_EQ(entries_.idForWindow("terminal", "WorkTerminal"), std::nullopt);
+    EXPECT_EQ(entries_.idForWindow("terminal", ""), "terminal");
 }
 
 TEST_F(DesktopEntriesTest, AnIdThatEqualsTheClassNamesTheEntry) {

@@ -104,10 +104,16 @@ std::optional<std::string> DesktopEntries::pathOf(const std::string& folder, con
 
 std::optional<std::string> DesktopEntries::find(std::string_view instance,
                                                 std::string_view windowClass) const {
+    if (windowClass.empty()) return findName(instance);
+    auto application = findName(windowClass);
+    if (!application) return std::nullopt;
+    auto part = lookUp(idByAnnouncedClass_, instance);
+    return part ? part : application;
+}
+
+std::optional<std::string> DesktopEntries::findName(std::string_view name) const {
     for (const auto* map : {&idByAnnouncedClass_, &idByLowerCaseId_, &idByLastPart_}) {
-        for (const auto name : {instance, windowClass}) {
-            if (auto id = lookUp(*map, name)) return id;
-        }
+        if (auto id = lookUp(*map, name)) return id;
     }
     return std::nullopt;
 }

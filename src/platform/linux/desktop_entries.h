@@ -23,9 +23,11 @@ public:
     /// The folders that the desktop's base-directory variables name.
     [[nodiscard]] static std::vector<std::string> standardFolders();
 
-    /// The desktop-file id, without ".desktop", of the application whose windows have this class: first by
-    /// the class that an entry announces, for the instance and then for the class, then by an id that equals
-    /// one of them or ends in it after a dot. Letter case does not matter. Nothing if no entry fits.
+    /// The desktop-file id, without ".desktop", of the application whose windows have this class: that of the
+    /// entry that announces the class, else of the one whose id equals it or ends in it after a dot. If there
+    /// is one, an entry that announces the instance goes before it, as a part of the application with an
+    /// entry of its own. A window without a class goes by its instance. Letter case does not matter. Nothing
+    /// if no entry fits.
     [[nodiscard]] std::optional<std::string> idForWindow(std::string_view instance,
                                                          std::string_view windowClass);
 
@@ -48,6 +50,7 @@ private:
     [[nodiscard]] static std::optional<std::string> pathOf(const std::string& folder, const std::string& id);
     [[nodiscard]] std::optional<std::string> find(std::string_view instance,
                                                   std::string_view windowClass) const;
+    [[nodiscard]] std::optional<std::string> findName(std::string_view name) const;
 
     std::vector<Folder> folders_;
     std::unordered_map<std::string, std::string> idByAnnouncedClass_;

@@ -1,0 +1,48 @@
+find_package(Qt6 6.4 REQUIRED COMPONENTS Gui Qml Quick)
+
+# tidewatch_qml_module(<room> <uri> SOURCES <file>... [VIEWS <file.qml>...] [IMPORTS <uri>...] [KNOWS <target>...])
+#
+# A room with a QML module of that uri: its types come from the headers among SOURCES, its views from VIEWS and
+# are compiled ahead of time. IMPORTS names the modules that its types build on. Gives two targets: the static
+# library `tidewatch_<room>`, for code that uses the types, and `tidewatch_<room>_module`, for programs whose
+# views import the module; those need no file beside them.
+function(tidewatch_qml_module room uri)
+    cmake_parse_arguments(ARG "" "" "SOURCES;VIEWS;IMPORTS;KNOWS" ${ARGN})
+    set(target tidewatch_${room})
+    string(REPLACE "." "/" path ${uri})
+    qt_add_library(${target} STATIC)
+    set_target_properties(${target} PROPERTIES AUTOMOC ON TIDEWATCH_VIEWS "${ARG_VIEWS}")
+    qt_add_qml_module(${target}
+        URI ${uri}
+        VERSION 1.0
+        DEPENDENCIES QtQuick ${ARG_IMPORTS}
+        RESOURCE_PREFIX /qt-project.org/imports
+        SOURCES ${ARG_SOURCES}
+        QML_FILES ${ARG_VIEWS}
+        OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path})
+    target_link_libraries(${target} PUBLIC ${ARG_KNOWS} Qt6::Gui Qt6::Qml Qt6::Quick PRIVATE tidewatch_options)
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    _tidewatch_hush_generated_sources(${target})
+
+    add_library(${target}_module INTERFACE)
+    target_link_libraries(${target}_module INTERFACE ${target} ${target}plugin)
+endfunction()
+
+# What the toolkit's compilers write does not keep to our warnings.
+function(_tidewatch_hush_generated_sources target)
+    get_target_property(sources ${target} SOURCES)
+    list(FILTER sources INCLUDE REGEX "/qmlcache/|_qmltyperegistrations\\.cpp$")
+    set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS -w)
+endfunction()
+
+# tidewatch_qmllint(<room>)
+#
+# A test `qmllint_<room>` that fails on any warning about the room's views.
+function(tidewatch_qmllint room)
+    get_target_property(views tidewatch_${room} TIDEWATCH_VIEWS)
+    get_target_property(directory tidewatch_${room} QT_QML_MODULE_OUTPUT_DIRECTORY)
+    add_test(NAME qmllint_${room}
+        COMMAND $<TARGET_FILE:Qt6::qmllint> --unused-imports warning --compiler warning -I ${CMAKE_BINARY_DIR}/qml
+            ${views}
+        WORKING_DIRECTORY ${directory})
+endfunction()

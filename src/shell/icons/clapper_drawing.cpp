@@ -1,0 +1,52 @@
+#include "shell/icons/clapper_drawing.h"
+
+#include <QPainterPathStroker>
+#include <QTransform>
+#include <QtMath>
+
+namespace tidewatch {
+
+namespace {
+
+QPainterPath line(const QPainterPath& path, double width) {
+    QPainterPathStroker stroker;
+    stroker.setWidth(width);
+    stroker.setCapStyle(Qt::RoundCap);
+    stroker.setJoinStyle(Qt::RoundJoin);
+    return stroker.createStroke(path).simplified();
+}
+
+QPainterPath roundedRectangle(const QRectF& rectangle, double corner) {
+    QPainterPath path;
+    path.addRoundedRect(rectangle, corner, corner);
+    return path;
+}
+
+/// Two hands from the centre: the long one to twelve, the short one to four.
+QPainterPath hands(const QRectF& slate) {
+    const auto centre = slate.center();
+    const double reach = slate.height() / 2;
+    QPainterPath path(centre + QPointF(0, reach * 0.62));
+    path.lineTo(centre);
+    path.lineTo(centre + QPointF(reach * 0.5, -reach * 0.3));
+    return path;
+}
+
+}  // namespace
+
+ClapperDrawing drawClapper(const ClapperMeasures& measures) {
+    QPainterPath dot;
+    dot.addEllipse(measures.slate.center(), measures.dotDiameter / 2, measures.dotDiameter / 2);
+    const auto turn = QTransform()
+                          .translate(measures.barPivot.x(), measures.barPivot.y())
+                          .rotateRadians(measures.barTurn)
+                          .translate(-measures.barPivot.x(), -measures.barPivot.y());
+    return {
+        .slate = line(roundedRectangle(measures.slate, measures.slateCorner), measures.slateLine),
+        .bar = turn.map(roundedRectangle(measures.bar, measures.barCorner)),
+        .hands = line(hands(measures.slate), measures.handLine),
+        .dot = dot,
+    };
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,96 @@
+#include "shell/icons/fathom_icons.h"
+
+#include <QPainter>
+#include <QtMath>
+#include <numbers>
+
+#include "shell/icons/clapper_drawing.h"
+#include "shell/themes/fathom.h"
+
+namespace tidewatch::fathom {
+
+namespace {
+
+/// Points of the drawing of the application's icon, a side.
+constexpr double appIconUnits = 160;
+
+QColor colour(const Color& from) {
+    return QColor::fromRgbF(static_cast<float>(from.red), static_cast<float>(from.green),
+                            static_cast<float>(from.blue), static_cast<float>(from.alpha));
+}
+
+ClapperMeasures menubarMeasures() {
+    constexpr double w = menubarIconWidth;
+    constexpr double h = menubarIconHeight;
+    const QRectF slate(0.16 * w, 0.10 * h, 0.68 * w, 0.52 * h);
+    return {
+        .slate = slate,
+        .slateCorner = 1.6,
+        .slateLine = 1.2,
+        .handLine = 1.3,
+        .dotDiameter = 2.2,
+        .bar = QRectF(0.13 * w, slate.bottom() + 0.08 * h, 0.74 * w, 0.20 * h),
+        .barCorner = 1.0,
+        .barTurn = -0.31,
+        .barPivot = QPointF(slate.center().x(), slate.bottom()),
+    };
+}
+
+ClapperMeasures appIconMeasures() {
+    const auto fromTop = [](double y) { return appIconUnits - y; };
+    return {
+        .slate = QRectF(34, fromTop(134), 92, 58),
+        .slateCorner = 7,
+        .slateLine = 8,
+        .handLine = 8,
+        .dotDiameter = 14,
+        .bar = QRectF(30, fromTop(58), 100, 26),
+        .barCorner = 5,
+        .barTurn = -std::numbers::pi / 10,
+        .barPivot = QPointF(80, fromTop(58)),
+    };
+}
+
+QImage clear(int width, int height) {
+    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+}  // namespace
+
+QPainterPath menubarIconShape() {
+    const auto upsideDown = QTransform::fromScale(1, -1) * QTransform::fromTranslate(0, menubarIconHeight);
+    return upsideDown.map(drawClapper(menubarMeasures()).whole());
+}
+
+QImage menubarIcon(double scale, const QColor& tint) {
+    auto image = clear(qCeil(menubarIconWidth * scale), qCeil(menubarIconHeight * scale));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scale, scale);
+    painter.fillPath(menubarIconShape(), tint);
+    return image;
+}
+
+QImage appIcon(int pixels) {
+    auto image = clear(pixels, pixels);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(0, pixels);
+    painter.scale(pixels / appIconUnits, -pixels / appIconUnits);
+    QLinearGradient ground(0, appIconUnits, appIconUnits, 0);
+    ground.setColorAt(0, QColor(0x2E, 0x2E, 0x2C));
+    ground.setColorAt(1, colour(ink));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(QRectF(0, 0, appIconUnits, appIconUnits), 36, 36);
+    const auto drawing = drawClapper(appIconMeasures());
+    painter.fillPath(drawing.slate, colour(paper));
+    painter.fillPath(drawing.bar, colour(paper));
+    painter.fillPath(drawing.hands, colour(green));
+    painter.fillPath(drawing.dot, colour(green));
+    return image;
+}
+
+}  // namespace tidewatch::fathom

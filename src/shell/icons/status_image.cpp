@@ -1,0 +1,71 @@
+#include "shell/icons/status_image.h"
+
+#include <QFont>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "shell/icons/fathom_icons.h"
+#include "shell/themes/fathom.h"
+
+namespace tidewatch {
+
+namespace {
+
+QColor moodColour(StatusTitle::Mood mood) {
+    switch (mood) {
+        case StatusTitle::Mood::low:
+            return QColor::fromRgbF(0.769F, 0.271F, 0.271F);
+        case StatusTitle::Mood::middling:
+            return QColor::fromRgbF(0.91F, 0.769F, 0.345F);
+        case StatusTitle::Mood::good:
+            return QColor::fromRgbF(0.482F, 0.847F, 0.561F);
+        case StatusTitle::Mood::none:
+            break;
+    }
+    return {0xB4, 0xB2, 0xAC};
+}
+
+const QColor iconTint(0xEC, 0xEA, 0xE4);
+const QColor halo(0, 0, 0, 120);
+
+/// The outline of a text of this height of capitals, its width at most `width`, standing on the origin.
+QPainterPath textPath(const QString& text, double capHeight, double width) {
+    QFont font(
+        QString::fromUtf8(fathom::sansFamily.data(), static_cast<qsizetype>(fathom::sansFamily.size())));
+    font.setPixelSize(100);
+    font.setWeight(QFont::Bold);
+    QPainterPath path;
+    path.addText(0, 0, font, text);
+    const auto bounds = path.boundingRect();
+    if (bounds.isEmpty()) return path;
+    const double capital = QFontMetricsF(font).capHeight();
+    const double tall = capHeight / capital;
+    const double wide = std::min(tall, width / bounds.width());
+    return QTransform::fromScale(wide, tall).map(path.translated(-bounds.left(), 0));
+}
+
+void fillWithHalo(QPainter& painter, const QPainterPath& path, const QColor& fill, double haloWidth) {
+    painter.strokePath(path, QPen(halo, haloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(path, fill);
+}
+
+}  // namespace
+
+QImage statusImage(int pixels, const StatusTitle& title) {
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double unit = pixels / 22.0;
+    const double iconScale = unit * 12.5 / fathom::menubarIconHeight;
+    const double iconLeft = (pixels - fathom::menubarIconWidth * iconScale) / 2;
+    const auto place = QTransform::fromScale(iconScale, iconScale) * QTransform::fromTranslate(iconLeft, 0);
+    fillWithHalo(painter, place.map(fathom::menubarIconShape()), iconTint, unit);
+    auto figure = textPath(QString::fromStdString(title.figure), unit * 7.6, pixels - 1.0);
+    const auto bounds = figure.boundingRect();
+    figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 1.2);
+    fillWithHalo(painter, figure, moodColour(title.mood), unit);
+    return image;
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QAbstractAnimation>
+#include <functional>
+
+namespace tidewatch {
+
+/// Calls back on the frames of the display for as long as it runs: on every one, or on every `every`-th.
+class FrameTicker final : public QAbstractAnimation {
+    Q_OBJECT
+
+public:
+    explicit FrameTicker(std::function<void()> tick, QObject* parent = nullptr);
+
+    /// 1 or more.
+    void setEvery(int frames) { every_ = frames; }
+    [[nodiscard]] int every() const { return every_; }
+
+    /// Endless.
+    [[nodiscard]] int duration() const override { return -1; }
+
+protected:
+    void updateCurrentTime(int currentTime) override;
+
+private:
+    std::function<void()> tick_;
+    int every_ = 1;
+    int frames_ = 0;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <qqmlregistration.h>
+#include <QColor>
+#include <QList>
+#include <QObject>
+
+#include "shell/themes/dashboard_style.h"
+
+namespace tidewatch {
+
+/// The colours of a DashboardStyle as the views read them.
+class Palette final {
+    Q_GADGET
+    QML_ANONYMOUS
+    Q_PROPERTY(QColor bg MEMBER bg FINAL)
+    Q_PROPERTY(QColor card MEMBER card FINAL)
+    Q_PROPERTY(QColor cardSubtle MEMBER cardSubtle FINAL)
+    Q_PROPERTY(QColor stroke MEMBER stroke FINAL)
+    Q_PROPERTY(QColor strongMute MEMBER strongMute FINAL)
+    Q_PROPERTY(QColor mute MEMBER mute FINAL)
+    Q_PROPERTY(QColor muteSoft MEMBER muteSoft FINAL)
+    Q_PROPERTY(QColor primaryText MEMBER primaryText FINAL)
+    Q_PROPERTY(QColor secondaryText MEMBER secondaryText FINAL)
+    Q_PROPERTY(QList<QColor> gamePieces MEMBER gamePieces FINAL)
+    Q_PROPERTY(QColor windowBackground MEMBER windowBackground FINAL)
+    Q_PROPERTY(QColor tierProductive MEMBER tierProductive FINAL)
+    Q_PROPERTY(QColor tierNeutral MEMBER tierNeutral FINAL)
+    Q_PROPERTY(QColor tierDistracting MEMBER tierDistracting FINAL)
+    Q_PROPERTY(QColor tierOther MEMBER tierOther FINAL)
+    Q_PROPERTY(QColor amber MEMBER amber FINAL)
+
+public:
+    Palette() = default;
+    explicit Palette(const DashboardStyle& style);
+
+    QColor bg;
+    QColor card;
+    QColor cardSubtle;
+    QColor stroke;
+    QColor strongMute;
+    QColor mute;
+    QColor muteSoft;
+    QColor primaryText;
+    QColor secondaryText;
+    QList<QColor> gamePieces;
+    QColor windowBackground;
+    QColor tierProductive;
+    QColor tierNeutral;
+    QColor tierDistracting;
+    QColor tierOther;
+    QColor amber;
+
+    bool operator==(const Palette&) const = default;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <qqmlregistration.h>
+#include <QColor>
+#include <QPainterPath>
+#include <QQuickPaintedItem>
+
+namespace tidewatch {
+
+/// A symbol by its name in the symbol table, in one colour, as high and wide as its `side`.
+/// A name that is not in the table draws nothing.
+class Symbol : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
+    Q_PROPERTY(double side READ side WRITE setSide NOTIFY sideChanged FINAL)
+
+public:
+    explicit Symbol(QQuickItem* parent = nullptr);
+
+    [[nodiscard]] QString name() const { return name_; }
+    void setName(const QString& name);
+    [[nodiscard]] QColor color() const { return color_; }
+    void setColor(const QColor& color);
+    [[nodiscard]] double side() const { return side_; }
+    void setSide(double side);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void nameChanged();
+    void colorChanged();
+    void sideChanged();
+
+private:
+    QString name_;
+    QPainterPath shape_;
+    QColor color_ = Qt::black;
+    double side_ = 0;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,117 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tidewatch.Style
+
+/*! The floating clock. Draws at the theme's own size and fits itself into whatever size it is given. */
+Item {
+    id: root
+
+    required property ClockPresenter presenter
+
+    /*! Pixels to a point of the theme's own drawing. */
+    readonly property real unit: Math.min(width / presenter.panelWidth, height / presenter.panelHeight)
+
+    implicitWidth: presenter.panelWidth
+    implicitHeight: presenter.panelHeight
+
+    Accessible.role: Accessible.Clock
+    Accessible.name: root.presenter.accessibleText
+
+    PanelBackground {
+        anchors.fill: parent
+        visible: !root.presenter.backgroundMoves
+        kind: root.presenter.background
+        cornerRadius: root.presenter.cornerRadius
+        unit: root.unit
+        translucent: root.presenter.translucent
+    }
+
+    LiquidBackground {
+        anchors.fill: parent
+        visible: root.presenter.backgroundMoves
+        running: root.presenter.onScreen
+        time: root.presenter.wallTime
+        cornerRadius: root.presenter.cornerRadius
+        unit: root.unit
+        translucent: root.presenter.translucent
+    }
+
+    Item {
+        id: inside
+
+        readonly property real pointsAcross: root.presenter.panelWidth - root.presenter.paddingLeading
+                                             - root.presenter.paddingTrailing
+
+        anchors.fill: parent
+        anchors.topMargin: root.presenter.paddingTop * root.unit
+        anchors.leftMargin: root.presenter.paddingLeading * root.unit
+        anchors.bottomMargin: root.presenter.paddingBottom * root.unit
+        anchors.rightMargin: root.presenter.paddingTrailing * root.unit
+
+        Column {
+            anchors.centerIn: parent
+            spacing: 2 * root.unit
+
+            TabularText {
+                objectName: "label"
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: root.presenter.showsLabel
+                text: root.presenter.label
+                font: root.presenter.labelFont
+                color: root.presenter.secondaryText
+                maximumWidth: inside.pointsAcross
+                unit: root.unit
+            }
+
+            Row {
+                anchors.horizontalCenter: parent.horizontalCenter
+                spacing: 6 * root.unit
+
+                TabularText {
+                    objectName: "digits"
+                    text: root.presenter.digits
+                    font: root.presenter.digitFont
+                    color: root.presenter.primaryText
+                    equalDigits: root.presenter.digitsHaveEqualWidth
+                    maximumWidth: inside.pointsAcross - (dot.visible ? 12 : 0)
+                    unit: root.unit
+                }
+
+                Symbol {
+                    id: dot
+
+                    objectName: "dot"
+                    anchors.verticalCenter: parent.verticalCenter
+                    visible: root.presenter.showsStatusDot
+                    name: "circle.fill"
+                    color: root.presenter.dotColor
+                    side: 6 * root.unit
+                }
+            }
+
+            TabularText {
+                objectName: "session"
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: root.presenter.showsDailyTotal
+                text: root.presenter.sessionLine
+                font: root.presenter.sessionFont
+                color: root.presenter.secondaryText
+                equalDigits: root.presenter.sessionDigitsHaveEqualWidth
+                wordGap: 6
+                maximumWidth: inside.pointsAcross
+                unit: root.unit
+            }
+
+            SymbolRow {
+                objectName: "stars"
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: root.presenter.showsDailyTotal
+                names: root.presenter.stars
+                colors: root.presenter.starColors
+                side: 6 * root.unit
+                spacing: 3 * root.unit
+            }
+        }
+    }
+}
