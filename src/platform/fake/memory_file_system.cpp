@@ -31,7 +31,7 @@ Result<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
 
 Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
     const std::lock_guard lock(mutex_);
-    ++writes_;
+    writes_.push_back(path);
     if (const auto error = fault(content)) return *error;
     if (!directories_.contains(parentOf(path))) return Error{"open " + path + ": No such file or directory"};
     if (directories_.contains(path)) return Error{"rename " + path + ": Is a directory"};
@@ -40,7 +40,7 @@ Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string
 }
 
 std::optional<Error> MemoryFileSystem::fault(std::string_view content) {
-    if (writes_ == failingWrite_) return Error{"write: Input/output error"};
+    if (writes_.size() == failingWrite_) return Error{"write: Input/output error"};
     if (disk_ == Disk::full && !content.empty()) return Error{"write: No space left on device"};
     return std::nullopt;
 }
@@ -69,14 +69,14 @@ bool MemoryFileSystem::hasDirectory(const std::string& path) const {
     return directories_.contains(path);
 }
 
-int MemoryFileSystem::writeCount() const {
+std::vector<std::string> MemoryFileSystem::writes() const {
     const std::lock_guard lock(mutex_);
     return writes_;
 }
 
-void MemoryFileSystem::failWrite(int n) {
+void MemoryFileSystem::failWrite(std::size_t n) {
     const std::lock_guard lock(mutex_);
-    failingWrite_ = writes_ + n;
+    failingWrite_ = writes_.size() + n;
 }
 
 void MemoryFileSystem::setDisk(Disk disk) {

@@ -7,6 +7,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/api/file_system.h"
 
@@ -30,11 +31,12 @@ public:
     [[nodiscard]] std::optional<std::string> content(const std::string& path) const;
     [[nodiscard]] bool hasDirectory(const std::string& path) const;
 
-    /// Writes that were asked for so far, failed ones included.
-    [[nodiscard]] int writeCount() const;
+    /// The paths of the writes that were asked for so far, failed ones included.
+    [[nodiscard]] std::vector<std::string> writes() const;
+    [[nodiscard]] int writeCount() const { return static_cast<int>(writes().size()); }
 
     /// The n-th write from now on fails, 1 being the next; those after it succeed again.
-    void failWrite(int n);
+    void failWrite(std::size_t n);
 
     /// No write of a byte or more succeeds while the disk is full.
     enum class Disk { roomy, full };
@@ -54,8 +56,8 @@ private:
     std::set<std::string> directories_;
     std::set<std::string> unmakeable_;
     std::set<std::string> unreadable_;
-    int writes_ = 0;
-    int failingWrite_ = 0;
+    std::vector<std::string> writes_;
+    std::size_t failingWrite_ = 0;
     Disk disk_ = Disk::roomy;
 };
 

@@ -1,0 +1,178 @@
+// What the stores and the tick do when disk and files fail them.
+
+#include <gmock/gmock.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "tests/support/core_rooms.h"
+
+namespace tidewatch {
+namespace {
+
+using namespace std::chrono_literals;
+using platform::MemoryFileSystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const DayKey today("2026-01-15");
+constexpr auto goodToday = "{\n  \"2026-01-14\" : 20013,\n  \"2026-01-15\" : 1840\n}";
+constexpr auto goodApps =
+    "{\n  \"2026-01-14\" : {\n    \"org\\/caf\u00E9\" : 20013\n  },\n"
+    "  \"2026-01-15\" : {\n    \"firefox\" : 1800,\n    \"xterm\" : 40\n  }\n}";
+constexpr auto dailyFailed = "Tidewatch: failed to flush daily store: ";
+constexpr auto appsFailed = "Tidewatch: failed to flush app usage store: ";
+
+struct FaultTest : testing::Test {
+    test::FakeWorld world;
+    std::optional<test::CoreRooms> rooms;
+
+    void start() {
+        world.putAppInFront("xterm");
+        rooms.emplace(world);
+        rooms->engine.start();
+    }
+    void tick(int times) { world.mainLoop.runFor(std::chrono::seconds(times)); }
+
+    void expectOnDisk(int daySeconds, int appSeconds) const {
+        EXPECT_EQ(world.files.content(world.todayJson),
+                  "{\n  \"2026-01-15\" : " + std::to_string(daySeconds) + "\n}");
+        EXPECT_EQ(world.files.content(world.appsJson),
+                  "{\n  \"2026-01-15\" : {\n    \"xterm\" : " + std::to_string(appSeconds) + "\n  }\n}");
+    }
+};
+
+TEST_F(FaultTest, AFailureAtTheFirstWriteOfAFlushLosesNothing) {
+    start();
+    world.files.failWrite(1);
+    world.log.expectWarning(dailyFailed);
+    tick(30);
+    EXPECT_EQ(world.files.content(world.todayJson), std::nullopt);
+    tick(30);
+    expectOnDisk(60, 60);
+}
+
+TEST_F(FaultTest, AFailureAtTheSecondWriteOfAFlushLosesNothing) {
+    start();
+    world.files.failWrite(2);
+    world.log.expectWarning(appsFailed);
+    tick(30);
+    EXPECT_EQ(world.files.content(world.appsJson), std::nullopt);
+    tick(30);
+    expectOnDisk(60, 60);
+}
+
+TEST_F(FaultTest, AFailureKeepsWhatAnEarlierFlushWrote) {
+    start();
+    tick(30);
+    world.files.failWrite(1);
+    world.log.expectWarning(dailyFailed);
+    tick(30);
+    expectOnDisk(30, 60);
+}
+
+TEST_F(FaultTest, AFailureAtTheDayChangeIsMadeGoodByTheNextFlush) {
+    world.clock.setNow(std::chrono::sys_days(std::chrono::January / 14 / 2026) + 23h + 59min + 50s);
+    start();
+    tick(9);
+    world.files.failWrite(1);
+    world.log.expectWarning(dailyFailed);
+    tick(2);
+    rooms->engine.stop();
+    EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-14\" : 9,\n  \"2026-01-15\" : 2\n}");
+}
+
+TEST_F(FaultTest, AFailureAtTheEndIsLogged) {
+    start();
+    tick(3);
+    world.files.failWrite(1);
+    world.log.expectWarning(dailyFailed);
+    rooms->engine.stop();
+    EXPECT_EQ(world.files.content(world.todayJson), std::nullopt);
+}
+
+TEST_F(FaultTest, AFullDiskCostsALogLineAFlushAndMemoryKeepsTheTruth) {
+    start();
+    world.files.setDisk(MemoryFileSystem::Disk::full);
+    for (int flush = 0; flush < 3; ++flush) {
+        world.log.expectWarning(std::string(dailyFailed) + "write: No space left on device");
+        world.log.expectWarning(std::string(appsFailed) + "write: No space left on device");
+    }
+    tick(90);
+    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(90));
+    world.files.setDisk(MemoryFileSystem::Disk::roomy);
+    tick(30);
+    expectOnDisk(120, 120);
+}
+
+TEST_F(FaultTest, ADirectoryThatCannotBeMadeShowsUpOnlyInTheFlushes) {
+    world.files.makeUnmakeable("/home/user/.tidewatch");
+    start();
+    EXPECT_THAT(world.log.warnings(), IsEmpty());
+    world.log.expectWarning(dailyFailed);
+    world.log.expectWarning(appsFailed);
+    tick(30);
+    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(30));
+    EXPECT_THAT(rooms->apps.aggregate(std::vector{today}),
+                ElementsAre(AppSeconds{AppId("xterm"), Seconds(30)}));
+}
+
+TEST_F(FaultTest, EveryTruncationOfTodayIsReadAsNoDataAndReplaced) {
+    for (std::size_t length = 0; length < std::string(goodToday).size(); ++length) {
+        world.files.put(world.todayJson, goodToday);
+        world.files.truncate(world.todayJson, length);
+        start();
+        EXPECT_THAT(rooms->daily.allDays(), IsEmpty()) << length;
+        rooms->engine.stop();
+        EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 0\n}") << length;
+    }
+}
+
+TEST_F(FaultTest, EveryTruncationOfAppsIsReadAsNoDataAndReplaced) {
+    for (std::size_t length = 0; length < std::string(goodApps).size(); ++length) {
+        world.files.put(world.appsJson, goodApps);
+        world.files.truncate(world.appsJson, length);
+        start();
+        EXPECT_THAT(rooms->apps.allDayKeys(), IsEmpty()) << length;
+        rooms->engine.stop();
+        EXPECT_EQ(world.files.content(world.appsJson), "{\n\n}") << length;
+    }
+}
+
+TEST_F(FaultTest, WholeFilesAreReadAndWrittenBackByteForByte) {
+    world.files.put(world.todayJson, goodToday);
+    world.files.put(world.appsJson, goodApps);
+    start();
+    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(1840));
+    rooms->engine.stop();
+    EXPECT_EQ(world.files.content(world.todayJson), goodToday);
+    EXPECT_EQ(world.files.content(world.appsJson), goodApps);
+}
+
+TEST_F(FaultTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile) {
+    const std::string good = goodApps;
+    for (std::size_t at = 0; at < good.size(); ++at) {
+        for (const char garbage : {'\0', '"', '{', '}', ',', '9', '\xFF'}) {
+            auto damaged = good;
+            damaged[at] = garbage;
+            world.files.put(world.appsJson, damaged);
+            AppUsageStore store(world.files, world.log, world.workspace);
+            const auto days = store.allDayKeys();
+            store.flush();
+            const AppUsageStore next(world.files, world.log, world.workspace);
+            ASSERT_EQ(next.allDayKeys(), days) << damaged;
+        }
+    }
+}
+
+TEST_F(FaultTest, ADamagedFileOfOneStoreLeavesTheOtherAlone) {
+    world.files.put(world.todayJson, "[]");
+    world.files.put(world.appsJson, goodApps);
+    start();
+    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(0));
+    EXPECT_EQ(rooms->apps.allDayKeys().size(), 2u);
+}
+
+}  // namespace
+}  // namespace tidewatch

@@ -1,0 +1,61 @@
+#include "platform/fake/memory_file_system.h"
+
+#include <gtest/gtest.h>
+
+namespace tidewatch::platform {
+namespace {
+
+TEST(MemoryFileSystem, KeepsWhatIsWritten) {
+    MemoryFileSystem files;
+    ASSERT_TRUE(files.createDirectories("/home/user/a/b"));
+    EXPECT_TRUE(files.hasDirectory("/home/user/a"));
+    ASSERT_TRUE(files.replaceAtomically("/home/user/a/b/f", "one"));
+    ASSERT_TRUE(files.replaceAtomically("/home/user/a/b/f", "two"));
+    EXPECT_EQ(files.readWhole("/home/user/a/b/f").value(), "two");
+    EXPECT_EQ(files.writes().size(), 2u);
+}
+
+TEST(MemoryFileSystem, FailsAtTheWriteThatWasChosenAndKeepsTheFile) {
+    MemoryFileSystem files;
+    files.put("/d/f", "old");
+    files.failWrite(2);
+    EXPECT_TRUE(files.replaceAtomically("/d/f", "first"));
+    EXPECT_FALSE(files.replaceAtomically("/d/f", "second"));
+    EXPECT_EQ(files.content("/d/f"), "first");
+    EXPECT_TRUE(files.replaceAtomically("/d/f", "third"));
+}
+
+TEST(MemoryFileSystem, AFullDiskTakesNothingUntilThereIsRoom) {
+    MemoryFileSystem files;
+    files.put("/d/f", "old");
+    files.setDisk(MemoryFileSystem::Disk::full);
+    EXPECT_FALSE(files.replaceAtomically("/d/f", "new"));
+    EXPECT_EQ(files.content("/d/f"), "old");
+    files.setDisk(MemoryFileSystem::Disk::roomy);
+    EXPECT_TRUE(files.replaceAtomically("/d/f", "new"));
+}
+
+TEST(MemoryFileSystem, AnUnmakeableDirectoryTakesNoFile) {
+    MemoryFileSystem files;
+    files.makeUnmakeable("/home/user/.tidewatch");
+    EXPECT_FALSE(files.createDirectories("/home/user/.tidewatch/deeper"));
+    EXPECT_FALSE(files.replaceAtomically("/home/user/.tidewatch/f", "x"));
+}
+
+TEST(MemoryFileSystem, MissingAndUnreadableFilesAreErrors) {
+    MemoryFileSystem files;
+    EXPECT_FALSE(files.readWhole("/none"));
+    files.put("/d/f", "secret");
+    files.makeUnreadable("/d/f");
+    EXPECT_FALSE(files.readWhole("/d/f"));
+}
+
+TEST(MemoryFileSystem, TruncatesAFile) {
+    MemoryFileSystem files;
+    files.put("/d/f", "abcdef");
+    files.truncate("/d/f", 2);
+    EXPECT_EQ(files.content("/d/f"), "ab");
+}
+
+}  // namespace
+}  // namespace tidewatch::platform

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tidewatch::test {
+
+/// For FakeLog: what it complains of fails the running test.
+inline void failTest(const std::string& complaint) {
+    ADD_FAILURE() << complaint;
+}
+
+}  // namespace tidewatch::test

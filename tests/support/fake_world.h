@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "platform/fake/fake_machine.h"
+#include "tests/support/fail_test.h"
+
+namespace tidewatch::test {
+
+/// A machine for a test: nine in the morning of 2026-01-15 in UTC, an empty disk, a user who is there, and
+/// no application in front. A warning that the test does not announce fails it.
+struct FakeWorld : platform::FakeMachine {
+    FakeWorld()
+        : FakeMachine(std::chrono::sys_days(std::chrono::January / 15 / 2026) + std::chrono::hours(9),
+                      failTest) {}
+
+    const std::string todayJson = "/home/user/.tidewatch/today.json";
+    const std::string appsJson = "/home/user/.tidewatch/apps.json";
+
+    void putAppInFront(const char* id) { workspace.setFrontmost(AppId(id)); }
+};
+
+}  // namespace tidewatch::test
