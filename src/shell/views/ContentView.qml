@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tidewatch.Shell
 import Tidewatch.Style
 
 /*! The floating clock. Draws at the theme's own size and fits itself into whatever size it is given. */
