@@ -12,6 +12,7 @@ class Preferences;
 class ProcessEndings;
 class RunningInstance;
 class Screens;
+class UserNotifications;
 class WindowManager;
 class Workspace;
 
@@ -30,6 +31,7 @@ struct Platform {
     LoginItem& loginItem;
     RunningInstance& runningInstance;
     ProcessEndings& endings;
+    UserNotifications& notifications;
 };
 
 }  // namespace tidewatch::platform

@@ -13,6 +13,7 @@
 #include "platform/fake/fake_process_endings.h"
 #include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
+#include "platform/fake/fake_user_notifications.h"
 #include "platform/fake/fake_window_manager.h"
 #include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_file_system.h"
@@ -38,9 +39,11 @@ struct FakeMachine {
     FakeLoginItem loginItem;
     FakeRunningInstance runningInstance;
     FakeProcessEndings endings;
+    FakeUserNotifications notifications;
 
-    Platform platform{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
-                      workspace, screens, windowManager, loginItem, runningInstance, endings};
+    Platform platform{log,          clock,   mainLoop,      files,     preferences,     inputActivity,
+                      workspace,    screens, windowManager, loginItem, runningInstance, endings,
+                      notifications};
 };
 
 }  // namespace tidewatch::platform
