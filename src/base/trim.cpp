@@ -22,19 +22,20 @@ constexpr std::array<std::string_view, 25> whiteSpace{
     "\xE3\x80\x80",                                                                  // U+3000
 };
 
-using Edge = bool (std::string_view::*)(std::string_view) const noexcept;
-
-// The size of the white space at an edge of `text`, 0 if there is none.
-std::size_t spaceAt(Edge edge, std::string_view text) {
-    const auto* space = std::ranges::find_if(whiteSpace, [&](auto one) { return (text.*edge)(one); });
+// The size of the white space for which `isAtEdge` is true, 0 if there is none.
+template <class Test>
+std::size_t spaceSize(Test isAtEdge) {
+    const auto* space = std::ranges::find_if(whiteSpace, isAtEdge);
     return space == whiteSpace.end() ? 0 : space->size();
 }
 
 }  // namespace
 
 std::string_view trimmed(std::string_view text) {
-    while (const auto size = spaceAt(&std::string_view::starts_with, text)) text.remove_prefix(size);
-    while (const auto size = spaceAt(&std::string_view::ends_with, text)) text.remove_suffix(size);
+    const auto atStart = [&](std::string_view space) { return text.starts_with(space); };
+    const auto atEnd = [&](std::string_view space) { return text.ends_with(space); };
+    while (const auto size = spaceSize(atStart)) text.remove_prefix(size);
+    while (const auto size = spaceSize(atEnd)) text.remove_suffix(size);
     return text;
 }
 

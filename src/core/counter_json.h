@@ -21,7 +21,6 @@ namespace tidewatch {
 /// in ascending order of their bytes, no end of line after the last brace. An object without members is an
 /// open brace, an empty line and a closing brace. In keys the quote, the backslash, the forward slash and
 /// what lies below U+0020 are escaped; everything else stands as UTF-8.
-/// `expectedSize` in bytes spares the growing of the text; any guess will do.
-[[nodiscard]] std::string writeCounters(const CounterRecord& record, std::size_t expectedSize);
+[[nodiscard]] std::string writeCounters(const CounterRecord& record);
 
 }  // namespace tidewatch

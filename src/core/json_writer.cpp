@@ -37,7 +37,7 @@ void appendJsonEscaped(std::string& out, std::string_view text) {
                 out += "\\t";
                 break;
             default:
-                if (static_cast<unsigned char>(c) < 0x20) {
+                if (mustBeEscapedInJson(c)) {
                     fmt::format_to(std::back_inserter(out), "\\u{:04x}", static_cast<unsigned>(c));
                 } else {
                     out += c;

@@ -7,8 +7,13 @@
 
 namespace tidewatch {
 
-/// Appends a text as it stands between the quotes of a data file: the quote, the backslash, the forward slash
-/// and what lies below U+0020 escaped, everything else as UTF-8.
+/// Whether a character between the quotes of a data file stands there escaped: the quote, the backslash, the
+/// forward slash and what lies below U+0020.
+[[nodiscard]] inline bool mustBeEscapedInJson(char c) {
+    return c == '"' || c == '\\' || c == '/' || static_cast<unsigned char>(c) < 0x20;
+}
+
+/// Appends a text as it stands between the quotes of a data file; what need not be escaped stands as UTF-8.
 void appendJsonEscaped(std::string& out, std::string_view text);
 
 /// Writes JSON in the form of all data files: two blanks of indent a level, one member a line, a blank on

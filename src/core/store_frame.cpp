@@ -15,7 +15,6 @@ StoreFrame::StoreFrame(platform::FileSystem& files, platform::Log& log, const St
     // Without the directory there is no file either, and the first flush will say so.
     static_cast<void>(files_.createDirectories(directoryPath_));
     if (auto text = files_.readWhole(filePath_)) {
-        expectedSize_ = text.value().size();
         if (auto record = readCounters(std::move(text).value(), format.depth)) record_ = std::move(*record);
     }
 }
@@ -27,9 +26,7 @@ void StoreFrame::flush() {
 
 Outcome StoreFrame::write() {
     const std::lock_guard lock(mutex_);
-    const auto text = writeCounters(record_, expectedSize_);
-    expectedSize_ = text.size() + text.size() / 64 + 256;
-    return files_.replaceAtomically(filePath_, text);
+    return files_.replaceAtomically(filePath_, writeCounters(record_));
 }
 
 }  // namespace tidewatch

@@ -62,7 +62,6 @@ private:
 
     mutable std::mutex mutex_;
     CounterRecord record_;
-    std::size_t expectedSize_ = 0;
 };
 
 }  // namespace tidewatch

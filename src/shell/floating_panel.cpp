@@ -24,7 +24,8 @@ void FloatingPanel::place(const platform::Screens& screens) {
     }
     if (const auto main = screens.main()) {
         const auto& visible = main->visibleFrame;
-        window_.setOrigin({visible.x + visible.width - window_.panelSize().width - margin, visible.y + margin});
+        window_.setOrigin(
+            {visible.x + visible.width - window_.panelSize().width - margin, visible.y + margin});
     }
 }
 

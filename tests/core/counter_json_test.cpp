@@ -11,7 +11,7 @@ namespace {
 using namespace std::string_literals;
 
 std::string write(const CounterRecord& record) {
-    return writeCounters(record, 0);
+    return writeCounters(record);
 }
 
 // What a reader makes of `text` and writes again; nothing if it is refused.

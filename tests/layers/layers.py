@@ -16,7 +16,7 @@ from pathlib import Path
 LIBRARIES = {
     "fmt": r"fmt/.*",
     "simdjson": r"simdjson\.h",
-    "qt": r"Q[A-Z]\w*(/.*)?|q[a-z]+\.h|qt\w+\.h",
+    "qt": r"Q(t\w*|[A-Z]\w*)(/.*)?|q[a-z]+\.h|qt\w+\.h",
     "xcb": r"xcb/.*|X11/.*",
     "system": r"(sys|linux|netinet|arpa|net|asm)/.*|"
     r"(unistd|fcntl|poll|signal|pwd|grp|dirent|dlfcn|errno|spawn|termios|pthread|sched|malloc|limits|time|"

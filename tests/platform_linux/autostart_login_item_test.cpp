@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/posix_file_system.h"
-#include "platform_linux/temporary_directory.h"
+#include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -12,7 +12,7 @@ const std::string entry = "autostart/com.brightlooms.tidewatch.desktop";
 
 class AutostartLoginItemTest : public testing::Test {
 protected:
-    TemporaryDirectory config_;
+    test::TemporaryDirectory config_;
     PosixFileSystem files_;
     AutostartLoginItem item_{files_, config_.path(), "/opt/tide \"w\"/tidewatch"};
 };

@@ -4,15 +4,15 @@
 
 #include <filesystem>
 
-#include "platform_linux/temporary_directory.h"
+#include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
 namespace {
 
 class DesktopEntriesTest : public testing::Test {
 protected:
-    TemporaryDirectory home_;
-    TemporaryDirectory shared_;
+    test::TemporaryDirectory home_;
+    test::TemporaryDirectory shared_;
     DesktopEntries entries_{{home_.path(), shared_.path()}};
 };
 

@@ -8,7 +8,7 @@
 #include <thread>
 
 #include "platform/fake/fake_log.h"
-#include "platform_linux/temporary_directory.h"
+#include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -30,7 +30,7 @@ protected:
 
     int argc_ = 0;
     QCoreApplication application_{argc_, nullptr};
-    TemporaryDirectory directory_;
+    test::TemporaryDirectory directory_;
     FakeLog log_{[](const std::string& complaint) { ADD_FAILURE() << complaint; }};
 };
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform_linux/temporary_directory.h"
+#include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -31,7 +31,7 @@ TEST(SnapId, IsAbsentForAnOrdinaryProcess) {
 }
 
 TEST(SandboxedApplication, ReadsWhatTheProcessDirectoryHolds) {
-    TemporaryDirectory proc;
+    test::TemporaryDirectory proc;
     proc.write("10/root/.flatpak-info", "[Application]\nname=org.example.Notes\n");
     proc.write("11/cgroup", "0::/user.slice/snap.editor.editor.1234.scope\n");
     proc.write("12/cgroup", "0::/user.slice\n");

@@ -5,7 +5,7 @@
 #include <QSettings>
 #include <memory>
 
-#include "platform_linux/temporary_directory.h"
+#include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -25,7 +25,7 @@ protected:
     }
     void startAgain() { preferences_.reset(); }
 
-    TemporaryDirectory config_;
+    test::TemporaryDirectory config_;
     std::unique_ptr<QtPreferences> preferences_;
 };
 

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include <stdlib.h>
@@ -25,6 +28,23 @@ public:
     }
 
     [[nodiscard]] const std::string& path() const { return path_; }
+
+    /// Writes a file below the directory and makes the folders on the way.
+    void write(const std::string& name, std::string_view content) const {
+        const auto file = std::filesystem::path(path_) / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file) << content;
+    }
+
+    /// What a file below the directory holds; empty if there is none.
+    [[nodiscard]] std::string read(const std::string& name) const {
+        std::ifstream file(std::filesystem::path(path_) / name);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+
+    [[nodiscard]] bool exists(const std::string& name) const {
+        return std::filesystem::exists(std::filesystem::path(path_) / name);
+    }
 
 private:
     std::string path_;

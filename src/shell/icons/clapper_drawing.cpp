@@ -2,7 +2,6 @@
 
 #include <QPainterPathStroker>
 #include <QTransform>
-#include <QtMath>
 
 namespace tidewatch {
 

@@ -1,7 +1,7 @@
 #include "shell/icons/fathom_icons.h"
 
 #include <QPainter>
-#include <QtMath>
+#include <cmath>
 #include <numbers>
 
 #include "shell/icons/clapper_drawing.h"
@@ -65,7 +65,8 @@ QPainterPath menubarIconShape() {
 }
 
 QImage menubarIcon(double scale, const QColor& tint) {
-    auto image = clear(qCeil(menubarIconWidth * scale), qCeil(menubarIconHeight * scale));
+    auto image = clear(static_cast<int>(std::ceil(menubarIconWidth * scale)),
+                       static_cast<int>(std::ceil(menubarIconHeight * scale)));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scale, scale);

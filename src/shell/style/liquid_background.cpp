@@ -76,7 +76,13 @@ QSize LiquidBackground::paintedSize() const {
 void LiquidBackground::paint(QPainter* painter) {
     const double seconds = time_ ? time_->secondsSinceReferenceDate() : 0;
     const auto layers = liquidImage(paintedSize(), size() / unit_, liquidAngles(seconds), intensity_);
-    paintLiquid(*painter, layers, {size(), cornerRadius_ * unit_, unit_, ground_});
+    paintLiquid(*painter, layers, {contentsBoundingRect().size(), cornerRadius_ * unit_, unit_, ground_});
+}
+
+void LiquidBackground::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    // The liquid fills its window, which is of whole pixels.
+    setContentsSize({static_cast<int>(std::ceil(to.width())), static_cast<int>(std::ceil(to.height()))});
 }
 
 void LiquidBackground::itemChange(ItemChange change, const ItemChangeData& data) {

@@ -62,6 +62,7 @@ Q_SIGNALS:
     void changed();
 
 protected:
+    void geometryChange(const QRectF& to, const QRectF& from) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:

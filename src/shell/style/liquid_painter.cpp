@@ -138,8 +138,8 @@ void paintLiquid(QPainter& painter, const QImage& layers, const PanelShape& shap
 
     QLinearGradient sheen(shape.bounds().topLeft(), shape.bounds().bottomRight());
     sheen.setColorAt(0, toQColor(Color::whiteAt(0.24)));
-    sheen.setColorAt(0.35, toQColor(Color::whiteAt(0)));
-    sheen.setColorAt(1, toQColor(Color::blackAt(0.2)));
+    sheen.setColorAt(0.3, toQColor(Color::blackAt(0.08)));
+    sheen.setColorAt(1, toQColor(Color::blackAt(0.24)));
     painter.fillPath(area, sheen);
     drawBorder(painter, shape, toQColor(Color::whiteAt(0.35)), 0.75);
     painter.restore();

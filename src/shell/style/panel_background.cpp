@@ -1,6 +1,7 @@
 #include "shell/style/panel_background.h"
 
 #include <QPainter>
+#include <cmath>
 
 namespace tidewatch {
 namespace {
@@ -67,13 +68,20 @@ void PanelBackgroundItem::setTranslucent(bool translucent) {
     announce();
 }
 
+void PanelBackgroundItem::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    // The panel fills its window, which is of whole pixels.
+    setContentsSize({static_cast<int>(std::ceil(to.width())), static_cast<int>(std::ceil(to.height()))});
+}
+
 void PanelBackgroundItem::announce() {
     update();
     Q_EMIT changed();
 }
 
 void PanelBackgroundItem::paint(QPainter* painter) {
-    paintPanel(*painter, fromKind(kind_), {size(), cornerRadius_ * unit_, unit_, ground_});
+    paintPanel(*painter, fromKind(kind_),
+               {contentsBoundingRect().size(), cornerRadius_ * unit_, unit_, ground_});
 }
 
 }  // namespace tidewatch

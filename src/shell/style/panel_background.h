@@ -41,6 +41,9 @@ public:
 Q_SIGNALS:
     void changed();
 
+protected:
+    void geometryChange(const QRectF& to, const QRectF& from) override;
+
 private:
     void announce();
 

@@ -29,8 +29,10 @@ void Symbol::setColor(const QColor& color) {
 void Symbol::setSide(double side) {
     if (side == side_) return;
     side_ = side;
-    // Whole pixels: the drawing is copied to the screen as it is, not stretched.
-    setImplicitSize(std::ceil(side), std::ceil(side));
+    setImplicitSize(side, side);
+    // The picture is of whole pixels, to be copied to the screen as it is.
+    const int pixels = static_cast<int>(std::ceil(side));
+    setContentsSize({pixels, pixels});
     update();
     Q_EMIT sideChanged();
 }

@@ -46,7 +46,9 @@ double SymbolRow::length() const {
 }
 
 void SymbolRow::measureAgain() {
-    setImplicitSize(std::ceil(length()), std::ceil(side_));
+    setImplicitSize(length(), side_);
+    // The picture is of whole pixels, to be copied to the screen as it is.
+    setContentsSize({static_cast<int>(std::ceil(length())), static_cast<int>(std::ceil(side_))});
     update();
 }
 

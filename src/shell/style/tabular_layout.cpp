@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <algorithm>
+#include <cmath>
 
 namespace tidewatch {
 namespace {
@@ -10,6 +11,7 @@ namespace {
 constexpr double closeColon = 0.55;
 
 enum class Colons { asInFont, close };
+enum class Cells { exact, nearestPixel, lowerPixel };
 
 bool isDigit(QChar character) {
     return character >= u'0' && character <= u'9';
@@ -25,17 +27,21 @@ double widestDigit(const QFontMetricsF& metrics) {
 
 class LineBuilder final {
 public:
-    LineBuilder(const QFont& font, const TabularOptions& options, Colons colons)
+    LineBuilder(const QFont& font, const TabularOptions& options, Colons colons, Cells cells, double shrink)
         : metrics_(font),
           options_(options),
           colons_(colons),
+          cells_(cells),
+          pixel_(options.screenPixel / shrink),
           spacing_(font.letterSpacing()),
-          digitCell_(widestDigit(metrics_)) {}
+          digitCell_(cell(widestDigit(metrics_))) {
+        line_.shrink = shrink;
+    }
 
     TabularLine build(const QString& text) {
         for (const auto character : text) add(character);
         endRun();
-        line_.width = std::max(0.0, x_ - (text.isEmpty() ? 0 : spacing_));
+        line_.width = std::max(0.0, x_ - spacing_);
         return std::move(line_);
     }
 
@@ -47,16 +53,16 @@ private:
         } else if (options_.digits == Digits::monospaced && isDigit(character)) {
             addCell(character, digitCell_);
         } else if (colons_ == Colons::close && character == u':') {
-            addCell(character, metrics_.horizontalAdvance(character) * closeColon);
+            addCell(character, cell(metrics_.horizontalAdvance(character) * closeColon));
         } else {
             run_ += character;
         }
     }
 
-    void addCell(QChar character, double cell) {
+    void addCell(QChar character, double width) {
         endRun();
-        line_.runs.push_back({QString(character), x_ + (cell - metrics_.horizontalAdvance(character)) / 2});
-        x_ += cell;
+        line_.runs.push_back({QString(character), x_ + (width - metrics_.horizontalAdvance(character)) / 2});
+        x_ += width;
     }
 
     void endRun() {
@@ -66,9 +72,18 @@ private:
         run_.clear();
     }
 
+    [[nodiscard]] double cell(double width) const {
+        if (cells_ == Cells::exact || pixel_ <= 0) return width;
+        const double pixels = width / pixel_;
+        return pixel_ *
+               std::max(1.0, cells_ == Cells::nearestPixel ? std::round(pixels) : std::floor(pixels));
+    }
+
     QFontMetricsF metrics_;
     TabularOptions options_;
     Colons colons_;
+    Cells cells_;
+    double pixel_;
     double spacing_;
     double digitCell_;
     double x_ = 0;
@@ -79,11 +94,15 @@ private:
 }  // namespace
 
 TabularLine layOutTabular(const QString& text, const QFont& font, const TabularOptions& options) {
-    auto line = LineBuilder(font, options, Colons::asInFont).build(text);
-    if (options.maximumWidth <= 0 || line.width <= options.maximumWidth) return line;
-    line = LineBuilder(font, options, Colons::close).build(text);
-    if (line.width > options.maximumWidth) line.shrink = options.maximumWidth / line.width;
-    return line;
+    const double maximum = options.maximumWidth > 0 ? options.maximumWidth : HUGE_VAL;
+    const auto build = [&](Colons colons, Cells cells, double shrink = 1) {
+        return LineBuilder(font, options, colons, cells, shrink).build(text);
+    };
+    const bool fits = build(Colons::asInFont, Cells::exact).width <= maximum;
+    const auto colons = fits ? Colons::asInFont : Colons::close;
+    const double shrink = std::min(1.0, maximum / build(colons, Cells::exact).width);
+    auto line = build(colons, Cells::nearestPixel, shrink);
+    return line.width * shrink <= maximum ? line : build(colons, Cells::lowerPixel, shrink);
 }
 
 }  // namespace tidewatch

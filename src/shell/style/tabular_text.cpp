@@ -2,13 +2,16 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QQuickWindow>
+#include <algorithm>
 #include <cmath>
 
 namespace tidewatch {
 namespace {
 
-/// Room for what letters draw outside their own advance, on both sides, in pixels of the screen.
-constexpr double overhang = 1;
+/// Letters below this size, in pixels of the screen, lose half of their colour to the smoothing of edges.
+/// They are drawn twice, which gives it back without making them bolder.
+constexpr double faintSize = 12;
 
 }  // namespace
 
@@ -65,22 +68,62 @@ void TabularText::setUnit(double unit) {
     Q_EMIT layoutChanged();
 }
 
+void TabularText::setShade(const QColor& shade) {
+    if (shade == shade_) return;
+    shade_ = shade;
+    update();
+    Q_EMIT colorChanged();
+}
+
+double TabularText::screenPixel() const {
+    return 1 / (window() != nullptr ? window()->effectiveDevicePixelRatio() : 1.0);
+}
+
+void TabularText::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) layOutAgain();
+}
+
 void TabularText::layOutAgain() {
-    line_ = layOutTabular(text_, font_, options_);
-    const QFontMetricsF metrics(font_);
+    auto options = options_;
+    options.screenPixel = screenPixel() / unit_;
+    line_ = layOutTabular(text_, font_, options);
     const double scale = unit_ * line_.shrink;
-    setImplicitSize(std::ceil(line_.width * scale + 2 * overhang), std::ceil(metrics.height() * scale));
+    const QFontMetricsF metrics(font_);
+    // Room on both sides for letters that reach out of their own width.
+    const double overhang =
+        text_.isEmpty()
+            ? 0
+            : std::max({0.0, -metrics.leftBearing(text_.front()), -metrics.rightBearing(text_.back())});
+    const QSizeF exact((line_.width + 2 * overhang) * scale, metrics.height() * scale);
+    setImplicitSize(exact.width(), exact.height());
+    // The picture is of whole pixels; the layout goes by what the line takes.
+    setContentsSize(
+        QSize(static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))));
     update();
 }
 
 void TabularText::paint(QPainter* painter) {
     const double scale = unit_ * line_.shrink;
-    painter->translate((width() - line_.width * scale) / 2, 0);
+    const double pixel = screenPixel();
+    // Of two pixels equally near the upper one: lines of letters look centred a little above their middle.
+    const auto onPixel = [pixel](double length) { return std::floor(length / pixel + 0.4) * pixel; };
+    const QFontMetricsF metrics(font_);
+    painter->translate(onPixel((width() - line_.width * scale) / 2), onPixel(metrics.ascent() * scale));
     painter->scale(scale, scale);
     painter->setFont(font_);
-    painter->setPen(color_);
-    const double baseline = QFontMetricsF(font_).ascent();
-    for (const auto& run : line_.runs) painter->drawText(QPointF(run.x, baseline), run.text);
+    if (shade_.alpha() > 0) {
+        painter->translate(0, 1);
+        drawLetters(*painter, shade_);
+        painter->translate(0, -1);
+    }
+    drawLetters(*painter, color_);
+    if (metrics.ascent() * scale / pixel < faintSize) drawLetters(*painter, color_);
+}
+
+void TabularText::drawLetters(QPainter& painter, const QColor& color) const {
+    painter.setPen(color);
+    for (const auto& run : line_.runs) painter.drawText(QPointF(run.x, 0), run.text);
 }
 
 }  // namespace tidewatch

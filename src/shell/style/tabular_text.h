@@ -10,7 +10,7 @@
 namespace tidewatch {
 
 /// One line of text whose digits stand in cells of equal width, in a font of the unscaled drawing that is
-/// drawn `unit` times as large. As wide and high as its line.
+/// drawn `unit` times as large. As wide and high as its line; letters stand on whole pixels of the screen.
 class TabularText : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -23,6 +23,8 @@ class TabularText : public QQuickPaintedItem {
     /// What the line may take, in the font's pixels; a longer one is drawn closer and then smaller. 0: all.
     Q_PROPERTY(double maximumWidth READ maximumWidth WRITE setMaximumWidth NOTIFY layoutChanged FINAL)
     Q_PROPERTY(double unit READ unit WRITE setUnit NOTIFY layoutChanged FINAL)
+    /// A soft shade under the letters, for grounds on which they would be lost; transparent for none.
+    Q_PROPERTY(QColor shade READ shade WRITE setShade NOTIFY colorChanged FINAL)
 
 public:
     explicit TabularText(QQuickItem* parent = nullptr);
@@ -41,6 +43,8 @@ public:
     void setMaximumWidth(double width);
     [[nodiscard]] double unit() const { return unit_; }
     void setUnit(double unit);
+    [[nodiscard]] QColor shade() const { return shade_; }
+    void setShade(const QColor& shade);
 
     void paint(QPainter* painter) override;
 
@@ -49,12 +53,18 @@ Q_SIGNALS:
     void layoutChanged();
     void colorChanged();
 
+protected:
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
 private:
     void layOutAgain();
+    void drawLetters(QPainter& painter, const QColor& color) const;
+    [[nodiscard]] double screenPixel() const;
 
     QString text_;
     QFont font_;
     QColor color_ = Qt::black;
+    QColor shade_ = Qt::transparent;
     TabularOptions options_;
     double unit_ = 1;
     TabularLine line_;

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import Tidewatch.Shell
 import Tidewatch.Style
 
 /*! The floating clock. Draws at the theme's own size and fits itself into whatever size it is given. */
@@ -61,6 +62,7 @@ Item {
                 font: root.presenter.labelFont
                 color: root.presenter.secondaryText
                 maximumWidth: inside.pointsAcross
+                shade: root.presenter.textShade
                 unit: root.unit
             }
 
@@ -75,6 +77,7 @@ Item {
                     color: root.presenter.primaryText
                     equalDigits: root.presenter.digitsHaveEqualWidth
                     maximumWidth: inside.pointsAcross - (dot.visible ? 12 : 0)
+                    shade: root.presenter.textShade
                     unit: root.unit
                 }
 
@@ -86,7 +89,7 @@ Item {
                     visible: root.presenter.showsStatusDot
                     name: "circle.fill"
                     color: root.presenter.dotColor
-                    side: 6 * root.unit
+                    side: Math.max(2, 6 * root.unit)
                 }
             }
 
@@ -100,6 +103,7 @@ Item {
                 equalDigits: root.presenter.sessionDigitsHaveEqualWidth
                 wordGap: 6
                 maximumWidth: inside.pointsAcross
+                shade: root.presenter.textShade
                 unit: root.unit
             }
 

@@ -62,6 +62,11 @@ QColor ClockPresenter::secondaryText() const {
     return toQColor(active().secondaryText);
 }
 
+QColor ClockPresenter::textShade() const {
+    // White letters on moving pastels need something to stand out from.
+    return backgroundMoves() ? toQColor(Color::blackAt(0.3)) : QColor(Qt::transparent);
+}
+
 void ClockPresenter::setTranslucent(bool translucent) {
     change(translucent_, translucent, &ClockPresenter::translucentChanged);
 }

@@ -47,6 +47,7 @@ class ClockPresenter final : public QObject {
     Q_PROPERTY(bool sessionDigitsHaveEqualWidth READ sessionDigitsHaveEqualWidth NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor primaryText READ primaryText NOTIFY themeChanged FINAL)
     Q_PROPERTY(QColor secondaryText READ secondaryText NOTIFY themeChanged FINAL)
+    Q_PROPERTY(QColor textShade READ textShade NOTIFY themeChanged FINAL)
     Q_PROPERTY(bool showsLabel READ showsLabel NOTIFY themeChanged FINAL)
     Q_PROPERTY(bool showsStatusDot READ showsStatusDot NOTIFY themeChanged FINAL)
     Q_PROPERTY(bool showsDailyTotal READ showsDailyTotal NOTIFY themeChanged FINAL)
@@ -91,6 +92,7 @@ public:
     }
     [[nodiscard]] QColor primaryText() const;
     [[nodiscard]] QColor secondaryText() const;
+    [[nodiscard]] QColor textShade() const;
     [[nodiscard]] bool showsLabel() const { return active().label.has_value(); }
     [[nodiscard]] bool showsStatusDot() const { return active().showsStatusDot; }
     [[nodiscard]] bool showsDailyTotal() const { return active().showsDailyTotal; }

@@ -21,7 +21,7 @@ QString over(const Color& ground, const Color& colour) {
 QString menuStyleSheet(const DashboardStyle& style) {
     const auto shade = [&](const Color& colour) { return over(style.bg, colour); };
     return QStringLiteral(
-               "QMenu { background: %1; border: 1px solid %2; padding: 5px; font-size: 13px; }"
+               "QMenu { background: %1; border: 1px solid %2; padding: 5px; font: 13px Inter; }"
                "QMenu::item { color: %3; padding: 5px 22px 5px 26px; border-radius: 5px; margin: 0 1px; }"
                "QMenu::item:selected { background: %4; }"
                "QMenu::item:disabled { color: %5; background: transparent; }"

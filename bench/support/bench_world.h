@@ -1,0 +1,79 @@
+#pragma once
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include "bench/support/large_record.h"
+#include "core/app_usage_store.h"
+#include "core/clock_keys.h"
+#include "core/daily_store.h"
+#include "core/day_rule.h"
+#include "core/hourly_store.h"
+#include "core/idle_monitor.h"
+#include "core/minute_store.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
+#include "platform/fake/fake_clock.h"
+#include "platform/fake/fake_input_activity.h"
+#include "platform/fake/fake_log.h"
+#include "platform/fake/fake_main_loop.h"
+#include "platform/fake/fake_workspace.h"
+#include "platform/fake/memory_preferences.h"
+#include "platform/linux/posix_file_system.h"
+#include "tests/support/temporary_directory.h"
+
+namespace tidewatch::bench {
+
+/// Ends the benchmark: what it would measure after a failure is not what it is about.
+inline void giveUp(const std::string& complaint) {
+    std::fprintf(stderr, "%s\n", complaint.c_str());
+    std::exit(2);
+}
+
+/// A machine with a real disk, a scripted user and clock, and the ten-year record in its data directory.
+struct BenchWorld {
+    explicit BenchWorld(const LargeRecord& record) {
+        std::filesystem::create_directory(directory.path() + "/.tidewatch");
+        writeLargeRecord(record, directory.path() + "/.tidewatch");
+        workspace.setFrontmost(AppId("firefox-01"));
+    }
+
+    test::TemporaryDirectory directory;
+    platform::PosixFileSystem files{directory.path()};
+    platform::FakeClock clock{std::chrono::sys_days(std::chrono::January / 15 / 2026) +
+                              std::chrono::hours(9)};
+    platform::FakeMainLoop loop{clock};
+    platform::MemoryPreferences preferences;
+    platform::FakeInputActivity input;
+    platform::FakeWorkspace workspace;
+    platform::FakeLog log{giveUp};
+};
+
+/// The program's core as it runs in that world.
+struct BenchCore {
+    explicit BenchCore(BenchWorld& world)
+        : settings(world.preferences),
+          dayRule(world.clock, settings),
+          keys(world.clock, settings, dayRule),
+          idleMonitor(world.input),
+          daily(world.files, world.log, dayRule),
+          apps(world.files, world.log, world.workspace),
+          hours(world.files, world.log, world.workspace),
+          minutes(world.files, world.log, world.workspace),
+          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes}, {}) {}
+
+    Settings settings;
+    DayRule dayRule;
+    ClockKeys keys;
+    IdleMonitor idleMonitor;
+    DailyStore daily;
+    AppUsageStore apps;
+    HourlyStore hours;
+    MinuteStore minutes;
+    TimerEngine engine;
+};
+
+}  // namespace tidewatch::bench

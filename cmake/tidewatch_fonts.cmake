@@ -1,0 +1,27 @@
+# tidewatch_fonts(<program>)
+#
+# Puts the folder "Fonts" with the brand's typefaces beside the program, and into the package. They are fetched
+# once into the build tree, in the cuts that are in use, through npm where that is on the machine; where it is
+# not, or the network is not, the folder holds nothing and text falls to packaged look-alikes.
+function(tidewatch_fonts program)
+    set(folder ${CMAKE_BINARY_DIR}/resources/Fonts)
+    if(NOT TARGET tidewatch_fonts)
+        find_program(NPM_PROGRAM npm)
+        set(stamp ${CMAKE_BINARY_DIR}/resources/fonts.stamp)
+        set(script ${CMAKE_SOURCE_DIR}/cmake/fetch_fonts.cmake)
+        add_custom_command(
+            OUTPUT ${stamp}
+            COMMAND ${CMAKE_COMMAND} -D NPM=$<$<BOOL:${NPM_PROGRAM}>:${NPM_PROGRAM}> -D FOLDER=${folder}
+                -D WORK=${CMAKE_BINARY_DIR}/resources/fetch -P ${script}
+            COMMAND ${CMAKE_COMMAND} -E touch ${stamp}
+            DEPENDS ${script}
+            COMMENT "Fetching typefaces"
+            VERBATIM)
+        add_custom_target(tidewatch_fonts DEPENDS ${stamp})
+        install(DIRECTORY ${folder} DESTINATION share/tidewatch OPTIONAL)
+    endif()
+    add_dependencies(${program} tidewatch_fonts)
+    add_custom_command(TARGET ${program} POST_BUILD
+        COMMAND ${CMAKE_COMMAND} -E create_symlink ${folder} $<TARGET_FILE_DIR:${program}>/Fonts
+        VERBATIM)
+endfunction()

@@ -1,0 +1,70 @@
+#include "shell/application.h"
+
+#include <QIcon>
+#include <QQuickWindow>
+
+#include "core/data_directory.h"
+#include "platform/api/file_system.h"
+#include "platform/api/log.h"
+#include "platform/api/process_endings.h"
+#include "platform/api/running_instance.h"
+#include "shell/composition.h"
+#include "shell/icons/fathom_icons.h"
+
+namespace tidewatch {
+
+namespace {
+
+int& prepared(int& argumentCount) {
+    // Without a GPU the software scene graph needs half the memory and a third of the time.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QCoreApplication::setOrganizationName("brightlooms");
+    QCoreApplication::setApplicationName("tidewatch");
+    QGuiApplication::setApplicationDisplayName("Tidewatch");
+    QGuiApplication::setDesktopFileName("com.brightlooms.tidewatch");
+    return argumentCount;
+}
+
+QIcon programIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128})
+        icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
+    return icon;
+}
+
+}  // namespace
+
+Application::Application(int& argumentCount, char** arguments)
+    : toolkit_(prepared(argumentCount), arguments) {
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setWindowIcon(programIcon());
+}
+
+int Application::run(const platform::Platform& platform) {
+    const auto directory = dataDirectory(platform.files);
+    if (const auto made = platform.files.createDirectories(directory); !made) {
+        platform.log.warning("Tidewatch: " + made.error().message);
+    }
+    switch (platform.runningInstance.claim(directory)) {
+        case platform::InstanceClaim::first:
+            break;
+        case platform::InstanceClaim::handedOver:
+            return EXIT_SUCCESS;
+        case platform::InstanceClaim::denied:
+            platform.log.warning("Tidewatch: another instance holds " + directory + " and does not answer");
+            return EXIT_FAILURE;
+    }
+    Composition composition(platform, [] { QCoreApplication::quit(); });
+    auto& delegate = composition.delegate();
+    delegate.applicationDidFinishLaunching();
+    platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
+    platform.endings.onAsked([] { QCoreApplication::quit(); });
+    platform.endings.onSessionEnding([&] { delegate.flushAllStores(); });
+    platform.endings.onDisplayLost([&] { delegate.applicationWillTerminate(); });
+    const int code = QApplication::exec();
+    delegate.applicationWillTerminate();
+    platform.endings.onDisplayLost(nullptr);
+    return code;
+}
+
+}  // namespace tidewatch

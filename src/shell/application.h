@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QApplication>
+
+#include "platform/api/platform.h"
+
+namespace tidewatch {
+
+/// The program: the toolkit's application object, set up for a program that lives in the tray, and the way
+/// from start to end. One in a process.
+class Application final {
+public:
+    /// Sets the toolkit up; `argumentCount` and `arguments` must outlive this object.
+    Application(int& argumentCount, char** arguments);
+
+    /// Runs until the user, the session or a signal ends the program. Gives the exit code: 0 also when
+    /// another instance was running and was asked to come to the front.
+    [[nodiscard]] int run(const platform::Platform& platform);
+
+private:
+    QApplication toolkit_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,100 @@
+#include "shell/windows/qt_surfaces.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QQmlComponent>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+#include <stdexcept>
+
+#include "shell/style/fonts.h"
+#include "shell/style/style.h"
+#include "shell/windows/menu_style.h"
+#include "shell/windows/tray_status_item.h"
+
+namespace tidewatch {
+
+namespace {
+
+constexpr int hintMilliseconds = 9000;
+constexpr int hintWidth = 260;
+constexpr int hintGap = 8;
+
+QString text(const std::string& utf8) {
+    return QString::fromStdString(utf8);
+}
+
+}  // namespace
+
+QtSurfaces::QtSurfaces(platform::WindowManager& manager, ThemeController& theme, ClockPresenter& clock)
+    : manager_(manager), theme_(theme), clock_(clock) {}
+
+QtSurfaces::~QtSurfaces() = default;
+
+void QtSurfaces::registerFonts() {
+    tidewatch::registerFonts();
+}
+
+std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
+    QuickPanelWindow::Content content{
+        .item = makeClock(),
+        .cornerRadius =
+            [this](PanelSize panel) {
+                const auto& theme = theme_.active();
+                return theme.cornerRadius * panel.width / theme.size.width;
+            },
+        .setTranslucent = [this](bool translucent) { clock_.setTranslucent(translucent); },
+        .setOnScreen = [this](bool onScreen) { clock_.setOnScreen(onScreen); },
+    };
+    auto window = std::make_unique<QuickPanelWindow>(manager_, std::move(content), size);
+    panel_ = window.get();
+    return window;
+}
+
+std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
+    return std::make_unique<TrayStatusItem>(theme_);
+}
+
+std::unique_ptr<QQuickItem> QtSurfaces::makeClock() {
+    QQmlComponent component(&engine_);
+    component.setData("import Tidewatch.Shell\nContentView {}", QUrl());
+    if (!component.isReady()) throw std::runtime_error(component.errorString().toStdString());
+    // The engine knows the style module from the import on.
+    Style::of(engine_)->follow(theme_);
+    const QVariantMap properties{{"presenter", QVariant::fromValue(&clock_)}};
+    std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
+    auto* item = qobject_cast<QQuickItem*>(object.get());
+    if (item == nullptr) throw std::runtime_error(component.errorString().toStdString());
+    static_cast<void>(object.release());
+    return std::unique_ptr<QQuickItem>(item);
+}
+
+void QtSurfaces::showHint(const std::string& hint) {
+    auto* label = new QLabel(text(hint), nullptr, Qt::ToolTip);
+    label->setAttribute(Qt::WA_DeleteOnClose);
+    label->setWordWrap(true);
+    label->setFixedWidth(hintWidth);
+    label->setStyleSheet(hintStyleSheet(theme_.active().dashboard));
+    label->adjustSize();
+    if (panel_ && panel_->screen() != nullptr) {
+        const auto free = panel_->screen()->availableGeometry();
+        const auto below = panel_->geometry().bottomLeft() + QPoint(0, hintGap);
+        label->move(std::clamp(below.x(), free.left(), std::max(free.left(), free.right() - label->width())),
+                    std::min(below.y(), free.bottom() - label->height()));
+    }
+    label->show();
+    QTimer::singleShot(hintMilliseconds, label, &QWidget::close);
+}
+
+void QtSurfaces::warn(const std::string& title, const std::string& message) {
+    auto* box = new QMessageBox(QMessageBox::Warning, text(title), text(title), QMessageBox::Ok);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setInformativeText(text(message));
+    box->setModal(true);
+    box->show();
+    box->raise();
+    box->activateWindow();
+}
+
+}  // namespace tidewatch

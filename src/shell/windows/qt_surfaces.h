@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QPointer>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <memory>
+
+#include "platform/api/window_manager.h"
+#include "shell/surfaces.h"
+#include "shell/themes/theme_controller.h"
+#include "shell/views/clock_presenter.h"
+#include "shell/windows/quick_panel_window.h"
+
+namespace tidewatch {
+
+/// The surfaces on the toolkit, with the one QML engine of the program. Main thread only.
+class QtSurfaces final : public Surfaces, private Dialogs {
+public:
+    /// All arguments must outlive this object and what it makes.
+    QtSurfaces(platform::WindowManager& manager, ThemeController& theme, ClockPresenter& clock);
+    ~QtSurfaces() override;
+
+    void registerFonts() override;
+    [[nodiscard]] std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) override;
+    [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
+    [[nodiscard]] Dialogs& dialogs() override { return *this; }
+    void showHint(const std::string& text) override;
+
+private:
+    void warn(const std::string& title, const std::string& text) override;
+    [[nodiscard]] std::unique_ptr<QQuickItem> makeClock();
+
+    platform::WindowManager& manager_;
+    ThemeController& theme_;
+    ClockPresenter& clock_;
+    QQmlEngine engine_;
+    QPointer<QuickPanelWindow> panel_;
+};
+
+}  // namespace tidewatch

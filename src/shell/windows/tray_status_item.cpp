@@ -1,0 +1,62 @@
+#include "shell/windows/tray_status_item.h"
+
+#include <QCursor>
+#include <QIcon>
+#include <array>
+#include <utility>
+
+#include "shell/icons/status_image.h"
+#include "shell/windows/menu_view.h"
+
+namespace tidewatch {
+
+namespace {
+
+constexpr std::array iconSizes = {16, 22, 24, 32, 48, 64};
+
+}  // namespace
+
+TrayStatusItem::TrayStatusItem(const ThemeController& theme) : theme_(theme) {
+    makeIcon();
+}
+TrayStatusItem::~TrayStatusItem() = default;
+
+void TrayStatusItem::setTitle(const StatusTitle& title) {
+    const bool trayIsThere = QSystemTrayIcon::isSystemTrayAvailable();
+    const bool trayAppeared = trayIsThere && !std::exchange(trayWasThere_, trayIsThere);
+    trayWasThere_ = trayIsThere;
+    if (trayAppeared) makeIcon();
+    if (title_ == title && !trayAppeared) return;
+    title_ = title;
+    drawIcon();
+}
+
+bool TrayStatusItem::isShown() const {
+    return QSystemTrayIcon::isSystemTrayAvailable() && icon_->isVisible();
+}
+
+void TrayStatusItem::popUpMenu(const MenuRows& rows) {
+    if (menu_) menu_->close();
+    menu_ = new MenuView(rows, theme_.active().dashboard);
+    menu_->popup(QCursor::pos());
+}
+
+void TrayStatusItem::makeIcon() {
+    icon_ = std::make_unique<QSystemTrayIcon>();
+    QObject::connect(icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
+                     [this](QSystemTrayIcon::ActivationReason reason) {
+                         if (!clicked_) return;
+                         if (reason == QSystemTrayIcon::Trigger) clicked_(Click::left);
+                         if (reason == QSystemTrayIcon::Context) clicked_(Click::right);
+                     });
+}
+
+void TrayStatusItem::drawIcon() {
+    QIcon icon;
+    for (const int size : iconSizes) icon.addPixmap(QPixmap::fromImage(statusImage(size, *title_)));
+    icon_->setIcon(icon);
+    icon_->setToolTip(QString::fromStdString("Tidewatch · " + title_->text()));
+    icon_->show();
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QMenu>
+#include <QPointer>
+#include <QSystemTrayIcon>
+#include <memory>
+#include <optional>
+
+#include "shell/surfaces.h"
+#include "shell/themes/theme_controller.h"
+
+namespace tidewatch {
+
+/// The status item as an icon in the desktop's tray, with the figure drawn into it. Made again when a tray
+/// appears.
+class TrayStatusItem final : public StatusItem {
+public:
+    /// `theme` must outlive this object.
+    explicit TrayStatusItem(const ThemeController& theme);
+    ~TrayStatusItem() override;
+
+    void setTitle(const StatusTitle& title) override;
+    void onClick(std::function<void(Click)> clicked) override { clicked_ = std::move(clicked); }
+    [[nodiscard]] bool isShown() const override;
+    void popUpMenu(const MenuRows& rows) override;
+
+private:
+    void makeIcon();
+    void drawIcon();
+
+    const ThemeController& theme_;
+    std::function<void(Click)> clicked_;
+    std::optional<StatusTitle> title_;
+    bool trayWasThere_ = QSystemTrayIcon::isSystemTrayAvailable();
+    std::unique_ptr<QSystemTrayIcon> icon_;
+    QPointer<QMenu> menu_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,55 @@
+"""A user's home directory: the record and the settings that the program keeps there."""
+
+import configparser
+import datetime
+import json
+from pathlib import Path
+
+
+class Home:
+    def __init__(self, path):
+        self.path = Path(path)
+        self.path.mkdir(parents=True, exist_ok=True)
+        self.data = self.path / ".tidewatch"
+        self.settings_file = self.path / ".config/brightlooms/tidewatch.conf"
+        self.login_entry = self.path / ".config/autostart/com.brightlooms.tidewatch.desktop"
+
+    def write_settings(self, **values):
+        """Puts settings there before the program starts."""
+        lines = ["[General]", *(f"{key}={value}" for key, value in values.items())]
+        self.settings_file.parent.mkdir(parents=True, exist_ok=True)
+        self.settings_file.write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+    def settings(self):
+        """All settings as texts; {} without a file."""
+        parser = configparser.ConfigParser(interpolation=None)
+        parser.optionxform = str
+        parser.read(self.settings_file, encoding="utf-8")
+        return dict(parser["General"]) if parser.has_section("General") else {}
+
+    def setting(self, key):
+        return self.settings().get(key)
+
+    def read(self, name):
+        """The content of a counter file; {} without one. A file that is no JSON fails the test."""
+        path = self.data / name
+        return json.loads(path.read_text(encoding="utf-8")) if path.exists() else {}
+
+    def write(self, name, content):
+        self.data.mkdir(mode=0o700, exist_ok=True)
+        (self.data / name).write_text(content, encoding="utf-8")
+
+    def day_seconds(self):
+        """Seconds of all days together: a test may run over midnight."""
+        return sum(self.read("today.json").values())
+
+    def application_seconds(self, application):
+        return sum(day.get(application, 0) for day in self.read("apps.json").values())
+
+    def all_application_seconds(self):
+        return sum(sum(day.values()) for day in self.read("apps.json").values())
+
+
+def today():
+    """Today's key in the zone that the tests run in."""
+    return datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%d")

@@ -1,0 +1,97 @@
+"""The program's tray icon and its menu, worked as a user works them."""
+
+import time
+
+from harness.hands import LEFT, RIGHT
+from harness.screen import difference
+from harness.waiting import wait_until
+from harness.world import CLOCK_CLASS, CLOCK_TITLE
+
+# The rows that can be chosen, from the top.
+THEME, SIZE, IDLE, DAY_START, TOGGLE_VISIBLE, RESET, REVEAL, LOGIN_ITEM, QUIT = range(9)
+
+THEMES = ("ochre", "editorial", "minimal", "hacker", "liquid")
+SIZES = (0.1, 0.25, 0.5, 0.75, 1.0, 5.0)
+IDLE_SECONDS = (60, 180, 300, 600, 900, 1800)
+DAY_STARTS = (0, 4, 5, 6, 7, 8)
+
+
+class Menu:
+    def __init__(self, world):
+        self._world = world
+
+    def tray_icon(self):
+        """The icon's window inside the tray, None if there is none."""
+        tray = self._world.screen.window(window_class="trayer")
+        if tray is None:
+            return None
+        for window in self._world.screen.windows():
+            if window.window_class == CLOCK_CLASS and tray.frame.contains(*window.frame.centre):
+                return window
+        return None
+
+    def popups(self):
+        """The open menus' windows, the outermost first."""
+        icon = self.tray_icon()
+        return [
+            window
+            for window in self._world.screen.windows()
+            if window.window_class == CLOCK_CLASS
+            and window.unmanaged
+            and window.title != CLOCK_TITLE
+            and (icon is None or window.id != icon.id)
+            and window.frame.height > 30
+        ]
+
+    def open_from_tray(self, button=RIGHT):
+        icon = wait_until(self.tray_icon, "the tray icon")
+        self._world.hands.click(*icon.frame.centre, button)
+        return self._opened()
+
+    def open_from_clock(self):
+        clock = wait_until(self._world.clock, "the clock")
+        self._world.hands.click(*clock.frame.centre, RIGHT)
+        return self._opened()
+
+    def _opened(self):
+        popup = wait_until(self.popups, "the menu")[0]
+        time.sleep(0.3)
+        return popup
+
+    def close(self):
+        for _ in range(3):
+            if not self.popups():
+                return
+            self._world.hands.key("Escape")
+            time.sleep(0.2)
+        wait_until(lambda: not self.popups(), "the menu to close")
+
+    def choose(self, row, inner_row=None):
+        """Chooses a row of the open menu, or a row of its submenu, with the keyboard."""
+        hands = self._world.hands
+        hands.key(*["Down"] * (row + 1))
+        if inner_row is None:
+            hands.key("Return")
+        else:
+            before = len(self.popups())
+            hands.key("Right")
+            wait_until(lambda: len(self.popups()) > before, "the submenu")
+            if inner_row:
+                hands.key(*["Down"] * inner_row)
+            hands.key("Return")
+        wait_until(lambda: not self.popups(), "the menu to close")
+
+    def row_frame(self, popup, row):
+        """Where on the screen a row of the open menu lies: where the keyboard's choice lights up."""
+        plain = self._world.screen.grab(popup.frame)
+        self._world.hands.key(*["Down"] * (row + 1))
+        time.sleep(0.2)
+        lit = difference(plain, self._world.screen.grab(popup.frame))
+        if lit is None:
+            raise AssertionError(f"row {row} does not light up")
+        return popup.frame.x + lit.x + lit.width // 2, popup.frame.y + lit.y + lit.height // 2
+
+    def click_row(self, popup, row):
+        """Chooses a row of the open menu with the mouse."""
+        place = self.row_frame(popup, row)
+        self._world.hands.click(*place, LEFT)

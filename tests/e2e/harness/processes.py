@@ -1,0 +1,87 @@
+"""Child processes that never outlive their test."""
+
+import ctypes
+import os
+import signal
+import subprocess
+import time
+
+_libc = ctypes.CDLL(None, use_errno=True)
+_PR_SET_PDEATHSIG = 1
+
+
+def _die_with_parent():
+    _libc.prctl(_PR_SET_PDEATHSIG, signal.SIGKILL)
+
+
+class Process:
+    """One child in a session of its own; its words go to `log_path`."""
+
+    def __init__(self, arguments, env, log_path, pass_fds=()):
+        self.name = os.path.basename(str(arguments[0]))
+        self.log_path = log_path
+        self.started = time.monotonic()
+        with open(log_path, "ab") as log:
+            self._popen = subprocess.Popen(
+                [str(argument) for argument in arguments],
+                env=env,
+                stdin=subprocess.DEVNULL,
+                stdout=log,
+                stderr=log,
+                pass_fds=pass_fds,
+                start_new_session=True,
+                preexec_fn=_die_with_parent,
+            )
+
+    @property
+    def pid(self):
+        return self._popen.pid
+
+    def is_running(self):
+        return self._popen.poll() is None
+
+    def send(self, number):
+        self._popen.send_signal(number)
+
+    def wait(self, seconds=10.0):
+        """The exit status; a negative one is the signal that ended it."""
+        try:
+            return self._popen.wait(seconds)
+        except subprocess.TimeoutExpired:
+            raise AssertionError(f"{self.name} did not end within {seconds:g} s") from None
+
+    def end(self, seconds=10.0):
+        """Asks it to end, and makes it if it does not."""
+        if self.is_running():
+            self.send(signal.SIGTERM)
+            try:
+                self._popen.wait(seconds)
+            except subprocess.TimeoutExpired:
+                self.kill()
+
+    def kill(self):
+        if self.is_running():
+            self.send(signal.SIGKILL)
+        self._popen.wait(10)
+
+    def log(self):
+        with open(self.log_path, encoding="utf-8", errors="replace") as log:
+            return log.read()
+
+    def memory_kilobytes(self):
+        """Resident memory."""
+        with open(f"/proc/{self.pid}/status", encoding="ascii") as status:
+            for line in status:
+                if line.startswith("VmRSS:"):
+                    return int(line.split()[1])
+        raise AssertionError("no VmRSS")
+
+    def processor_seconds(self):
+        """Processor time so far, all threads."""
+        with open(f"/proc/{self.pid}/schedstat", encoding="ascii"):
+            pass
+        total = 0
+        for thread in os.listdir(f"/proc/{self.pid}/task"):
+            with open(f"/proc/{self.pid}/task/{thread}/schedstat", encoding="ascii") as schedule:
+                total += int(schedule.read().split()[0])
+        return total / 1e9

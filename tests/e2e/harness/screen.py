@@ -1,0 +1,172 @@
+"""What is on the screen: windows, their places and their pixels."""
+
+from dataclasses import dataclass
+
+from PIL import Image, ImageChops
+from Xlib import X, Xatom, display, error
+
+
+@dataclass(frozen=True)
+class Rectangle:
+    """In pixels of the screen."""
+
+    x: int
+    y: int
+    width: int
+    height: int
+
+    @property
+    def right(self):
+        return self.x + self.width
+
+    @property
+    def bottom(self):
+        return self.y + self.height
+
+    @property
+    def centre(self):
+        return self.x + self.width // 2, self.y + self.height // 2
+
+    def contains(self, x, y):
+        return self.x <= x < self.right and self.y <= y < self.bottom
+
+
+@dataclass(frozen=True)
+class Window:
+    """A mapped window as it was at the moment of asking."""
+
+    id: int
+    title: str
+    instance: str
+    window_class: str
+    unmanaged: bool
+    frame: Rectangle
+
+
+class Screen:
+    """A connection to the X server, for looking only."""
+
+    def __init__(self, name):
+        self._display = display.Display(name)
+        self._root = self._display.screen().root
+
+    def close(self):
+        try:
+            self._display.close()
+        except error.ConnectionClosedError:
+            pass  # the server went first
+
+    def windows(self):
+        """All mapped windows with a class, the lowest first; also those inside others."""
+        found = []
+        self._collect(self._root, found)
+        return found
+
+    def window(self, title=None, window_class=None):
+        """The topmost mapped window with that title and class, or None."""
+        for window in reversed(self.windows()):
+            if title is not None and window.title != title:
+                continue
+            if window_class is not None and window.window_class != window_class:
+                continue
+            return window
+        return None
+
+    def _collect(self, parent, found):
+        for child in parent.query_tree().children:
+            try:
+                if child.get_attributes().map_state != X.IsViewable:
+                    continue
+                described = self._describe(child)
+                if described:
+                    found.append(described)
+                self._collect(child, found)
+            except (error.BadWindow, error.BadDrawable):
+                continue  # gone since the tree was read
+
+    def _describe(self, window):
+        names = window.get_wm_class()
+        if not names:
+            return None
+        geometry = window.get_geometry()
+        place = self._root.translate_coords(window, 0, 0)
+        return Window(
+            window.id,
+            self._title(window),
+            names[0],
+            names[1],
+            bool(window.get_attributes().override_redirect),
+            Rectangle(place.x, place.y, geometry.width, geometry.height),
+        )
+
+    def _title(self, window):
+        name = window.get_full_property(self._display.intern_atom("_NET_WM_NAME"), X.AnyPropertyType)
+        if name is None:
+            name = window.get_full_property(Xatom.WM_NAME, X.AnyPropertyType)
+        if name is None:
+            return ""
+        return name.value.decode("utf-8", "replace") if isinstance(name.value, bytes) else str(name.value)
+
+    def property(self, window_id, name):
+        """The numbers of a window's property, or [] without one. A window of 0 is the root."""
+        window = self._display.create_resource_object("window", window_id) if window_id else self._root
+        value = window.get_full_property(self._display.intern_atom(name), X.AnyPropertyType)
+        return [] if value is None else list(value.value)
+
+    def states(self, window_id):
+        """The names in _NET_WM_STATE."""
+        return {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_STATE")}
+
+    def active_window(self):
+        """The identifier of the window that has the focus, 0 if none has."""
+        return next(iter(self.property(0, "_NET_ACTIVE_WINDOW")), 0)
+
+    def stacking(self):
+        """The managed windows' identifiers, the lowest first."""
+        return self.property(0, "_NET_CLIENT_LIST_STACKING")
+
+    def is_managed(self):
+        """Whether a window manager runs."""
+        return bool(self.property(0, "_NET_SUPPORTING_WM_CHECK"))
+
+    def selection_owner(self, name):
+        owner = self._display.get_selection_owner(self._display.intern_atom(name))
+        return owner if owner == X.NONE else owner.id
+
+    def select_desktop(self, number):
+        """Only for tests: asks the window manager, as a pager does."""
+        from Xlib.protocol import event
+
+        message = event.ClientMessage(
+            window=self._root,
+            client_type=self._display.intern_atom("_NET_CURRENT_DESKTOP"),
+            data=(32, [number, X.CurrentTime, 0, 0, 0]),
+        )
+        self._root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
+        self._display.flush()
+
+    def grab(self, area=None):
+        """A picture of the screen, or of `area`, as an RGB image."""
+        geometry = self._root.get_geometry()
+        whole = Rectangle(0, 0, geometry.width, geometry.height)
+        area = area or whole
+        left, top = max(area.x, 0), max(area.y, 0)
+        width, height = min(area.right, whole.right) - left, min(area.bottom, whole.bottom) - top
+        raw = self._root.get_image(left, top, width, height, X.ZPixmap, 0xFFFFFFFF)
+        return Image.frombuffer("RGB", (width, height), raw.data, "raw", "BGRX", 0, 1)
+
+    def pixel(self, x, y):
+        return self.grab(Rectangle(x, y, 1, 1)).getpixel((0, 0))
+
+
+def difference(before, after):
+    """The rectangle (in the pictures' own coordinates) outside of which both pictures agree, or None."""
+    box = ImageChops.difference(before, after).getbbox()
+    if box is None:
+        return None
+    return Rectangle(box[0], box[1], box[2] - box[0], box[3] - box[1])
+
+
+def distance(one, other):
+    """How far two colours are apart: the largest of the three channels' differences."""
+    return max(abs(a - b) for a, b in zip(one, other))

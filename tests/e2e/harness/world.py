@@ -1,0 +1,216 @@
+"""One private desktop: X server, session bus, window manager, tray, notification daemon, a home, the program."""
+
+import os
+import re
+import shutil
+import signal
+import socket
+import tempfile
+import time
+from pathlib import Path
+
+from harness.hands import Hands
+from harness.home import Home
+from harness.processes import Process
+from harness.screen import Screen
+from harness.waiting import wait_until
+
+WIDTH, HEIGHT = 1280, 800
+BACKGROUND = (0x2F, 0x48, 0x58)
+CLOCK_TITLE = "Tidewatch"
+CLOCK_CLASS = "tidewatch"
+
+PROGRAM = os.environ.get("TIDEWATCH_PROGRAM", "")
+ARTEFACTS = Path(os.environ.get("TIDEWATCH_E2E_ARTEFACTS", tempfile.gettempdir() + "/tidewatch-e2e"))
+
+
+class World:
+    """Everything in it ends with it. `name` names the folder of what it leaves behind: logs, screenshots, home.
+
+    The program's standard error must stay empty but for lines that match an `expected_warnings` pattern; the end of
+    the world checks that.
+    """
+
+    def __init__(self, name, tray=True, expected_warnings=()):
+        self.folder = ARTEFACTS / name
+        shutil.rmtree(self.folder, ignore_errors=True)
+        self.folder.mkdir(parents=True)
+        self.home = Home(self.folder / "home")
+        self.expected_warnings = list(expected_warnings)
+        self.programs = []
+        self._wants_tray = tray
+        self._processes = []
+        self._screen = None
+        # Sockets have short names only.
+        self._runtime = tempfile.mkdtemp(prefix="tw-")
+
+    def __enter__(self):
+        try:
+            self._start_server()
+            self._start_bus()
+            self.start("openbox", "--sm-disable")
+            wait_until(self.screen.is_managed, "the window manager")
+            self.start("dunst")
+            if self._wants_tray:
+                self.start_tray()
+        except BaseException:
+            self.__exit__(None, None, None)
+            raise
+        return self
+
+    def __exit__(self, kind, value, trace):
+        try:
+            if kind is not None:
+                self._keep_last_picture()
+        finally:
+            for process in reversed(self._processes[1:]):
+                process.end(5)
+            if self._screen:
+                self._screen.close()
+            if self._processes:
+                self.server.end(5)
+            shutil.rmtree(self._runtime, ignore_errors=True)
+        if kind is None:
+            self.check_log()
+
+    # The desktop
+
+    def _start_server(self):
+        read_end, write_end = os.pipe()
+        self.server = Process(
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"],
+            os.environ.copy(),
+            self.folder / "Xvfb.log",
+            pass_fds=(write_end,),
+        )
+        self._processes.append(self.server)
+        os.close(write_end)
+        with os.fdopen(read_end, encoding="ascii") as numbers:
+            number = numbers.readline().strip()
+        if not number:
+            raise AssertionError("the X server did not start: " + self.server.log())
+        self.display = ":" + number
+        self.env = self._environment()
+        self._screen = Screen(self.display)
+        self.hands = Hands(self.env)
+        self.hands._xdotool("mousemove", WIDTH // 2, HEIGHT // 2)
+        root_colour = Process(
+            ["xsetroot", "-solid", "#%02x%02x%02x" % BACKGROUND], self.env, self.folder / "xsetroot.log"
+        )
+        root_colour.wait()
+
+    def _environment(self):
+        """The variables of a plain session: nothing of the caller's own desktop, locale or home gets in."""
+        runtime = Path(self._runtime)
+        environment = {
+            "PATH": os.environ.get("PATH", "/usr/bin:/bin"),
+            "HOME": str(self.home.path),
+            "USER": os.environ.get("USER", "root"),
+            "LANG": "C.UTF-8",
+            "LC_ALL": "C.UTF-8",
+            "TZ": "UTC",
+            "DISPLAY": self.display,
+            "XDG_RUNTIME_DIR": str(runtime),
+            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={runtime}/bus",
+        }
+        for name in os.environ:
+            if name.endswith("SAN_OPTIONS"):
+                environment[name] = os.environ[name]
+        return environment
+
+    def _start_bus(self):
+        path = Path(self._runtime) / "bus"
+        self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={path}")
+
+        def answers():
+            with socket.socket(socket.AF_UNIX) as client:
+                return client.connect_ex(str(path)) == 0
+
+        wait_until(answers, "the session bus")
+
+    def start_tray(self):
+        tray = self.start(
+            "trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "24",
+            "--SetDockType", "true",
+        )
+        wait_until(lambda: self.screen.selection_owner("_NET_SYSTEM_TRAY_S0"), "the tray")
+        return tray
+
+    def start_compositor(self):
+        compositor = self.start("picom", "--backend", "xrender", "--no-fading-openclose", "--config", "/dev/null")
+        wait_until(lambda: self.screen.selection_owner("_NET_WM_CM_S0"), "the compositor")
+        return compositor
+
+    @property
+    def screen(self):
+        return self._screen
+
+    def start(self, *arguments):
+        """Starts any program on this desktop; it ends with it."""
+        name = os.path.basename(str(arguments[0]))
+        process = Process(arguments, self.env, self.folder / f"{name}.log")
+        self._processes.append(process)
+        return process
+
+    def open_terminal(self, window_class="WorkTerm"):
+        """A terminal that swallows what is typed; gives its window once it has the focus."""
+        self.start(
+            "xterm", "-class", window_class, "-name", window_class.lower(), "-geometry", "60x10+40+60",
+            "-e", "sh", "-c", "cat > /dev/null",
+        )
+        window = wait_until(lambda: self.screen.window(window_class=window_class), "the terminal")
+        self.hands.focus(window.id)
+        return window
+
+    # The program
+
+    def start_program(self, wait_for_clock=True):
+        """Starts another instance of the program, by default until its clock is on the screen."""
+        number = len(self.programs) + 1
+        process = Process([PROGRAM], self.env, self.folder / f"program-{number}.log")
+        self._processes.append(process)
+        self.programs.append(process)
+        if wait_for_clock:
+            wait_until(self.clock, "the clock on the screen")
+        return process
+
+    def stop_program(self, process, number=signal.SIGTERM):
+        """The orderly end by a signal; anything but a status of 0 fails."""
+        process.send(number)
+        status = process.wait(10)
+        if status != 0:
+            raise AssertionError(f"the program ended with {status}")
+
+    def clock(self):
+        """The clock's window, None while it is hidden."""
+        return self.screen.window(title=CLOCK_TITLE, window_class=CLOCK_CLASS)
+
+    def check_log(self):
+        """Fails on any line that a program wrote and the test did not announce."""
+        unexpected = [
+            line
+            for process in self.programs
+            for line in process.log().splitlines()
+            if line.strip() and not any(re.search(pattern, line) for pattern in self.expected_warnings)
+        ]
+        if unexpected:
+            raise AssertionError("the program wrote:\n" + "\n".join(unexpected))
+
+    # What is left behind
+
+    def screenshot(self, name, area=None):
+        picture = self.screen.grab(area)
+        picture.save(self.folder / f"{name}.png")
+        return picture
+
+    def _keep_last_picture(self):
+        if self._screen and self.server.is_running():
+            try:
+                self.screenshot("failure")
+            except Exception as failure:  # the first failure is the one to be told
+                print(f"no last screenshot: {failure}")
+
+
+def sleep_until(moment):
+    """`moment` on the monotonic clock."""
+    time.sleep(max(0.0, moment - time.monotonic()))

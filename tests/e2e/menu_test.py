@@ -1,0 +1,212 @@
+"""The menu opens by real clicks, and its commands take effect."""
+
+import time
+import unittest
+from contextlib import contextmanager
+
+from harness import menu as rows
+from harness.hands import LEFT, RIGHT
+from harness.home import today
+from harness.menu import Menu
+from harness.screen import difference
+from harness.waiting import stays, wait_until
+from harness.world import World, sleep_until
+
+
+@contextmanager
+def running(name, **settings):
+    """A desktop with the program in it, and its menu's handle."""
+    with World(f"menu-{name}") as world:
+        settings.setdefault("sizeScale", 1.0)
+        world.home.write_settings(**settings)
+        world.program = world.start_program()
+        yield world, Menu(world)
+
+
+def wait_for_setting(world, key, value):
+    wait_until(lambda: world.home.setting(key) == value, f"{key}={value}, not {world.home.settings()}")
+
+
+class Opening(unittest.TestCase):
+    def test_a_right_click_on_the_tray_icon_opens_it(self):
+        with running("right-click") as (world, menu):
+            menu.open_from_tray(RIGHT)
+            world.screenshot("menu")
+            menu.close()
+
+    def test_a_left_click_on_the_tray_icon_opens_it(self):
+        with running("left-click") as (world, menu):
+            menu.open_from_tray(LEFT)
+            menu.close()
+
+    def test_a_right_click_on_the_clock_opens_it(self):
+        with running("clock-click") as (world, menu):
+            menu.open_from_clock()
+            menu.close()
+
+    def test_it_opens_again_and_leaves_the_focus_where_it_was(self):
+        with running("twice") as (world, menu):
+            terminal = world.open_terminal()
+            for _ in range(3):
+                menu.open_from_tray()
+                menu.close()
+            self.assertEqual(world.screen.active_window(), terminal.id)
+            before = world.screen.grab(terminal.frame)
+            world.hands.type("still here")
+            wait_until(lambda: difference(before, world.screen.grab(terminal.frame)), "the terminal to take keys")
+
+    def test_the_clock_counts_on_while_it_is_open(self):
+        with running("counting", activeThemeID="minimal") as (world, menu):
+            menu.open_from_tray()
+            before = world.screen.grab(world.clock().frame)
+            wait_until(lambda: difference(before, world.screen.grab(world.clock().frame)), "the clock to count", 3)
+            sleep_until(world.program.started + 7)
+            menu.close()
+            world.stop_program(world.program)
+            self.assertAlmostEqual(world.home.day_seconds(), time.monotonic() - world.program.started, delta=2)
+
+
+class Choices(unittest.TestCase):
+    def test_every_theme_takes_effect(self):
+        with running("themes") as (world, menu):
+            for index, theme in list(enumerate(rows.THEMES))[1:] + [(0, rows.THEMES[0])]:
+                before = world.screen.grab(world.clock().frame)
+                menu.open_from_tray()
+                if theme == rows.THEMES[1]:
+                    self.picture_submenu(world, menu)
+                menu.choose(rows.THEME, index)
+                wait_for_setting(world, "activeThemeID", theme)
+                wait_until(lambda: difference(before, world.screen.grab(world.clock().frame)), f"the theme {theme}")
+
+    @staticmethod
+    def picture_submenu(world, menu):
+        world.hands.key("Down", "Right")
+        wait_until(lambda: len(menu.popups()) == 2, "the submenu")
+        time.sleep(0.2)
+        world.screenshot("submenu")
+        menu.close()
+        menu.open_from_tray()
+
+    def test_a_size_makes_the_clock_grow_about_its_top_left_corner(self):
+        with running("size", sizeScale=0.5, windowOriginX=300, windowOriginY=200) as (world, menu):
+            self.assertEqual((world.clock().frame.width, world.clock().frame.height), (110, 62))
+            menu.open_from_tray()
+            menu.choose(rows.SIZE, rows.SIZES.index(1.0))
+            wait_for_setting(world, "sizeScale", "1")
+            wait_until(lambda: world.clock().frame.width == 220, "the clock at its new size")
+            stays(lambda: world.clock().frame.width == 220, "the new size", 0.5)
+            frame = world.clock().frame
+            self.assertEqual((frame.x, frame.y, frame.height), (300, 200, 124))
+
+    def test_the_smallest_and_the_largest_size_work(self):
+        with running("extremes", windowOriginX=10, windowOriginY=10) as (world, menu):
+            menu.open_from_tray()
+            menu.choose(rows.SIZE, rows.SIZES.index(5.0))
+            wait_until(lambda: world.clock().frame.width == 1100, "the largest clock")
+            world.screenshot("largest")
+            menu.open_from_tray()
+            menu.choose(rows.SIZE, rows.SIZES.index(0.1))
+            wait_until(lambda: world.clock().frame.width == 22, "the smallest clock")
+
+    def test_an_idleness_threshold_is_stored(self):
+        with running("idle") as (world, menu):
+            menu.open_from_tray()
+            menu.choose(rows.IDLE, rows.IDLE_SECONDS.index(600))
+            wait_for_setting(world, "idleThresholdSeconds", "600")
+
+    def test_a_start_of_the_day_moves_the_running_day(self):
+        with running("day-start") as (world, menu):
+            world.stop_program(world.program)
+            self.assertEqual(list(world.home.read("today.json")), [today()])
+            world.program = world.start_program()
+            menu.open_from_tray()
+            menu.choose(rows.DAY_START, rows.DAY_STARTS.index(8))
+            wait_for_setting(world, "dayStartHour", "8")
+            time.sleep(2.2)
+            world.stop_program(world.program)
+            days = world.home.read("today.json")
+            expected = 2 if time.gmtime().tm_hour < 8 else 1
+            self.assertEqual(len(days), expected, days)
+
+    def test_a_row_takes_a_click_of_the_mouse(self):
+        with running("mouse") as (world, menu):
+            popup = menu.open_from_tray()
+            menu.click_row(popup, rows.TOGGLE_VISIBLE)
+            wait_until(lambda: world.clock() is None, "the clock to hide")
+
+
+class Commands(unittest.TestCase):
+    def test_the_clock_hides_and_shows(self):
+        with running("visible", windowOriginX=400, windowOriginY=300) as (world, menu):
+            place = world.clock().frame
+            menu.open_from_tray()
+            menu.choose(rows.TOGGLE_VISIBLE)
+            wait_until(lambda: world.clock() is None, "the clock to hide")
+            wait_for_setting(world, "windowVisible", "false")
+            menu.open_from_tray()
+            menu.choose(rows.TOGGLE_VISIBLE)
+            wait_until(world.clock, "the clock to show")
+            wait_for_setting(world, "windowVisible", "true")
+            self.assertEqual(world.clock().frame, place)
+
+    def test_hidden_it_counts_and_stays_hidden_over_a_restart(self):
+        with running("hidden") as (world, menu):
+            menu.open_from_tray()
+            menu.choose(rows.TOGGLE_VISIBLE)
+            wait_until(lambda: world.clock() is None, "the clock to hide")
+            sleep_until(world.program.started + 5)
+            world.stop_program(world.program)
+            self.assertAlmostEqual(world.home.day_seconds(), 5, delta=2)
+            world.start_program(wait_for_clock=False)
+            wait_until(menu.tray_icon, "the tray icon")
+            stays(lambda: world.clock() is None, "the hidden clock", 1)
+
+    def test_a_reset_empties_the_day_at_once_and_nothing_else(self):
+        with running("reset") as (world, menu):
+            world.open_terminal("WorkTerm")
+            sleep_until(world.program.started + 6)
+            menu.open_from_tray()
+            menu.choose(rows.RESET)
+            wait_until(lambda: world.home.read("today.json") == {today(): 0}, "the day at 0 on disk", 2)
+            world.stop_program(world.program)
+            self.assertLessEqual(world.home.day_seconds(), 2)
+            self.assertGreaterEqual(world.home.application_seconds("WorkTerm"), 3)
+
+    def test_the_data_file_is_written_and_shown_in_the_file_manager(self):
+        with running("reveal") as (world, menu):
+            monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
+            time.sleep(0.5)
+            menu.open_from_tray()
+            menu.choose(rows.REVEAL)
+            wait_until(lambda: f"file://{world.home.data}/today.json" in monitor.log(), "the file manager to be asked")
+            self.assertGreaterEqual(world.home.day_seconds(), 1)
+
+    def test_start_at_login_writes_an_entry_that_starts_this_program_and_takes_it_back(self):
+        with running("login") as (world, menu):
+            menu.open_from_tray()
+            menu.choose(rows.LOGIN_ITEM)
+            wait_until(world.home.login_entry.exists, "the entry")
+            entry = world.home.login_entry.read_text(encoding="utf-8")
+            self.assertIn('Exec="', entry)
+            self.assertIn("/tidewatch\"", entry)
+            menu.open_from_tray()
+            menu.choose(rows.LOGIN_ITEM)
+            wait_until(lambda: not world.home.login_entry.exists(), "the entry to go")
+
+    def test_quit_writes_the_day_and_ends_with_0(self):
+        with running("quit") as (world, menu):
+            sleep_until(world.program.started + 3)
+            menu.open_from_tray()
+            menu.choose(rows.QUIT)
+            self.assertEqual(world.program.wait(), 0)
+            self.assertAlmostEqual(world.home.day_seconds(), time.monotonic() - world.program.started, delta=2)
+
+    def test_a_key_equivalent_works_in_the_open_menu(self):
+        with running("key") as (world, menu):
+            menu.open_from_tray()
+            world.hands.key("ctrl+q")
+            self.assertEqual(world.program.wait(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()

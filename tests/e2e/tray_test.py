@@ -1,0 +1,56 @@
+"""Desktops without a tray, and with one that comes and goes."""
+
+import unittest
+
+from harness.menu import QUIT, Menu
+from harness.waiting import stays, wait_until
+from harness.world import World, sleep_until
+
+
+class Tray(unittest.TestCase):
+    def test_without_one_the_menu_opens_on_the_clock_and_the_program_says_so_once(self):
+        with World("tray-none", tray=False) as world:
+            world.home.write_settings(sizeScale=1.0)
+            program = world.start_program()
+            before = {window.id for window in world.screen.windows()}
+
+            def hint():
+                return [window for window in world.screen.windows() if window.id not in before]
+
+            wait_until(hint, "the hint", 20)
+            world.screenshot("hint")
+            wait_until(lambda: not hint(), "the hint to go", 30)
+            menu = Menu(world)
+            menu.open_from_clock()
+            menu.choose(QUIT)
+            self.assertEqual(program.wait(), 0)
+
+    def test_one_that_comes_later_takes_the_icon(self):
+        with World("tray-later", tray=False) as world:
+            program = world.start_program()
+            menu = Menu(world)
+            sleep_until(program.started + 2)
+            tray = world.start_tray()
+            wait_until(menu.tray_icon, "the icon")
+            tray.end()
+            wait_until(lambda: menu.tray_icon() is None, "the tray to go")
+            world.start_tray()
+            wait_until(menu.tray_icon, "the icon in the new tray")
+            menu.open_from_tray()
+            menu.close()
+
+    def test_the_icon_is_drawn_and_stands_still_while_its_figure_does(self):
+        with World("tray-icon") as world:
+            world.start_program()
+            icon = wait_until(Menu(world).tray_icon, "the icon")
+
+            def colours():
+                return len(world.screen.grab(icon.frame).getcolors(100000))
+
+            wait_until(lambda: colours() > 3, "something drawn")
+            world.screenshot("icon", icon.frame)
+            stays(lambda: colours() > 3, "the icon")
+
+
+if __name__ == "__main__":
+    unittest.main()
