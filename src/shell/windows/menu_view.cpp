@@ -1,6 +1,9 @@
 #include "shell/windows/menu_view.h"
 
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPixmap>
 
 #include "shell/windows/menu_style.h"
 
@@ -16,6 +19,19 @@ QKeySequence shortcut(char keyEquivalent) {
 /// A title as the menu wants it: an ampersand that is meant is written twice.
 QString title(const std::string& text) {
     return QString::fromStdString(text).replace('&', "&&");
+}
+
+/// A round dot of one colour.
+QIcon swatch(const RgbColor& color) {
+    constexpr int side = 48;
+    QPixmap dot(side, side);
+    dot.fill(Qt::transparent);
+    QPainter painter(&dot);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(color.red, color.green, color.blue));
+    painter.drawEllipse(QRectF(dot.rect()).adjusted(side / 6.0, side / 6.0, -side / 6.0, -side / 6.0));
+    return dot;
 }
 
 void addRow(QMenu& menu, const MenuRow& row, const QString& style);
@@ -40,6 +56,7 @@ void addRow(QMenu& menu, const MenuRow& row, const QString& style) {
         addRows(*submenu, row.children, style);
         action = submenu->menuAction();
     }
+    if (row.swatch) action->setIcon(swatch(*row.swatch));
     action->setEnabled(row.isEnabled());
     action->setCheckable(row.checked);
     action->setChecked(row.checked);
