@@ -9,6 +9,7 @@
 #include "platform/linux/locked_running_instance.h"
 #include "platform/linux/posix_file_system.h"
 #include "platform/linux/stderr_log.h"
+#include "platform/linux/system_randomness.h"
 #include "platform/linux/x11_input_activity.h"
 #include "platform/linux/x11_window_manager.h"
 #include "platform/qt/qt_clock.h"
@@ -47,8 +48,9 @@ struct NativePlatform::Parts {
                                  QCoreApplication::applicationFilePath().toStdString()};
     LockedRunningInstance runningInstance{log};
     LinuxProcessEndings endings;
-    Platform all{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
-                 workspace, screens, windowManager, loginItem, runningInstance, endings};
+    SystemRandomness randomness;
+    Platform all{log,     clock,         mainLoop,  files,           preferences, inputActivity, workspace,
+                 screens, windowManager, loginItem, runningInstance, endings,     randomness};
 };
 
 NativePlatform::NativePlatform() : parts_(std::make_unique<Parts>()) {}

@@ -34,7 +34,11 @@ ShellWorld::Program::Program(const platform::Platform& platform, Surfaces& surfa
       idleMonitor(platform.inputActivity),
       days(platform.files, platform.log, dayRule),
       apps(platform.files, platform.log, platform.workspace),
-      engine(platform.clock, platform.mainLoop, settings, idleMonitor, days, apps, TickListeners{}),
+      keys(platform.clock, settings, dayRule),
+      hours(platform.files, platform.log, platform.workspace),
+      minutes(platform.files, platform.log, platform.workspace),
+      engine(platform.clock, platform.mainLoop, settings, idleMonitor, keys, {days, apps, hours, minutes},
+             TickListeners{}),
       theme(themes, settings, broadcaster),
       delegate({
           .platform = platform,

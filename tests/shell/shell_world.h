@@ -8,9 +8,12 @@
 
 #include "core/app_usage_store.h"
 #include "core/broadcaster.h"
+#include "core/clock_keys.h"
 #include "core/daily_store.h"
 #include "core/day_rule.h"
+#include "core/hourly_store.h"
 #include "core/idle_monitor.h"
+#include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
 #include "platform/fake/fake_machine.h"
@@ -155,6 +158,9 @@ struct ShellWorld::Program {
     IdleMonitor idleMonitor;
     DailyStore days;
     AppUsageStore apps;
+    ClockKeys keys;
+    HourlyStore hours;
+    MinuteStore minutes;
     TimerEngine engine;
     ThemeRegistry themes;
     ThemeController theme;

@@ -10,6 +10,7 @@ class LoginItem;
 class MainLoop;
 class Preferences;
 class ProcessEndings;
+class Randomness;
 class RunningInstance;
 class Screens;
 class WindowManager;
@@ -30,6 +31,7 @@ struct Platform {
     LoginItem& loginItem;
     RunningInstance& runningInstance;
     ProcessEndings& endings;
+    Randomness& randomness;
 };
 
 }  // namespace tidewatch::platform

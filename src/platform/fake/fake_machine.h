@@ -11,6 +11,7 @@
 #include "platform/fake/fake_login_item.h"
 #include "platform/fake/fake_main_loop.h"
 #include "platform/fake/fake_process_endings.h"
+#include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
 #include "platform/fake/fake_window_manager.h"
@@ -38,9 +39,11 @@ struct FakeMachine {
     FakeLoginItem loginItem;
     FakeRunningInstance runningInstance;
     FakeProcessEndings endings;
+    FakeRandomness randomness;
 
     Platform platform{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
-                      workspace, screens, windowManager, loginItem, runningInstance, endings};
+                      workspace, screens, windowManager, loginItem, runningInstance, endings,
+                      randomness};
 };
 
 }  // namespace tidewatch::platform
