@@ -4,9 +4,12 @@
 
 #include "core/app_usage_store.h"
 #include "core/broadcaster.h"
+#include "core/clock_keys.h"
 #include "core/daily_store.h"
 #include "core/day_rule.h"
+#include "core/hourly_store.h"
 #include "core/idle_monitor.h"
+#include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
 #include "platform/api/platform.h"
@@ -33,6 +36,9 @@ private:
     IdleMonitor idleMonitor_;
     DailyStore days_;
     AppUsageStore apps_;
+    ClockKeys keys_;
+    HourlyStore hours_;
+    MinuteStore minutes_;
     TimerEngine engine_;
     ThemeRegistry themes_;
     ThemeController theme_;

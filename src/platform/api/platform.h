@@ -10,6 +10,7 @@ class LoginItem;
 class MainLoop;
 class Preferences;
 class ProcessEndings;
+class Randomness;
 class RunningInstance;
 class Screens;
 class UserNotifications;
@@ -31,6 +32,7 @@ struct Platform {
     LoginItem& loginItem;
     RunningInstance& runningInstance;
     ProcessEndings& endings;
+    Randomness& randomness;
     UserNotifications& notifications;
 };
 

@@ -3,10 +3,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFontDatabase>
-#include <QGuiApplication>
-#include <QScreen>
 #include <QStringList>
-#include <cmath>
+#include <algorithm>
 
 #include "shell/themes/fathom.h"
 
@@ -77,18 +75,6 @@ QFont::StyleHint styleHint(FontRole role) {
     }
 }
 
-/// The toolkit takes whole pixels only; fractions have to go through points.
-void setPixelSize(QFont& font, double pixels) {
-    if (pixels == std::floor(pixels)) {
-        font.setPixelSize(static_cast<int>(pixels));
-        return;
-    }
-    constexpr double pointsPerInch = 72;
-    const auto* screen = QGuiApplication::primaryScreen();
-    const double pixelsPerInch = screen != nullptr ? std::round(screen->logicalDotsPerInchY()) : 96;
-    font.setPointSizeF(pixels * pointsPerInch / pixelsPerInch);
-}
-
 }  // namespace
 
 QString fontsFolder() {
@@ -117,7 +103,7 @@ QFont toQFont(const FontSpec& spec) {
     font.setWeight(toQtWeight(spec.weight));
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
-    setPixelSize(font, spec.size);
+    font.setPixelSize(std::max(1, qRound(spec.size)));
     return font;
 }
 

@@ -16,8 +16,9 @@ int registerFonts(const QString& folder);
 /// Where the program's own fonts lie: beside the program, or where an installation puts its data.
 [[nodiscard]] QString fontsFolder();
 
-/// The font on this machine, with the families to fall back on, at `size` pixels; unhinted, so that it
-/// looks and measures the same at every scale.
+/// The font on this machine, with the families to fall back on; unhinted, so that it looks and measures the
+/// same at every scale. The toolkit has whole pixels only: a fraction is rounded, and is to be had by drawing
+/// a larger font smaller.
 [[nodiscard]] QFont toQFont(const FontSpec& spec);
 
 /// The brand's monospaced font in the cuts that the brand uses (light, medium and semibold; every other

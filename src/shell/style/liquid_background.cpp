@@ -17,7 +17,9 @@ constexpr double greatestWidth = 160;
 }  // namespace
 
 LiquidBackground::LiquidBackground(QQuickItem* parent)
-    : QQuickPaintedItem(parent), ticker_([this] { update(); }) {}
+    : QQuickPaintedItem(parent), ticker_([this] { update(); }) {
+    watch(window());
+}
 
 LiquidBackground::~LiquidBackground() = default;
 
@@ -86,13 +88,15 @@ void LiquidBackground::geometryChange(const QRectF& to, const QRectF& from) {
 }
 
 void LiquidBackground::itemChange(ItemChange change, const ItemChangeData& data) {
-    if (change == ItemSceneChange) {
-        if (window_) window_->removeEventFilter(this);
-        window_ = data.window;
-        if (window_) window_->installEventFilter(this);
-    }
+    if (change == ItemSceneChange) watch(data.window);
     QQuickPaintedItem::itemChange(change, data);
     if (change == ItemSceneChange || change == ItemVisibleHasChanged) updateMoving();
+}
+
+void LiquidBackground::watch(QQuickWindow* window) {
+    if (window_) window_->removeEventFilter(this);
+    window_ = window;
+    if (window_) window_->installEventFilter(this);
 }
 
 bool LiquidBackground::eventFilter(QObject* watched, QEvent* event) {

@@ -68,6 +68,7 @@ protected:
 private:
     template <class Value>
     void change(Value& value, Value to);
+    void watch(QQuickWindow* window);
     void updateMoving();
     [[nodiscard]] QSize paintedSize() const;
 

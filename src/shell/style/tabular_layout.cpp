@@ -10,6 +10,10 @@ namespace {
 /// A colon is a third as wide as its cell in a monospaced font; this leaves it some air.
 constexpr double closeColon = 0.55;
 
+/// Narrower digits, in pixels of the screen, would be changed too much by whole pixels, and cannot be read
+/// anyway.
+constexpr double leastWholeCell = 4;
+
 enum class Colons { asInFont, close };
 enum class Cells { exact, nearestPixel, lowerPixel };
 
@@ -33,8 +37,10 @@ public:
           colons_(colons),
           cells_(cells),
           pixel_(options.screenPixel / shrink),
-          spacing_(font.letterSpacing()),
-          digitCell_(cell(widestDigit(metrics_))) {
+          spacing_(font.letterSpacing()) {
+        const double widest = widestDigit(metrics_);
+        if (widest < leastWholeCell * pixel_) cells_ = Cells::exact;
+        digitCell_ = cell(widest);
         line_.shrink = shrink;
     }
 
@@ -85,7 +91,7 @@ private:
     Cells cells_;
     double pixel_;
     double spacing_;
-    double digitCell_;
+    double digitCell_ = 0;
     double x_ = 0;
     QString run_;
     TabularLine line_;

@@ -54,7 +54,7 @@ public:
 class ClockScene : public ClockWorld {
 public:
     explicit ClockScene(std::function<void(const std::string&)> complain);
-    ~ClockScene();
+    virtual ~ClockScene();
 
     /// Makes the view anew, `scale` times the theme's size, in a window larger by `margin` pixels on each
     /// side.
