@@ -216,7 +216,11 @@ private:
         auto& clock = world_.clock;
         switch (move.kind) {
             case Kind::work:
-                for (auto i = move.amount; i > 0 && !testing::Test::HasFailure(); --i) workSecond();
+                for (auto second = 1; second <= move.amount; ++second) {
+                    if (workSecond()) continue;
+                    ADD_FAILURE() << "at second " << second;
+                    return;
+                }
                 break;
             case Kind::idle:
                 clock.advance(std::chrono::seconds(move.amount));
@@ -256,7 +260,8 @@ private:
         }
     }
 
-    void workSecond() {
+    /// False if anything went other than it should. Plain comparisons: there are hundreds of thousands.
+    bool workSecond() {
         world_.clock.advance(1s);
         const auto today = dayRule_.today().text();
         if (today != day_) {
@@ -273,15 +278,15 @@ private:
         gateModel_.second(world_.clock.now());
         if (hadLock && !gate_->lockedUntil()) ++seen_.locksEnded;
         const bool earned = gate_->isReady() && !wasReady;
-        EXPECT_EQ(gateMessages_.shown.size(), shownByGate + (earned ? 1 : 0));
+        const bool toldRightly = gateMessages_.shown.size() == shownByGate + (earned ? 1 : 0);
 
         const bool stood = reminder_->alertActive();
         reminder_->tickActiveSecond(Seconds(totalToday_));
         reminderModel_.second(today, totalToday_);
-        EXPECT_TRUE(reminder_->alertActive() || !stood) << "an alert went by itself";
-        EXPECT_EQ(reminder_->sittingSeconds(), Seconds(reminderModel_.sitting));
-        EXPECT_EQ(reminder_->alertActive(), reminderModel_.alert);
-        EXPECT_EQ(gate_->workSeconds(), Seconds(gateModel_.work));
+        const bool alertKept = reminder_->alertActive() || !stood;
+        return toldRightly && alertKept && reminder_->sittingSeconds() == Seconds(reminderModel_.sitting) &&
+               reminder_->alertActive() == reminderModel_.alert &&
+               gate_->workSeconds() == Seconds(gateModel_.work);
     }
 
     void startPlay() {
@@ -365,7 +370,7 @@ private:
 std::vector<std::uint64_t> seeds() {
     if (const char* seed = std::getenv("TIDEWATCH_SEED")) return {std::strtoull(seed, nullptr, 10)};
     std::vector<std::uint64_t> result;
-    for (std::uint64_t seed = 1; seed <= (std::getenv("TIDEWATCH_LONG") ? 1000u : 20u); ++seed) {
+    for (std::uint64_t seed = 1; seed <= (std::getenv("TIDEWATCH_LONG") ? 1000u : 10u); ++seed) {
         result.push_back(seed);
     }
     return result;
