@@ -41,7 +41,6 @@ struct FakeMachine {
     FakeRunningInstance runningInstance;
     FakeProcessEndings endings;
     FakeRandomness randomness;
-
     FakeUserNotifications notifications;
 
     Platform platform{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
