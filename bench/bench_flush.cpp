@@ -43,15 +43,24 @@ int main() {
 
     std::vector<Milliseconds> ours;
     std::vector<Milliseconds> bare;
-    for (int round = 0; round < 31; ++round) {
+    const auto flush = [&] {
         ours.push_back(timed([&] {
             core.daily.flush();
             core.apps.flush();
         }));
+    };
+    const auto flushBare = [&] {
         bare.push_back(timed([&] {
             replaceBare(world.directory.path() + "/peer-today.json", today);
             replaceBare(world.directory.path() + "/peer-apps.json", apps);
         }));
+    };
+    // Interleaved and in turns, so that a disk that is busy for a while is so for both.
+    for (int round = 0; round < 25; ++round) {
+        flush();
+        flushBare();
+        flushBare();
+        flush();
     }
 
     Verdicts verdicts;

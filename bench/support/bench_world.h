@@ -8,9 +8,12 @@
 
 #include "bench/support/large_record.h"
 #include "core/app_usage_store.h"
+#include "core/clock_keys.h"
 #include "core/daily_store.h"
 #include "core/day_rule.h"
+#include "core/hourly_store.h"
 #include "core/idle_monitor.h"
+#include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
 #include "platform/fake/fake_clock.h"
@@ -54,16 +57,22 @@ struct BenchCore {
     explicit BenchCore(BenchWorld& world)
         : settings(world.preferences),
           dayRule(world.clock, settings),
+          keys(world.clock, settings, dayRule),
           idleMonitor(world.input),
           daily(world.files, world.log, dayRule),
           apps(world.files, world.log, world.workspace),
-          engine(world.clock, world.loop, settings, idleMonitor, daily, apps, {}) {}
+          hours(world.files, world.log, world.workspace),
+          minutes(world.files, world.log, world.workspace),
+          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes}, {}) {}
 
     Settings settings;
     DayRule dayRule;
+    ClockKeys keys;
     IdleMonitor idleMonitor;
     DailyStore daily;
     AppUsageStore apps;
+    HourlyStore hours;
+    MinuteStore minutes;
     TimerEngine engine;
 };
 

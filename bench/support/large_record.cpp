@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/clock_keys.h"
 #include "core/counter_json.h"
 
 namespace tidewatch::bench {
@@ -17,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int bucketSeconds = 600;
+constexpr auto bucketSeconds = static_cast<int>(bucketSize.count());
 
 std::string dateText(std::chrono::sys_days day) {
     const std::chrono::year_month_day date(day);
@@ -62,16 +63,27 @@ private:
             int left = bucketSeconds;
             for (int i = 0; i < several; ++i) {
                 const int share = i + 1 == several ? left : between(0, left / 2);
-                if (share > 0) book(day, names_[favourite()], share);
+                if (share > 0) book(day, bucket, names_[favourite()], share);
                 left -= share;
             }
         }
     }
 
     // The one place that knows which files a second of work reaches.
-    void book(std::string_view day, std::string_view app, int seconds) {
-        record_.today.add(std::array{day}, Seconds(seconds));
-        record_.apps.add(std::array{day, app}, Seconds(seconds));
+    void book(const std::string& dayText, int bucket, std::string_view app, int count) {
+        constexpr int firstBucket = 9 * bucketsAnHour;
+        const int hour = (firstBucket + bucket) / bucketsAnHour;
+        const int minute = (firstBucket + bucket) % bucketsAnHour * minutesABucket;
+        const DayKey day(dayText);
+        const auto hourText = hourKey(day, hour).text();
+        const auto bucketText = bucketKey(day, {hour, minute}).text();
+        const auto project = projectId(bucket * size_.projects / size_.bucketsPerDay).text();
+        const Seconds seconds(count);
+        record_.today.add(std::array<std::string_view, 1>{dayText}, seconds);
+        record_.apps.add(std::array<std::string_view, 2>{dayText, app}, seconds);
+        record_.hours.add(std::array<std::string_view, 2>{hourText, app}, seconds);
+        record_.minutes.add(std::array<std::string_view, 2>{bucketText, app}, seconds);
+        record_.projectTime.add(std::array<std::string_view, 3>{dayText, project, app}, seconds);
     }
 
     // Some applications are used all day long, most of them rarely.
@@ -103,9 +115,16 @@ LargeRecord makeLargeRecord(const RecordSize& size) {
     return Maker(size).make();
 }
 
+Uuid projectId(int project) {
+    return Uuid::random(0x5EED, static_cast<std::uint64_t>(project));
+}
+
 void writeLargeRecord(const LargeRecord& record, const std::string& directory) {
     writeFile(directory + "/today.json", record.today);
     writeFile(directory + "/apps.json", record.apps);
+    writeFile(directory + "/hours.json", record.hours);
+    writeFile(directory + "/minutes.json", record.minutes);
+    writeFile(directory + "/project_time.json", record.projectTime);
 }
 
 }  // namespace tidewatch::bench

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/named_string.h"
+#include "base/uuid.h"
 #include "core/counter_record.h"
 
 namespace tidewatch::bench {
@@ -16,6 +17,7 @@ struct RecordSize {
     int applications = 40;
     int fewestPerBucket = 3;  ///< applications in one bucket
     int mostPerBucket = 6;
+    int projects = 2;  ///< one after the other, half a day each
     std::uint32_t seed = 20260115;
 };
 
@@ -23,11 +25,17 @@ struct RecordSize {
 struct LargeRecord {
     CounterRecord today{1};
     CounterRecord apps{2};
+    CounterRecord hours{2};
+    CounterRecord minutes{2};
+    CounterRecord projectTime{3};
     DayKey firstDay;
     DayKey lastDay;
 };
 
 [[nodiscard]] LargeRecord makeLargeRecord(const RecordSize& size);
+
+/// The projects that a record's seconds are booked to, as many as RecordSize asks for.
+[[nodiscard]] Uuid projectId(int project);
 
 /// Writes the record's files into the directory, which exists.
 void writeLargeRecord(const LargeRecord& record, const std::string& directory);

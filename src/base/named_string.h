@@ -30,6 +30,12 @@ using AppId = NamedString<struct AppIdTag>;
 /// Names a logical day, "yyyy-MM-dd"; sorts as dates do.
 using DayKey = NamedString<struct DayKeyTag>;
 
+/// Names a clock hour of a logical day, "yyyy-MM-dd HH".
+using HourKey = NamedString<struct HourKeyTag>;
+
+/// Names ten minutes of a clock hour of a logical day, "yyyy-MM-dd HH:mm", the minutes a multiple of ten.
+using BucketKey = NamedString<struct BucketKeyTag>;
+
 }  // namespace tidewatch
 
 template <class Tag>

@@ -5,19 +5,13 @@
 #include <vector>
 
 #include "base/named_string.h"
-#include "base/seconds.h"
+#include "core/app_seconds.h"
 #include "core/store_frame.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/workspace.h"
 
 namespace tidewatch {
-
-struct AppSeconds {
-    AppId app;
-    Seconds seconds;
-    bool operator==(const AppSeconds&) const = default;
-};
 
 /// Seconds booked per logical day and application ("apps.json"). Safe from any thread, but for
 /// incrementCurrentApp, which asks the workspace and is for the main thread.

@@ -32,7 +32,7 @@ public:
 
     void append(std::int64_t value) { narrow_.push_back(cellFor(value)); }
 
-    void shrinkToFit() { narrow_.shrink_to_fit(); }
+    void trim() { trimGently(narrow_); }
 
 private:
     static constexpr std::uint32_t wideMark = 0x8000'0000;

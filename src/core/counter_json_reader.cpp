@@ -1,22 +1,22 @@
 #include <simdjson.h>
 
 #include <cmath>
-#include <string_view>
+#include <string>
+#include <utility>
 
 #include "core/counter_json.h"
+#include "core/json_document.h"
 
 namespace tidewatch {
 namespace {
 
 namespace json = simdjson::dom;
 
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
 std::optional<std::int64_t> wholeNumber(json::element value) {
     std::int64_t integer = 0;
     if (value.get_int64().get(integer) == simdjson::SUCCESS) return integer;
     double real = 0;
-    if (!value.is_double() || value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
+    if (value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
     constexpr double limit = 0x1p63;
     if (std::trunc(real) != real || real < -limit || real >= limit) return std::nullopt;
     return static_cast<std::int64_t>(real);
@@ -41,15 +41,9 @@ bool readObject(json::object object, std::size_t level, CounterRecord& record) {
 }  // namespace
 
 std::optional<CounterRecord> readCounters(std::string text, std::size_t depth) {
-    text.reserve(text.size() + simdjson::SIMDJSON_PADDING);
-    const auto skipped = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
-    constexpr bool copyForPadding = false;
-    json::parser parser;
+    const auto document = JsonDocument::parse(std::move(text));
     json::object top;
-    if (parser.parse(text.data() + skipped, text.size() - skipped, copyForPadding).get_object().get(top) !=
-        simdjson::SUCCESS) {
-        return std::nullopt;
-    }
+    if (!document || document->root().get_object().get(top) != simdjson::SUCCESS) return std::nullopt;
     CounterRecord record(depth);
     if (!readObject(top, 0, record)) return std::nullopt;
     record.settle();

@@ -1,5 +1,3 @@
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <charconv>
 #include <cstring>
@@ -7,50 +5,10 @@
 #include <vector>
 
 #include "core/counter_json.h"
+#include "core/json_writer.h"
 
 namespace tidewatch {
 namespace {
-
-bool mustBeEscaped(char c) {
-    return c == '"' || c == '\\' || c == '/' || static_cast<unsigned char>(c) < 0x20;
-}
-
-void appendEscaped(std::string& out, std::string_view text) {
-    for (const char c : text) {
-        switch (c) {
-            case '"':
-                out += "\\\"";
-                break;
-            case '\\':
-                out += "\\\\";
-                break;
-            case '/':
-                out += "\\/";
-                break;
-            case '\b':
-                out += "\\b";
-                break;
-            case '\f':
-                out += "\\f";
-                break;
-            case '\n':
-                out += "\\n";
-                break;
-            case '\r':
-                out += "\\r";
-                break;
-            case '\t':
-                out += "\\t";
-                break;
-            default:
-                if (mustBeEscaped(c)) {
-                    fmt::format_to(std::back_inserter(out), "\\u{:04x}", static_cast<unsigned>(c));
-                } else {
-                    out += c;
-                }
-        }
-    }
-}
 
 // Finds out how long a text becomes, so that its memory is asked for once and filled without looking back.
 class Measure final {
@@ -111,7 +69,7 @@ public:
 private:
     static std::string quoted(std::string_view key) {
         std::string result = "\"";
-        appendEscaped(result, key);
+        appendJsonEscaped(result, key);
         return result + '"';
     }
 
@@ -141,7 +99,7 @@ private:
         }
         sink.text(std::string_view(indents_[0]).substr(skipped));
         const auto key = record_.text(0, node);
-        if (std::ranges::any_of(key, mustBeEscaped)) {
+        if (std::ranges::any_of(key, mustBeEscapedInJson)) {
             sink.text(quoted(key));
         } else {
             sink.text("\"");

@@ -61,11 +61,11 @@ void CounterRecord::settle() {
         *this = std::move(ordered);
     }
     for (auto& level : levels_) {
-        level.texts.shrink_to_fit();
-        level.firstChildren.shrink_to_fit();
+        trimGently(level.texts);
+        trimGently(level.firstChildren);
     }
-    counters_.shrinkToFit();
-    keys_.shrinkToFit();
+    counters_.trim();
+    keys_.trim();
 }
 
 CounterRecord::Place CounterRecord::search(std::size_t level, Range siblings, std::string_view wanted) const {

@@ -12,7 +12,11 @@ namespace tidewatch {
 class NameTable final {
 public:
     NameTable() = default;
+    NameTable(const NameTable& other) {
+        for (const auto& name : other.names_) intern(name);
+    }
     NameTable(NameTable&&) = default;
+    NameTable& operator=(const NameTable& other) { return *this = NameTable(other); }
     NameTable& operator=(NameTable&&) = default;
 
     std::uint32_t intern(std::string_view name) {

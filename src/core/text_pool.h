@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/gentle_growth.h"
+
 namespace tidewatch {
 
 /// Many short texts in one block of memory, numbered from 0 in the order in which they were added.
@@ -22,9 +24,9 @@ public:
         return {bytes_.data() + begin, ends_[id] - begin};
     }
 
-    void shrinkToFit() {
-        bytes_.shrink_to_fit();
-        ends_.shrink_to_fit();
+    void trim() {
+        trimGently(bytes_);
+        trimGently(ends_);
     }
 
 private:

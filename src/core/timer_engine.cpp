@@ -15,19 +15,19 @@ constexpr int ticksBetweenFlushes = 30;
 }  // namespace
 
 TimerEngine::TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
-                         const IdleMonitor& idleMonitor, DailyStore& daily, AppUsageStore& apps,
+                         const IdleMonitor& idleMonitor, const ClockKeys& keys, CounterStores stores,
                          TickListeners listeners)
     : clock_(clock),
       mainLoop_(mainLoop),
       settings_(settings),
       idleMonitor_(idleMonitor),
-      daily_(daily),
-      apps_(apps),
+      keys_(keys),
+      stores_(stores),
       listeners_(listeners),
       games_(std::string(gamesApplicationId)),
-      currentDay_(daily.dayKey(clock.now())),
+      currentDay_(stores.daily.dayKey(clock.now())),
       alive_(std::make_shared<TimerEngine*>(this)) {
-    todaySeconds_ = daily_.seconds(currentDay_);
+    todaySeconds_ = stores_.daily.seconds(currentDay_);
 }
 
 void TimerEngine::start() {
@@ -50,14 +50,14 @@ void TimerEngine::resetToday() {
     todaySeconds_ = Seconds();
     liveSeconds_ = Seconds();
     writeDay();
-    daily_.flush();
+    stores_.daily.flush();
     changed.emit();
 }
 
 void TimerEngine::tick() {
     const auto before = std::tuple(liveSeconds_, todaySeconds_, status_);
 
-    if (const auto day = daily_.dayKey(clock_.now()); day != currentDay_) moveToDay(day);
+    if (const auto day = stores_.daily.dayKey(clock_.now()); day != currentDay_) moveToDay(day);
 
     const bool idle =
         idleMonitor_.secondsSinceLastInput() >= static_cast<double>(settings_.idleThresholdSeconds());
@@ -81,9 +81,9 @@ void TimerEngine::tick() {
 // The new day's counter is reloaded, not zeroed: it may be a day that already has time.
 void TimerEngine::moveToDay(const DayKey& day) {
     writeDay();
-    daily_.flush();
+    stores_.daily.flush();
     currentDay_ = day;
-    todaySeconds_ = daily_.seconds(day);
+    todaySeconds_ = stores_.daily.seconds(day);
     liveSeconds_ = Seconds();
 }
 
@@ -94,22 +94,38 @@ void TimerEngine::bookSecond() {
     status_ = Status::active;
     writeDay();
     if (listeners_.gameGate && listeners_.gameGate->playingNow()) {
-        apps_.incrementApp(games_, currentDay_);
+        bookToGames();
     } else {
-        apps_.incrementCurrentApp(currentDay_);
+        bookToCurrentApp();
     }
     if (listeners_.gameGate) listeners_.gameGate->tickWorkSecond();
     if (listeners_.breakReminder) listeners_.breakReminder->tickActiveSecond(todaySeconds_);
     if (listeners_.projectTime) listeners_.projectTime->bookSecond(currentDay_);
 }
 
+// Hours and buckets are named after the moment of their booking, not after the day that the engine counts
+// for.
+void TimerEngine::bookToGames() {
+    stores_.apps.incrementApp(games_, currentDay_);
+    stores_.hours.incrementApp(games_, keys_.hourKey(clock_.now()));
+    stores_.minutes.incrementApp(games_, keys_.bucketKey(clock_.now()));
+}
+
+void TimerEngine::bookToCurrentApp() {
+    stores_.apps.incrementCurrentApp(currentDay_);
+    stores_.hours.incrementCurrentApp(keys_.hourKey(clock_.now()));
+    stores_.minutes.incrementCurrentApp(keys_.bucketKey(clock_.now()));
+}
+
 void TimerEngine::writeDay() {
-    daily_.set(todaySeconds_, currentDay_);
+    stores_.daily.set(todaySeconds_, currentDay_);
 }
 
 void TimerEngine::flushStores() {
-    daily_.flush();
-    apps_.flush();
+    stores_.daily.flush();
+    stores_.apps.flush();
+    stores_.hours.flush();
+    stores_.minutes.flush();
     if (listeners_.projectTime) listeners_.projectTime->flush();
 }
 

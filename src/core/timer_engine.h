@@ -6,14 +6,25 @@
 #include "base/seconds.h"
 #include "base/signal.h"
 #include "core/app_usage_store.h"
+#include "core/clock_keys.h"
 #include "core/daily_store.h"
+#include "core/hourly_store.h"
 #include "core/idle_monitor.h"
+#include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/tick_listeners.h"
 #include "platform/api/clock.h"
 #include "platform/api/main_loop.h"
 
 namespace tidewatch {
+
+/// The counters that each second of work is booked to, in this order.
+struct CounterStores {
+    DailyStore& daily;
+    AppUsageStore& apps;
+    HourlyStore& hours;
+    MinuteStore& minutes;
+};
 
 /// Decides once a second whether the user is at the machine and, if so, books exactly one second to every
 /// counter. Main thread only.
@@ -28,7 +39,7 @@ public:
     /// Takes up the total that the daily store holds for the present day. Does not start ticking.
     /// All that is given, null listeners apart, must outlive the engine.
     TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
-                const IdleMonitor& idleMonitor, DailyStore& daily, AppUsageStore& apps,
+                const IdleMonitor& idleMonitor, const ClockKeys& keys, CounterStores stores,
                 TickListeners listeners);
     TimerEngine(const TimerEngine&) = delete;
     TimerEngine& operator=(const TimerEngine&) = delete;
@@ -59,6 +70,8 @@ private:
     void tick();
     void moveToDay(const DayKey& day);
     void bookSecond();
+    void bookToGames();
+    void bookToCurrentApp();
     void writeDay();
     void flushStores();
 
@@ -66,8 +79,8 @@ private:
     platform::MainLoop& mainLoop_;
     const Settings& settings_;
     const IdleMonitor& idleMonitor_;
-    DailyStore& daily_;
-    AppUsageStore& apps_;
+    const ClockKeys& keys_;
+    const CounterStores stores_;
     const TickListeners listeners_;
     const AppId games_;
 

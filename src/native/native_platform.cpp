@@ -4,11 +4,13 @@
 #include <QStandardPaths>
 
 #include "platform/linux/autostart_login_item.h"
+#include "platform/linux/desktop_notifications.h"
 #include "platform/linux/desktop_workspace.h"
 #include "platform/linux/linux_process_endings.h"
 #include "platform/linux/locked_running_instance.h"
 #include "platform/linux/posix_file_system.h"
 #include "platform/linux/stderr_log.h"
+#include "platform/linux/system_randomness.h"
 #include "platform/linux/x11_input_activity.h"
 #include "platform/linux/x11_window_manager.h"
 #include "platform/qt/qt_clock.h"
@@ -47,8 +49,11 @@ struct NativePlatform::Parts {
                                  QCoreApplication::applicationFilePath().toStdString()};
     LockedRunningInstance runningInstance{log};
     LinuxProcessEndings endings;
-    Platform all{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
-                 workspace, screens, windowManager, loginItem, runningInstance, endings};
+    SystemRandomness randomness;
+    DesktopNotifications notifications{QDBusConnection::sessionBus(), log};
+    Platform all{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
+                 workspace,  screens,      windowManager, loginItem, runningInstance, endings,
+                 randomness, notifications};
 };
 
 NativePlatform::NativePlatform() : parts_(std::make_unique<Parts>()) {}

@@ -5,22 +5,13 @@
 namespace tidewatch {
 
 Composition::Composition(const platform::Platform& platform, std::function<void()> terminate)
-    : settings_(platform.preferences),
-      dayRule_(platform.clock, settings_),
-      idleMonitor_(platform.inputActivity),
-      days_(platform.files, platform.log, dayRule_),
-      apps_(platform.files, platform.log, platform.workspace),
-      engine_(platform.clock, platform.mainLoop, settings_, idleMonitor_, days_, apps_, TickListeners{}),
-      theme_(themes_, settings_, broadcaster_),
-      clock_(engine_, theme_, platform.clock, [] { return 0; }),
+    : services_(platform),
+      theme_(themes_, services_.settings, services_.broadcaster),
+      clock_(services_.engine, theme_, platform.clock, [this] { return services_.rewards.starsToday(); }),
       surfaces_(platform.windowManager, theme_, clock_),
       delegate_({
           .platform = platform,
-          .broadcaster = broadcaster_,
-          .settings = settings_,
-          .days = days_,
-          .apps = apps_,
-          .engine = engine_,
+          .services = services_,
           .themes = themes_,
           .theme = theme_,
           .surfaces = surfaces_,

@@ -21,8 +21,16 @@ constexpr auto goodToday = "{\n  \"2026-01-14\" : 20013,\n  \"2026-01-15\" : 184
 constexpr auto goodApps =
     "{\n  \"2026-01-14\" : {\n    \"org\\/caf\u00E9\" : 20013\n  },\n"
     "  \"2026-01-15\" : {\n    \"firefox\" : 1800,\n    \"xterm\" : 40\n  }\n}";
+constexpr auto goodHours =
+    "{\n  \"2026-01-14 23\" : {\n    \"org\\/caf\u00E9\" : 3600\n  },\n"
+    "  \"2026-01-15 09\" : {\n    \"firefox\" : 1800,\n    \"xterm\" : 40\n  }\n}";
+constexpr auto goodMinutes =
+    "{\n  \"2026-01-14 23:50\" : {\n    \"org\\/caf\u00E9\" : 600\n  },\n"
+    "  \"2026-01-15 09:00\" : {\n    \"firefox\" : 180,\n    \"xterm\" : 40\n  }\n}";
 constexpr auto dailyFailed = "Tidewatch: failed to flush daily store: ";
 constexpr auto appsFailed = "Tidewatch: failed to flush app usage store: ";
+constexpr auto hoursFailed = "Tidewatch: failed to flush hourly store: ";
+constexpr auto minutesFailed = "Tidewatch: failed to flush minute store: ";
 
 struct FaultTest : testing::Test {
     test::FakeWorld world;
@@ -63,6 +71,27 @@ TEST_F(FaultTest, AFailureAtTheSecondWriteOfAFlushLosesNothing) {
     expectOnDisk(60, 60);
 }
 
+TEST_F(FaultTest, AFailureAtTheThirdWriteOfAFlushLosesNothing) {
+    start();
+    world.files.failWrite(3);
+    world.log.expectWarning(hoursFailed);
+    tick(30);
+    EXPECT_EQ(world.files.content(world.hoursJson), std::nullopt);
+    tick(30);
+    EXPECT_EQ(world.files.content(world.hoursJson), "{\n  \"2026-01-15 09\" : {\n    \"xterm\" : 60\n  }\n}");
+}
+
+TEST_F(FaultTest, AFailureAtTheFourthWriteOfAFlushLosesNothing) {
+    start();
+    world.files.failWrite(4);
+    world.log.expectWarning(minutesFailed);
+    tick(30);
+    EXPECT_EQ(world.files.content(world.minutesJson), std::nullopt);
+    tick(30);
+    EXPECT_EQ(world.files.content(world.minutesJson),
+              "{\n  \"2026-01-15 09:00\" : {\n    \"xterm\" : 60\n  }\n}");
+}
+
 TEST_F(FaultTest, AFailureKeepsWhatAnEarlierFlushWrote) {
     start();
     tick(30);
@@ -98,6 +127,8 @@ TEST_F(FaultTest, AFullDiskCostsALogLineAFlushAndMemoryKeepsTheTruth) {
     for (int flush = 0; flush < 3; ++flush) {
         world.log.expectWarning(std::string(dailyFailed) + "write: No space left on device");
         world.log.expectWarning(std::string(appsFailed) + "write: No space left on device");
+        world.log.expectWarning(std::string(hoursFailed) + "write: No space left on device");
+        world.log.expectWarning(std::string(minutesFailed) + "write: No space left on device");
     }
     tick(90);
     EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(90));
@@ -112,6 +143,8 @@ TEST_F(FaultTest, ADirectoryThatCannotBeMadeShowsUpOnlyInTheFlushes) {
     EXPECT_THAT(world.log.warnings(), IsEmpty());
     world.log.expectWarning(dailyFailed);
     world.log.expectWarning(appsFailed);
+    world.log.expectWarning(hoursFailed);
+    world.log.expectWarning(minutesFailed);
     tick(30);
     EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(30));
     EXPECT_THAT(rooms->apps.aggregate(std::vector{today}),
@@ -140,14 +173,54 @@ TEST_F(FaultTest, EveryTruncationOfAppsIsReadAsNoDataAndReplaced) {
     }
 }
 
+TEST_F(FaultTest, EveryTruncationOfHoursIsReadAsNoDataAndReplaced) {
+    for (std::size_t length = 0; length < std::string(goodHours).size(); ++length) {
+        world.files.put(world.hoursJson, goodHours);
+        world.files.truncate(world.hoursJson, length);
+        start();
+        EXPECT_EQ(rooms->hours.snapshot().keyCount(), 0u) << length;
+        rooms->engine.stop();
+        EXPECT_EQ(world.files.content(world.hoursJson), "{\n\n}") << length;
+    }
+}
+
+TEST_F(FaultTest, EveryTruncationOfMinutesIsReadAsNoDataAndReplaced) {
+    for (std::size_t length = 0; length < std::string(goodMinutes).size(); ++length) {
+        world.files.put(world.minutesJson, goodMinutes);
+        world.files.truncate(world.minutesJson, length);
+        start();
+        EXPECT_EQ(rooms->minutes.snapshot().keyCount(), 0u) << length;
+        rooms->engine.stop();
+        EXPECT_EQ(world.files.content(world.minutesJson), "{\n\n}") << length;
+    }
+}
+
+TEST_F(FaultTest, GarbledHoursAndMinutesAreReadAsNoDataAndReplaced) {
+    for (const auto* garbage : {"[]", "null", "7", "\"text\"", "{\"2026-01-15 09\" : 3}",
+                                "{\"a\" : {\"b\" : {}}}", "{\"a\" : {\"b\" : \"3\"}}", "{} {}", "\xFF"}) {
+        world.files.put(world.hoursJson, garbage);
+        world.files.put(world.minutesJson, garbage);
+        start();
+        EXPECT_EQ(rooms->hours.snapshot().keyCount(), 0u) << garbage;
+        EXPECT_EQ(rooms->minutes.snapshot().keyCount(), 0u) << garbage;
+        rooms->engine.stop();
+        EXPECT_EQ(world.files.content(world.hoursJson), "{\n\n}") << garbage;
+        EXPECT_EQ(world.files.content(world.minutesJson), "{\n\n}") << garbage;
+    }
+}
+
 TEST_F(FaultTest, WholeFilesAreReadAndWrittenBackByteForByte) {
     world.files.put(world.todayJson, goodToday);
     world.files.put(world.appsJson, goodApps);
+    world.files.put(world.hoursJson, goodHours);
+    world.files.put(world.minutesJson, goodMinutes);
     start();
     EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(1840));
     rooms->engine.stop();
     EXPECT_EQ(world.files.content(world.todayJson), goodToday);
     EXPECT_EQ(world.files.content(world.appsJson), goodApps);
+    EXPECT_EQ(world.files.content(world.hoursJson), goodHours);
+    EXPECT_EQ(world.files.content(world.minutesJson), goodMinutes);
 }
 
 TEST_F(FaultTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile) {

@@ -15,6 +15,7 @@ namespace {
 using namespace std::chrono;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 using Status = TimerEngine::Status;
@@ -43,6 +44,8 @@ struct Listeners final : GameGateListener, BreakListener, ProjectTimeListener {
 struct TimerEngineTest : testing::Test {
     test::FakeWorld world;
     std::optional<test::CoreRooms> rooms;
+    const std::vector<std::string> allFiles{world.todayJson, world.appsJson, world.hoursJson,
+                                            world.minutesJson};
 
     TimerEngine& start(TickListeners listeners = {}) {
         rooms.emplace(world, listeners);
@@ -55,6 +58,12 @@ struct TimerEngineTest : testing::Test {
     [[nodiscard]] Seconds stored(const DayKey& day) const { return rooms->daily.seconds(day); }
     [[nodiscard]] std::vector<AppSeconds> apps(const DayKey& day) const {
         return rooms->apps.aggregate(std::vector{day});
+    }
+    [[nodiscard]] std::vector<AppSeconds> hour(const char* key) const {
+        return rooms->hours.entries(HourKey(key));
+    }
+    [[nodiscard]] std::vector<AppSeconds> bucket(const char* key) const {
+        return rooms->minutes.entries(BucketKey(key));
     }
     [[nodiscard]] std::string onDisk(const std::string& path) const {
         return world.files.content(path).value_or("no file");
@@ -83,6 +92,49 @@ TEST_F(TimerEngineTest, AnActiveSecondIsBookedOnceToEveryCounter) {
     EXPECT_EQ(engine.status(), Status::active);
     EXPECT_EQ(stored(today), Seconds(1));
     EXPECT_THAT(apps(today), ElementsAre(AppSeconds{AppId("xterm"), Seconds(1)}));
+    EXPECT_THAT(hour("2026-01-15 09"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(1)}));
+    EXPECT_THAT(bucket("2026-01-15 09:00"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(1)}));
+}
+
+TEST_F(TimerEngineTest, HoursAndBucketsAreNamedAfterTheMoment) {
+    world.putAppInFront("xterm");
+    setTimeOfDay(9h + 59min + 57s);
+    start();
+    tick(5);
+    EXPECT_EQ(rooms->hours.seconds(HourKey("2026-01-15 09")), Seconds(2));
+    EXPECT_EQ(rooms->hours.seconds(HourKey("2026-01-15 10")), Seconds(3));
+    EXPECT_THAT(bucket("2026-01-15 09:50"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(2)}));
+    EXPECT_THAT(bucket("2026-01-15 10:00"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(3)}));
+}
+
+TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
+    struct Restless final : platform::Workspace {
+        mutable int looks = 0;
+        [[nodiscard]] std::optional<AppId> frontmostApplication() const override {
+            return AppId("app" + std::to_string(looks++));
+        }
+        [[nodiscard]] std::optional<platform::ApplicationInfo> applicationInfo(const AppId&) const override {
+            return std::nullopt;
+        }
+        Outcome reveal(const std::string&) override { return success(); }
+    } workspace;
+    Settings settings(world.preferences);
+    const DayRule dayRule(world.clock, settings);
+    const ClockKeys keys(world.clock, settings, dayRule);
+    const IdleMonitor idleMonitor(world.inputActivity);
+    DailyStore daily(world.files, world.log, dayRule);
+    AppUsageStore appsStore(world.files, world.log, workspace);
+    HourlyStore hours(world.files, world.log, workspace);
+    MinuteStore minutes(world.files, world.log, workspace);
+    TimerEngine engine(world.clock, world.mainLoop, settings, idleMonitor, keys,
+                       {daily, appsStore, hours, minutes}, {});
+    engine.start();
+    tick();
+    EXPECT_EQ(workspace.looks, 3);
+    EXPECT_THAT(appsStore.aggregate(std::vector{today}), ElementsAre(AppSeconds{AppId("app0"), Seconds(1)}));
+    EXPECT_THAT(hours.entries(HourKey("2026-01-15 09")), ElementsAre(AppSeconds{AppId("app1"), Seconds(1)}));
+    EXPECT_THAT(minutes.entries(BucketKey("2026-01-15 09:00")),
+                ElementsAre(AppSeconds{AppId("app2"), Seconds(1)}));
 }
 
 TEST_F(TimerEngineTest, TheListenersAreToldInTheOrderOfTheTick) {
@@ -246,6 +298,8 @@ TEST_F(TimerEngineTest, ASessionEndsAtTheFirstActiveTickAfterAnIdleOne) {
 TEST_F(TimerEngineTest, ResetTodayRestartsTheClockAndLeavesTheApplications) {
     world.files.put(world.todayJson, R"({"2026-01-15":10000})");
     world.files.put(world.appsJson, R"({"2026-01-15":{"xterm":9000}})");
+    world.files.put(world.hoursJson, R"({"2026-01-15 09":{"xterm":9000}})");
+    world.files.put(world.minutesJson, R"({"2026-01-15 09:00":{"xterm":9000}})");
     world.putAppInFront("xterm");
     auto& engine = start();
     const auto writes = world.files.writes().size();
@@ -257,6 +311,8 @@ TEST_F(TimerEngineTest, ResetTodayRestartsTheClockAndLeavesTheApplications) {
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
     EXPECT_THAT(apps(today), ElementsAre(AppSeconds{AppId("xterm"), Seconds(9001)}));
+    EXPECT_THAT(hour("2026-01-15 09"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(9001)}));
+    EXPECT_THAT(bucket("2026-01-15 09:00"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(9001)}));
 }
 
 TEST_F(TimerEngineTest, ResetTodayLeavesTheFlushCadenceAsItIs) {
@@ -265,7 +321,7 @@ TEST_F(TimerEngineTest, ResetTodayLeavesTheFlushCadenceAsItIs) {
     engine.resetToday();
     const auto writes = world.files.writes().size();
     tick();
-    EXPECT_THAT(writtenSince(writes), ElementsAre(world.todayJson, world.appsJson));
+    EXPECT_THAT(writtenSince(writes), ElementsAreArray(allFiles));
 }
 
 TEST_F(TimerEngineTest, StartCalledTwiceCreatesOneTimerOnly) {
@@ -273,6 +329,14 @@ TEST_F(TimerEngineTest, StartCalledTwiceCreatesOneTimerOnly) {
     engine.start();
     EXPECT_EQ(world.mainLoop.timerCount(), 1u);
     tick();
+    EXPECT_EQ(engine.todaySeconds(), Seconds(1));
+}
+
+TEST_F(TimerEngineTest, StartCalledAgainDoesNotShiftTheNextTick) {
+    auto& engine = start();
+    world.mainLoop.runFor(500ms);
+    engine.start();
+    world.mainLoop.runFor(500ms);
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
 }
 
@@ -291,7 +355,10 @@ TEST_F(TimerEngineTest, APlayedSecondGoesToTheGamesAndTheProjectStillBooks) {
     world.putAppInFront("xterm");
     start(listeners.all());
     tick();
-    EXPECT_THAT(apps(today), ElementsAre(AppSeconds{AppId("com.brightlooms.fathom.games"), Seconds(1)}));
+    const AppSeconds aSecond{AppId("com.brightlooms.fathom.games"), Seconds(1)};
+    EXPECT_THAT(apps(today), ElementsAre(aSecond));
+    EXPECT_THAT(hour("2026-01-15 09"), ElementsAre(aSecond));
+    EXPECT_THAT(bucket("2026-01-15 09:00"), ElementsAre(aSecond));
     EXPECT_THAT(listeners.calls, ElementsAre("work", "active 1", "project 2026-01-15"));
 }
 
@@ -311,6 +378,8 @@ TEST_F(TimerEngineTest, WithTheOwnWindowInFrontTheDayGrowsAndTheApplicationsDoNo
     EXPECT_EQ(engine.todaySeconds(), Seconds(2));
     EXPECT_EQ(stored(today), Seconds(2));
     EXPECT_THAT(apps(today), IsEmpty());
+    EXPECT_THAT(hour("2026-01-15 09"), IsEmpty());
+    EXPECT_THAT(bucket("2026-01-15 09:00"), IsEmpty());
 }
 
 TEST_F(TimerEngineTest, AnApplicationWithoutAnIdentifierLeavesItsSecondsInTheDayOnly) {
@@ -327,10 +396,10 @@ TEST_F(TimerEngineTest, EveryThirtiethTickWritesTheStores) {
     tick(29);
     EXPECT_THAT(world.files.writes(), IsEmpty());
     tick();
-    EXPECT_THAT(world.files.writes(), ElementsAre(world.todayJson, world.appsJson));
+    EXPECT_THAT(world.files.writes(), ElementsAreArray(allFiles));
     EXPECT_EQ(onDisk(world.todayJson), "{\n  \"2026-01-15\" : 30\n}");
     tick(30);
-    EXPECT_EQ(world.files.writes().size(), 4u);
+    EXPECT_EQ(world.files.writes().size(), 2 * allFiles.size());
 }
 
 TEST_F(TimerEngineTest, IdleTicksCountForTheCadenceAndWriteThoughNothingChanged) {
@@ -338,7 +407,7 @@ TEST_F(TimerEngineTest, IdleTicksCountForTheCadenceAndWriteThoughNothingChanged)
     Listeners listeners;
     start(listeners.all());
     tick(30);
-    EXPECT_THAT(world.files.writes(), ElementsAre(world.todayJson, world.appsJson));
+    EXPECT_THAT(world.files.writes(), ElementsAreArray(allFiles));
     EXPECT_EQ(onDisk(world.todayJson), "{\n  \"2026-01-15\" : 0\n}");
 }
 
@@ -368,9 +437,11 @@ TEST_F(TimerEngineTest, StopWritesTheDayAndTheStores) {
     auto& engine = start();
     tick(3);
     engine.stop();
-    EXPECT_THAT(world.files.writes(), ElementsAre(world.todayJson, world.appsJson));
+    EXPECT_THAT(world.files.writes(), ElementsAreArray(allFiles));
     EXPECT_EQ(onDisk(world.todayJson), "{\n  \"2026-01-15\" : 3\n}");
     EXPECT_EQ(onDisk(world.appsJson), "{\n  \"2026-01-15\" : {\n    \"xterm\" : 3\n  }\n}");
+    EXPECT_EQ(onDisk(world.hoursJson), "{\n  \"2026-01-15 09\" : {\n    \"xterm\" : 3\n  }\n}");
+    EXPECT_EQ(onDisk(world.minutesJson), "{\n  \"2026-01-15 09:00\" : {\n    \"xterm\" : 3\n  }\n}");
     tick(5);
     EXPECT_EQ(engine.todaySeconds(), Seconds(3));
 }

@@ -12,7 +12,8 @@ MARGIN = 24
 
 
 def place(world):
-    return world.clock().frame.x, world.clock().frame.y
+    frame = world.clock().frame
+    return frame.x, frame.y
 
 
 def visible_area(world):

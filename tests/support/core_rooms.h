@@ -1,9 +1,12 @@
 #pragma once
 
 #include "core/app_usage_store.h"
+#include "core/clock_keys.h"
 #include "core/daily_store.h"
 #include "core/day_rule.h"
+#include "core/hourly_store.h"
 #include "core/idle_monitor.h"
+#include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
 #include "tests/support/fake_world.h"
@@ -15,16 +18,23 @@ struct CoreRooms {
     explicit CoreRooms(FakeWorld& world, TickListeners listeners = {})
         : settings(world.preferences),
           dayRule(world.clock, settings),
+          keys(world.clock, settings, dayRule),
           idleMonitor(world.inputActivity),
           daily(world.files, world.log, dayRule),
           apps(world.files, world.log, world.workspace),
-          engine(world.clock, world.mainLoop, settings, idleMonitor, daily, apps, listeners) {}
+          hours(world.files, world.log, world.workspace),
+          minutes(world.files, world.log, world.workspace),
+          engine(world.clock, world.mainLoop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
+                 listeners) {}
 
     Settings settings;
     DayRule dayRule;
+    ClockKeys keys;
     IdleMonitor idleMonitor;
     DailyStore daily;
     AppUsageStore apps;
+    HourlyStore hours;
+    MinuteStore minutes;
     TimerEngine engine;
 };
 

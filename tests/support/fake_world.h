@@ -17,6 +17,11 @@ struct FakeWorld : platform::FakeMachine {
 
     const std::string todayJson = "/home/user/.tidewatch/today.json";
     const std::string appsJson = "/home/user/.tidewatch/apps.json";
+    const std::string hoursJson = "/home/user/.tidewatch/hours.json";
+    const std::string minutesJson = "/home/user/.tidewatch/minutes.json";
+    const std::string projectTimeJson = "/home/user/.tidewatch/project_time.json";
+    const std::string categoriesJson = "/home/user/.tidewatch/categories.json";
+    const std::string projectsJson = "/home/user/.tidewatch/projects.json";
 
     void putAppInFront(const char* id) { workspace.setFrontmost(AppId(id)); }
 };

@@ -10,8 +10,10 @@ class LoginItem;
 class MainLoop;
 class Preferences;
 class ProcessEndings;
+class Randomness;
 class RunningInstance;
 class Screens;
+class UserNotifications;
 class WindowManager;
 class Workspace;
 
@@ -30,6 +32,8 @@ struct Platform {
     LoginItem& loginItem;
     RunningInstance& runningInstance;
     ProcessEndings& endings;
+    Randomness& randomness;
+    UserNotifications& notifications;
 };
 
 }  // namespace tidewatch::platform

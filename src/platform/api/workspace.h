@@ -2,11 +2,19 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/named_string.h"
 #include "base/result.h"
 
 namespace tidewatch::platform {
+
+/// What the desktop registers of an application.
+struct ApplicationInfo {
+    std::string name;                     ///< as shown to the user, in Spanish where there is a choice
+    std::string icon;                     ///< name in the icon theme or absolute path; empty if there is none
+    std::vector<std::string> categories;  ///< of the desktop menu standard, in the order registered
+};
 
 /// Applications and files as the desktop knows them. Main thread only.
 class Workspace {
@@ -16,6 +24,10 @@ public:
     /// The application whose window has the focus; nothing if there is none or it cannot be named.
     /// This program's own windows give its own identifier.
     [[nodiscard]] virtual std::optional<AppId> frontmostApplication() const = 0;
+
+    /// What is registered under this identifier; nothing for an application that the desktop does not know.
+    /// Reads a file each time: whoever asks often keeps the answer.
+    [[nodiscard]] virtual std::optional<ApplicationInfo> applicationInfo(const AppId& app) const = 0;
 
     /// Shows the file at the absolute `path` in the desktop's file manager.
     virtual Outcome reveal(const std::string& path) = 0;

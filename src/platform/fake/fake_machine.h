@@ -11,8 +11,10 @@
 #include "platform/fake/fake_login_item.h"
 #include "platform/fake/fake_main_loop.h"
 #include "platform/fake/fake_process_endings.h"
+#include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
+#include "platform/fake/fake_user_notifications.h"
 #include "platform/fake/fake_window_manager.h"
 #include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_file_system.h"
@@ -38,9 +40,12 @@ struct FakeMachine {
     FakeLoginItem loginItem;
     FakeRunningInstance runningInstance;
     FakeProcessEndings endings;
+    FakeRandomness randomness;
+    FakeUserNotifications notifications;
 
-    Platform platform{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
-                      workspace, screens, windowManager, loginItem, runningInstance, endings};
+    Platform platform{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
+                      workspace,  screens,      windowManager, loginItem, runningInstance, endings,
+                      randomness, notifications};
 };
 
 }  // namespace tidewatch::platform

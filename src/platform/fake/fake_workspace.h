@@ -8,16 +8,21 @@
 
 namespace tidewatch::platform {
 
-/// A desktop as a test scripts it; at first no application is in front.
+/// A desktop as a test scripts it; at first no application is in front and none is registered.
 class FakeWorkspace final : public Workspace {
 public:
     [[nodiscard]] std::optional<AppId> frontmostApplication() const override { return front_; }
+    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const AppId& app) const override {
+        const auto found = registered_.find(app);
+        return found == registered_.end() ? std::nullopt : std::optional(found->second);
+    }
     Outcome reveal(const std::string& path) override {
         revealed_.push_back(path);
         return revealOutcome_;
     }
 
     void setFrontmost(std::optional<AppId> app) { front_ = std::move(app); }
+    void registerApplication(const AppId& app, ApplicationInfo info) { registered_[app] = std::move(info); }
     void setRevealOutcome(Outcome outcome) { revealOutcome_ = std::move(outcome); }
 
     /// Every path that was asked to be revealed.
@@ -25,6 +30,7 @@ public:
 
 private:
     std::optional<AppId> front_;
+    std::map<AppId, ApplicationInfo> registered_;
     Outcome revealOutcome_ = success();
     std::vector<std::string> revealed_;
 };

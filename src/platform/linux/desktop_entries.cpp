@@ -5,7 +5,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <sstream>
+
+#include "platform/linux/desktop_entry.h"
 
 namespace tidewatch::platform {
 
@@ -68,6 +71,35 @@ bool DesktopEntries::contains(const std::string& id) {
         return found != idByLowerCaseId_.end() && found->second == id;
     };
     return known() || (refresh() && known());
+}
+
+std::optional<ApplicationInfo> DesktopEntries::info(const std::string& id, std::string_view locale) const {
+    if (id.find_first_of(std::string_view("/\0", 2)) != std::string::npos) return std::nullopt;
+    for (const auto& folder : folders_) {
+        const auto path = pathOf(folder.path, id);
+        if (!path) continue;
+        std::ifstream file(*path);
+        const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        auto info = readDesktopEntry(text, locale);
+        if (info && info->name.empty()) info->name = id;
+        return info;
+    }
+    return std::nullopt;
+}
+
+// A dash in an id stands for itself or for a step into a folder.
+std::optional<std::string> DesktopEntries::pathOf(const std::string& folder, const std::string& id) {
+    std::error_code error;
+    auto path = folder + "/" + id + std::string(suffix);
+    if (fs::is_regular_file(path, error)) return path;
+    for (auto dash = id.find('-'); dash != std::string::npos; dash = id.find('-', dash + 1)) {
+        const auto name = id.substr(0, dash);
+        if (name.empty() || name == "." || name == ".." || !fs::is_directory(folder + "/" + name, error)) {
+            continue;
+        }
+        if (auto below = pathOf(folder + "/" + name, id.substr(dash + 1))) return below;
+    }
+    return std::nullopt;
 }
 
 std::optional<std::string> DesktopEntries::find(std::string_view instance,

@@ -7,6 +7,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/api/workspace.h"
+
 namespace tidewatch::platform {
 
 /// The applications that the desktop knows, by what their windows call themselves. Read from the
@@ -32,6 +34,10 @@ public:
     /// Whether there is an entry of exactly this id.
     [[nodiscard]] bool contains(const std::string& id);
 
+    /// What the entry of exactly this id tells, its name in Spanish as readDesktopEntry() has it; an entry
+    /// without a name goes by its id. Nothing if there is no such entry. Reads the one file each time.
+    [[nodiscard]] std::optional<ApplicationInfo> info(const std::string& id, std::string_view locale) const;
+
 private:
     struct Folder {
         std::string path;
@@ -41,6 +47,7 @@ private:
     bool refresh();
     void readFolder(const std::string& root, const std::string& prefix);
     void readEntry(const std::string& path, const std::string& id);
+    [[nodiscard]] static std::optional<std::string> pathOf(const std::string& folder, const std::string& id);
     [[nodiscard]] std::optional<std::string> find(std::string_view instance,
                                                   std::string_view windowClass) const;
     [[nodiscard]] std::optional<std::string> findName(std::string_view name) const;

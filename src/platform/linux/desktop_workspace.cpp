@@ -6,6 +6,7 @@
 #include <QDBusPendingReply>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QLocale>
 #include <QUrl>
 
 namespace tidewatch::platform {
@@ -23,6 +24,10 @@ DesktopWorkspace::DesktopWorkspace(AppId own)
 
 std::optional<AppId> DesktopWorkspace::frontmostApplication() const {
     return active_.current();
+}
+
+std::optional<ApplicationInfo> DesktopWorkspace::applicationInfo(const AppId& app) const {
+    return entries_.info(app.text(), QLocale::system().name().toStdString());
 }
 
 Outcome DesktopWorkspace::reveal(const std::string& path) {

@@ -15,6 +15,8 @@ public:
 
     [[nodiscard]] std::optional<AppId> frontmostApplication() const override;
 
+    [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const AppId& app) const override;
+
     /// Through the file manager that answers on the session bus; else the folder is opened. Asks without
     /// waiting: only what fails at once is told.
     Outcome reveal(const std::string& path) override;

@@ -1,8 +1,8 @@
 // A core that works much faster than time, on the real disk, until it is killed.
 //
 // Usage: kill_child HOME START, where START is the wall clock in seconds since 1970. Says on its standard
-// output what it found at the start, "loaded DAYS APPS", and after each completed flush what that flush
-// wrote, "flushed DAYS APPS": the sums of all seconds in both stores.
+// output what it found at the start, "loaded DAYS APPS HOURS MINUTES PROJECTS", and after each completed
+// flush what that flush wrote, "flushed ...": the sums of all seconds in each store.
 
 #include <fmt/format.h>
 #include <unistd.h>
@@ -12,20 +12,29 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "core/app_usage_store.h"
+#include "core/broadcaster.h"
+#include "core/clock_keys.h"
 #include "core/daily_store.h"
 #include "core/day_rule.h"
+#include "core/hourly_store.h"
 #include "core/idle_monitor.h"
+#include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
 #include "platform/fake/fake_clock.h"
 #include "platform/fake/fake_input_activity.h"
 #include "platform/fake/fake_main_loop.h"
+#include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_preferences.h"
 #include "platform/linux/posix_file_system.h"
 #include "platform/linux/stderr_log.h"
+#include "projects/active_project_booking.h"
+#include "projects/project_store.h"
+#include "projects/project_time_store.h"
 
 namespace {
 
@@ -34,13 +43,34 @@ using namespace std::chrono_literals;
 
 constexpr int ticksBetweenFlushes = 30;
 
-// One write each, so that a line is either said or not.
-void say(const char* what, const DailyStore& daily, const AppUsageStore& apps) {
-    Seconds days;
-    for (const auto& day : daily.allDays()) days += day.seconds;
-    Seconds booked;
-    for (const auto& app : apps.aggregate(apps.allDayKeys())) booked += app.seconds;
-    const auto line = fmt::format("{} {} {}\n", what, days.count(), booked.count());
+Seconds sumOf(const UsageSnapshot& snapshot) {
+    Seconds sum;
+    for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
+        snapshot.forEachApp(key, [&](std::uint32_t, Seconds seconds) { sum += seconds; });
+    }
+    return sum;
+}
+
+Seconds sumOf(const DailyStore& daily) {
+    Seconds sum;
+    for (const auto& day : daily.allDays()) sum += day.seconds;
+    return sum;
+}
+
+Seconds sumOf(const AppUsageStore& apps) {
+    Seconds sum;
+    for (const auto& app : apps.aggregate(apps.allDayKeys())) sum += app.seconds;
+    return sum;
+}
+
+Seconds sumOf(const ProjectTimeStore& times, const std::vector<DayKey>& days) {
+    Seconds sum;
+    for (const auto& day : days) sum += times.taggedSeconds(day);
+    return sum;
+}
+
+// One write, so that a line is either said or not.
+void say(const std::string& line) {
     if (::write(STDOUT_FILENO, line.data(), line.size()) != static_cast<ssize_t>(line.size())) std::exit(3);
 }
 
@@ -55,20 +85,35 @@ int main(int argc, char** argv) {
     platform::FakeWorkspace workspace;
     platform::MemoryPreferences preferences;
     platform::StderrLog log;
+    platform::FakeRandomness randomness;
     const Settings settings(preferences);
     const DayRule dayRule(clock, settings);
     const IdleMonitor idleMonitor(input);
+    const ClockKeys keys(clock, settings, dayRule);
     DailyStore daily(files, log, dayRule);
     AppUsageStore apps(files, log, workspace);
-    TimerEngine engine(clock, loop, settings, idleMonitor, daily, apps, {});
+    HourlyStore hours(files, log, workspace);
+    MinuteStore minutes(files, log, workspace);
+    const Broadcaster broadcaster;
+    ProjectStore projects(files, log, randomness, broadcaster);
+    ProjectTimeStore times(files, log, workspace);
+    ActiveProjectBooking booking(projects, times);
+    TimerEngine engine(clock, loop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
+                       {nullptr, nullptr, &booking});
+    const auto tell = [&](const char* what) {
+        say(fmt::format("{} {} {} {} {} {}\n", what, sumOf(daily).count(), sumOf(apps).count(),
+                        sumOf(hours.snapshot()).count(), sumOf(minutes.snapshot()).count(),
+                        sumOf(times, apps.allDayKeys()).count()));
+    };
 
-    say("loaded", daily, apps);
+    tell("loaded");
+    if (!projects.activeProjectId()) projects.setActive(projects.addProject("Proyecto").id);
     engine.start();
     for (int tick = 1;; ++tick) {
         workspace.setFrontmost(AppId(fmt::format("org.example.application{:02}", tick % 40)));
         loop.runFor(1s);
         if (tick % ticksBetweenFlushes == 0) {
-            say("flushed", daily, apps);
+            tell("flushed");
             clock.suspend(1h);  // so that day changes, which flush on their own, come often
         }
     }

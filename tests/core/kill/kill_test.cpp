@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <chrono>
@@ -30,11 +31,10 @@ using namespace std::chrono_literals;
 
 constexpr int ticksBetweenFlushes = 30;
 
-/// Sums of all seconds in "today.json" and in "apps.json".
-struct Sums {
-    std::int64_t days = 0;
-    std::int64_t apps = 0;
-};
+constexpr std::array names{"today.json", "apps.json", "hours.json", "minutes.json", "project_time.json"};
+
+/// Sums of all seconds in each of the files.
+using Sums = std::array<std::int64_t, names.size()>;
 
 /// What a killed child had said.
 struct Report {
@@ -50,7 +50,7 @@ Report parseReport(const std::string& said) {
     std::istringstream lines(said.substr(0, said.rfind('\n') + 1));
     std::string what;
     Sums sums;
-    while (lines >> what >> sums.days >> sums.apps) {
+    while (lines >> what >> sums[0] >> sums[1] >> sums[2] >> sums[3] >> sums[4]) {
         if (what == "loaded") {
             report.loaded = sums;
         } else {
@@ -83,10 +83,10 @@ protected:
     KillTest() {
         std::filesystem::create_directory(data_);
         bench::RecordSize size;
-        size.years = 3;
+        size.years = 1;
+        size.daysPerYear = 60;
         bench::writeLargeRecord(bench::makeLargeRecord(size), data_);
-        today_ = read("today.json");
-        apps_ = read("apps.json");
+        for (std::size_t file = 0; file < names.size(); ++file) contents_[file] = read(names[file]);
     }
 
     // Every file has to parse; a file that is not there is a failure too.
@@ -142,26 +142,22 @@ protected:
     }
 
     void expectNothingLost(const Report& report) {
-        const auto today = read("today.json");
-        const auto apps = read("apps.json");
-        if (HasFailure()) return;
-        expectAtLeast(today_, today);
-        expectAtLeast(apps_, apps);
-
-        const Sums found{sumOf(today_), sumOf(apps_)};
-        const Sums left{sumOf(today), sumOf(apps)};
-        if (report.loaded) {
-            EXPECT_EQ(report.loaded->days, found.days) << "it did not continue from what was on the disk";
-            EXPECT_EQ(report.loaded->apps, found.apps);
+        for (std::size_t file = 0; file < names.size() && !HasFailure(); ++file) {
+            SCOPED_TRACE(names[file]);
+            const auto now = read(names[file]);
+            if (HasFailure()) return;
+            expectAtLeast(contents_[file], now);
+            const auto found = sumOf(contents_[file]);
+            const auto left = sumOf(now);
+            if (report.loaded) {
+                EXPECT_EQ((*report.loaded)[file], found) << "it did not continue from what was on the disk";
+            }
+            // No less than was flushed, and no more than the one flush that could not be told of any more.
+            const auto known = report.lastFlush ? (*report.lastFlush)[file] : found;
+            EXPECT_GE(left, known);
+            EXPECT_LE(left, known + ticksBetweenFlushes);
+            contents_[file] = now;
         }
-        // No less than was flushed, and no more than the one flush that could not be told of any more.
-        const auto known = report.lastFlush.value_or(found);
-        EXPECT_GE(left.days, known.days);
-        EXPECT_GE(left.apps, known.apps);
-        EXPECT_LE(left.days, known.days + ticksBetweenFlushes);
-        EXPECT_LE(left.apps, known.apps + ticksBetweenFlushes);
-        today_ = today;
-        apps_ = apps;
     }
 
     static void expectAtLeast(const Counters& before, const Counters& now) {
@@ -177,8 +173,10 @@ protected:
         bool unfinished = false;
         for (const auto& entry : std::filesystem::directory_iterator(data_)) {
             const auto name = entry.path().filename().string();
-            EXPECT_THAT(name, testing::AnyOf("today.json", "apps.json", "today.json.tmp", "apps.json.tmp"));
-            unfinished = unfinished || name.ends_with(".tmp");
+            const bool isSuccessor = name.ends_with(".tmp");
+            const auto file = isSuccessor ? name.substr(0, name.size() - 4) : name;
+            EXPECT_TRUE(file == "projects.json" || std::ranges::find(names, file) != names.end()) << name;
+            unfinished = unfinished || isSuccessor;
         }
         return unfinished;
     }
@@ -187,8 +185,7 @@ protected:
     const std::string data_ = home_.path() + "/.tidewatch";
     std::int64_t wallClock_ = 1'768'467'600;  // 2026-01-15 09:00 UTC
     simdjson::dom::parser parser_;
-    Counters today_;
-    Counters apps_;
+    std::array<Counters, names.size()> contents_;
 };
 
 std::uint32_t seed() {

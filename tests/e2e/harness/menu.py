@@ -5,7 +5,7 @@ import time
 from harness.hands import LEFT, RIGHT
 from harness.screen import difference
 from harness.waiting import wait_until
-from harness.world import CLOCK_CLASS, CLOCK_TITLE
+from harness.world import CLOCK_CLASS
 
 # The rows that can be chosen, from the top.
 THEME, SIZE, IDLE, DAY_START, TOGGLE_VISIBLE, RESET, REVEAL, LOGIN_ITEM, QUIT = range(9)
@@ -38,7 +38,6 @@ class Menu:
             for window in self._world.screen.windows()
             if window.window_class == CLOCK_CLASS
             and window.unmanaged
-            and window.title != CLOCK_TITLE
             and (icon is None or window.id != icon.id)
             and window.frame.height > 30
         ]

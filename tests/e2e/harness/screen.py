@@ -121,12 +121,15 @@ class Screen:
         """The identifier of the window that has the focus, 0 if none has."""
         return next(iter(self.property(0, "_NET_ACTIVE_WINDOW")), 0)
 
+    def managed(self):
+        """The windows that the window manager knows, oldest first."""
+        return self.property(0, "_NET_CLIENT_LIST")
+
     def stacking(self):
         """The managed windows' identifiers, the lowest first."""
         return self.property(0, "_NET_CLIENT_LIST_STACKING")
 
-    def is_managed(self):
-        """Whether a window manager runs."""
+    def has_window_manager(self):
         return bool(self.property(0, "_NET_SUPPORTING_WM_CHECK"))
 
     def selection_owner(self, name):

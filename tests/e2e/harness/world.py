@@ -49,7 +49,7 @@ class World:
             self._start_server()
             self._start_bus()
             self.start("openbox", "--sm-disable")
-            wait_until(self.screen.is_managed, "the window manager")
+            wait_until(self.screen.has_window_manager, "the window manager")
             self.start("dunst")
             if self._wants_tray:
                 self.start_tray()
@@ -183,7 +183,11 @@ class World:
 
     def clock(self):
         """The clock's window, None while it is hidden."""
-        return self.screen.window(title=CLOCK_TITLE, window_class=CLOCK_CLASS)
+        managed = self.screen.managed()
+        for window in self.screen.windows():
+            if window.window_class == CLOCK_CLASS and window.title == CLOCK_TITLE and window.id in managed:
+                return window
+        return None
 
     def check_log(self):
         """Fails on any line that a program wrote and the test did not announce."""

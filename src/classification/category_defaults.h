@@ -1,0 +1,25 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "base/named_string.h"
+#include "classification/category.h"
+
+namespace tidewatch {
+
+/// One row of the built-in table.
+struct CategoryDefault {
+    std::string_view app;
+    Category category;
+};
+
+/// The built-in table of applications, the same on every desktop.
+[[nodiscard]] std::span<const CategoryDefault> categoryDefaults();
+
+/// The category of an application in the built-in table; identifiers are matched exactly. Nothing for one
+/// that the table does not name.
+[[nodiscard]] std::optional<Category> defaultCategory(const AppId& app);
+
+}  // namespace tidewatch

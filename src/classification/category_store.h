@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+
+#include "base/named_string.h"
+#include "classification/category.h"
+#include "classification/category_overrides.h"
+#include "classification/registered_category.h"
+#include "classification/tier.h"
+#include "platform/api/file_system.h"
+#include "platform/api/log.h"
+#include "platform/api/workspace.h"
+
+namespace tidewatch {
+
+/// Says what an application is and what that counts as, and keeps the user's changes to the tables
+/// ("categories.json"). Main thread only.
+///
+/// Nothing is announced on a change: whoever computes asks anew, and figures of past days change with it.
+class CategoryStore final {
+public:
+    /// Reads the file; one that is missing or cannot be read to the last value is no overrides at all.
+    /// All three must outlive it.
+    CategoryStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+
+    /// The user's choice; else what the built-in table says; else what the application registers with the
+    /// desktop; else Category::uncategorized.
+    [[nodiscard]] Category category(const AppId& app) const;
+
+    /// The user's choice, else the category's own tier.
+    [[nodiscard]] Tier tier(Category category) const;
+
+    /// The tier of its category; an application has none of its own.
+    [[nodiscard]] Tier tier(const AppId& app) const { return tier(category(app)); }
+
+    /// Each changes the record in memory and writes the file at once. On failure the change stands in memory
+    /// and the log tells.
+    void setCategory(Category category, const AppId& app);
+    void clearCategoryOverride(const AppId& app);
+    void setTier(Tier tier, Category category);
+    void clearTierOverride(Category category);
+
+    [[nodiscard]] const std::string& dataFilePath() const { return filePath_; }
+
+private:
+    void flush();
+
+    platform::FileSystem& files_;
+    platform::Log& log_;
+    const RegisteredCategories registered_;
+    const std::string filePath_;
+    CategoryOverrides overrides_;
+};
+
+}  // namespace tidewatch

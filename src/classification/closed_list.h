@@ -1,0 +1,34 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+
+namespace tidewatch {
+
+// Tables of a closed vocabulary: one row a case, in the order of the enumeration, with the case as `value`
+// and what is stored for it as `raw`.
+
+template <class Row, std::size_t N>
+[[nodiscard]] constexpr auto valuesOf(const std::array<Row, N>& rows) {
+    std::array<decltype(Row::value), N> values{};
+    std::ranges::transform(rows, values.begin(), &Row::value);
+    return values;
+}
+
+template <class Row, std::size_t N>
+[[nodiscard]] constexpr const Row& rowOf(const std::array<Row, N>& rows, decltype(Row::value) value) {
+    return rows[static_cast<std::size_t>(value)];
+}
+
+/// The case that `raw` is stored for; exact matches only.
+template <class Row, std::size_t N>
+[[nodiscard]] constexpr auto valueFromRaw(const std::array<Row, N>& rows, std::string_view raw)
+    -> std::optional<decltype(Row::value)> {
+    const auto row = std::ranges::find(rows, raw, &Row::raw);
+    return row == rows.end() ? std::nullopt : std::optional(row->value);
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include "base/named_string.h"
+#include "base/seconds.h"
+#include "classification/category_store.h"
+#include "core/clock_keys.h"
+#include "core/hourly_store.h"
+
+namespace tidewatch {
+
+/// One clock hour of a day.
+struct HourSummary {
+    HourKey id;
+    int hour = 0;     ///< 0 to 23
+    Seconds seconds;  ///< all of the hour, uncategorized ones included
+    Seconds productive;
+    Seconds neutral;
+    Seconds distracting;
+
+    bool operator==(const HourSummary&) const = default;
+
+    /// The productive share of the productive and distracting seconds, 0 to 1; 0 if there are none.
+    [[nodiscard]] double score() const;
+
+    /// Too few productive and distracting seconds for the score to mean anything: less than 30.
+    [[nodiscard]] bool isSparse() const;
+};
+
+/// The 24 hours of `day` in the order in which the day passes them, empty ones included. Main thread only.
+[[nodiscard]] std::vector<HourSummary> dayHourSummaries(const HourlyStore& hours,
+                                                        const CategoryStore& categories,
+                                                        const ClockKeys& keys, const DayKey& day);
+
+}  // namespace tidewatch

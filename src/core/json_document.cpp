@@ -1,0 +1,25 @@
+#include "core/json_document.h"
+
+#include <string_view>
+
+namespace tidewatch {
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+}  // namespace
+
+std::optional<JsonDocument> JsonDocument::parse(std::string text) {
+    text.reserve(text.size() + simdjson::SIMDJSON_PADDING);
+    const auto skipped = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+    constexpr bool copyForPadding = false;
+    auto parser = std::make_unique<Parser>();
+    simdjson::dom::element root;
+    if (parser->parse(text.data() + skipped, text.size() - skipped, copyForPadding).get(root) !=
+        simdjson::SUCCESS) {
+        return std::nullopt;
+    }
+    return JsonDocument(std::move(parser), root);
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,14 @@
+#include "core/minute_store.h"
+
+namespace tidewatch {
+namespace {
+
+constexpr StoreFormat format{"minutes.json", 2, "Tidewatch: failed to flush minute store: "};
+
+}  // namespace
+
+MinuteStore::MinuteStore(platform::FileSystem& files, platform::Log& log,
+                         const platform::Workspace& workspace)
+    : frame_(files, log, workspace, format) {}
+
+}  // namespace tidewatch

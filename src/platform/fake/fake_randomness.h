@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <random>
+
+#include "platform/api/randomness.h"
+
+namespace tidewatch::platform {
+
+/// Chance that is the same for the same seed.
+class FakeRandomness final : public Randomness {
+public:
+    explicit FakeRandomness(std::uint64_t seed = 1) : generator_(seed) {}
+
+    [[nodiscard]] std::uint64_t bits() override { return generator_(); }
+
+private:
+    std::mt19937_64 generator_;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/tick_listeners.h"
+#include "projects/project_store.h"
+#include "projects/project_time_store.h"
+
+namespace tidewatch {
+
+/// Tags each second of work with the project that is active at that moment. Main thread only.
+class ActiveProjectBooking final : public ProjectTimeListener {
+public:
+    /// Both must outlive it.
+    ActiveProjectBooking(const ProjectStore& projects, ProjectTimeStore& times)
+        : projects_(projects), times_(times) {}
+
+    void bookSecond(const DayKey& day) override {
+        if (const auto active = projects_.activeProjectId()) times_.incrementCurrentApp(day, *active);
+    }
+
+    void flush() override { times_.flush(); }
+
+private:
+    const ProjectStore& projects_;
+    ProjectTimeStore& times_;
+};
+
+}  // namespace tidewatch

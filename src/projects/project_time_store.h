@@ -1,0 +1,54 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "base/named_string.h"
+#include "base/seconds.h"
+#include "base/uuid.h"
+#include "core/app_seconds.h"
+#include "core/store_frame.h"
+#include "platform/api/file_system.h"
+#include "platform/api/log.h"
+#include "platform/api/workspace.h"
+
+namespace tidewatch {
+
+/// Seconds booked per logical day, project and application ("project_time.json"). Knows nothing of which
+/// projects there are: those of deleted ones stay. Safe from any thread, but for incrementCurrentApp, which
+/// asks the workspace and is for the main thread.
+class ProjectTimeStore final {
+public:
+    /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
+    /// All three must outlive it.
+    ProjectTimeStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+
+    /// Books one second of `day` to `project` and the application in front, if there is one that can be
+    /// booked.
+    void incrementCurrentApp(const DayKey& day, const Uuid& project);
+
+    /// The project's seconds per application over the days given, most first, equal ones in no particular
+    /// order. A day given twice counts twice; an unknown day or project adds nothing.
+    [[nodiscard]] std::vector<AppSeconds> aggregate(std::span<const DayKey> days, const Uuid& project) const;
+
+    /// The sum over aggregate().
+    [[nodiscard]] Seconds totalSeconds(std::span<const DayKey> days, const Uuid& project) const;
+
+    /// All seconds of `day`, whatever project they were booked to.
+    [[nodiscard]] Seconds taggedSeconds(const DayKey& day) const;
+
+    /// Every day that has an entry for `project`, in ascending order.
+    [[nodiscard]] std::vector<DayKey> allDayKeys(const Uuid& project) const;
+
+    /// Writes the file. On failure logs and keeps memory as it is; the next flush tries again.
+    void flush() { frame_.flush(); }
+
+    [[nodiscard]] std::string dataFilePath() const { return frame_.filePath(); }
+
+private:
+    const platform::Workspace& workspace_;
+    StoreFrame frame_;
+};
+
+}  // namespace tidewatch
