@@ -76,7 +76,7 @@ void paintDecorations(ClockScene& scene, const QDir& folder) {
 int paintAll(const QString& path) {
     const QDir folder(path);
     if (!folder.mkpath("active") || !folder.mkpath("idle") || !folder.mkpath("opaque")) return 1;
-    ClockScene scene([](const std::string& complaint) { std::fprintf(stderr, "%s\n", complaint.c_str()); });
+    ClockScene scene;
     scene.startAt(Seconds(4 * 3600 + 58 * 60 + 36));
     scene.stars_ = 3;
     scene.runFor(std::chrono::seconds(1));
