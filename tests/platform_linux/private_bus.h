@@ -4,7 +4,7 @@
 #include <QProcess>
 #include <QString>
 
-#include "platform_linux/temporary_directory.h"
+#include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
 
@@ -23,7 +23,7 @@ public:
     void stop();
 
 private:
-    TemporaryDirectory directory_;
+    test::TemporaryDirectory directory_;
     QProcess daemon_;
     QString address_;
     QStringList connections_;
