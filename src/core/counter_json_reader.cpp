@@ -16,7 +16,7 @@ std::optional<std::int64_t> wholeNumber(json::element value) {
     std::int64_t integer = 0;
     if (value.get_int64().get(integer) == simdjson::SUCCESS) return integer;
     double real = 0;
-    if (!value.is_double() || value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
+    if (value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
     constexpr double limit = 0x1p63;
     if (std::trunc(real) != real || real < -limit || real >= limit) return std::nullopt;
     return static_cast<std::int64_t>(real);
