@@ -41,19 +41,14 @@ bool readApps(json::object object, std::map<AppId, Category>& apps) {
 }
 
 bool readTiers(json::array array, std::map<Category, Tier>& tiers) {
-    std::optional<Category> category;
-    for (const auto value : array) {
-        if (!category) {
-            category = asCategory(value);
-            if (!category) return false;
-        } else {
-            const auto tier = asTier(value);
-            if (!tier) return false;
-            tiers[*category] = *tier;
-            category.reset();
-        }
+    for (auto value = array.begin(); value != array.end(); ++value) {
+        const auto category = asCategory(*value);
+        if (!category || ++value == array.end()) return false;
+        const auto tier = asTier(*value);
+        if (!tier) return false;
+        tiers[*category] = *tier;
     }
-    return !category;
+    return true;
 }
 
 }  // namespace
