@@ -41,11 +41,12 @@ bool readApps(json::object object, std::map<AppId, Category>& apps) {
 }
 
 bool readTiers(json::array array, std::map<Category, Tier>& tiers) {
+    if (array.size() % 2 != 0) return false;
     for (auto value = array.begin(); value != array.end(); ++value) {
         const auto category = asCategory(*value);
-        if (!category || ++value == array.end()) return false;
+        ++value;
         const auto tier = asTier(*value);
-        if (!tier) return false;
+        if (!category || !tier) return false;
         tiers[*category] = *tier;
     }
     return true;

@@ -19,8 +19,8 @@ std::optional<std::int64_t> wholeNumber(json::value value) {
     if (value.get_int64().get(integer) == simdjson::SUCCESS) return integer;
     // An integer of more than 64 bits would be rounded to one that fits.
     bool isInteger = true;
-    double real = 0;
     if (value.is_integer().get(isInteger) != simdjson::SUCCESS || isInteger) return std::nullopt;
+    double real = 0;
     if (value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
     constexpr double limit = 0x1p63;
     if (std::trunc(real) != real || real < -limit || real >= limit) return std::nullopt;

@@ -14,9 +14,11 @@ StoreFrame::StoreFrame(platform::FileSystem& files, platform::Log& log, const St
       record_(format.depth) {
     // Without the directory there is no file either, and the first flush will say so.
     static_cast<void>(files_.createDirectories(directoryPath_));
-    if (auto text = files_.readWhole(filePath_)) {
-        if (auto record = readCounters(std::move(text).value(), format.depth)) record_ = std::move(*record);
-    }
+    auto text = files_.readWhole(filePath_);
+    // A missing file is read as an empty one, so that what the JSON library keeps for the whole process is
+    // older than any exit handler that flushes, and outlives it.
+    auto record = readCounters(text ? std::move(text).value() : "{}", format.depth);
+    if (record) record_ = std::move(*record);
 }
 
 void StoreFrame::flush() {

@@ -54,11 +54,11 @@ int Application::run(const platform::Platform& platform) {
             platform.log.warning("Tidewatch: another instance holds " + directory + " and does not answer");
             return EXIT_FAILURE;
     }
+    platform.endings.onAsked([] { QCoreApplication::quit(); });
     Composition composition(platform, [] { QCoreApplication::quit(); });
     auto& delegate = composition.delegate();
     delegate.applicationDidFinishLaunching();
     platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
-    platform.endings.onAsked([] { QCoreApplication::quit(); });
     platform.endings.onSessionEnding([&] { delegate.flushAllStores(); });
     platform.endings.onDisplayLost([&] { delegate.applicationWillTerminate(); });
     const int code = QApplication::exec();

@@ -36,8 +36,10 @@ class Compositor(unittest.TestCase):
             world.start_program()
             self.assert_clean(world, "with", shadow=True)
             world.hands.drag((400, 260), (450, 300))
-            wait_until(lambda: world.home.setting("windowOriginX") == "350", "the place in the settings")
-            self.assertEqual(world.home.setting("windowOriginY"), "240")
+            wait_until(
+                lambda: (world.home.setting("windowOriginX"), world.home.setting("windowOriginY")) == ("350", "240"),
+                "the place in the settings",
+            )
 
     def assert_clean(self, world, name, shadow=False):
         """At each corner of the clock, its background shows; in the middle, the clock does."""

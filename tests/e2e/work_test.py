@@ -61,7 +61,11 @@ class Work(unittest.TestCase):
         with World("kill") as world:
             world.open_terminal("WorkTerm")
             program = world.start_program()
-            wait_until(lambda: world.home.day_seconds() > 0, "the first periodic write", seconds=40)
+            wait_until(
+                lambda: world.home.day_seconds() > 0 and world.home.all_application_seconds() > 0,
+                "the first periodic write",
+                seconds=40,
+            )
             self.assertAlmostEqual(time.monotonic() - program.started, 30, delta=TOLERANCE)
             program.kill()
 

@@ -16,8 +16,8 @@ class WindowManager {
 public:
     virtual ~WindowManager() = default;
 
-    /// Puts the window on every workspace and keeps the desktop from drawing a shadow or a frame of its own
-    /// around it. To be called after the window exists and before each time it is shown.
+    /// Puts the window on every workspace and into no taskbar, and keeps the desktop from drawing a shadow or
+    /// a frame of its own around it. To be called after the window exists and before each time it is shown.
     virtual void prepareFloating(WindowHandle window) = 0;
 
     /// Whether windows may have translucent pixels at this moment.

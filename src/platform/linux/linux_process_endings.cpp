@@ -42,8 +42,6 @@ void exiting() {
 
 LinuxProcessEndings::LinuxProcessEndings() {
     displayLost() = nullptr;
-    // The toolkit answers the loss of its connection by calling exit(), deep inside its event loop.
-    std::atexit(exiting);
 }
 
 LinuxProcessEndings::~LinuxProcessEndings() {
@@ -75,6 +73,9 @@ void LinuxProcessEndings::onSessionEnding(std::function<void()> saving) {
 
 void LinuxProcessEndings::onDisplayLost(std::function<void()> lost) {
     displayLost() = std::move(lost);
+    // The toolkit answers the loss of its connection by calling exit(), deep inside its event loop.
+    // Registered this late, the handler runs before what `lost` stands on is taken down.
+    if (displayLost()) std::atexit(exiting);
 }
 
 }  // namespace tidewatch::platform

@@ -6,6 +6,7 @@
 
 #include <QSocketNotifier>
 #include <QTimer>
+#include <array>
 #include <utility>
 
 namespace tidewatch::platform {
@@ -23,6 +24,9 @@ xcb_window_t xWindow(WindowHandle window) {
 X11WindowManager::X11WindowManager()
     : compositorSelection_(connection_.atom(fmt::format("_NET_WM_CM_S{}", connection_.screenNumber()))),
       desktopAtom_(connection_.atom("_NET_WM_DESKTOP")),
+      stateAtom_(connection_.atom("_NET_WM_STATE")),
+      skipTaskbarAtom_(connection_.atom("_NET_WM_STATE_SKIP_TASKBAR")),
+      skipPagerAtom_(connection_.atom("_NET_WM_STATE_SKIP_PAGER")),
       shadowAtom_(connection_.atom("_COMPTON_SHADOW")) {
     if (!connection_.alive()) return;
     watchCompositor();
@@ -38,6 +42,7 @@ void X11WindowManager::prepareFloating(WindowHandle window) {
     if (!connection_.alive()) return;
     setCardinal(xWindow(window), desktopAtom_, everyDesktop);
     setCardinal(xWindow(window), shadowAtom_, 0);
+    keepOutOfTaskbar(xWindow(window));
     // The server must have seen this before the toolkit's connection asks to map the window.
     const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
         xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
@@ -103,6 +108,13 @@ void X11WindowManager::updateCompositing() {
         connection_.get(), xcb_get_selection_owner(connection_.get(), compositorSelection_), nullptr));
     const bool compositing = reply && reply->owner != XCB_WINDOW_NONE;
     if (std::exchange(compositing_, compositing) != compositing) compositingChanged_.emit();
+}
+
+void X11WindowManager::keepOutOfTaskbar(xcb_window_t window) {
+    // The toolkit adds its own states to these when it shows the window.
+    const std::array states = {skipTaskbarAtom_, skipPagerAtom_};
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, stateAtom_, XCB_ATOM_ATOM, 32,
+                        states.size(), states.data());
 }
 
 void X11WindowManager::setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value) {

@@ -26,11 +26,15 @@ private:
     void watchCompositor();
     void readEvents();
     void updateCompositing();
+    void keepOutOfTaskbar(xcb_window_t window);
     void setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value);
 
     X11Connection connection_;
     xcb_atom_t compositorSelection_;
     xcb_atom_t desktopAtom_;
+    xcb_atom_t stateAtom_;
+    xcb_atom_t skipTaskbarAtom_;
+    xcb_atom_t skipPagerAtom_;
     xcb_atom_t shadowAtom_;
     int selectionEvent_ = -1;
     bool compositing_ = false;

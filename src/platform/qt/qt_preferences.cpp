@@ -52,7 +52,6 @@ void QtPreferences::setText(std::string_view key, std::string_view value) {
 void QtPreferences::remove(std::string_view key) {
     const std::lock_guard lock(mutex_);
     settings_.remove(name(key));
-    settings_.sync();
 }
 
 PreferenceValue QtPreferences::value(std::string_view key) const {
@@ -63,7 +62,6 @@ PreferenceValue QtPreferences::value(std::string_view key) const {
 void QtPreferences::set(std::string_view key, const QVariant& value) {
     const std::lock_guard lock(mutex_);
     settings_.setValue(name(key), value);
-    settings_.sync();
 }
 
 }  // namespace tidewatch::platform

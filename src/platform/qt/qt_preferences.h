@@ -9,7 +9,8 @@
 namespace tidewatch::platform {
 
 /// Preferences in an INI file: `brightlooms/tidewatch.conf` under the user's configuration directory. What
-/// the file holds is text, so every value is read by the rules for texts.
+/// the file holds is text, so every value is read by the rules for texts. Values that are set within one turn
+/// of the main loop reach the disk together, at its end.
 class QtPreferences final : public Preferences {
 public:
     QtPreferences();

@@ -1,7 +1,8 @@
 #include "shell/windows/quick_panel_window.h"
 
+#include <QBitmap>
 #include <QMouseEvent>
-#include <QPainterPath>
+#include <QPainter>
 #include <cmath>
 #include <utility>
 
@@ -13,6 +14,17 @@ constexpr int growthMilliseconds = 200;
 
 platform::Point globalPosition(const QMouseEvent& event) {
     return {event.globalPosition().x(), event.globalPosition().y()};
+}
+
+QRegion roundedRegion(const QSize& size, double radius) {
+    QBitmap bitmap(size);
+    bitmap.clear();
+    QPainter painter(&bitmap);
+    painter.setBrush(Qt::color1);
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(QRect({}, size), radius, radius);
+    painter.end();
+    return QRegion(bitmap);
 }
 
 }  // namespace
@@ -140,9 +152,7 @@ void QuickPanelWindow::cutToShape(double radius) {
             winId(), {margin_ * ratio, margin_ * ratio, panel_.width * ratio, panel_.height * ratio});
         return;
     }
-    QPainterPath shape;
-    shape.addRoundedRect(0, 0, width(), height(), radius, radius);
-    setMask(QRegion(shape.toFillPolygon().toPolygon()));
+    setMask(roundedRegion(size(), radius));
     manager_.setInputRegion(winId(), {0, 0, width() * ratio, height() * ratio});
 }
 
