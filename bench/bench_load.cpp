@@ -1,8 +1,10 @@
-// Reading a ten-year record at the start, and what it takes in memory afterwards.
+// Reading a record of one to twenty years at the start, and what it takes in memory afterwards.
 
-#include <fmt/core.h>
+#include <fmt/format.h>
 #include <malloc.h>
 
+#include <array>
+#include <filesystem>
 #include <optional>
 
 #include "bench/support/bench_world.h"
@@ -13,43 +15,50 @@ namespace {
 using namespace tidewatch;
 using namespace tidewatch::bench;
 
-struct Stores {
-    explicit Stores(BenchWorld& world)
-        : settings(world.preferences),
-          dayRule(world.clock, settings),
-          daily(world.files, world.log, dayRule),
-          apps(world.files, world.log, world.workspace) {}
-
-    Settings settings;
-    DayRule dayRule;
-    DailyStore daily;
-    AppUsageStore apps;
-};
-
 double heapMegabytes() {
     const auto info = ::mallinfo2();
     return static_cast<double>(info.uordblks + info.hblkhd) / 1e6;
 }
 
+double megabytesOnDisk(const BenchWorld& world) {
+    std::uintmax_t bytes = 0;
+    for (const auto& file : std::filesystem::directory_iterator(world.directory.path() + "/.tidewatch")) {
+        bytes += file.file_size();
+    }
+    return static_cast<double>(bytes) / 1e6;
+}
+
+// Ten years are to take 80 ms and 15 MB for 40 MB in files; more or less of it, in proportion.
+constexpr double mostMillisecondsAMegabyte = 80.0 / 40;
+constexpr double mostHeapAMegabyte = 15.0 / 40;
+
+void measure(int years, Verdicts& verdicts) {
+    RecordSize size;
+    size.years = years;
+    BenchWorld world(makeLargeRecord(size));
+    std::vector<Milliseconds> times;
+    std::optional<BenchStores> stores;
+    double heap = 0;
+    for (int round = 0; round < 9; ++round) {
+        stores.reset();
+        const auto before = heapMegabytes();
+        times.push_back(processorTime([&] { stores.emplace(world); }));
+        heap = heapMegabytes() - before;
+    }
+    if (stores->daily.allDays().size() != static_cast<std::size_t>(years * size.daysPerYear)) {
+        giveUp("the record was not loaded");
+    }
+    const auto onDisk = megabytesOnDisk(world);
+    const auto what = fmt::format("{} years in five files of {:.1f} MB", years, onDisk);
+    verdicts.compare("load of " + what, median(times).count(), mostMillisecondsAMegabyte * onDisk, "ms",
+                     "2 ms of processor time a MB");
+    verdicts.compare("heap of " + what, heap, mostHeapAMegabyte * onDisk, "MB", "0.375 MB a MB");
+}
+
 }  // namespace
 
 int main() {
-    BenchWorld world(makeLargeRecord({}));
-    std::vector<Milliseconds> times;
-    std::optional<Stores> stores;
-    double heap = 0;
-    for (int round = 0; round < 15; ++round) {
-        stores.reset();
-        const auto before = heapMegabytes();
-        times.push_back(timed([&] { stores.emplace(world); }));
-        heap = heapMegabytes() - before;
-    }
-    if (stores->daily.allDays().size() != 2600) giveUp("the record was not loaded");
-
     Verdicts verdicts;
-    verdicts.compare("load today and apps, ten years", median(times).count(), 80, "ms",
-                     "bar of all counter files together");
-    verdicts.compare("heap of today and apps, ten years", heap, 15, "MB",
-                     "bar of all counter files together");
+    for (const int years : {1, 5, 10, 20}) measure(years, verdicts);
     return verdicts.exitCode();
 }

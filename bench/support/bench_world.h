@@ -8,6 +8,7 @@
 
 #include "bench/support/large_record.h"
 #include "core/app_usage_store.h"
+#include "core/broadcaster.h"
 #include "core/clock_keys.h"
 #include "core/daily_store.h"
 #include "core/day_rule.h"
@@ -20,9 +21,13 @@
 #include "platform/fake/fake_input_activity.h"
 #include "platform/fake/fake_log.h"
 #include "platform/fake/fake_main_loop.h"
+#include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_preferences.h"
 #include "platform/linux/posix_file_system.h"
+#include "projects/active_project_booking.h"
+#include "projects/project_store.h"
+#include "projects/project_time_store.h"
 #include "tests/support/temporary_directory.h"
 
 namespace tidewatch::bench {
@@ -33,7 +38,7 @@ inline void giveUp(const std::string& complaint) {
     std::exit(2);
 }
 
-/// A machine with a real disk, a scripted user and clock, and the ten-year record in its data directory.
+/// A machine with a real disk, a scripted user and clock, and a made-up record in its data directory.
 struct BenchWorld {
     explicit BenchWorld(const LargeRecord& record) {
         std::filesystem::create_directory(directory.path() + "/.tidewatch");
@@ -49,30 +54,56 @@ struct BenchWorld {
     platform::MemoryPreferences preferences;
     platform::FakeInputActivity input;
     platform::FakeWorkspace workspace;
+    platform::FakeRandomness randomness;
     platform::FakeLog log{giveUp};
 };
 
-/// The program's core as it runs in that world.
-struct BenchCore {
-    explicit BenchCore(BenchWorld& world)
+/// All stores, the counters' files read.
+struct BenchStores {
+    explicit BenchStores(BenchWorld& world)
         : settings(world.preferences),
           dayRule(world.clock, settings),
           keys(world.clock, settings, dayRule),
-          idleMonitor(world.input),
           daily(world.files, world.log, dayRule),
           apps(world.files, world.log, world.workspace),
           hours(world.files, world.log, world.workspace),
           minutes(world.files, world.log, world.workspace),
-          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes}, {}) {}
+          times(world.files, world.log, world.workspace) {}
+
+    void flush() {
+        daily.flush();
+        apps.flush();
+        hours.flush();
+        minutes.flush();
+        times.flush();
+    }
 
     Settings settings;
     DayRule dayRule;
     ClockKeys keys;
-    IdleMonitor idleMonitor;
     DailyStore daily;
     AppUsageStore apps;
     HourlyStore hours;
     MinuteStore minutes;
+    ProjectTimeStore times;
+};
+
+/// The program's record as it runs in that world, with a project that is being worked on.
+struct BenchCore : BenchStores {
+    explicit BenchCore(BenchWorld& world)
+        : BenchStores(world),
+          idleMonitor(world.input),
+          projects(world.files, world.log, world.randomness, broadcaster),
+          booking(projects, times),
+          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
+                 {nullptr, nullptr, &booking}) {
+        projects.setActive(projectId(0));
+    }
+
+    IdleMonitor idleMonitor;
+    Broadcaster broadcaster;
+    ProjectStore projects;
+    ActiveProjectBooking booking;
     TimerEngine engine;
 };
 

@@ -1,8 +1,11 @@
 #include "bench/support/ratio.h"
 
 #include <fmt/core.h>
+#include <time.h>
 
 #include <algorithm>
+#include <ctime>
+#include <stdexcept>
 
 namespace tidewatch::bench {
 
@@ -10,6 +13,18 @@ Milliseconds timed(const std::function<void()>& work) {
     const auto begin = std::chrono::steady_clock::now();
     work();
     return std::chrono::steady_clock::now() - begin;
+}
+
+Milliseconds processorTime(const std::function<void()>& work) {
+    const auto now = [] {
+        std::timespec time{};
+        if (::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time) != 0)
+            throw std::runtime_error("no processor time");
+        return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+    };
+    const auto begin = now();
+    work();
+    return now() - begin;
 }
 
 Milliseconds median(std::vector<Milliseconds> times) {

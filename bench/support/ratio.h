@@ -13,6 +13,10 @@ using Milliseconds = std::chrono::duration<double, std::milli>;
 /// How long one call takes on the steady clock.
 [[nodiscard]] Milliseconds timed(const std::function<void()>& work);
 
+/// How much processor time the process takes for one call. For a bar that is a time and not a ratio: what
+/// else keeps the machine busy does not count.
+[[nodiscard]] Milliseconds processorTime(const std::function<void()>& work);
+
 /// The middle one; `times` is not empty.
 [[nodiscard]] Milliseconds median(std::vector<Milliseconds> times);
 

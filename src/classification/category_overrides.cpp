@@ -41,19 +41,15 @@ bool readApps(json::object object, std::map<AppId, Category>& apps) {
 }
 
 bool readTiers(json::array array, std::map<Category, Tier>& tiers) {
-    std::optional<Category> category;
-    for (const auto value : array) {
-        if (!category) {
-            category = asCategory(value);
-            if (!category) return false;
-        } else {
-            const auto tier = asTier(value);
-            if (!tier) return false;
-            tiers[*category] = *tier;
-            category.reset();
-        }
+    if (array.size() % 2 != 0) return false;
+    for (auto value = array.begin(); value != array.end(); ++value) {
+        const auto category = asCategory(*value);
+        ++value;
+        const auto tier = asTier(*value);
+        if (!category || !tier) return false;
+        tiers[*category] = *tier;
     }
-    return !category;
+    return true;
 }
 
 }  // namespace

@@ -1,12 +1,29 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "core/counter_record.h"
 
 namespace tidewatch {
+
+/// The text of a counter file, in memory of its own.
+class CounterText final {
+public:
+    CounterText(std::unique_ptr<const char[]> bytes, std::size_t size)
+        : bytes_(std::move(bytes)), size_(size) {}
+
+    /// Valid as long as this object.
+    [[nodiscard]] std::string_view view() const { return {bytes_.get(), size_}; }
+
+private:
+    std::unique_ptr<const char[]> bytes_;
+    std::size_t size_;
+};
 
 /// Reads the text of a counter file: any JSON whose top level is an object that holds, `depth` objects deep,
 /// nothing but whole numbers. Nothing if the text is not JSON or has another shape.
@@ -21,6 +38,6 @@ namespace tidewatch {
 /// in ascending order of their bytes, no end of line after the last brace. An object without members is an
 /// open brace, an empty line and a closing brace. In keys the quote, the backslash, the forward slash and
 /// what lies below U+0020 are escaped; everything else stands as UTF-8.
-[[nodiscard]] std::string writeCounters(const CounterRecord& record);
+[[nodiscard]] CounterText writeCounters(const CounterRecord& record);
 
 }  // namespace tidewatch

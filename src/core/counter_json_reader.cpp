@@ -1,51 +1,90 @@
 #include <simdjson.h>
 
 #include <cmath>
-#include <string>
+#include <string_view>
 #include <utility>
 
 #include "core/counter_json.h"
-#include "core/json_document.h"
 
 namespace tidewatch {
 namespace {
 
-namespace json = simdjson::dom;
+// Read as it goes by: a tree of the whole would take more memory and time than all the rest.
+namespace json = simdjson::ondemand;
 
-std::optional<std::int64_t> wholeNumber(json::element value) {
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+std::optional<std::int64_t> wholeNumber(json::value value) {
     std::int64_t integer = 0;
     if (value.get_int64().get(integer) == simdjson::SUCCESS) return integer;
+    // An integer of more than 64 bits would be rounded to one that fits.
+    bool isInteger = true;
+    if (value.is_integer().get(isInteger) != simdjson::SUCCESS || isInteger) return std::nullopt;
     double real = 0;
-    if (!value.is_double() || value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
+    if (value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
     constexpr double limit = 0x1p63;
     if (std::trunc(real) != real || real < -limit || real >= limit) return std::nullopt;
     return static_cast<std::int64_t>(real);
 }
 
-bool readObject(json::object object, std::size_t level, CounterRecord& record) {
-    for (const auto& [key, value] : object) {
-        if (level + 1 == record.depth()) {
-            const auto number = wholeNumber(value);
-            if (!number) return false;
-            record.appendLeaf(key, Seconds(*number));
-        } else {
-            record.appendBranch(level, key);
-            json::object child;
-            if (value.get_object().get(child) != simdjson::SUCCESS) return false;
-            if (!readObject(child, level + 1, record)) return false;
-        }
+class Reader final {
+public:
+    /// `text` is followed by simdjson's padding.
+    Reader(std::string_view text, CounterRecord& record) : text_(text), record_(record) {}
+
+    bool read() {
+        json::parser parser;
+        json::document document;
+        json::object top;
+        return parser.iterate(text_, text_.size() + simdjson::SIMDJSON_PADDING).get(document) ==
+                   simdjson::SUCCESS &&
+               document.get_object().get(top) == simdjson::SUCCESS && readObject(top, 0) &&
+               document.current_location().error() == simdjson::OUT_OF_BOUNDS;
     }
-    return true;
-}
+
+private:
+    bool readObject(json::object object, std::size_t level) {
+        for (auto member : object) {
+            json::field field;
+            if (std::move(member).get(field) != simdjson::SUCCESS || !readMember(field, level)) return false;
+        }
+        return true;
+    }
+
+    bool readMember(json::field& field, std::size_t level) {
+        const auto key = keyOf(field);
+        if (!key) return false;
+        if (level + 1 == record_.depth()) {
+            const auto number = wholeNumber(field.value());
+            if (number) record_.appendLeaf(*key, Seconds(*number));
+            return number.has_value();
+        }
+        record_.appendBranch(level, *key);
+        json::object child;
+        return field.value().get_object().get(child) == simdjson::SUCCESS && readObject(child, level + 1);
+    }
+
+    // Nearly all keys are meant as they stand in the text; only one with an escape has to be copied.
+    std::optional<std::string_view> keyOf(json::field& field) const {
+        const auto begin = static_cast<std::size_t>(field.key().raw() - text_.data());
+        const auto standing = text_.substr(begin, text_.find('"', begin) - begin);
+        if (standing.find('\\') == std::string_view::npos) return standing;
+        std::string_view meant;
+        return field.unescaped_key().get(meant) == simdjson::SUCCESS ? std::optional(meant) : std::nullopt;
+    }
+
+    std::string_view text_;
+    CounterRecord& record_;
+};
 
 }  // namespace
 
 std::optional<CounterRecord> readCounters(std::string text, std::size_t depth) {
-    const auto document = JsonDocument::parse(std::move(text));
-    json::object top;
-    if (!document || document->root().get_object().get(top) != simdjson::SUCCESS) return std::nullopt;
+    text.reserve(text.size() + simdjson::SIMDJSON_PADDING);
+    std::string_view content = text;
+    if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
     CounterRecord record(depth);
-    if (!readObject(top, 0, record)) return std::nullopt;
+    if (!Reader(content, record).read()) return std::nullopt;
     record.settle();
     return record;
 }

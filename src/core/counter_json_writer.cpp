@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
+#include <memory>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/counter_json.h"
@@ -10,22 +13,43 @@
 namespace tidewatch {
 namespace {
 
-// Finds out how long a text becomes, so that its memory is asked for once and filled without looking back.
-class Measure final {
-public:
-    void text(std::string_view text) { size_ += text.size(); }
+// Short pieces are copied with what lies behind them, at a length that the compiler knows.
+constexpr std::size_t stride = 64;
 
-    void number(std::int64_t number) {
-        auto rest = static_cast<std::uint64_t>(number);
-        if (number < 0) {
-            rest = 0 - rest;
-            ++size_;
-        }
-        ++size_;
-        for (; rest >= 10; rest /= 10) ++size_;
+// A text that is followed by as many readable bytes as a stride may overrun it.
+class PaddedText final {
+public:
+    explicit PaddedText(std::string text) : size_(text.size()), text_(std::move(text)) {
+        text_.append(stride, ' ');
     }
 
     [[nodiscard]] std::size_t size() const { return size_; }
+
+    /// Copies it to `target`, where a stride more than its size can be written; gives where it ends there.
+    char* copyTo(char* target) const {
+        std::memcpy(target, text_.data(), stride);
+        if (size_ > stride) std::memcpy(target + stride, text_.data() + stride, size_ - stride);
+        return target + size_;
+    }
+
+private:
+    std::size_t size_;
+    std::string text_;
+};
+
+// Finds out how long a text becomes at most, so that its memory is asked for once and filled without looking
+// back.
+class Measure final {
+public:
+    void character(char) { ++size_; }
+    void text(std::string_view text) { size_ += text.size(); }
+    void text(const PaddedText& text) { size_ += text.size(); }
+    void number(std::int64_t) {
+        constexpr std::size_t mostDigits = 20;
+        size_ += mostDigits;
+    }
+
+    [[nodiscard]] std::size_t size() const { return size_ + stride; }
 
 private:
     std::size_t size_ = 0;
@@ -34,16 +58,21 @@ private:
 // Writes into memory that Measure has found large enough.
 class Fill final {
 public:
-    explicit Fill(std::string& out) : next_(out.data()), end_(out.data() + out.size()) {}
+    explicit Fill(std::size_t size)
+        : bytes_(std::make_unique_for_overwrite<char[]>(size)), next_(bytes_.get()), end_(next_ + size) {}
 
-    void text(std::string_view text) {
-        std::memcpy(next_, text.data(), text.size());
-        next_ += text.size();
-    }
-
+    void character(char c) { *next_++ = c; }
+    void text(std::string_view text) { next_ = std::ranges::copy(text, next_).out; }
+    void text(const PaddedText& text) { next_ = text.copyTo(next_); }
     void number(std::int64_t number) { next_ = std::to_chars(next_, end_, number).ptr; }
 
+    CounterText take() {
+        const auto size = static_cast<std::size_t>(next_ - bytes_.get());
+        return {std::move(bytes_), size};
+    }
+
 private:
+    std::unique_ptr<char[]> bytes_;
     char* next_;
     char* end_;
 };
@@ -52,18 +81,21 @@ class Writer final {
 public:
     explicit Writer(const CounterRecord& record) : record_(record) {
         for (std::size_t level = 0; level < record.depth(); ++level) {
-            indents_.push_back(std::string(",\n").append(2 * (level + 1), ' '));
+            indents_.push_back(std::string("\n").append(2 * (level + 1), ' '));
             memberStarts_.emplace_back();
             // Names recur hundreds of thousands of times in a record of years; each is escaped once.
             for (std::uint32_t name = 0; level > 0 && name < record.nameCount(); ++name) {
-                memberStarts_.back().push_back(indents_.back() + quoted(record.name(name)) + " : ");
+                memberStarts_.back().emplace_back(indents_.back() + quoted(record.name(name)) + " : ");
             }
         }
     }
 
-    template <class Sink>
-    void writeTo(Sink& sink) const {
-        writeObject(sink, 0, record_.top());
+    CounterText write() const {
+        Measure measure;
+        writeObject(measure, 0, record_.top());
+        Fill fill(measure.size());
+        writeObject(fill, 0, record_.top());
+        return fill.take();
     }
 
 private:
@@ -76,54 +108,49 @@ private:
     template <class Sink>
     void writeObject(Sink& sink, std::size_t level, CounterRecord::Range members) const {
         const bool isLast = level + 1 == record_.depth();
-        sink.text(members.size() == 0 ? "{\n" : "{");
+        sink.character('{');
+        if (members.size() == 0) sink.character('\n');
         for (auto node = members.begin; node < members.end; ++node) {
-            writeMemberStart(sink, level, node, node == members.begin);
+            if (node != members.begin) sink.character(',');
+            writeMemberStart(sink, level, node);
             if (isLast) {
                 sink.number(record_.seconds(node).count());
             } else {
                 writeObject(sink, level + 1, record_.children(level, node));
             }
         }
-        sink.text(level == 0 ? "\n" : std::string_view(indents_[level - 1]).substr(1));
-        sink.text("}");
+        sink.text(level == 0 ? "\n" : std::string_view(indents_[level - 1]));
+        sink.character('}');
     }
 
-    // The comma before the member, but for the first one, to the blank behind its colon.
+    // From the end of the line before to the blank behind the colon.
     template <class Sink>
-    void writeMemberStart(Sink& sink, std::size_t level, CounterRecord::Index node, bool isFirst) const {
-        const std::size_t skipped = isFirst ? 1 : 0;
+    void writeMemberStart(Sink& sink, std::size_t level, CounterRecord::Index node) const {
         if (level > 0) {
-            sink.text(std::string_view(memberStarts_[level][record_.nameId(level, node)]).substr(skipped));
+            sink.text(memberStarts_[level][record_.nameId(level, node)]);
             return;
         }
-        sink.text(std::string_view(indents_[0]).substr(skipped));
+        sink.text(indents_[0]);
         const auto key = record_.text(0, node);
         if (std::ranges::any_of(key, mustBeEscapedInJson)) {
             sink.text(quoted(key));
         } else {
-            sink.text("\"");
+            sink.character('"');
             sink.text(key);
-            sink.text("\"");
+            sink.character('"');
         }
         sink.text(" : ");
     }
 
     const CounterRecord& record_;
-    std::vector<std::string> indents_;                    // a level: from the comma to the quote
-    std::vector<std::vector<std::string>> memberStarts_;  // a level and a name
+    std::vector<std::string> indents_;                   // a level: from the end of a line to the quote
+    std::vector<std::vector<PaddedText>> memberStarts_;  // a level and a name
 };
 
 }  // namespace
 
-std::string writeCounters(const CounterRecord& record) {
-    const Writer writer(record);
-    Measure measure;
-    writer.writeTo(measure);
-    std::string text(measure.size(), '\0');
-    Fill fill(text);
-    writer.writeTo(fill);
-    return text;
+CounterText writeCounters(const CounterRecord& record) {
+    return Writer(record).write();
 }
 
 }  // namespace tidewatch

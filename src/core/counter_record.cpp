@@ -23,25 +23,11 @@ void CounterRecord::add(Path path, Seconds amount) {
     counters_.set(leaf, (seconds(leaf) + amount).count());
 }
 
-CounterRecord::Range CounterRecord::children(std::size_t level, Index branch) const {
-    const auto& first = levels_[level].firstChildren;
-    return {first[branch], branch + 1 < first.size() ? first[branch + 1] : size(level + 1)};
-}
-
 std::optional<CounterRecord::Index> CounterRecord::find(std::size_t level, Range siblings,
                                                         std::string_view text) const {
     const ValidUtf8 valid(text);
     const auto place = search(level, siblings, valid.text());
     return place.found ? std::optional(place.index) : std::nullopt;
-}
-
-std::string_view CounterRecord::text(std::size_t level, Index node) const {
-    const auto id = levels_[level].texts[node];
-    return level == 0 ? keys_[id] : names_[id];
-}
-
-std::uint32_t CounterRecord::nameId(std::size_t level, Index node) const {
-    return levels_[level].texts[node];
 }
 
 void CounterRecord::appendBranch(std::size_t level, std::string_view text) {
@@ -129,9 +115,12 @@ void CounterRecord::insert(std::size_t level, Index index, std::string_view text
 }
 
 void CounterRecord::append(std::size_t level, std::string_view newText) {
+    const auto id = keepText(level, newText);
+    const auto textOf = [&](std::uint32_t kept) { return level == 0 ? keys_[kept] : names_[kept]; };
     const auto firstSibling = level == 0 ? 0 : levels_[level - 1].firstChildren.back();
-    if (size(level) > firstSibling && text(level, size(level) - 1) >= newText) inOrder_ = false;
-    levels_[level].texts.push_back(keepText(level, newText));
+    auto& texts = levels_[level].texts;
+    if (texts.size() > firstSibling && textOf(texts.back()) >= textOf(id)) inOrder_ = false;
+    texts.push_back(id);
 }
 
 std::uint32_t CounterRecord::keepText(std::size_t level, std::string_view text) {

@@ -57,15 +57,23 @@ public:
     [[nodiscard]] Range top() const { return {0, size(0)}; }
 
     /// The children of a branch; they lie on the level below, `level` + 1.
-    [[nodiscard]] Range children(std::size_t level, Index branch) const;
+    [[nodiscard]] Range children(std::size_t level, Index branch) const {
+        const auto& first = levels_[level].firstChildren;
+        return {first[branch], branch + 1 < first.size() ? first[branch + 1] : size(level + 1)};
+    }
 
     [[nodiscard]] std::optional<Index> find(std::size_t level, Range siblings, std::string_view text) const;
 
     /// Valid until the record changes.
-    [[nodiscard]] std::string_view text(std::size_t level, Index node) const;
+    [[nodiscard]] std::string_view text(std::size_t level, Index node) const {
+        const auto id = levels_[level].texts[node];
+        return level == 0 ? keys_[id] : names_[id];
+    }
 
     /// A number that stands for the node's text on every level but the first, from 0 to nameCount() - 1.
-    [[nodiscard]] std::uint32_t nameId(std::size_t level, Index node) const;
+    [[nodiscard]] std::uint32_t nameId(std::size_t level, Index node) const {
+        return levels_[level].texts[node];
+    }
     [[nodiscard]] std::string_view name(std::uint32_t nameId) const { return names_[nameId]; }
     [[nodiscard]] std::uint32_t nameCount() const { return names_.size(); }
 

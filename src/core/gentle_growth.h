@@ -6,10 +6,10 @@
 namespace tidewatch {
 
 // A full vector doubles when it grows. A record of years gains a row now and then and must not take twice its
-// memory for it: it grows by a sixteenth.
+// memory for it: it grows by one part in sixty-four.
 
 [[nodiscard]] constexpr std::size_t gentleCapacity(std::size_t size) {
-    return size + size / 16 + 64;
+    return size + size / 64 + 64;
 }
 
 /// Inserts like vector::insert.

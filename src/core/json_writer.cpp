@@ -64,6 +64,11 @@ void JsonWriter::boolean(bool value) {
     text_ += value ? "true" : "false";
 }
 
+void JsonWriter::real(double value) {
+    startValue();
+    fmt::format_to(std::back_inserter(text_), "{}", value);
+}
+
 std::string JsonWriter::take() {
     return std::move(text_);
 }

@@ -33,6 +33,9 @@ public:
     void string(std::string_view value);
     void boolean(bool value);
 
+    /// In the fewest digits that read back the same, a whole number without a fraction. `value` is finite.
+    void real(double value);
+
     /// What has been written; the writer is spent.
     [[nodiscard]] std::string take();
 

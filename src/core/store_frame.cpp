@@ -28,7 +28,7 @@ void StoreFrame::flush() {
 
 Outcome StoreFrame::write() {
     const std::lock_guard lock(mutex_);
-    return files_.replaceAtomically(filePath_, writeCounters(record_));
+    return files_.replaceAtomically(filePath_, writeCounters(record_).view());
 }
 
 }  // namespace tidewatch

@@ -4,6 +4,7 @@
 #include <QStandardPaths>
 
 #include "platform/linux/autostart_login_item.h"
+#include "platform/linux/desktop_notifications.h"
 #include "platform/linux/desktop_workspace.h"
 #include "platform/linux/linux_process_endings.h"
 #include "platform/linux/locked_running_instance.h"
@@ -49,8 +50,10 @@ struct NativePlatform::Parts {
     LockedRunningInstance runningInstance{log};
     LinuxProcessEndings endings;
     SystemRandomness randomness;
-    Platform all{log,     clock,         mainLoop,  files,           preferences, inputActivity, workspace,
-                 screens, windowManager, loginItem, runningInstance, endings,     randomness};
+    DesktopNotifications notifications{QDBusConnection::sessionBus(), log};
+    Platform all{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
+                 workspace,  screens,      windowManager, loginItem, runningInstance, endings,
+                 randomness, notifications};
 };
 
 NativePlatform::NativePlatform() : parts_(std::make_unique<Parts>()) {}

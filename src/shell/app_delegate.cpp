@@ -1,9 +1,11 @@
 #include "shell/app_delegate.h"
 
+#include <array>
 #include <chrono>
 #include <utility>
 
-#include "platform/api/clock.h"
+#include "platform/api/main_loop.h"
+#include "platform/api/user_notifications.h"
 #include "shell/status_menu.h"
 
 namespace tidewatch {
@@ -22,40 +24,47 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching() {
     with_.surfaces.registerFonts();
     window_ = with_.surfaces.makePanelWindow(panelSize());
-    panel_ =
-        std::make_unique<FloatingPanel>(*window_, with_.settings, with_.platform.screens, with_.broadcaster);
+    panel_ = std::make_unique<FloatingPanel>(*window_, with_.services.settings, with_.platform.screens,
+                                             with_.services.broadcaster);
     connectPanel();
-    if (with_.settings.windowVisible()) panel_->orderFrontRegardless();
+    if (with_.services.settings.windowVisible()) panel_->orderFrontRegardless();
     statusItem_ = with_.surfaces.makeStatusItem();
     refreshStatusBarTitle();
     makeCommands();
+    serveOlderNotifications();
     statusItem_->onClick([this](StatusItem::Click click) { handleStatusClick(click); });
     observeBroadcasts();
-    with_.engine.start();
+    with_.services.engine.start();
+    with_.services.notifications.requestAuthorization();
     menuRefreshTimer_ = with_.platform.mainLoop.repeat(
         std::chrono::seconds(1), platform::TimerMode::defaultOnly, [this] { refreshTimerFired(); });
 }
 
 void AppDelegate::applicationWillTerminate() {
-    with_.engine.stop();
+    with_.services.engine.stop();
 }
 
 void AppDelegate::applicationShouldHandleReopen() {
     setDayUnderCurrentKey();
-    with_.days.flush();
-    with_.apps.flush();
+    with_.services.days.flush();
+    with_.services.apps.flush();
+    with_.services.hours.flush();
     if (with_.statistics != nullptr) {
         with_.statistics->showWindow();
     } else {
         panel_->orderFrontRegardless();
-        with_.settings.setWindowVisible(true);
+        with_.services.settings.setWindowVisible(true);
     }
 }
 
 void AppDelegate::flushAllStores() {
+    auto& services = with_.services;
     setDayUnderCurrentKey();
-    with_.days.flush();
-    with_.apps.flush();
+    services.days.flush();
+    services.apps.flush();
+    services.hours.flush();
+    services.minutes.flush();
+    services.projectTime.flush();
 }
 
 void AppDelegate::connectPanel() {
@@ -69,17 +78,21 @@ void AppDelegate::connectPanel() {
 
 void AppDelegate::makeCommands() {
     commands_ = std::make_unique<StatusCommands>(StatusCommands::Targets{
-        .engine = with_.engine,
-        .days = with_.days,
-        .settings = with_.settings,
+        .services = with_.services,
         .theme = with_.theme,
-        .broadcaster = with_.broadcaster,
         .panel = *panel_,
         .workspace = with_.platform.workspace,
         .loginItem = with_.platform.loginItem,
         .dialogs = with_.surfaces.dialogs(),
         .refreshStatusBarTitle = [this] { refreshStatusBarTitle(); },
         .terminate = with_.terminate,
+    });
+    projectCommands_ = std::make_unique<ProjectCommands>(with_.services.projects, with_.surfaces.dialogs());
+}
+
+void AppDelegate::serveOlderNotifications() {
+    with_.platform.notifications.setOlderService([this](const platform::UserNotification& message) {
+        statusItem_->showMessage(message.title, message.body);
     });
 }
 
@@ -91,12 +104,14 @@ void AppDelegate::observeBroadcasts() {
             });
         };
     };
-    observers_.push_back(with_.broadcaster.observe<ThemeChanged>(later(&AppDelegate::applyLayoutChange)));
-    observers_.push_back(with_.broadcaster.observe<SizeChanged>(later(&AppDelegate::applyLayoutChange)));
     observers_.push_back(
-        with_.broadcaster.observe<ProjectsChanged>(later(&AppDelegate::refreshStatusBarTitle)));
+        with_.services.broadcaster.observe<ThemeChanged>(later(&AppDelegate::applyLayoutChange)));
     observers_.push_back(
-        with_.broadcaster.observe<FloatingPanelClicked>(later(&AppDelegate::floatingPanelClicked)));
+        with_.services.broadcaster.observe<SizeChanged>(later(&AppDelegate::applyLayoutChange)));
+    observers_.push_back(
+        with_.services.broadcaster.observe<ProjectsChanged>(later(&AppDelegate::refreshStatusBarTitle)));
+    observers_.push_back(
+        with_.services.broadcaster.observe<FloatingPanelClicked>(later(&AppDelegate::floatingPanelClicked)));
 }
 
 void AppDelegate::applyLayoutChange() {
@@ -125,29 +140,31 @@ void AppDelegate::handleStatusClick(StatusItem::Click click) {
 
 void AppDelegate::openMenu() {
     statusItem_->popUpMenu(buildStatusMenu({
-        .engine = with_.engine,
-        .settings = with_.settings,
+        .services = with_.services,
         .themes = with_.themes,
         .theme = with_.theme,
         .inputActivity = with_.platform.inputActivity,
         .loginItem = with_.platform.loginItem,
         .commands = *commands_,
+        .projectCommands = *projectCommands_,
     }));
 }
 
 void AppDelegate::refreshStatusBarTitle() {
-    // The dash stands for a day of which nothing can be said yet.
-    statusItem_->setTitle({.figure = "—", .project = "", .mood = StatusTitle::Mood::none});
+    const std::array today = {with_.services.days.today()};
+    statusItem_->setTitle(
+        statusTitle(with_.services.scorer.compute(today), with_.services.projects.activeProject()));
 }
 
 void AppDelegate::refreshTimerFired() {
     refreshStatusBarTitle();
     setDayUnderCurrentKey();
+    with_.services.notifications.checkDailyMilestones();
     sayOnceThatThereIsNoTray();
 }
 
 void AppDelegate::setDayUnderCurrentKey() {
-    with_.days.set(with_.engine.todaySeconds(), with_.days.today());
+    with_.services.days.set(with_.services.engine.todaySeconds(), with_.services.days.today());
 }
 
 void AppDelegate::sayOnceThatThereIsNoTray() {
@@ -161,7 +178,7 @@ void AppDelegate::sayOnceThatThereIsNoTray() {
 
 PanelSize AppDelegate::panelSize() const {
     const auto& base = with_.theme.active().size;
-    const auto scale = with_.settings.sizeScale();
+    const auto scale = with_.services.settings.sizeScale();
     return {base.width * scale, base.height * scale};
 }
 

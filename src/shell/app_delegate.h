@@ -2,16 +2,14 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "base/signal.h"
-#include "core/app_usage_store.h"
-#include "core/broadcaster.h"
-#include "core/daily_store.h"
-#include "core/settings.h"
-#include "core/timer_engine.h"
 #include "platform/api/main_loop.h"
 #include "platform/api/platform.h"
 #include "shell/floating_panel.h"
+#include "shell/project_commands.h"
+#include "shell/services.h"
 #include "shell/status_commands.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
@@ -26,11 +24,7 @@ public:
     /// What the delegate works with; all of it must outlive it.
     struct Parts {
         const platform::Platform& platform;
-        Broadcaster& broadcaster;
-        Settings& settings;
-        DailyStore& days;
-        AppUsageStore& apps;
-        TimerEngine& engine;
+        Services& services;
         const ThemeRegistry& themes;
         ThemeController& theme;
         Surfaces& surfaces;
@@ -60,6 +54,7 @@ private:
     void observeBroadcasts();
     void connectPanel();
     void makeCommands();
+    void serveOlderNotifications();
     void floatingPanelClicked();
     void handleStatusClick(StatusItem::Click click);
     void openMenu();
@@ -74,6 +69,7 @@ private:
     std::unique_ptr<FloatingPanel> panel_;
     std::unique_ptr<StatusItem> statusItem_;
     std::unique_ptr<StatusCommands> commands_;
+    std::unique_ptr<ProjectCommands> projectCommands_;
     std::vector<Connection> observers_;
     std::unique_ptr<platform::RepeatingTimer> menuRefreshTimer_;
     int secondsWithoutTray_ = 0;

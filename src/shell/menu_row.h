@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "projects/color_hex.h"
+
 namespace tidewatch {
 
 struct MenuRow;
@@ -16,9 +18,11 @@ struct MenuRow {
     std::string title{};
     bool checked = false;
     std::optional<char> keyEquivalent{};
+    std::optional<RgbColor> swatch{};  ///< a dot of this colour before the title
     std::function<void()> action{};
     MenuRows children{};
 
+    [[nodiscard]] static MenuRow separator() { return {}; }
     [[nodiscard]] bool isSeparator() const { return title.empty(); }
     [[nodiscard]] bool isEnabled() const { return action || !children.empty(); }
 };

@@ -11,17 +11,17 @@ void StatusCommands::switchTheme(std::string_view id) {
 }
 
 void StatusCommands::switchSize(double scale) {
-    to_.settings.setSizeScale(scale);
-    to_.broadcaster.post(SizeChanged{});
+    to_.services.settings.setSizeScale(scale);
+    to_.services.broadcaster.post(SizeChanged{});
 }
 
 void StatusCommands::switchIdle(std::int64_t seconds) {
-    to_.settings.setIdleThresholdSeconds(seconds);
+    to_.services.settings.setIdleThresholdSeconds(seconds);
     to_.refreshStatusBarTitle();
 }
 
 void StatusCommands::switchDayStart(int hour) {
-    to_.settings.setDayStartHour(hour);
+    to_.services.settings.setDayStartHour(hour);
     to_.refreshStatusBarTitle();
     to_.refreshStatusBarTitle();
 }
@@ -33,18 +33,18 @@ void StatusCommands::toggleVisible() {
     } else {
         to_.panel.orderFrontRegardless();
     }
-    to_.settings.setWindowVisible(!wasVisible);
+    to_.services.settings.setWindowVisible(!wasVisible);
     to_.refreshStatusBarTitle();
 }
 
 void StatusCommands::resetToday() {
-    to_.engine.resetToday();
+    to_.services.engine.resetToday();
 }
 
 void StatusCommands::revealData() {
-    to_.days.set(to_.engine.todaySeconds(), to_.days.today());
-    to_.days.flush();
-    if (const auto shown = to_.workspace.reveal(to_.days.dataFilePath()); !shown) {
+    to_.services.days.set(to_.services.engine.todaySeconds(), to_.services.days.today());
+    to_.services.days.flush();
+    if (const auto shown = to_.workspace.reveal(to_.services.days.dataFilePath()); !shown) {
         to_.dialogs.warn("No se pudo mostrar el archivo de datos", shown.error().message);
     }
 }

@@ -5,13 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "core/broadcaster.h"
-#include "core/daily_store.h"
-#include "core/settings.h"
-#include "core/timer_engine.h"
 #include "platform/api/login_item.h"
 #include "platform/api/workspace.h"
 #include "shell/floating_panel.h"
+#include "shell/services.h"
 #include "shell/themes/theme_controller.h"
 
 namespace tidewatch {
@@ -21,11 +18,8 @@ class StatusCommands final {
 public:
     /// What the commands work on; all of it must outlive this object.
     struct Targets {
-        TimerEngine& engine;
-        DailyStore& days;
-        Settings& settings;
+        Services& services;
         ThemeController& theme;
-        const Broadcaster& broadcaster;
         FloatingPanel& panel;
         platform::Workspace& workspace;
         platform::LoginItem& loginItem;

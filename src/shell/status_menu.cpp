@@ -8,6 +8,7 @@
 #include "base/duration_format.h"
 #include "core/idle_option.h"
 #include "core/size_option.h"
+#include "shell/project_menu.h"
 
 namespace tidewatch {
 
@@ -17,9 +18,6 @@ constexpr std::array dayStartHours = {0, 4, 5, 6, 7, 8};
 
 MenuRow information(std::string title) {
     return {.title = std::move(title)};
-}
-MenuRow separator() {
-    return {};
 }
 
 MenuRow command(std::string title, std::function<void()> action,
@@ -42,7 +40,7 @@ MenuRow themeMenu(const StatusMenuSources& from) {
 
 MenuRow sizeMenu(const StatusMenuSources& from) {
     MenuRow menu{.title = "Tamaño"};
-    const auto current = closestSizeOption(from.settings.sizeScale());
+    const auto current = closestSizeOption(from.services.settings.sizeScale());
     for (const auto option : allSizeOptions()) {
         menu.children.push_back(choice(std::string(label(option)), option == current,
                                        [&to = from.commands, option] { to.switchSize(rawValue(option)); }));
@@ -52,7 +50,7 @@ MenuRow sizeMenu(const StatusMenuSources& from) {
 
 MenuRow idleMenu(const StatusMenuSources& from) {
     MenuRow menu{.title = "Idle"};
-    const auto current = closestIdleOption(from.settings.idleThresholdSeconds());
+    const auto current = closestIdleOption(from.services.settings.idleThresholdSeconds());
     for (const auto option : allIdleOptions()) {
         menu.children.push_back(choice(std::string(label(option)), option == current,
                                        [&to = from.commands, option] { to.switchIdle(rawValue(option)); }));
@@ -64,7 +62,7 @@ MenuRow dayStartMenu(const StatusMenuSources& from) {
     MenuRow menu{.title = "El día empieza"};
     for (const int hour : dayStartHours) {
         menu.children.push_back(choice(hour == 0 ? "Medianoche (00:00)" : fmt::format("{:02}:00", hour),
-                                       hour == from.settings.dayStartHour(),
+                                       hour == from.services.settings.dayStartHour(),
                                        [&to = from.commands, hour] { to.switchDayStart(hour); }));
     }
     return menu;
@@ -80,29 +78,48 @@ void appendInputCoverage(MenuRows& rows, platform::InputCoverage coverage) {
     }
 }
 
+/// The least uncategorised time that is worth a row.
+constexpr Seconds tellingUncategorized{60};
+
+void appendTiers(MenuRows& rows, const ProductivityScore& score) {
+    rows.push_back(information("Productivo: " + formatShort(score.productiveSeconds)));
+    rows.push_back(information("Neutral: " + formatShort(score.neutralSeconds)));
+    rows.push_back(information("Distrayendo: " + formatShort(score.distractingSeconds)));
+    if (score.uncategorizedSeconds >= tellingUncategorized) {
+        rows.push_back(information("Sin categorizar: " + formatShort(score.uncategorizedSeconds)));
+    }
+}
+
 }  // namespace
 
 MenuRows buildStatusMenu(const StatusMenuSources& from) {
     auto& to = from.commands;
+    const std::array today = {from.services.days.today()};
+    const auto score = from.services.scorer.compute(today);
     MenuRows rows;
-    rows.push_back(information("Sesión: " + hms(from.engine.liveSeconds())));
-    rows.push_back(information("Hoy: " + hms(from.engine.todaySeconds())));
+    rows.push_back(information("Hoy · " + score.displayString() + " productivo"));
+    rows.push_back(MenuRow::separator());
+    rows.push_back(information("Sesión: " + hms(from.services.engine.liveSeconds())));
+    rows.push_back(information("Hoy: " + hms(from.services.engine.todaySeconds())));
     appendInputCoverage(rows, from.inputActivity.coverage());
-    rows.push_back(separator());
+    rows.push_back(MenuRow::separator());
+    appendTiers(rows, score);
+    rows.push_back(MenuRow::separator());
     rows.push_back(themeMenu(from));
     rows.push_back(sizeMenu(from));
     rows.push_back(idleMenu(from));
     rows.push_back(dayStartMenu(from));
+    rows.push_back(projectMenu(from.services.projects, from.projectCommands));
     rows.push_back(command(
-        from.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana", [&to] { to.toggleVisible(); },
-        'h'));
+        from.services.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana",
+        [&to] { to.toggleVisible(); }, 'h'));
     rows.push_back(command("Reiniciar día", [&to] { to.resetToday(); }));
-    rows.push_back(separator());
+    rows.push_back(MenuRow::separator());
     rows.push_back(command("Revelar archivo de datos", [&to] { to.revealData(); }));
-    rows.push_back(separator());
+    rows.push_back(MenuRow::separator());
     rows.push_back(
         choice("Iniciar al arrancar", from.loginItem.isEnabled(), [&to] { to.toggleLoginItem(); }));
-    rows.push_back(separator());
+    rows.push_back(MenuRow::separator());
     rows.push_back(command(
         "Salir", [&to] { to.quit(); }, 'q'));
     return rows;

@@ -1,24 +1,25 @@
 #pragma once
 
-#include "core/settings.h"
-#include "core/timer_engine.h"
 #include "platform/api/input_activity.h"
 #include "platform/api/login_item.h"
 #include "shell/menu_row.h"
+#include "shell/project_commands.h"
+#include "shell/services.h"
 #include "shell/status_commands.h"
+#include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
 
 namespace tidewatch {
 
 /// What the status menu is made from; all of it must outlive the rows that are made.
 struct StatusMenuSources {
-    const TimerEngine& engine;
-    const Settings& settings;
+    const Services& services;
     const ThemeRegistry& themes;
     const ThemeController& theme;
     const platform::InputActivity& inputActivity;
     const platform::LoginItem& loginItem;
     StatusCommands& commands;
+    ProjectCommands& projectCommands;
 };
 
 /// The status menu as it stands at this moment.

@@ -1,12 +1,21 @@
 #pragma once
 
+#include <optional>
 #include <string>
+
+#include "classification/productivity_score.h"
+#include "projects/project.h"
 
 namespace tidewatch {
 
 /// What the status item says, and how well the day is going.
 struct StatusTitle {
-    enum class Mood { none, low, middling, good };
+    enum class Mood {
+        none,      ///< nothing can be said yet
+        low,       ///< a score below 0.3
+        middling,  ///< below 0.6
+        good,
+    };
 
     std::string figure;   ///< the day's productivity, or a dash
     std::string project;  ///< the active project's name as shortened for the item; empty without one
@@ -17,5 +26,8 @@ struct StatusTitle {
 
     bool operator==(const StatusTitle&) const = default;
 };
+
+/// Names of 13 characters or more are shortened to their first 11 and an ellipsis.
+[[nodiscard]] StatusTitle statusTitle(const ProductivityScore& today, const std::optional<Project>& active);
 
 }  // namespace tidewatch

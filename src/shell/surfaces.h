@@ -52,15 +52,40 @@ public:
     /// Whether there is a tray that shows the item at this moment.
     [[nodiscard]] virtual bool isShown() const = 0;
 
+    /// Shows a message at the item; whether it is seen cannot be told.
+    virtual void showMessage(const std::string& title, const std::string& body) = 0;
+
     /// Opens a menu of `rows` at the mouse; returns at once.
     virtual void popUpMenu(const MenuRows& rows) = 0;
 };
 
-/// Messages that wait for the user's answer.
+/// A question that is answered by a line of text.
+struct TextPrompt {
+    std::string title;
+    std::string text;
+    std::string accept;       ///< what the button that acts says
+    std::string placeholder;  ///< shown while nothing is typed
+    std::string initial;      ///< what the field holds at first
+    double fieldWidth = 240;  ///< points
+};
+
+/// A question that is answered by yes or no.
+struct Confirmation {
+    std::string title;
+    std::string text;
+    std::string accept;  ///< what the button that acts says
+};
+
+/// Messages and questions that keep the user from the program's other windows until they are answered. All
+/// return at once and call back when the button that acts is chosen.
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
     virtual void warn(const std::string& title, const std::string& text) = 0;
+    virtual void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) = 0;
+
+    /// For what cannot be undone.
+    virtual void confirm(const Confirmation& question, std::function<void()> accepted) = 0;
 };
 
 /// The statistics window, where it exists.

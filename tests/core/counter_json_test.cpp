@@ -11,7 +11,7 @@ namespace {
 using namespace std::string_literals;
 
 std::string write(const CounterRecord& record) {
-    return writeCounters(record);
+    return std::string(writeCounters(record).view());
 }
 
 // What a reader makes of `text` and writes again; nothing if it is refused.

@@ -332,6 +332,14 @@ TEST_F(TimerEngineTest, StartCalledTwiceCreatesOneTimerOnly) {
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
 }
 
+TEST_F(TimerEngineTest, StartCalledAgainDoesNotShiftTheNextTick) {
+    auto& engine = start();
+    world.mainLoop.runFor(500ms);
+    engine.start();
+    world.mainLoop.runFor(500ms);
+    EXPECT_EQ(engine.todaySeconds(), Seconds(1));
+}
+
 TEST_F(TimerEngineTest, StoppedAndStartedAgainItTicksAgain) {
     auto& engine = start();
     engine.stop();

@@ -40,14 +40,14 @@ TEST_F(AppDelegateTest, StartedHiddenThePanelExistsAndShowsOnlyAfterToggleVisibl
     runFor(1s);
     EXPECT_EQ(surfaces_.panel().panelSize(), (PanelSize{65, 27.5}));
     EXPECT_FALSE(surfaces_.panel().isVisible());
-    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(1));
+    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(1));
 }
 
 TEST_F(AppDelegateTest, EachSecondsTickRunsBeforeTheRefresh) {
     launch();
     runFor(1s);
-    EXPECT_EQ(program_->days.seconds(DayKey("2026-01-15")), Seconds(1));
-    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(1));
+    EXPECT_EQ(program_->services.days.seconds(DayKey("2026-01-15")), Seconds(1));
+    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(1));
 }
 
 TEST_F(AppDelegateTest, WhileAMenuIsOpenTheTitleStandsStillButTicksGoOn) {
@@ -57,16 +57,16 @@ TEST_F(AppDelegateTest, WhileAMenuIsOpenTheTitleStandsStillButTicksGoOn) {
     machine_.mainLoop.setMenu(platform::FakeMainLoop::Menu::open);
     runFor(5s);
     EXPECT_EQ(surfaces_.statusItem().titlesSet(), titles);
-    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(6));
+    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(6));
 }
 
 TEST_F(AppDelegateTest, TheRefreshSetsTheRunningTotalUnderTheClocksKeyBetweenTheBoundaryAndTheTick) {
     launch();
     runFor(10s);
-    program_->engine.stop();
+    program_->services.engine.stop();
     machine_.clock.setNow(sys_days(2026y / 1 / 16) + 1ms);
     runFor(1s);
-    EXPECT_EQ(program_->days.seconds(DayKey("2026-01-16")), Seconds(10));
+    EXPECT_EQ(program_->services.days.seconds(DayKey("2026-01-16")), Seconds(10));
 }
 
 TEST_F(AppDelegateTest, ALeftClickOnTheStatusItemWritesTheStoresAndOpensTheStatisticsWindow) {
@@ -145,7 +145,7 @@ TEST_F(AppDelegateTest, WithoutAStatisticsWindowAReopenBringsAHiddenPanelUp) {
     launch();
     program_->delegate.applicationShouldHandleReopen();
     EXPECT_TRUE(surfaces_.panel().isVisible());
-    EXPECT_TRUE(program_->settings.windowVisible());
+    EXPECT_TRUE(program_->services.settings.windowVisible());
 }
 
 TEST_F(AppDelegateTest, TheEndWritesEverythingAndARestartContinuesTheDay) {
@@ -153,8 +153,8 @@ TEST_F(AppDelegateTest, TheEndWritesEverythingAndARestartContinuesTheDay) {
     runFor(17s);
     program_->delegate.applicationWillTerminate();
     launch();
-    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(17));
-    EXPECT_EQ(program_->engine.liveSeconds(), Seconds(0));
+    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(17));
+    EXPECT_EQ(program_->services.engine.liveSeconds(), Seconds(0));
     runFor(1s);
     program_->delegate.applicationWillTerminate();
     EXPECT_EQ(file("apps.json"), "{\n  \"2026-01-15\" : {\n    \"org.example.Editor\" : 18\n  }\n}");
@@ -166,13 +166,58 @@ TEST_F(AppDelegateTest, ASessionThatIsAboutToEndIsWrittenAndCountingGoesOn) {
     program_->delegate.flushAllStores();
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 4\n}");
     runFor(1s);
-    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(5));
+    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(5));
 }
 
 TEST_F(AppDelegateTest, NothingBookedShowsTheDash) {
     launch();
     EXPECT_EQ(surfaces_.statusItem().title().text(), "—");
     EXPECT_EQ(surfaces_.statusItem().title().mood, StatusTitle::Mood::none);
+}
+
+TEST_F(AppDelegateTest, EverySecondIsBookedEverywhereItBelongs) {
+    launch();
+    program_->services.projects.setActive(program_->services.projects.addProject("Film").id);
+    runFor(31s);
+    program_->delegate.applicationWillTerminate();
+    const auto id = program_->services.projects.activeProjectId()->text();
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 31\n}");
+    EXPECT_EQ(file("apps.json"), "{\n  \"2026-01-15\" : {\n    \"org.example.Editor\" : 31\n  }\n}");
+    EXPECT_EQ(file("hours.json"), "{\n  \"2026-01-15 09\" : {\n    \"org.example.Editor\" : 31\n  }\n}");
+    EXPECT_EQ(file("minutes.json"), "{\n  \"2026-01-15 09:00\" : {\n    \"org.example.Editor\" : 31\n  }\n}");
+    EXPECT_EQ(file("project_time.json"), "{\n  \"2026-01-15\" : {\n    \"" + id +
+                                             "\" : {\n      \"org.example.Editor\" : 31\n    }\n  }\n}");
+}
+
+TEST_F(AppDelegateTest, AReopenLeavesTheMinuteAndProjectFilesAlone) {
+    launch();
+    runFor(2s);
+    program_->delegate.applicationShouldHandleReopen();
+    EXPECT_NE(file("hours.json"), "(none)");
+    EXPECT_EQ(file("minutes.json"), "(none)");
+    EXPECT_EQ(file("project_time.json"), "(none)");
+}
+
+TEST_F(AppDelegateTest, AChangeOfProjectsShowsAtOnce) {
+    launch();
+    program_->services.projects.setActive(program_->services.projects.addProject("LMN Juvenil").id);
+    machine_.mainLoop.run();
+    EXPECT_EQ(surfaces_.statusItem().title().text(), "— · LMN Juvenil");
+}
+
+TEST_F(AppDelegateTest, AMilestoneIsToldOnceAlsoAcrossARestart) {
+    auto goals = GoalSettings();
+    goals.dailyHours = 10.0 / 3600;
+    launch();
+    program_->services.goals.setSettings(goals);
+    program_->services.goals.save();
+    runFor(20s);
+    program_->delegate.applicationWillTerminate();
+    launch();
+    runFor(20s);
+    std::vector<std::string> titles;
+    for (const auto& message : machine_.notifications.delivered()) titles.push_back(message.title);
+    EXPECT_EQ(titles, (std::vector<std::string>{"Casi lo logras", "Meta diaria cumplida ⭐"}));
 }
 
 TEST_F(AppDelegateTest, AMissingTrayIsToldOnce) {

@@ -23,30 +23,40 @@ void ShellWorld::launch(StatisticsWindow* statistics) {
     program_->delegate.applicationDidFinishLaunching();
 }
 
+MenuRows ShellWorld::menu() {
+    if (!program_) launch();
+    surfaces_.statusItem().click(StatusItem::Click::right);
+    return surfaces_.statusItem().menus().back();
+}
+
+bool ShellWorld::choose(const std::string& title) {
+    const bool chosen = chooseIn(menu(), title);
+    machine_.mainLoop.run();
+    return chosen;
+}
+
+bool ShellWorld::chooseIn(const MenuRows& rows, const std::string& title) {
+    for (const auto& row : rows) {
+        if (row.title == title && row.action) {
+            row.action();
+            return true;
+        }
+        if (chooseIn(row.children, title)) return true;
+    }
+    return false;
+}
+
 std::string ShellWorld::file(const std::string& name) const {
     return machine_.files.content(dataDirectory(machine_.files) + "/" + name).value_or("(none)");
 }
 
 ShellWorld::Program::Program(const platform::Platform& platform, Surfaces& surfaces,
                              StatisticsWindow* statistics, std::function<void()> terminate)
-    : settings(platform.preferences),
-      dayRule(platform.clock, settings),
-      idleMonitor(platform.inputActivity),
-      days(platform.files, platform.log, dayRule),
-      apps(platform.files, platform.log, platform.workspace),
-      keys(platform.clock, settings, dayRule),
-      hours(platform.files, platform.log, platform.workspace),
-      minutes(platform.files, platform.log, platform.workspace),
-      engine(platform.clock, platform.mainLoop, settings, idleMonitor, keys, {days, apps, hours, minutes},
-             TickListeners{}),
-      theme(themes, settings, broadcaster),
+    : services(platform),
+      theme(themes, services.settings, services.broadcaster),
       delegate({
           .platform = platform,
-          .broadcaster = broadcaster,
-          .settings = settings,
-          .days = days,
-          .apps = apps,
-          .engine = engine,
+          .services = services,
           .themes = themes,
           .theme = theme,
           .surfaces = surfaces,

@@ -6,18 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "core/app_usage_store.h"
-#include "core/broadcaster.h"
-#include "core/clock_keys.h"
-#include "core/daily_store.h"
-#include "core/day_rule.h"
-#include "core/hourly_store.h"
-#include "core/idle_monitor.h"
-#include "core/minute_store.h"
-#include "core/settings.h"
-#include "core/timer_engine.h"
 #include "platform/fake/fake_machine.h"
 #include "shell/app_delegate.h"
+#include "shell/services.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
@@ -67,6 +58,9 @@ public:
     }
     void onClick(std::function<void(Click)> clicked) override { clicked_ = std::move(clicked); }
     [[nodiscard]] bool isShown() const override { return shown_; }
+    void showMessage(const std::string& title, const std::string& body) override {
+        messages_.push_back(title + ": " + body);
+    }
     void popUpMenu(const MenuRows& rows) override { menus_.push_back(rows); }
 
     void click(Click click) const { clicked_(click); }
@@ -74,6 +68,7 @@ public:
     [[nodiscard]] const StatusTitle& title() const { return title_; }
     [[nodiscard]] int titlesSet() const { return titlesSet_; }
     [[nodiscard]] const std::vector<MenuRows>& menus() const { return menus_; }
+    [[nodiscard]] const std::vector<std::string>& messages() const { return messages_; }
 
 private:
     StatusTitle title_;
@@ -81,6 +76,7 @@ private:
     bool shown_ = true;
     std::function<void(Click)> clicked_;
     std::vector<MenuRows> menus_;
+    std::vector<std::string> messages_;
 };
 
 class FakeStatisticsWindow final : public StatisticsWindow {
@@ -117,9 +113,26 @@ public:
     [[nodiscard]] const std::vector<std::string>& hints() const { return hints_; }
     [[nodiscard]] const std::vector<std::string>& warnings() const { return warnings_; }
 
+    /// The last question, and the user's answers to it.
+    [[nodiscard]] const TextPrompt& prompt() const { return prompt_; }
+    [[nodiscard]] const Confirmation& question() const { return question_; }
+    [[nodiscard]] int questionsAsked() const { return asked_; }
+    void answer(const std::string& text) const { answered_(text); }
+    void agree() const { agreed_(); }
+
 private:
     void warn(const std::string& title, const std::string& text) override {
         warnings_.push_back(title + ": " + text);
+    }
+    void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) override {
+        prompt_ = prompt;
+        answered_ = std::move(accepted);
+        ++asked_;
+    }
+    void confirm(const Confirmation& question, std::function<void()> accepted) override {
+        question_ = question;
+        agreed_ = std::move(accepted);
+        ++asked_;
     }
 
     ScreenLog log_;
@@ -127,6 +140,11 @@ private:
     FakeStatusItem* statusItem_ = nullptr;
     std::vector<std::string> hints_;
     std::vector<std::string> warnings_;
+    TextPrompt prompt_;
+    Confirmation question_;
+    int asked_ = 0;
+    std::function<void(std::string)> answered_;
+    std::function<void()> agreed_;
 };
 
 /// The whole program but for the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.
@@ -134,9 +152,15 @@ class ShellWorld : public testing::Test {
 protected:
     ShellWorld();
 
+    /// The menu as it opens now.
+    [[nodiscard]] MenuRows menu();
+    /// Carries out the command of the first row of this title, submenus included; false if there is none.
+    bool choose(const std::string& title);
+
     /// Builds the program and lets it launch.
     void launch(StatisticsWindow* statistics = nullptr);
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
+    [[nodiscard]] static bool chooseIn(const MenuRows& rows, const std::string& title);
     [[nodiscard]] std::string file(const std::string& name) const;
 
     platform::FakeMachine machine_;
@@ -152,16 +176,7 @@ struct ShellWorld::Program {
     Program(const platform::Platform& platform, Surfaces& surfaces, StatisticsWindow* statistics,
             std::function<void()> terminate);
 
-    Broadcaster broadcaster;
-    Settings settings;
-    DayRule dayRule;
-    IdleMonitor idleMonitor;
-    DailyStore days;
-    AppUsageStore apps;
-    ClockKeys keys;
-    HourlyStore hours;
-    MinuteStore minutes;
-    TimerEngine engine;
+    Services services;
     ThemeRegistry themes;
     ThemeController theme;
     AppDelegate delegate;

@@ -13,91 +13,73 @@ using platform::Point;
 class StatusCommandsTest : public ShellWorld {
 protected:
     StatusCommandsTest() { launch(); }
-
-    /// Carries out the command of the row of this title, submenus included.
-    void choose(const std::string& title) {
-        surfaces_.statusItem().click(StatusItem::Click::right);
-        ASSERT_TRUE(chooseIn(surfaces_.statusItem().menus().back(), title)) << title;
-        machine_.mainLoop.run();
-    }
-
-private:
-    static bool chooseIn(const MenuRows& rows, const std::string& title) {
-        for (const auto& row : rows) {
-            if (row.title == title && row.action) {
-                row.action();
-                return true;
-            }
-            if (chooseIn(row.children, title)) return true;
-        }
-        return false;
-    }
 };
 
 TEST_F(StatusCommandsTest, SwitchThemeSizesThePanelForTheNewTheme) {
-    choose("Hacker");
+    ASSERT_TRUE(choose("Hacker"));
     EXPECT_EQ(surfaces_.panel().panelSize(), (PanelSize{260 * 0.25, 110 * 0.25}));
 }
 
 TEST_F(StatusCommandsTest, SwitchSizeKeepsTheTopLeftCorner) {
     const auto before = surfaces_.panel().origin();
-    choose("100%");
+    ASSERT_TRUE(choose("100%"));
     EXPECT_EQ(surfaces_.panel().panelSize(), (PanelSize{220, 124}));
     EXPECT_EQ(surfaces_.panel().origin(), before);
-    EXPECT_EQ(program_->settings.windowOrigin(), before);
+    EXPECT_EQ(program_->services.settings.windowOrigin(), before);
 }
 
 TEST_F(StatusCommandsTest, AChangeOfTheIdleThresholdHoldsFromTheNextTick) {
     machine_.inputActivity.set(100);
     runFor(2s);
-    EXPECT_EQ(program_->engine.status(), TimerEngine::Status::active);
-    choose("1 min");
+    EXPECT_EQ(program_->services.engine.status(), TimerEngine::Status::active);
+    ASSERT_TRUE(choose("1 min"));
     runFor(1s);
-    EXPECT_EQ(program_->engine.status(), TimerEngine::Status::idle);
+    EXPECT_EQ(program_->services.engine.status(), TimerEngine::Status::idle);
 }
 
 TEST_F(StatusCommandsTest, ToggleVisibleHidesThePanelAndRemembersIt) {
-    choose("Ocultar ventana");
+    ASSERT_TRUE(choose("Ocultar ventana"));
     EXPECT_FALSE(surfaces_.panel().isVisible());
-    EXPECT_FALSE(program_->settings.windowVisible());
-    choose("Mostrar ventana");
+    EXPECT_FALSE(program_->services.settings.windowVisible());
+    ASSERT_TRUE(choose("Mostrar ventana"));
     EXPECT_TRUE(surfaces_.panel().isVisible());
-    EXPECT_TRUE(program_->settings.windowVisible());
+    EXPECT_TRUE(program_->services.settings.windowVisible());
 }
 
 TEST_F(StatusCommandsTest, ResetTodayPutsTheDayBackOnDiskAtOnce) {
     runFor(40s);
-    choose("Reiniciar día");
+    ASSERT_TRUE(choose("Reiniciar día"));
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 0\n}");
     runFor(1s);
-    EXPECT_EQ(program_->engine.todaySeconds(), Seconds(1));
+    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(1));
 }
 
 TEST_F(StatusCommandsTest, RevealDataWritesTheDayAndShowsItsFile) {
     runFor(5s);
-    choose("Revelar archivo de datos");
+    ASSERT_TRUE(choose("Revelar archivo de datos"));
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 5\n}");
     EXPECT_EQ(file("apps.json"), "(none)");
-    EXPECT_EQ(machine_.workspace.revealed(), std::vector<std::string>{program_->days.dataFilePath()});
+    EXPECT_EQ(machine_.workspace.revealed(),
+              std::vector<std::string>{program_->services.days.dataFilePath()});
 }
 
 TEST_F(StatusCommandsTest, AFileThatCannotBeShownIsTold) {
     machine_.workspace.setRevealOutcome(Error{"no file manager"});
-    choose("Revelar archivo de datos");
+    ASSERT_TRUE(choose("Revelar archivo de datos"));
     EXPECT_EQ(surfaces_.warnings(),
               std::vector<std::string>{"No se pudo mostrar el archivo de datos: no file manager"});
 }
 
 TEST_F(StatusCommandsTest, ToggleLoginItemRegistersAndUnregisters) {
-    choose("Iniciar al arrancar");
+    ASSERT_TRUE(choose("Iniciar al arrancar"));
     EXPECT_TRUE(machine_.loginItem.isEnabled());
-    choose("Iniciar al arrancar");
+    ASSERT_TRUE(choose("Iniciar al arrancar"));
     EXPECT_FALSE(machine_.loginItem.isEnabled());
 }
 
 TEST_F(StatusCommandsTest, AFailureToChangeTheLoginItemIsTold) {
     machine_.loginItem.setFailure(Error{"the folder is read-only"});
-    choose("Iniciar al arrancar");
+    ASSERT_TRUE(choose("Iniciar al arrancar"));
     EXPECT_EQ(surfaces_.warnings(),
               std::vector<std::string>{"No se pudo cambiar el ajuste de inicio: the folder is read-only"});
     EXPECT_FALSE(machine_.loginItem.isEnabled());

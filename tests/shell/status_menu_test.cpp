@@ -14,12 +14,6 @@ using namespace std::chrono_literals;
 
 class StatusMenuTest : public ShellWorld {
 protected:
-    MenuRows menu() {
-        if (!program_) launch();
-        surfaces_.statusItem().click(StatusItem::Click::right);
-        return surfaces_.statusItem().menus().back();
-    }
-
     static const MenuRow& row(const MenuRows& rows, const std::string& title) {
         const auto found =
             std::find_if(rows.begin(), rows.end(), [&](const auto& each) { return each.title == title; });
@@ -45,23 +39,66 @@ protected:
 };
 
 TEST_F(StatusMenuTest, HasItsRowsInOrder) {
-    EXPECT_EQ(titles(menu()), (Titles{"Sesión: 00:00:00", "Hoy: 00:00:00", "-", "Tema", "Tamaño", "Idle",
-                                      "El día empieza", "Ocultar ventana", "Reiniciar día", "-",
-                                      "Revelar archivo de datos", "-", "Iniciar al arrancar", "-", "Salir"}));
+    EXPECT_EQ(titles(menu()), (Titles{"Hoy · — productivo",
+                                      "-",
+                                      "Sesión: 00:00:00",
+                                      "Hoy: 00:00:00",
+                                      "-",
+                                      "Productivo: 0s",
+                                      "Neutral: 0s",
+                                      "Distrayendo: 0s",
+                                      "-",
+                                      "Tema",
+                                      "Tamaño",
+                                      "Idle",
+                                      "El día empieza",
+                                      "Proyecto",
+                                      "Ocultar ventana",
+                                      "Reiniciar día",
+                                      "-",
+                                      "Revelar archivo de datos",
+                                      "-",
+                                      "Iniciar al arrancar",
+                                      "-",
+                                      "Salir"}));
 }
 
 TEST_F(StatusMenuTest, IsMadeAnewAtEveryOpening) {
-    EXPECT_EQ(menu()[0].title, "Sesión: 00:00:00");
+    EXPECT_EQ(menu()[2].title, "Sesión: 00:00:00");
     runFor(65s);
-    EXPECT_EQ(menu()[0].title, "Sesión: 00:01:05");
-    EXPECT_EQ(menu()[1].title, "Hoy: 00:01:05");
+    EXPECT_EQ(menu()[2].title, "Sesión: 00:01:05");
+    EXPECT_EQ(menu()[3].title, "Hoy: 00:01:05");
 }
 
 TEST_F(StatusMenuTest, TheClocksAreDisabledRows) {
     const auto rows = menu();
-    EXPECT_FALSE(rows[0].isEnabled());
-    EXPECT_FALSE(rows[1].isEnabled());
+    EXPECT_FALSE(rows[2].isEnabled());
+    EXPECT_FALSE(rows[3].isEnabled());
     EXPECT_TRUE(row(rows, "Reiniciar día").isEnabled());
+}
+
+TEST_F(StatusMenuTest, TellsWhatTheDayWasWorth) {
+    machine_.workspace.setFrontmost(AppId("com.apple.dt.Xcode"));
+    launch();
+    runFor(90s);
+    machine_.workspace.setFrontmost(AppId("com.valvesoftware.steam"));
+    runFor(30s);
+    machine_.workspace.setFrontmost(AppId("com.apple.finder"));
+    runFor(61s);
+    const auto rows = menu();
+    EXPECT_EQ(rows[0].title, "Hoy · 75% productivo");
+    EXPECT_EQ(rows[5].title, "Productivo: 1m 30s");
+    EXPECT_EQ(rows[6].title, "Neutral: 1m 1s");
+    EXPECT_EQ(rows[7].title, "Distrayendo: 30s");
+    EXPECT_TRUE(rows[8].isSeparator());
+}
+
+TEST_F(StatusMenuTest, UncategorisedTimeHasARowFromAMinuteOn) {
+    launch();
+    runFor(59s);
+    EXPECT_TRUE(menu()[8].isSeparator());
+    runFor(1s);
+    EXPECT_EQ(menu()[8].title, "Sin categorizar: 1m 0s");
 }
 
 TEST_F(StatusMenuTest, KeyEquivalents) {
@@ -124,10 +161,10 @@ TEST_F(StatusMenuTest, StartAtLoginIsCheckedWhenItIsEnabled) {
 
 TEST_F(StatusMenuTest, SaysWhenInputGoesUnseen) {
     machine_.inputActivity.setCoverage(platform::InputCoverage::x11WindowsOnly);
-    EXPECT_EQ(menu()[2].title, "Wayland: solo se ven las ventanas X11");
-    EXPECT_FALSE(menu()[2].isEnabled());
+    EXPECT_EQ(menu()[4].title, "Wayland: solo se ven las ventanas X11");
+    EXPECT_FALSE(menu()[4].isEnabled());
     machine_.inputActivity.setCoverage(platform::InputCoverage::nothing);
-    EXPECT_EQ(menu()[2].title, "Sin detección de actividad: no se cuenta");
+    EXPECT_EQ(menu()[4].title, "Sin detección de actividad: no se cuenta");
 }
 
 TEST_F(StatusMenuTest, RowsCarryOutTheirCommands) {
@@ -137,10 +174,10 @@ TEST_F(StatusMenuTest, RowsCarryOutTheirCommands) {
     row(row(rows, "Idle").children, "1 min").action();
     row(row(rows, "El día empieza").children, "04:00").action();
     row(rows, "Salir").action();
-    EXPECT_EQ(program_->settings.activeThemeId(), "minimal");
-    EXPECT_EQ(program_->settings.sizeScale(), 5.0);
-    EXPECT_EQ(program_->settings.idleThresholdSeconds(), 60);
-    EXPECT_EQ(program_->settings.dayStartHour(), 4);
+    EXPECT_EQ(program_->services.settings.activeThemeId(), "minimal");
+    EXPECT_EQ(program_->services.settings.sizeScale(), 5.0);
+    EXPECT_EQ(program_->services.settings.idleThresholdSeconds(), 60);
+    EXPECT_EQ(program_->services.settings.dayStartHour(), 4);
     EXPECT_TRUE(terminated_);
 }
 

@@ -13,6 +13,7 @@ class ProcessEndings;
 class Randomness;
 class RunningInstance;
 class Screens;
+class UserNotifications;
 class WindowManager;
 class Workspace;
 
@@ -32,6 +33,7 @@ struct Platform {
     RunningInstance& runningInstance;
     ProcessEndings& endings;
     Randomness& randomness;
+    UserNotifications& notifications;
 };
 
 }  // namespace tidewatch::platform

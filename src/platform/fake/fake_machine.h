@@ -14,6 +14,7 @@
 #include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
+#include "platform/fake/fake_user_notifications.h"
 #include "platform/fake/fake_window_manager.h"
 #include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_file_system.h"
@@ -40,10 +41,11 @@ struct FakeMachine {
     FakeRunningInstance runningInstance;
     FakeProcessEndings endings;
     FakeRandomness randomness;
+    FakeUserNotifications notifications;
 
-    Platform platform{log,       clock,   mainLoop,      files,     preferences,     inputActivity,
-                      workspace, screens, windowManager, loginItem, runningInstance, endings,
-                      randomness};
+    Platform platform{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
+                      workspace,  screens,      windowManager, loginItem, runningInstance, endings,
+                      randomness, notifications};
 };
 
 }  // namespace tidewatch::platform

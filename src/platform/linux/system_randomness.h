@@ -12,7 +12,7 @@ public:
     [[nodiscard]] std::uint64_t bits() override { return std::uint64_t{device_()} << 32 | device_(); }
 
 private:
-    std::random_device device_{"getrandom"};
+    std::random_device device_;
 };
 
 }  // namespace tidewatch::platform

@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "shell/style/liquid_painter.h"
-
 namespace tidewatch {
 namespace {
 
@@ -76,9 +74,11 @@ QSize LiquidBackground::paintedSize() const {
 }
 
 void LiquidBackground::paint(QPainter* painter) {
+    const LiquidSetting setting{paintedSize(), size() / unit_, intensity_, ground_};
+    if (!painter_ || painter_->setting() != setting) painter_.emplace(setting);
     const double seconds = time_ ? time_->secondsSinceReferenceDate() : 0;
-    const auto layers = liquidImage(paintedSize(), size() / unit_, liquidAngles(seconds), intensity_);
-    paintLiquid(*painter, layers, {contentsBoundingRect().size(), cornerRadius_ * unit_, unit_, ground_});
+    paintLiquid(*painter, painter_->paint(liquidAngles(seconds)),
+                {contentsBoundingRect().size(), cornerRadius_ * unit_, unit_, ground_});
 }
 
 void LiquidBackground::geometryChange(const QRectF& to, const QRectF& from) {

@@ -4,8 +4,10 @@
 #include <QPointer>
 #include <QQuickPaintedItem>
 #include <QQuickWindow>
+#include <optional>
 
 #include "shell/style/frame_ticker.h"
+#include "shell/style/liquid_painter.h"
 #include "shell/style/panel_shape.h"
 #include "shell/style/wall_time.h"
 
@@ -80,6 +82,7 @@ private:
     double reduction_ = 3;
     bool running_ = true;
     QPointer<QQuickWindow> window_;
+    std::optional<LiquidPainter> painter_;
     FrameTicker ticker_;
 };
 

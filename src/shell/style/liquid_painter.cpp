@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QRadialGradient>
 #include <QTransform>
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -42,32 +43,43 @@ double angleAt(double seconds, double period) {
     return std::fmod(seconds, period) / period * 360;
 }
 
-/// A gradient round the centre whose last stop leads back into its first.
+/// A square image of a whole wheel, large enough to cover a box of `box` pixels however it is turned.
 template <std::size_t Count>
-QConicalGradient wheel(QPointF centre, double angle, const std::array<Color, Count>& stops) {
-    QConicalGradient gradient(centre, angle);
+QImage wheelImage(QSize box, const std::array<Color, Count>& stops) {
+    const int side = static_cast<int>(std::ceil(std::hypot(box.width(), box.height()))) + 2;
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    QConicalGradient gradient(QRectF(image.rect()).center(), 0);
+    // The last stop leads back into the first.
     for (std::size_t i = 0; i <= Count; ++i) {
         gradient.setColorAt(static_cast<double>(i) / Count, toQColor(stops[i % Count]));
     }
-    return gradient;
-}
-
-QImage spectrumImage(QSize pixels, double pixelsPerPoint, double angle, double intensity) {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    auto colors = spectrum;
-    for (auto& color : colors) color = color.at(spectrumOpacity * intensity);
     QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(image.rect(), wheel(QRectF(image.rect()).center(), angle, colors));
-    painter.end();
-    blur(image, blurRadius * pixelsPerPoint);
+    painter.fillRect(image.rect(), gradient);
     return image;
 }
 
-void paintGlints(QPainter& painter, QSizeF box, double angle) {
+QImage spectrumImage(const LiquidSetting& setting) {
+    auto colors = spectrum;
+    for (auto& color : colors) color = color.at(spectrumOpacity * setting.intensity);
+    auto image = wheelImage(setting.pixels, colors);
+    blur(image, blurRadius * setting.pixels.width() / setting.points.width());
+    return image;
+}
+
+QImage glintsImage(const LiquidSetting& setting) {
     std::array<Color, glints.size()> colors;
     for (std::size_t i = 0; i < glints.size(); ++i) colors[i] = Color::whiteAt(glints[i]);
-    painter.fillRect(QRectF(QPointF(0, 0), box), wheel({box.width() / 2, box.height() / 2}, angle, colors));
+    return wheelImage(setting.pixels, colors);
+}
+
+/// Angles grow against the clock.
+void drawTurned(QPainter& painter, const QImage& image, QPointF centre, double angle) {
+    painter.save();
+    painter.translate(centre);
+    painter.rotate(-angle);
+    painter.drawImage(QPointF(-image.width() / 2.0, -image.height() / 2.0), image);
+    painter.restore();
 }
 
 void paintOrb(QPainter& painter, const SpecularOrb& orb, double pixelsPerPoint) {
@@ -81,6 +93,15 @@ void paintOrb(QPainter& painter, const SpecularOrb& orb, double pixelsPerPoint) 
     painter.setPen(Qt::NoPen);
     painter.setBrush(light);
     painter.drawEllipse(orb.centre, outer, outer);
+}
+
+/// Light from the upper left, and a shade below in which white letters can be read.
+QLinearGradient sheen(const QRectF& box) {
+    QLinearGradient gradient(box.topLeft(), box.bottomRight());
+    gradient.setColorAt(0, toQColor(Color::whiteAt(0.24)));
+    gradient.setColorAt(0.3, toQColor(Color::blackAt(0.08)));
+    gradient.setColorAt(1, toQColor(Color::blackAt(0.24)));
+    return gradient;
 }
 
 }  // namespace
@@ -112,35 +133,33 @@ std::array<SpecularOrb, 4> specularOrbs(QSizeF box, double orbAngle) {
     return orbs;
 }
 
-QImage liquidImage(QSize pixels, QSizeF points, const LiquidAngles& angles, double intensity) {
-    const double pixelsPerPoint = pixels.width() / points.width();
-    const QSizeF box(pixels);
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(toQColor(Color::blackAt(baseOpacity)));
+LiquidPainter::LiquidPainter(const LiquidSetting& setting)
+    : setting_(setting), spectrum_(spectrumImage(setting)), glints_(glintsImage(setting)) {}
+
+QImage LiquidPainter::paint(const LiquidAngles& angles) const {
+    QImage image(setting_.pixels, QImage::Format_ARGB32_Premultiplied);
+    const QRectF box(image.rect());
+    image.fill(setting_.ground == Ground::opaque ? toQColor(deepWater) : Qt::transparent);
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawImage(0, 0, spectrumImage(pixels, pixelsPerPoint, angles.spectrum, intensity));
-    paintGlints(painter, box, angles.glints);
-    for (const auto& orb : specularOrbs(box, angles.orbs)) paintOrb(painter, orb, pixelsPerPoint);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.fillRect(box, toQColor(Color::blackAt(baseOpacity)));
+    drawTurned(painter, spectrum_, box.center(), angles.spectrum);
+    drawTurned(painter, glints_, box.center(), angles.glints);
+    const double pixelsPerPoint = setting_.pixels.width() / setting_.points.width();
+    for (const auto& orb : specularOrbs(box.size(), angles.orbs)) paintOrb(painter, orb, pixelsPerPoint);
+    painter.fillRect(box, sheen(box));
     return image;
 }
 
 void paintLiquid(QPainter& painter, const QImage& layers, const PanelShape& shape) {
-    const auto area = shape.area();
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    if (shape.ground == Ground::opaque) painter.fillPath(area, toQColor(deepWater));
-
     QBrush liquid(layers);
-    liquid.setTransform(
-        QTransform::fromScale(shape.size.width() / layers.width(), shape.size.height() / layers.height()));
-    painter.fillPath(area, liquid);
-
-    QLinearGradient sheen(shape.bounds().topLeft(), shape.bounds().bottomRight());
-    sheen.setColorAt(0, toQColor(Color::whiteAt(0.24)));
-    sheen.setColorAt(0.3, toQColor(Color::blackAt(0.08)));
-    sheen.setColorAt(1, toQColor(Color::blackAt(0.24)));
-    painter.fillPath(area, sheen);
+    // From the middle of the outermost pixels on: beyond them the brush would mix in the opposite edge.
+    liquid.setTransform(QTransform::fromTranslate(-0.5, -0.5) *
+                        QTransform::fromScale(shape.size.width() / std::max(1, layers.width() - 1),
+                                              shape.size.height() / std::max(1, layers.height() - 1)));
+    painter.fillPath(shape.area(), liquid);
     drawBorder(painter, shape, toQColor(Color::whiteAt(0.35)), 0.75);
     painter.restore();
 }

@@ -20,19 +20,42 @@ struct LiquidAngles {
 /// `seconds` since any fixed moment, not below 0.
 [[nodiscard]] LiquidAngles liquidAngles(double seconds);
 
-/// The four orbs in a box, in its own measures.
+/// A spot of light, in the measures of the box that it moves in.
 struct SpecularOrb {
     QPointF centre;
     double diameter = 0;
 };
 [[nodiscard]] std::array<SpecularOrb, 4> specularOrbs(QSizeF box, double orbAngle);
 
-/// The moving layers in a small image of `pixels` that stands for a panel of `points`: everything in it is
-/// soft, so that it can be scaled up without being told from one painted at full size. Premultiplied;
-/// translucent. `intensity` from 0 to 1 is that of the colours.
-[[nodiscard]] QImage liquidImage(QSize pixels, QSizeF points, const LiquidAngles& angles, double intensity);
+/// What a small image of the liquid is painted for.
+struct LiquidSetting {
+    QSize pixels;          ///< of the small image
+    QSizeF points;         ///< of the panel that it stands for, unscaled
+    double intensity = 1;  ///< strength of the colours, 0 to 1
+    Ground ground = Ground::translucent;
 
-/// Lays a small image over the panel and adds the still sheen and the stroke at the edge.
+    bool operator==(const LiquidSetting&) const = default;
+};
+
+/// The layers of the liquid in a small image: everything in it is soft, so that it can be scaled up without
+/// being told from one painted at full size. The two wheels of colour and of light are painted once and then
+/// only turned, the first one blurred beforehand: a round blur does not mind the turning.
+class LiquidPainter final {
+public:
+    explicit LiquidPainter(const LiquidSetting& setting);
+
+    [[nodiscard]] const LiquidSetting& setting() const { return setting_; }
+
+    /// Premultiplied; opaque if the ground is.
+    [[nodiscard]] QImage paint(const LiquidAngles& angles) const;
+
+private:
+    LiquidSetting setting_;
+    QImage spectrum_;
+    QImage glints_;
+};
+
+/// Lays a small image over the panel, rounded if its ground is translucent, with a thin stroke at the edge.
 void paintLiquid(QPainter& painter, const QImage& layers, const PanelShape& shape);
 
 }  // namespace tidewatch

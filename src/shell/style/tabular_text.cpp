@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QQuickWindow>
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace tidewatch {
@@ -12,6 +13,9 @@ namespace {
 /// Letters below this size, in pixels of the screen, lose half of their colour to the smoothing of edges.
 /// They are drawn twice, which gives it back without making them bolder.
 constexpr double faintSize = 12;
+
+/// How far below the letters the layers of the shade lie, in the font's pixels.
+constexpr std::array shadeDrops = {0.3, 0.6, 0.9, 1.2};
 
 }  // namespace
 
@@ -112,13 +116,19 @@ void TabularText::paint(QPainter* painter) {
     painter->translate(onPixel((width() - line_.width * scale) / 2), onPixel(metrics.ascent() * scale));
     painter->scale(scale, scale);
     painter->setFont(font_);
-    if (shade_.alpha() > 0) {
-        painter->translate(0, 1);
-        drawLetters(*painter, shade_);
-        painter->translate(0, -1);
-    }
+    if (shade_.alpha() > 0) drawShade(*painter);
     drawLetters(*painter, color_);
     if (metrics.ascent() * scale / pixel < faintSize) drawLetters(*painter, color_);
+}
+
+void TabularText::drawShade(QPainter& painter) const {
+    QColor layer = shade_;
+    layer.setAlphaF(shade_.alphaF() / static_cast<float>(shadeDrops.size()));
+    for (const double drop : shadeDrops) {
+        painter.translate(0, drop);
+        drawLetters(painter, layer);
+        painter.translate(0, -drop);
+    }
 }
 
 void TabularText::drawLetters(QPainter& painter, const QColor& color) const {

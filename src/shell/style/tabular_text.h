@@ -58,6 +58,7 @@ protected:
 
 private:
     void layOutAgain();
+    void drawShade(QPainter& painter) const;
     void drawLetters(QPainter& painter, const QColor& color) const;
     [[nodiscard]] double screenPixel() const;
 

@@ -64,7 +64,7 @@ QColor ClockPresenter::secondaryText() const {
 
 QColor ClockPresenter::textShade() const {
     // White letters on moving pastels need something to stand out from.
-    return backgroundMoves() ? toQColor(Color::blackAt(0.3)) : QColor(Qt::transparent);
+    return backgroundMoves() ? toQColor(Color::blackAt(0.36)) : QColor(Qt::transparent);
 }
 
 void ClockPresenter::setTranslucent(bool translucent) {

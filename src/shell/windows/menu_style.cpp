@@ -38,4 +38,22 @@ QString hintStyleSheet(const DashboardStyle& style) {
         .arg(over(style.bg, style.card), over(style.bg, style.stroke), over(style.bg, style.primaryText));
 }
 
+QString dialogStyleSheet(const DashboardStyle& style) {
+    const auto shade = [&](const Color& colour) { return over(style.bg, colour); };
+    return QStringLiteral(
+               "QDialog { background: %1; }"
+               "QLabel { color: %2; font: 13px Inter; }"
+               "QLabel#title { font: 600 16px Inter; }"
+               "QLineEdit { background: %3; color: %2; border: 1px solid %4; border-radius: 6px; padding: "
+               "6px 8px;"
+               " font: 13px Inter; selection-background-color: %5; selection-color: %1; }"
+               "QLineEdit:focus { border-color: %5; }"
+               "QPushButton { background: %3; color: %2; border: 1px solid %4; border-radius: 6px;"
+               " padding: 6px 16px; font: 13px Inter; }"
+               "QPushButton:default { background: %5; color: %1; border-color: %5; }"
+               "QPushButton:focus { border-color: %2; }")
+        .arg(shade(style.bg), shade(style.primaryText), shade(style.cardSubtle), shade(style.stroke),
+             shade(style.strongMute));
+}
+
 }  // namespace tidewatch

@@ -12,4 +12,7 @@ namespace tidewatch {
 /// The style sheet of the bubble that tells something beside the clock.
 [[nodiscard]] QString hintStyleSheet(const DashboardStyle& style);
 
+/// The style sheet of dialogs.
+[[nodiscard]] QString dialogStyleSheet(const DashboardStyle& style);
+
 }  // namespace tidewatch

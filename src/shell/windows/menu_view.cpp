@@ -1,6 +1,10 @@
 #include "shell/windows/menu_view.h"
 
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <array>
 
 #include "shell/windows/menu_style.h"
 
@@ -16,6 +20,27 @@ QKeySequence shortcut(char keyEquivalent) {
 /// A title as the menu wants it: an ampersand that is meant is written twice.
 QString title(const std::string& text) {
     return QString::fromStdString(text).replace('&', "&&");
+}
+
+/// A round dot of one colour, with a check mark on it where the row is checked: the icon takes the place that
+/// the menu's own mark would have.
+QIcon swatch(const RgbColor& color, bool checked) {
+    constexpr double side = 48;
+    QPixmap dot(static_cast<int>(side), static_cast<int>(side));
+    dot.fill(Qt::transparent);
+    QPainter painter(&dot);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(color.red, color.green, color.blue));
+    const double inset = side / (checked ? 24 : 6);
+    painter.drawEllipse(QRectF(0, 0, side, side).adjusted(inset, inset, -inset, -inset));
+    if (checked) {
+        painter.setPen(QPen(QColor(0x12, 0x12, 0x12), side / 9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const std::array mark = {QPointF(0.29, 0.52) * side, QPointF(0.44, 0.67) * side,
+                                 QPointF(0.72, 0.34) * side};
+        painter.drawPolyline(mark.data(), static_cast<int>(mark.size()));
+    }
+    return dot;
 }
 
 void addRow(QMenu& menu, const MenuRow& row, const QString& style);
@@ -40,6 +65,7 @@ void addRow(QMenu& menu, const MenuRow& row, const QString& style) {
         addRows(*submenu, row.children, style);
         action = submenu->menuAction();
     }
+    if (row.swatch) action->setIcon(swatch(*row.swatch, row.checked));
     action->setEnabled(row.isEnabled());
     action->setCheckable(row.checked);
     action->setChecked(row.checked);

@@ -1,16 +1,18 @@
 #include "shell/windows/qt_surfaces.h"
 
 #include <QLabel>
-#include <QMessageBox>
+#include <QLineEdit>
 #include <QQmlComponent>
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "shell/style/fonts.h"
 #include "shell/style/style.h"
 #include "shell/windows/menu_style.h"
+#include "shell/windows/question_dialog.h"
 #include "shell/windows/tray_status_item.h"
 
 namespace tidewatch {
@@ -88,13 +90,25 @@ void QtSurfaces::showHint(const std::string& hint) {
 }
 
 void QtSurfaces::warn(const std::string& title, const std::string& message) {
-    auto* box = new QMessageBox(QMessageBox::Warning, text(title), text(title), QMessageBox::Ok);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setInformativeText(text(message));
-    box->setModal(true);
-    box->show();
-    box->raise();
-    box->activateWindow();
+    auto* dialog = new QuestionDialog(text(title), text(message), theme_.active().dashboard);
+    dialog->addButtons("OK", QuestionDialog::Cancel::absent);
+    dialog->present();
+}
+
+void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) {
+    auto* dialog = new QuestionDialog(text(prompt.title), text(prompt.text), theme_.active().dashboard);
+    auto* field = dialog->addField(prompt.fieldWidth, text(prompt.placeholder), text(prompt.initial));
+    dialog->addButtons(text(prompt.accept), QuestionDialog::Cancel::offered);
+    QObject::connect(dialog, &QDialog::accepted, field,
+                     [field, accepted = std::move(accepted)] { accepted(field->text().toStdString()); });
+    dialog->present();
+}
+
+void QtSurfaces::confirm(const Confirmation& question, std::function<void()> accepted) {
+    auto* dialog = new QuestionDialog(text(question.title), text(question.text), theme_.active().dashboard);
+    dialog->addButtons(text(question.accept), QuestionDialog::Cancel::offered);
+    QObject::connect(dialog, &QDialog::accepted, dialog, accepted);
+    dialog->present();
 }
 
 }  // namespace tidewatch

@@ -28,6 +28,8 @@ public:
 
 private:
     void warn(const std::string& title, const std::string& text) override;
+    void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) override;
+    void confirm(const Confirmation& question, std::function<void()> accepted) override;
     [[nodiscard]] std::unique_ptr<QQuickItem> makeClock();
 
     platform::WindowManager& manager_;

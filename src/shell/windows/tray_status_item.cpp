@@ -1,6 +1,7 @@
 #include "shell/windows/tray_status_item.h"
 
 #include <QCursor>
+#include <QGuiApplication>
 #include <QIcon>
 #include <array>
 #include <utility>
@@ -33,6 +34,11 @@ void TrayStatusItem::setTitle(const StatusTitle& title) {
 
 bool TrayStatusItem::isShown() const {
     return QSystemTrayIcon::isSystemTrayAvailable() && icon_->isVisible();
+}
+
+void TrayStatusItem::showMessage(const std::string& title, const std::string& body) {
+    icon_->showMessage(QString::fromStdString(title), QString::fromStdString(body),
+                       QGuiApplication::windowIcon());
 }
 
 void TrayStatusItem::popUpMenu(const MenuRows& rows) {

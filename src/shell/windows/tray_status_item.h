@@ -22,6 +22,7 @@ public:
     void setTitle(const StatusTitle& title) override;
     void onClick(std::function<void(Click)> clicked) override { clicked_ = std::move(clicked); }
     [[nodiscard]] bool isShown() const override;
+    void showMessage(const std::string& title, const std::string& body) override;
     void popUpMenu(const MenuRows& rows) override;
 
 private:

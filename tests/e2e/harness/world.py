@@ -31,7 +31,7 @@ class World:
     the world checks that.
     """
 
-    def __init__(self, name, tray=True, expected_warnings=()):
+    def __init__(self, name, tray=True, session_bus=True, expected_warnings=()):
         self.folder = ARTEFACTS / name
         shutil.rmtree(self.folder, ignore_errors=True)
         self.folder.mkdir(parents=True)
@@ -39,6 +39,7 @@ class World:
         self.expected_warnings = list(expected_warnings)
         self.programs = []
         self._wants_tray = tray
+        self._wants_session_bus = session_bus
         self._processes = []
         self._screen = None
         # Sockets have short names only.
@@ -47,10 +48,12 @@ class World:
     def __enter__(self):
         try:
             self._start_server()
-            self._start_bus()
+            if self._wants_session_bus:
+                self._start_bus()
             self.start("openbox", "--sm-disable")
             wait_until(self.screen.has_window_manager, "the window manager")
-            self.start("dunst")
+            if self._wants_session_bus:
+                self.start("dunst")
             if self._wants_tray:
                 self.start_tray()
         except BaseException:

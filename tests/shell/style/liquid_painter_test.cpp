@@ -60,16 +60,18 @@ TEST(SpecularOrbs, StandAtTheirAnglesAndRadiiOfTheShorterSide) {
     }
 }
 
-TEST(LiquidImage, MovesWithTime) {
-    EXPECT_NE(liquidImage(pixels, points, liquidAngles(0), 1),
-              liquidImage(pixels, points, liquidAngles(1), 1));
-    EXPECT_EQ(liquidImage(pixels, points, liquidAngles(1), 1),
-              liquidImage(pixels, points, liquidAngles(1 + 126), 1));
+QImage liquidImage(double seconds, double intensity = 1, Ground ground = Ground::translucent) {
+    return LiquidPainter({pixels, points, intensity, ground}).paint(liquidAngles(seconds));
 }
 
-TEST(LiquidImage, IsTranslucentAndWeakerWithLessIntensity) {
-    const auto full = liquidImage(pixels, points, liquidAngles(3), 1);
-    const auto weak = liquidImage(pixels, points, liquidAngles(3), 0.45);
+TEST(LiquidPainter, MovesWithTime) {
+    EXPECT_NE(liquidImage(0), liquidImage(1));
+    EXPECT_EQ(liquidImage(1), liquidImage(1 + 126));
+}
+
+TEST(LiquidPainter, IsTranslucentAndWeakerWithLessIntensity) {
+    const auto full = liquidImage(3);
+    const auto weak = liquidImage(3, 0.45);
     double fullAlpha = 0;
     double weakAlpha = 0;
     for (int y = 0; y < pixels.height(); ++y) {
@@ -85,8 +87,8 @@ TEST(LiquidImage, IsTranslucentAndWeakerWithLessIntensity) {
     EXPECT_LT(weakAlpha / count, 0.65);
 }
 
-TEST(LiquidImage, RunsThroughTheWholeColourWheel) {
-    const auto image = liquidImage(pixels, points, liquidAngles(0), 1);
+TEST(LiquidPainter, RunsThroughTheWholeColourWheel) {
+    const auto image = liquidImage(0);
     std::array<int, 6> sextants{};
     for (int y = 0; y < pixels.height(); ++y) {
         for (int x = 0; x < pixels.width(); ++x) {
@@ -101,7 +103,7 @@ QImage painted(Ground ground) {
     QImage image(230, 132, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
-    paintLiquid(painter, liquidImage(pixels, points, liquidAngles(0), 1), {points, 24, 1, ground});
+    paintLiquid(painter, liquidImage(0, 1, ground), {points, 24, 1, ground});
     return image;
 }
 

@@ -1,4 +1,5 @@
-// Paints the clock in every theme at every size, active and idle, into pictures: clock_gallery FOLDER
+// Paints the clock in every theme at every size, active, idle and opaque, and what lies behind the
+// dashboards, into pictures: clock_gallery FOLDER
 
 #include <QDir>
 #include <QGuiApplication>
@@ -8,13 +9,17 @@
 #include <cstdio>
 
 #include "core/size_option.h"
+#include "shell/style/decorations.h"
 #include "shell/style/fonts.h"
+#include "shell/style/liquid_background.h"
+#include "shell/style/qt_color.h"
 #include "shell/views/clock_scene.h"
 
 namespace tidewatch {
 namespace {
 
 constexpr int margin = 12;
+constexpr QSize dashboardSize(1360, 900);
 
 /// Something like a desktop's wallpaper, so that translucency and contrast can be judged.
 class Wallpaper : public QQuickPaintedItem {
@@ -43,10 +48,35 @@ void paintTheme(ClockScene& scene, const Theme& theme, const QDir& folder) {
     }
 }
 
+/// What lies behind the dashboard of a theme.
+void paintDecoration(const Theme& theme, QQuickItem& decoration, const QDir& folder) {
+    QQuickWindow window;
+    window.setColor(toQColor(theme.dashboard.bg));
+    window.resize(dashboardSize);
+    decoration.setParentItem(window.contentItem());
+    decoration.setSize(dashboardSize);
+    window.show();
+    QGuiApplication::processEvents();
+    window.grabWindow().save(folder.filePath(QString::fromStdString(theme.id) + "-decoration.png"));
+    decoration.setParentItem(nullptr);
+}
+
+void paintDecorations(ClockScene& scene, const QDir& folder) {
+    EditorialPaperGrain grain;
+    paintDecoration(scene.themes_.theme("editorial"), grain, folder);
+    HackerScanlines lines;
+    paintDecoration(scene.themes_.theme("hacker"), lines, folder);
+    LiquidBackground liquid;
+    liquid.setTime(scene.presenter_->wallTime());
+    liquid.setIntensity(liquidDecorationIntensity);
+    liquid.setReduction(9);
+    paintDecoration(scene.themes_.theme("liquid"), liquid, folder);
+}
+
 int paintAll(const QString& path) {
     const QDir folder(path);
     if (!folder.mkpath("active") || !folder.mkpath("idle") || !folder.mkpath("opaque")) return 1;
-    ClockScene scene([](const std::string& complaint) { std::fprintf(stderr, "%s\n", complaint.c_str()); });
+    ClockScene scene;
     scene.startAt(Seconds(4 * 3600 + 58 * 60 + 36));
     scene.stars_ = 3;
     scene.runFor(std::chrono::seconds(1));
@@ -60,6 +90,7 @@ int paintAll(const QString& path) {
     scene.machine_.inputActivity.set(400);
     scene.runFor(std::chrono::seconds(2));
     for (const auto& theme : scene.themes_.themes()) paintTheme(scene, theme, QDir(folder.filePath("idle")));
+    paintDecorations(scene, folder);
     for (const auto& warning : scene.viewWarnings_) std::fprintf(stderr, "%s\n", qPrintable(warning));
     return scene.viewWarnings_.isEmpty() ? 0 : 1;
 }

@@ -6,7 +6,6 @@
 
 #include "shell/style/qt_color.h"
 #include "shell/views/clock_scene.h"
-#include "support/fail_test.h"
 
 namespace tidewatch {
 namespace {
@@ -14,8 +13,6 @@ namespace {
 using std::chrono::seconds;
 
 struct ClockPresenterTest : testing::Test, ClockWorld {
-    ClockPresenterTest() : ClockWorld(test::failTest) {}
-
     [[nodiscard]] ClockPresenter& clock() { return *presenter_; }
 
     /// The names of the present stars, "*" for a filled one and "." for an empty one.
@@ -170,7 +167,7 @@ TEST_F(ClockPresenterTest, SaysInWordsWhatItShows) {
 TEST_F(ClockPresenterTest, AResetShowsAtOnce) {
     startAt(Seconds(10'000));
     runFor(seconds(2));
-    engine_->resetToday();
+    rooms_->engine.resetToday();
     EXPECT_EQ(clock().digits(), "00:00:00");
     EXPECT_EQ(clock().sessionLine(), "sesión · 00:00:00");
 }

@@ -8,32 +8,23 @@
 #include "shell/style/style.h"
 
 namespace tidewatch {
-namespace {
 
-using namespace std::chrono;
-
-constexpr Instant start = sys_days(year(2026) / 1 / 15) + hours(9);
-
-}  // namespace
-
-ClockWorld::ClockWorld(std::function<void(const std::string&)> complain)
-    : machine_(start, std::move(complain)) {
-    machine_.workspace.setFrontmost(AppId("org.example.Editor"));
+ClockWorld::ClockWorld() {
+    machine_.putAppInFront("org.example.Editor");
     startAt(Seconds(0));
 }
 
 void ClockWorld::startAt(Seconds today) {
     presenter_.reset();
-    engine_.reset();
-    days_.set(today, dayRule_.today());
-    engine_ = std::make_unique<TimerEngine>(machine_.clock, machine_.mainLoop, settings_, idleMonitor_, days_,
-                                            apps_, TickListeners{});
+    rooms_->daily.set(today, rooms_->dayRule.today());
+    rooms_->daily.flush();
+    rooms_ = std::make_unique<test::CoreRooms>(machine_);
     presenter_ =
-        std::make_unique<ClockPresenter>(*engine_, theme_, machine_.clock, [this] { return stars_; });
-    engine_->start();
+        std::make_unique<ClockPresenter>(rooms_->engine, theme_, machine_.clock, [this] { return stars_; });
+    rooms_->engine.start();
 }
 
-ClockScene::ClockScene(std::function<void(const std::string&)> complain) : ClockWorld(std::move(complain)) {
+ClockScene::ClockScene() {
     window_.setColor(Qt::transparent);
     QObject::connect(&engineOfViews_, &QQmlEngine::warnings, &engineOfViews_,
                      [this](const QList<QQmlError>& errors) {

@@ -6,54 +6,43 @@
 #include <QQuickWindow>
 #include <QStringList>
 #include <chrono>
-#include <functional>
 #include <memory>
-#include <string>
 
-#include "core/app_usage_store.h"
 #include "core/broadcaster.h"
-#include "core/daily_store.h"
-#include "core/day_rule.h"
-#include "core/idle_monitor.h"
 #include "core/settings.h"
-#include "core/timer_engine.h"
-#include "platform/fake/fake_machine.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
 #include "shell/views/clock_presenter.h"
+#include "tests/support/core_rooms.h"
+#include "tests/support/fake_world.h"
 
 namespace tidewatch {
 
-/// What the floating clock stands on, on a fake machine: 2026-01-15 09:00 UTC, an editor in front, nothing
-/// booked yet.
+/// What the floating clock stands on, on a fake machine: an editor in front, nothing booked yet.
 class ClockWorld {
 public:
-    explicit ClockWorld(std::function<void(const std::string&)> complain);
+    ClockWorld();
 
-    /// Puts the day's total to this, as if it had been booked before.
+    /// Starts the program anew with this total for the day, as if it had been booked before.
     void startAt(Seconds today);
 
     /// Lets the engine tick for so long.
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
 
-    platform::FakeMachine machine_;
-    Broadcaster broadcaster_;
+    test::FakeWorld machine_;
     Settings settings_{machine_.preferences};
-    DayRule dayRule_{machine_.clock, settings_};
-    IdleMonitor idleMonitor_{machine_.inputActivity};
-    DailyStore days_{machine_.files, machine_.log, dayRule_};
-    AppUsageStore apps_{machine_.files, machine_.log, machine_.workspace};
+    Broadcaster broadcaster_;
     ThemeRegistry themes_;
     ThemeController theme_{themes_, settings_, broadcaster_};
     int stars_ = 0;
-    std::unique_ptr<TimerEngine> engine_;
+    std::unique_ptr<test::CoreRooms> rooms_ = std::make_unique<test::CoreRooms>(machine_);
     std::unique_ptr<ClockPresenter> presenter_;
 };
 
 /// The clock's view on such a world, in a window of the software scene graph.
 class ClockScene : public ClockWorld {
 public:
-    explicit ClockScene(std::function<void(const std::string&)> complain);
+    ClockScene();
     virtual ~ClockScene();
 
     /// Makes the view anew, `scale` times the theme's size, in a window larger by `margin` pixels on each

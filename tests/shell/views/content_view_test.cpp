@@ -10,7 +10,6 @@
 #include "shell/style/symbol_row.h"
 #include "shell/style/tabular_text.h"
 #include "shell/views/clock_scene.h"
-#include "support/fail_test.h"
 
 namespace tidewatch {
 namespace {
@@ -18,7 +17,6 @@ namespace {
 using std::chrono::seconds;
 
 struct ContentViewTest : testing::Test, ClockScene {
-    ContentViewTest() : ClockScene(test::failTest) {}
     ~ContentViewTest() override {
         EXPECT_TRUE(viewWarnings_.isEmpty()) << viewWarnings_.join("\n").toStdString();
     }

@@ -1,0 +1,91 @@
+// The longest streak that is counted, on a ten-year record in which every day of it is good.
+
+#include <array>
+#include <string_view>
+
+#include "analysis/goal_evaluator.h"
+#include "analysis/goal_store.h"
+#include "analysis/reward_engine.h"
+#include "base/calendar_day.h"
+#include "bench/support/bench_world.h"
+#include "bench/support/ratio.h"
+#include "classification/category_store.h"
+#include "classification/productivity_score.h"
+
+namespace {
+
+using namespace tidewatch;
+using namespace tidewatch::bench;
+
+constexpr std::chrono::sys_days today = std::chrono::January / 15 / 2026;
+constexpr int daysThatCount = 400;
+
+// Weekends and what lies after the record's end get a full day with every application, so that no day is
+// cheaper than a working day.
+void fillGaps(LargeRecord& record, const std::vector<AppSeconds>& fullDay) {
+    for (int i = 0; i <= daysThatCount; ++i) {
+        const auto day = dayKeyOf(today - std::chrono::days(i));
+        const std::array<std::string_view, 1> dayPath{day.text()};
+        if (record.today.seconds(dayPath) > Seconds()) continue;
+        for (const auto& [app, seconds] : fullDay) {
+            record.today.add(dayPath, seconds);
+            record.apps.add(std::array<std::string_view, 2>{day.text(), app.text()}, seconds);
+        }
+    }
+}
+
+struct Rooms {
+    explicit Rooms(BenchWorld& world)
+        : settings(world.preferences),
+          dayRule(world.clock, settings),
+          daily(world.files, world.log, dayRule),
+          apps(world.files, world.log, world.workspace),
+          categories(world.files, world.log, world.workspace),
+          scorer(apps, categories),
+          goals(world.files),
+          evaluator(world.clock, goals, daily, scorer),
+          rewards(world.clock, goals, daily, scorer, evaluator) {}
+
+    Settings settings;
+    DayRule dayRule;
+    DailyStore daily;
+    AppUsageStore apps;
+    CategoryStore categories;
+    ProductivityScorer scorer;
+    GoalStore goals;
+    GoalEvaluator evaluator;
+    RewardEngine rewards;
+};
+
+std::vector<AppSeconds> everyApplication(const LargeRecord& record) {
+    BenchWorld world(record);
+    const Rooms rooms(world);
+    const auto days = rooms.apps.allDayKeys();
+    auto applications = rooms.apps.aggregate(days);
+    for (auto& application : applications) application.seconds = Seconds(600);
+    return applications;
+}
+
+}  // namespace
+
+int main() {
+    auto record = makeLargeRecord({});
+    const auto applications = everyApplication(record);
+    fillGaps(record, applications);
+    BenchWorld world(record);
+    Rooms rooms(world);
+    for (std::size_t i = 0; i < applications.size(); i += 2) {
+        rooms.categories.setCategory(Category::development, applications[i].app);
+    }
+
+    std::vector<Milliseconds> times;
+    for (int round = 0; round < 51; ++round) {
+        times.push_back(timed([&] {
+            if (rooms.rewards.currentStreak() != daysThatCount) giveUp("the streak is not the longest");
+        }));
+    }
+
+    Verdicts verdicts;
+    verdicts.compare("streak of 400 days, ten years", median(times).count(), 10, "ms", "fixed bar");
+    return verdicts.exitCode();
+}

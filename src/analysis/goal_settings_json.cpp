@@ -1,0 +1,99 @@
+#include "analysis/goal_settings_json.h"
+
+#include <simdjson.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <iterator>
+#include <string_view>
+#include <utility>
+#include <variant>
+
+#include "core/json_document.h"
+#include "core/json_writer.h"
+
+namespace tidewatch {
+namespace {
+
+namespace json = simdjson::dom;
+
+using Field = std::variant<double GoalSettings::*, bool GoalSettings::*>;
+
+struct Row {
+    std::string_view key;
+    Field field;
+};
+
+// In the order of the file.
+constexpr std::array rows{
+    Row{"dailyHours", &GoalSettings::dailyHours},
+    Row{"dailyProductivity", &GoalSettings::dailyProductivity},
+    Row{"monthlyHours", &GoalSettings::monthlyHours},
+    Row{"notificationsEnabled", &GoalSettings::notificationsEnabled},
+    Row{"weeklyHours", &GoalSettings::weeklyHours},
+};
+
+// Each tells whether the value is of the field's type.
+struct Read {
+    GoalSettings& settings;
+    json::element value;
+
+    [[nodiscard]] bool operator()(double GoalSettings::*field) const {
+        return value.get_double().get(settings.*field) == simdjson::SUCCESS;
+    }
+    [[nodiscard]] bool operator()(bool GoalSettings::*field) const {
+        return value.get_bool().get(settings.*field) == simdjson::SUCCESS;
+    }
+};
+
+struct Write {
+    const GoalSettings& settings;
+    JsonWriter& writer;
+
+    void operator()(double GoalSettings::*field) const { writer.real(settings.*field); }
+    void operator()(bool GoalSettings::*field) const { writer.boolean(settings.*field); }
+};
+
+struct CanBeWritten {
+    const GoalSettings& settings;
+
+    [[nodiscard]] bool operator()(double GoalSettings::*field) const {
+        return std::isfinite(settings.*field);
+    }
+    [[nodiscard]] bool operator()(bool GoalSettings::*) const { return true; }
+};
+
+}  // namespace
+
+std::optional<GoalSettings> readGoalSettings(std::string text) {
+    const auto document = JsonDocument::parse(std::move(text));
+    json::object object;
+    if (!document || document->root().get_object().get(object) != simdjson::SUCCESS) return std::nullopt;
+    GoalSettings settings;
+    std::array<bool, rows.size()> seen{};
+    for (const auto& [key, value] : object) {
+        const auto* row = std::ranges::find(rows, key, &Row::key);
+        if (row == rows.end()) continue;
+        if (!std::visit(Read{settings, value}, row->field)) return std::nullopt;
+        seen[static_cast<std::size_t>(std::distance(rows.begin(), row))] = true;
+    }
+    if (!std::ranges::all_of(seen, std::identity())) return std::nullopt;
+    return settings;
+}
+
+std::optional<std::string> writeGoalSettings(const GoalSettings& settings) {
+    const auto canBeWritten = [&](const Row& row) { return std::visit(CanBeWritten{settings}, row.field); };
+    if (!std::ranges::all_of(rows, canBeWritten)) return std::nullopt;
+    JsonWriter writer;
+    writer.beginObject();
+    for (const auto& row : rows) {
+        writer.key(row.key);
+        std::visit(Write{settings, writer}, row.field);
+    }
+    writer.endObject();
+    return writer.take();
+}
+
+}  // namespace tidewatch

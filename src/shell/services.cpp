@@ -1,0 +1,29 @@
+#include "shell/services.h"
+
+namespace tidewatch {
+
+Services::Services(const platform::Platform& platform)
+    : settings(platform.preferences),
+      dayRule(platform.clock, settings),
+      keys(platform.clock, settings, dayRule),
+      idleMonitor(platform.inputActivity),
+      days(platform.files, platform.log, dayRule),
+      apps(platform.files, platform.log, platform.workspace),
+      hours(platform.files, platform.log, platform.workspace),
+      minutes(platform.files, platform.log, platform.workspace),
+      categories(platform.files, platform.log, platform.workspace),
+      scorer(apps, categories),
+      projects(platform.files, platform.log, platform.randomness, broadcaster),
+      projectTime(platform.files, platform.log, platform.workspace),
+      projectBooking(projects, projectTime),
+      goals(platform.files),
+      goalEvaluator(platform.clock, goals, days, scorer),
+      rewards(platform.clock, goals, days, scorer, goalEvaluator),
+      notifications(platform.notifications, platform.mainLoop, platform.preferences, platform.log, goals,
+                    days),
+      gameGate(platform.clock, platform.preferences, notifications),
+      breakReminder(dayRule, platform.mainLoop, notifications),
+      engine(platform.clock, platform.mainLoop, settings, idleMonitor, keys, {days, apps, hours, minutes},
+             {&gameGate, &breakReminder, &projectBooking}) {}
+
+}  // namespace tidewatch

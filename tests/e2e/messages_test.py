@@ -1,0 +1,67 @@
+"""A milestone of the day reaches the user once, through whichever service the desktop has."""
+
+import json
+import unittest
+
+from harness.menu import Menu
+from harness.waiting import wait_until
+from harness.world import World, sleep_until
+
+# Ten seconds of work are the whole goal of a day.
+SMALL_GOAL = {
+    "dailyHours": 10 / 3600,
+    "dailyProductivity": 0.8,
+    "monthlyHours": 140,
+    "notificationsEnabled": True,
+    "weeklyHours": 35,
+}
+
+
+def messages_on_screen(world):
+    return [window for window in world.screen.windows() if window.window_class == "Dunst"]
+
+
+class Messages(unittest.TestCase):
+    def test_a_milestone_is_shown_once_also_across_a_restart(self):
+        with World("messages") as world:
+            world.home.write("goals.json", json.dumps(SMALL_GOAL))
+            program = world.start_program()
+            wait_until(lambda: messages_on_screen(world), "the message", seconds=20)
+            world.screenshot("message")
+            sleep_until(program.started + 14)
+            fired = {key: value for key, value in world.home.settings().items() if key.startswith("notif-")}
+            self.assertEqual(len(fired), 2, fired)
+            world.stop_program(program)
+            world.start("dunstctl", "close-all")
+            wait_until(lambda: not messages_on_screen(world), "the end of the message")
+
+            again = world.start_program()
+            sleep_until(again.started + 5)
+            self.assertEqual(messages_on_screen(world), [])
+            world.stop_program(again)
+
+    def test_without_a_notification_service_the_tray_shows_the_message(self):
+        with World("messages-older", session_bus=False, expected_warnings=["Notif deliver error"]) as world:
+            world.home.write("goals.json", json.dumps(SMALL_GOAL))
+            program = world.start_program()
+            icon = Menu(world).tray_icon()
+            balloon = wait_until(lambda: self.balloon(world, icon), "the tray's message", seconds=25)
+            world.screenshot("balloon")
+            self.assertGreater(balloon.frame.width, 100)
+            seconds = world.home.day_seconds()
+            wait_until(lambda: world.home.day_seconds() > seconds, "the next periodic write", seconds=40)
+            world.stop_program(program)
+
+    @staticmethod
+    def balloon(world, icon):
+        """A window of the program that is neither its clock nor its place in the tray."""
+        clock = world.clock()
+        for window in world.screen.windows():
+            ours = window.window_class == "tidewatch" and window.frame.width > 60
+            if ours and window.id not in (clock.id, icon.id):
+                return window
+        return None
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "wellbeing/notifier.h"
+
+namespace tidewatch::test {
+
+/// Keeps what the user would be shown.
+class RecordingNotifier final : public Notifier {
+public:
+    void notify(const platform::UserNotification& notification) override { shown.push_back(notification); }
+
+    std::vector<platform::UserNotification> shown;
+};
+
+}  // namespace tidewatch::test
