@@ -13,7 +13,7 @@ namespace tidewatch {
 
 namespace {
 
-constexpr std::array iconSizes = {16, 22, 24, 32, 48, 64};
+constexpr std::array iconSizes = {16, 22, 24, 32, 48};
 
 }  // namespace
 
