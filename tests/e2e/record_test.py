@@ -4,7 +4,7 @@ import json
 import unittest
 
 from harness.home import today
-from harness.menu import Menu
+from harness.menu import PROJECT, Menu
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
@@ -51,8 +51,7 @@ class Record(unittest.TestCase):
         """Chooses "Activar" with the keyboard."""
         menu = Menu(world)
         menu.open_from_tray()
-        # From the bottom: quit, start at login, reveal, reset, hide, and then the projects.
-        world.hands.key(*["Up"] * 6)
+        world.hands.key(*["Down"] * (PROJECT + 1))
         world.hands.key("Right")
         world.hands.key("Down")
         world.hands.key("Right")
