@@ -1,5 +1,7 @@
 #include "native/native_platform.h"
 
+#include <malloc.h>
+
 #include <QCoreApplication>
 #include <QStandardPaths>
 
@@ -22,6 +24,7 @@ namespace tidewatch::platform {
 
 namespace {
 
+constexpr int keptAllocations = 256 * 1024;  // bytes
 constexpr char ownIdentifier[] = "com.brightlooms.tidewatch";
 
 std::string configDirectory() {
@@ -31,6 +34,11 @@ std::string configDirectory() {
 }  // namespace
 
 void prepareEnvironment() {
+    // The texts of a long record go through memory at every write. Above this size an allocation is the
+    // kernel's own, and is gone when it is freed; left to itself, the allocator would keep the largest one
+    // for ever.
+    mallopt(M_MMAP_THRESHOLD, keptAllocations);
+    mallopt(M_TRIM_THRESHOLD, keptAllocations);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
 }
 

@@ -7,7 +7,7 @@
 
 namespace tidewatch::platform {
 
-/// To be called before the toolkit's application object is made: in a Wayland session the program runs as an
+/// Sets the process up. To be called before the toolkit's application object is made: in a Wayland session the program runs as an
 /// X11 client, since there alone it can place its clock and see the application in front.
 void prepareEnvironment();
 

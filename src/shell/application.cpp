@@ -27,7 +27,7 @@ int& prepared(int& argumentCount) {
 
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128})
+    for (const int size : {16, 32, 48})
         icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
     return icon;
 }

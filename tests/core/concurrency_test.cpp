@@ -49,6 +49,35 @@ TEST_F(ConcurrencyTest, NoSecondIsLostBetweenBookingReadingAndFlushing) {
     EXPECT_EQ(next.aggregate(std::vector{today}), store.aggregate(std::vector{today}));
 }
 
+TEST_F(ConcurrencyTest, BucketsAreBookedReadCopiedAndFlushedFromSeveralThreads) {
+    MinuteStore store(world.files, world.log, world.workspace);
+    const BucketKey bucket("2026-01-15 09:00");
+    const auto book = [&](const char* app) {
+        for (int i = 0; i < rounds; ++i) store.incrementApp(AppId(app), bucket);
+    };
+    std::thread first(book, "firefox");
+    std::thread second(book, "xterm");
+    std::thread copier([&] {
+        Seconds last;
+        for (int i = 0; i < rounds; ++i) {
+            const auto snapshot = store.snapshot();
+            Seconds now;
+            for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
+                snapshot.forEachApp(key, [&](std::uint32_t, Seconds seconds) { now += seconds; });
+            }
+            EXPECT_GE(now, last);
+            last = now;
+            EXPECT_LE(store.entries(bucket).size(), 2u);
+        }
+    });
+    std::thread flusher([&] {
+        for (int i = 0; i < 30; ++i) store.flush();
+    });
+    for (auto* thread : {&first, &second, &copier, &flusher}) thread->join();
+    EXPECT_THAT(store.entries(bucket), ElementsAre(AppSeconds{AppId("firefox"), Seconds(rounds)},
+                                                   AppSeconds{AppId("xterm"), Seconds(rounds)}));
+}
+
 TEST_F(ConcurrencyTest, TheDayIsSetReadAndFlushedFromSeveralThreads) {
     DailyStore store(world.files, world.log, dayRule);
     std::thread writer([&] {

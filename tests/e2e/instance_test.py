@@ -85,6 +85,9 @@ class Restart(unittest.TestCase):
                 {
                     ".tidewatch/today.json",
                     ".tidewatch/apps.json",
+                    ".tidewatch/hours.json",
+                    ".tidewatch/minutes.json",
+                    ".tidewatch/project_time.json",
                     ".tidewatch/lock",
                     ".config/brightlooms/tidewatch.conf",
                 },

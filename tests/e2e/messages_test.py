@@ -44,7 +44,7 @@ class Messages(unittest.TestCase):
         with World("messages-older", session_bus=False, expected_warnings=["Notif deliver error"]) as world:
             world.home.write("goals.json", json.dumps(SMALL_GOAL))
             program = world.start_program()
-            icon = Menu(world).tray_icon()
+            icon = wait_until(Menu(world).tray_icon, "the tray icon")
             balloon = wait_until(lambda: self.balloon(world, icon), "the tray's message", seconds=25)
             world.screenshot("balloon")
             self.assertGreater(balloon.frame.width, 100)

@@ -4,12 +4,12 @@ import json
 import unittest
 
 from harness.home import today
-from harness.menu import Menu
+from harness.menu import PROJECT, Menu
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
 TOLERANCE = 2
-PROJECT = "8E7C1C1E-8E0C-4D7C-9B0B-0A3E5A1F2B3C"
+PROJECT_ID = "8E7C1C1E-8E0C-4D7C-9B0B-0A3E5A1F2B3C"
 
 
 def by_application(rows):
@@ -27,7 +27,7 @@ class Record(unittest.TestCase):
             first = world.open_terminal("FirstTerm")
             second = world.open_terminal("SecondTerm")
             world.home.write("projects.json", json.dumps({
-                "projects": [{"id": PROJECT, "name": "Película", "colorHex": "#7BD88F", "archived": False}],
+                "projects": [{"id": PROJECT_ID, "name": "Película", "colorHex": "#7BD88F", "archived": False}],
             }))
             world.home.write("categories.json", json.dumps({
                 "appOverrides": {"FirstTerm": "Desarrollo", "SecondTerm": "Juegos"},
@@ -51,13 +51,12 @@ class Record(unittest.TestCase):
         """Chooses "Activar" with the keyboard."""
         menu = Menu(world)
         menu.open_from_tray()
-        # From the bottom: quit, start at login, reveal, reset, hide, and then the projects.
-        world.hands.key(*["Up"] * 6)
+        world.hands.key(*["Down"] * (PROJECT + 1))
         world.hands.key("Right")
         world.hands.key("Down")
         world.hands.key("Right")
         world.hands.key("Return")
-        wait_until(lambda: world.home.read("projects.json").get("activeProjectID") == PROJECT, "the active project")
+        wait_until(lambda: world.home.read("projects.json").get("activeProjectID") == PROJECT_ID, "the active project")
 
     def assert_files_agree(self, world):
         home = world.home
@@ -69,7 +68,7 @@ class Record(unittest.TestCase):
         self.assertEqual(by_application(home.read("minutes.json")), apps)
         for key in home.read("hours.json"):
             self.assertTrue(key.startswith(today()))
-        project = by_application({day: rows[PROJECT] for day, rows in home.read("project_time.json").items()})
+        project = by_application({day: rows[PROJECT_ID] for day, rows in home.read("project_time.json").items()})
         self.assertEqual(project["SecondTerm"], apps["SecondTerm"])
         self.assertLess(project["FirstTerm"], apps["FirstTerm"])
         self.assertAlmostEqual(sum(project.values()), 50, delta=5)

@@ -62,7 +62,7 @@ def rooms():
         "platform/fake": room("base platform/api", "fmt simdjson"),
         "platform/linux": room("base platform/api", "fmt qt xcb system", machine=True),
         "platform/qt": room("base platform/api", "fmt qt xcb system", machine=True),
-        "native": room("base platform/api platform/linux platform/qt", "qt", machine=True),
+        "native": room("base platform/api platform/linux platform/qt", "qt system", machine=True),
         "main.cpp": room("platform/api native shell", "qt"),
     }
     below = "base platform/api"

@@ -44,6 +44,14 @@ QPainterPath textPath(const QString& text, double capHeight, double width) {
     return QTransform::fromScale(wide, tall).map(path.translated(-bounds.left(), 0));
 }
 
+/// The dash of a day of which nothing can be said yet. Drawn, so that no font is loaded for it.
+QPainterPath dashPath(double capHeight) {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(0, -0.62 * capHeight, 1.5 * capHeight, 0.28 * capHeight), 0.14 * capHeight,
+                        0.14 * capHeight);
+    return path;
+}
+
 void fillWithHalo(QPainter& painter, const QPainterPath& path, const QColor& fill, double haloWidth) {
     painter.strokePath(path, QPen(halo, haloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(path, fill);
@@ -61,7 +69,10 @@ QImage statusImage(int pixels, const StatusTitle& title) {
     const double iconLeft = (pixels - fathom::menubarIconWidth * iconScale) / 2;
     const auto place = QTransform::fromScale(iconScale, iconScale) * QTransform::fromTranslate(iconLeft, 0);
     fillWithHalo(painter, place.map(fathom::menubarIconShape()), iconTint, unit);
-    auto figure = textPath(QString::fromStdString(title.figure), unit * 7.6, pixels - 1.0);
+    const double capHeight = unit * 7.6;
+    auto figure = title.mood == StatusTitle::Mood::none
+                      ? dashPath(capHeight)
+                      : textPath(QString::fromStdString(title.figure), capHeight, pixels - 1.0);
     const auto bounds = figure.boundingRect();
     figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 1.2);
     fillWithHalo(painter, figure, moodColour(title.mood), unit);

@@ -88,7 +88,14 @@ void TabularText::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) layOutAgain();
 }
 
+void TabularText::componentComplete() {
+    QQuickPaintedItem::componentComplete();
+    layOutAgain();
+}
+
 void TabularText::layOutAgain() {
+    // While a view is being made, the font may not be there yet: the desktop's would be loaded for nothing.
+    if (!isComponentComplete()) return;
     auto options = options_;
     options.screenPixel = screenPixel() / unit_;
     line_ = layOutTabular(text_, font_, options);

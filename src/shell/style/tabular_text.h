@@ -54,6 +54,7 @@ Q_SIGNALS:
     void colorChanged();
 
 protected:
+    void componentComplete() override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:

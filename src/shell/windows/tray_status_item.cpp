@@ -13,7 +13,10 @@ namespace tidewatch {
 
 namespace {
 
-constexpr std::array iconSizes = {16, 22, 24, 32, 48, 64};
+constexpr std::array iconSizes = {16, 22, 24, 32, 48};
+
+/// A title comes every second, and asking whether there is a tray costs more than all else in that second.
+constexpr int titlesBetweenLooks = 4;
 
 }  // namespace
 
@@ -23,17 +26,22 @@ TrayStatusItem::TrayStatusItem(const ThemeController& theme) : theme_(theme) {
 TrayStatusItem::~TrayStatusItem() = default;
 
 void TrayStatusItem::setTitle(const StatusTitle& title) {
-    const bool trayIsThere = QSystemTrayIcon::isSystemTrayAvailable();
-    const bool trayAppeared = trayIsThere && !std::exchange(trayWasThere_, trayIsThere);
-    trayWasThere_ = trayIsThere;
+    const bool trayAppeared = lookForTray();
     if (trayAppeared) makeIcon();
     if (title_ == title && !trayAppeared) return;
     title_ = title;
     drawIcon();
 }
 
+bool TrayStatusItem::lookForTray() {
+    if (titlesUntilLook_-- > 0) return false;
+    titlesUntilLook_ = titlesBetweenLooks;
+    const bool wasThere = std::exchange(trayWasThere_, QSystemTrayIcon::isSystemTrayAvailable());
+    return trayWasThere_ && !wasThere;
+}
+
 bool TrayStatusItem::isShown() const {
-    return QSystemTrayIcon::isSystemTrayAvailable() && icon_->isVisible();
+    return trayWasThere_ && icon_->isVisible();
 }
 
 void TrayStatusItem::showMessage(const std::string& title, const std::string& body) {

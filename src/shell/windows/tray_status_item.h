@@ -26,12 +26,15 @@ public:
     void popUpMenu(const MenuRows& rows) override;
 
 private:
+    /// Whether a tray has appeared since the last look; looks now and then only.
+    [[nodiscard]] bool lookForTray();
     void makeIcon();
     void drawIcon();
 
     const ThemeController& theme_;
     std::function<void(Click)> clicked_;
     std::optional<StatusTitle> title_;
+    int titlesUntilLook_ = 0;
     bool trayWasThere_ = QSystemTrayIcon::isSystemTrayAvailable();
     std::unique_ptr<QSystemTrayIcon> icon_;
     QPointer<QMenu> menu_;
