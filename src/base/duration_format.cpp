@@ -22,6 +22,11 @@ std::string hm(Seconds duration) {
     return fmt::format("{}h {}m", n / 3600, n % 3600 / 60);
 }
 
+std::string formatHM(Seconds duration) {
+    if (duration < Seconds(60)) return fmt::format("{}s", duration.count());
+    return hm(duration);
+}
+
 std::string formatPadded(Seconds duration) {
     const auto n = duration.count();
     if (n < 3600) return fmt::format("{}m {:02}s", n / 60, n % 60);

@@ -15,6 +15,9 @@ namespace tidewatch {
 /// "45m" below an hour, "2h 5m" from there on. Seconds are dropped, so that less than a minute is "0m".
 [[nodiscard]] std::string hm(Seconds duration);
 
+/// "59s" below a minute, from there on as hm().
+[[nodiscard]] std::string formatHM(Seconds duration);
+
 /// "0m 59s" below an hour, "2h 03m" from there on.
 [[nodiscard]] std::string formatPadded(Seconds duration);
 

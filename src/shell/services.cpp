@@ -12,6 +12,7 @@ Services::Services(const platform::Platform& platform)
       hours(platform.files, platform.log, platform.workspace),
       minutes(platform.files, platform.log, platform.workspace),
       categories(platform.files, platform.log, platform.workspace),
+      appInfo(platform.workspace),
       scorer(apps, categories),
       projects(platform.files, platform.log, platform.randomness, broadcaster),
       projectTime(platform.files, platform.log, platform.workspace),

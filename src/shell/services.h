@@ -3,6 +3,7 @@
 #include "analysis/goal_evaluator.h"
 #include "analysis/goal_store.h"
 #include "analysis/reward_engine.h"
+#include "classification/app_info_resolver.h"
 #include "classification/category_store.h"
 #include "classification/productivity_score.h"
 #include "core/app_usage_store.h"
@@ -43,6 +44,7 @@ struct Services final {
     HourlyStore hours;
     MinuteStore minutes;
     CategoryStore categories;
+    AppInfoResolver appInfo;
     ProductivityScorer scorer;
     ProjectStore projects;
     ProjectTimeStore projectTime;

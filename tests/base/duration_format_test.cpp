@@ -34,6 +34,15 @@ TEST(Hm, DropsTheSecondsAndPadsNothing) {
     EXPECT_EQ(hm(Seconds(7500)), "2h 5m");
 }
 
+TEST(FormatHM, ChangesItsFormAtAMinuteAndAtAnHour) {
+    EXPECT_EQ(formatHM(Seconds(0)), "0s");
+    EXPECT_EQ(formatHM(Seconds(59)), "59s");
+    EXPECT_EQ(formatHM(Seconds(60)), "1m");
+    EXPECT_EQ(formatHM(Seconds(3599)), "59m");
+    EXPECT_EQ(formatHM(Seconds(3600)), "1h 0m");
+    EXPECT_EQ(formatHM(Seconds(7500)), "2h 5m");
+}
+
 TEST(FormatPadded, ChangesItsFormAtAnHour) {
     EXPECT_EQ(formatPadded(Seconds(0)), "0m 00s");
     EXPECT_EQ(formatPadded(Seconds(59)), "0m 59s");

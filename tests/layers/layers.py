@@ -69,7 +69,7 @@ def rooms():
     every_domain_room = ""
     for name in DOMAIN:
         plan[name] = room(below, "fmt simdjson")
-        plan[f"{name}/views"] = room(f"base shell/style {name}", "fmt qt")
+        plan[f"{name}/views"] = room(f"{below} shell/style shell/themes {name}", "fmt qt")
         below += f" {name}"
         every_domain_room += f" {name} {name}/views"
     plan["shell/themes"] = room("base platform/api core")

@@ -1,0 +1,181 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/instant.h"
+#include "base/named_string.h"
+#include "base/seconds.h"
+#include "base/signal.h"
+#include "classification/app_info_resolver.h"
+#include "classification/category_store.h"
+#include "classification/hour_group.h"
+#include "classification/hour_summary.h"
+#include "classification/productivity_score.h"
+#include "core/app_usage_store.h"
+#include "core/clock_keys.h"
+#include "core/daily_store.h"
+#include "core/hourly_store.h"
+#include "core/minute_store.h"
+#include "platform/api/clock.h"
+#include "platform/api/main_loop.h"
+#include "projects/project_store.h"
+#include "projects/project_time_store.h"
+
+namespace tidewatch {
+
+/// The tabs of the statistics window, in their order.
+enum class DashboardTab { overview, goals, details, timesheet, projects, system, disk, claude };
+
+/// What the tab bar says.
+[[nodiscard]] std::string_view rawValue(DashboardTab tab);
+
+/// One application in one day.
+struct AppEntry {
+    AppId app;
+    Seconds seconds;
+    std::string name;
+    std::optional<AppIcon> icon;
+    Category category = Category::uncategorized;
+    Tier tier = Tier::uncategorized;
+    bool operator==(const AppEntry&) const = default;
+};
+
+/// The time of one project in one day, or, without a project, what was booked to none.
+struct ProjectRow {
+    static constexpr std::string_view untaggedId = "__untagged__";
+
+    std::string id;  ///< the project's in upper case, or untaggedId
+    std::optional<Project> project;
+    Seconds seconds;
+    std::vector<AppEntry> topApps;  ///< at most six, most seconds first; none without a project
+    bool operator==(const ProjectRow&) const = default;
+};
+
+/// One calendar day as the statistics window shows it, read whole from the stores on demand. Writes nothing
+/// to them. Main thread only; reload() takes as long as reading them does.
+class DashboardModel final {
+public:
+    /// All of it must outlive the model.
+    struct Sources {
+        const platform::Clock& clock;
+        platform::MainLoop& mainLoop;
+        const DailyStore& days;
+        const AppUsageStore& apps;
+        const HourlyStore& hours;
+        const MinuteStore& minutes;
+        const ClockKeys& keys;
+        const CategoryStore& categories;
+        const ProductivityScorer& scorer;
+        const ProjectStore& projects;
+        const ProjectTimeStore& projectTime;
+        const AppInfoResolver& appInfo;
+    };
+
+    /// On the day of now, with every tier listed and nothing else: it is empty until reload().
+    explicit DashboardModel(const Sources& from);
+    ~DashboardModel();
+    DashboardModel(const DashboardModel&) = delete;
+    DashboardModel& operator=(const DashboardModel&) = delete;
+
+    /// What can change.
+    enum class Field {
+        tab,
+        selectedDate,
+        allDayApps,
+        hourSummaries,
+        hourGroups,
+        projectRows,
+        score,
+        totalActiveToday,
+        prevScore,
+        avg7Score,
+        tierFilter,
+        searchText,
+    };
+
+    /// Announced after each assignment of a field, whether its value differs or not; a reload assigns from
+    /// allDayApps to avg7Score in this order.
+    Signal<Field> changed;
+
+    [[nodiscard]] DashboardTab tab() const { return tab_; }
+    void setTab(DashboardTab tab);
+
+    /// Any instant within the day on show.
+    [[nodiscard]] Instant selectedDate() const { return selectedDate_; }
+    /// The calendar day of selectedDate(), in the zone that was current when the model was made.
+    [[nodiscard]] DayKey selectedDayKey() const;
+    [[nodiscard]] bool isSelectedToday() const;
+
+    /// Move the day on show and reload; nextDay() does nothing on today.
+    void previousDay();
+    void nextDay();
+    void today();
+
+    /// In the order of AppUsageStore::aggregate.
+    [[nodiscard]] const std::vector<AppEntry>& allDayApps() const { return allDayApps_; }
+    [[nodiscard]] const std::vector<HourSummary>& hourSummaries() const { return hourSummaries_; }
+    [[nodiscard]] const std::vector<HourGroup>& hourGroups() const { return hourGroups_; }
+    /// Most seconds first.
+    [[nodiscard]] const std::vector<ProjectRow>& projectRows() const { return projectRows_; }
+    [[nodiscard]] const ProductivityScore& score() const { return score_; }
+    /// Of the day before the selected one.
+    [[nodiscard]] const ProductivityScore& prevScore() const { return prevScore_; }
+    /// The mean score of those of the seven days before that have a telling one, 0 to 1; 0 if none has.
+    [[nodiscard]] double avg7Score() const { return avg7Score_; }
+    /// Of the selected day, whichever it is.
+    [[nodiscard]] Seconds totalActiveToday() const { return totalActiveToday_; }
+
+    [[nodiscard]] const std::set<Tier>& tierFilter() const { return tierFilter_; }
+    /// Takes the tier out of the filter, or puts it in.
+    void toggleTier(Tier tier);
+    [[nodiscard]] const std::string& searchText() const { return searchText_; }
+    void setSearchText(std::string_view text);
+
+    /// allDayApps() through the filter and the search.
+    [[nodiscard]] std::vector<AppEntry> filteredApps() const;
+    /// allDayApps() of one tier, whatever the filter and the search say.
+    [[nodiscard]] std::vector<AppEntry> apps(Tier tier) const;
+    [[nodiscard]] Seconds seconds(Tier tier) const;
+
+    /// Reads everything for the selected day anew.
+    void reload();
+
+    /// Reloads every two seconds as long as the selected day is today.
+    void startLiveRefresh();
+    void stopLiveRefresh();
+
+private:
+    template <class Value>
+    void assign(Value& field, Value value, Field which);
+    void moveByDays(int days);
+    void refreshIfToday();
+    [[nodiscard]] DayKey keyOf(Instant instant) const;
+    [[nodiscard]] AppEntry entry(const AppSeconds& app) const;
+    [[nodiscard]] std::vector<AppEntry> readApps(const DayKey& day) const;
+    [[nodiscard]] std::vector<ProjectRow> readProjectRows(const DayKey& day) const;
+    [[nodiscard]] double meanOfSevenDaysBefore() const;
+
+    Sources from_;
+    std::shared_ptr<const platform::TimeZone> namingZone_;
+    DashboardTab tab_ = DashboardTab::overview;
+    Instant selectedDate_;
+    std::vector<AppEntry> allDayApps_;
+    std::vector<HourSummary> hourSummaries_;
+    std::vector<HourGroup> hourGroups_;
+    std::vector<ProjectRow> projectRows_;
+    ProductivityScore score_;
+    ProductivityScore prevScore_;
+    double avg7Score_ = 0;
+    Seconds totalActiveToday_;
+    std::set<Tier> tierFilter_;
+    std::string searchText_;
+    std::unique_ptr<platform::RepeatingTimer> liveTimer_;
+};
+
+}  // namespace tidewatch
