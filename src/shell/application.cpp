@@ -1,6 +1,7 @@
 #include "shell/application.h"
 
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QQuickWindow>
 
 #include "core/data_directory.h"
@@ -27,8 +28,7 @@ int& prepared(int& argumentCount) {
 
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 32, 48})
-        icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
+    for (const int size : {16, 32, 48}) icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
     return icon;
 }
 
@@ -38,6 +38,9 @@ Application::Application(int& argumentCount, char** arguments)
     : toolkit_(prepared(argumentCount), arguments) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setWindowIcon(programIcon());
+    if (toolkitWords_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&toolkitWords_);
+    }
 }
 
 int Application::run(const platform::Platform& platform) {

@@ -76,6 +76,16 @@ struct Confirmation {
     std::string accept;  ///< what the button that acts says
 };
 
+/// What kind of file the user is asked a place for.
+enum class SaveKind { csv, pdf };
+
+/// A question where a file is to be written.
+struct SaveRequest {
+    std::string title;
+    std::string proposedName;  ///< with its extension, without a folder
+    SaveKind kind = SaveKind::csv;
+};
+
 /// Messages and questions that keep the user from the program's other windows until they are answered. All
 /// return at once and call back when the button that acts is chosen.
 class Dialogs {
@@ -86,6 +96,11 @@ public:
 
     /// For what cannot be undone.
     virtual void confirm(const Confirmation& question, std::function<void()> accepted) = 0;
+
+    /// Asks where a file is to be written, and whether one that is there may be replaced. `accepted` gets an
+    /// absolute path with the kind's extension.
+    virtual void chooseSaveLocation(const SaveRequest& request,
+                                    std::function<void(std::string path)> accepted) = 0;
 };
 
 /// The statistics window, where it exists.

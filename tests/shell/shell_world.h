@@ -119,6 +119,8 @@ public:
     [[nodiscard]] int questionsAsked() const { return asked_; }
     void answer(const std::string& text) const { answered_(text); }
     void agree() const { agreed_(); }
+    [[nodiscard]] const SaveRequest& saveRequest() const { return saveRequest_; }
+    void place(const std::string& path) const { placed_(path); }
 
 private:
     void warn(const std::string& title, const std::string& text) override {
@@ -134,6 +136,12 @@ private:
         agreed_ = std::move(accepted);
         ++asked_;
     }
+    void chooseSaveLocation(const SaveRequest& request,
+                            std::function<void(std::string path)> accepted) override {
+        saveRequest_ = request;
+        placed_ = std::move(accepted);
+        ++asked_;
+    }
 
     ScreenLog log_;
     FakePanelWindow* panel_ = nullptr;
@@ -145,6 +153,8 @@ private:
     int asked_ = 0;
     std::function<void(std::string)> answered_;
     std::function<void()> agreed_;
+    SaveRequest saveRequest_;
+    std::function<void(std::string)> placed_;
 };
 
 /// The whole program but for the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.
