@@ -16,33 +16,30 @@ PressButton {
         return enabled ? Style.palette.primaryText : Style.palette.muteSoft;
     }
 
+    implicitWidth: implicitContentWidth + 36
     implicitHeight: 36
-    horizontalPadding: 18
+    // A wider button has its words in the middle.
+    horizontalPadding: Math.round((width - implicitContentWidth) / 2)
     cornerRadius: Style.measures.chipRadius
     opacity: primary && !enabled ? 0.45 : 1
 
-    contentItem: Item {
-        implicitWidth: childrenRect.width
+    contentItem: Row {
+        spacing: Style.measures.spacing
 
-        Row {
-            anchors.centerIn: parent
-            spacing: Style.measures.spacing
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.symbol !== ""
+            name: root.symbol
+            side: 18
+            color: root.ink
+        }
 
-            Symbol {
-                anchors.verticalCenter: parent.verticalCenter
-                visible: root.symbol !== ""
-                name: root.symbol
-                side: 18
-                color: root.ink
-            }
-
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                text: root.text
-                font: Style.sans(14, root.primary ? Style.Semibold : Style.Medium)
-                color: root.ink
-                Accessible.ignored: true
-            }
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.text
+            font: Style.sans(14, root.primary ? Style.Semibold : Style.Medium)
+            color: root.ink
+            Accessible.ignored: true
         }
     }
 
