@@ -107,9 +107,21 @@ public:
 class StatisticsWindow {
 public:
     virtual ~StatisticsWindow() = default;
+
+    /// Brings it up, in the middle of the main screen and with the focus, and posts DashboardWillShow; each
+    /// time, also if it is visible.
     virtual void showWindow() = 0;
     virtual void close() = 0;
+    /// Not while it is minimised.
     [[nodiscard]] virtual bool isVisible() const = 0;
+
+    void toggleWindow() {
+        if (isVisible()) {
+            close();
+        } else {
+            showWindow();
+        }
+    }
 };
 
 /// Makes what is on the screen. The main thread owns what it gives.
