@@ -153,12 +153,13 @@ public:
 private:
     template <class Value>
     void assign(Value& field, Value value, Field which);
-    void moveByDays(int days);
-    void refreshIfToday();
+    void moveByDays(int count);
     [[nodiscard]] DayKey keyOf(Instant instant) const;
     [[nodiscard]] AppEntry entry(const AppSeconds& app) const;
     [[nodiscard]] std::vector<AppEntry> readApps(const DayKey& day) const;
     [[nodiscard]] std::vector<ProjectRow> readProjectRows(const DayKey& day) const;
+    [[nodiscard]] ProjectRow readProjectRow(const DayKey& day, const Project& project) const;
+    [[nodiscard]] ProductivityScore scoreOfDayBefore(int daysBefore) const;
     [[nodiscard]] double meanOfSevenDaysBefore() const;
 
     Sources from_;

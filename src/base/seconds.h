@@ -5,7 +5,8 @@
 
 namespace tidewatch {
 
-/// A whole number of booked seconds. Sums are checked: an overflow ends the process with a message.
+/// A whole number of booked seconds. Sums and differences are checked: an overflow ends the process with a
+/// message.
 class Seconds final {
 public:
     constexpr Seconds() = default;
@@ -14,7 +15,9 @@ public:
     [[nodiscard]] constexpr std::int64_t count() const noexcept { return count_; }
 
     Seconds& operator+=(Seconds other);
+    Seconds& operator-=(Seconds other);
     [[nodiscard]] friend Seconds operator+(Seconds left, Seconds right) { return left += right; }
+    [[nodiscard]] friend Seconds operator-(Seconds left, Seconds right) { return left -= right; }
 
     constexpr auto operator<=>(const Seconds&) const = default;
 

@@ -9,4 +9,7 @@ namespace tidewatch {
 /// UTF-8 counts as no white space.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
+/// The same, but for line ends, which stay.
+[[nodiscard]] std::string_view trimmedOfBlanks(std::string_view text);
+
 }  // namespace tidewatch

@@ -11,9 +11,14 @@ TEST(Seconds, Add) {
     EXPECT_EQ(Seconds(40) + Seconds(2), Seconds(42));
 }
 
+TEST(Seconds, Subtract) {
+    EXPECT_EQ(Seconds(40) - Seconds(42), Seconds(-2));
+}
+
 TEST(SecondsDeathTest, AnOverflowEndsTheProcessWithAMessage) {
     const Seconds most(std::numeric_limits<std::int64_t>::max());
     EXPECT_DEATH((void)(most + Seconds(1)), "a counter of seconds overflowed");
+    EXPECT_DEATH((void)(Seconds(-2) - most), "a counter of seconds overflowed");
 }
 
 }  // namespace

@@ -21,6 +21,13 @@ TEST(TrimTest, TakesTheWideAndTheUnbreakableBlanksToo) {
     EXPECT_EQ(trimmed("\u00A0 Diseño \u3000"), "Diseño");
 }
 
+TEST(TrimTest, OfBlanksLeavesLineEnds) {
+    EXPECT_EQ(trimmedOfBlanks(" \t\u00A0a \t b\u3000\t "), "a \t b");
+    EXPECT_EQ(trimmedOfBlanks(" \n a \r\n "), "\n a \r\n");
+    EXPECT_EQ(trimmedOfBlanks(" \u2028\u0085 "), "\u2028\u0085");
+    EXPECT_EQ(trimmedOfBlanks(" \t "), "");
+}
+
 TEST(TrimTest, LeavesCharactersThatOnlyShareBytesWithABlank) {
     EXPECT_EQ(trimmed("\u0105"), "\u0105");
     EXPECT_EQ(trimmed("¡à!…"), "¡à!…");

@@ -1,0 +1,205 @@
+#include "analysis/dashboard_model.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <functional>
+#include <iterator>
+#include <utility>
+
+#include "base/calendar_day.h"
+#include "base/lower_case.h"
+#include "base/trim.h"
+#include "core/local_time.h"
+
+namespace tidewatch {
+namespace {
+
+using std::chrono::days;
+
+constexpr std::size_t mostTopApps = 6;
+constexpr int daysOfTheMean = 7;
+constexpr std::chrono::milliseconds refreshInterval(2000);
+
+constexpr std::array<std::string_view, 8> tabNames{"Overview",  "Metas",   "Detalle", "Timesheet",
+                                                   "Proyectos", "Sistema", "Disco",   "Claude"};
+
+bool contains(std::string_view text, std::string_view query) {
+    return lowerCased(text).find(query) != std::string::npos;
+}
+
+bool isFoundBy(const AppEntry& app, std::string_view query) {
+    return query.empty() || contains(app.name, query) || contains(app.app.text(), query) ||
+           contains(rawValue(app.category), query);
+}
+
+}  // namespace
+
+std::string_view rawValue(DashboardTab tab) {
+    return tabNames[static_cast<std::size_t>(tab)];
+}
+
+DashboardModel::DashboardModel(const Sources& from)
+    : from_(from),
+      namingZone_(from.clock.timeZone()),
+      selectedDate_(from.clock.now()),
+      tierFilter_(allTiers().begin(), allTiers().end()) {}
+
+DashboardModel::~DashboardModel() = default;
+
+template <class Value>
+void DashboardModel::assign(Value& field, Value value, Field which) {
+    field = std::move(value);
+    changed.emit(which);
+}
+
+void DashboardModel::setTab(DashboardTab tab) {
+    assign(tab_, tab, Field::tab);
+}
+
+DayKey DashboardModel::selectedDayKey() const {
+    return keyOf(selectedDate_);
+}
+
+bool DashboardModel::isSelectedToday() const {
+    const auto zone = from_.clock.timeZone();
+    const auto dayOf = [&](Instant instant) { return calendarDay(instant, zone->utcOffset(instant)); };
+    return dayOf(selectedDate_) == dayOf(from_.clock.now());
+}
+
+void DashboardModel::previousDay() {
+    moveByDays(-1);
+}
+
+void DashboardModel::nextDay() {
+    if (!isSelectedToday()) moveByDays(1);
+}
+
+void DashboardModel::today() {
+    assign(selectedDate_, from_.clock.now(), Field::selectedDate);
+    reload();
+}
+
+void DashboardModel::moveByDays(int count) {
+    assign(selectedDate_, plusDays(selectedDate_, days(count), *from_.clock.timeZone()), Field::selectedDate);
+    reload();
+}
+
+void DashboardModel::toggleTier(Tier tier) {
+    auto filter = tierFilter_;
+    if (filter.erase(tier) == 0) filter.insert(tier);
+    assign(tierFilter_, std::move(filter), Field::tierFilter);
+}
+
+void DashboardModel::setSearchText(std::string_view text) {
+    assign(searchText_, std::string(text), Field::searchText);
+}
+
+std::vector<AppEntry> DashboardModel::filteredApps() const {
+    const auto query = lowerCased(trimmedOfBlanks(searchText_));
+    std::vector<AppEntry> found;
+    std::ranges::copy_if(allDayApps_, std::back_inserter(found), [&](const AppEntry& app) {
+        return tierFilter_.contains(app.tier) && isFoundBy(app, query);
+    });
+    return found;
+}
+
+std::vector<AppEntry> DashboardModel::apps(Tier tier) const {
+    std::vector<AppEntry> ofTier;
+    std::ranges::copy_if(allDayApps_, std::back_inserter(ofTier),
+                         [&](const AppEntry& app) { return app.tier == tier; });
+    return ofTier;
+}
+
+Seconds DashboardModel::seconds(Tier tier) const {
+    Seconds sum;
+    for (const auto& app : allDayApps_) {
+        if (app.tier == tier) sum += app.seconds;
+    }
+    return sum;
+}
+
+void DashboardModel::reload() {
+    const auto day = selectedDayKey();
+    assign(allDayApps_, readApps(day), Field::allDayApps);
+    assign(hourSummaries_, dayHourSummaries(from_.hours, from_.categories, from_.keys, day),
+           Field::hourSummaries);
+    assign(hourGroups_,
+           tidewatch::hourGroups(from_.minutes, from_.categories, from_.appInfo, from_.keys, day),
+           Field::hourGroups);
+    assign(projectRows_, readProjectRows(day), Field::projectRows);
+    assign(score_, from_.scorer.compute({&day, 1}), Field::score);
+    assign(totalActiveToday_, score_.totalActive(), Field::totalActiveToday);
+    assign(prevScore_, scoreOfDayBefore(1), Field::prevScore);
+    assign(avg7Score_, meanOfSevenDaysBefore(), Field::avg7Score);
+}
+
+void DashboardModel::startLiveRefresh() {
+    if (liveTimer_) return;
+    liveTimer_ = from_.mainLoop.repeat(refreshInterval, platform::TimerMode::common, [this] {
+        if (isSelectedToday()) reload();
+    });
+}
+
+void DashboardModel::stopLiveRefresh() {
+    liveTimer_.reset();
+}
+
+DayKey DashboardModel::keyOf(Instant instant) const {
+    return dayKeyOf(calendarDay(instant, namingZone_->utcOffset(instant)));
+}
+
+AppEntry DashboardModel::entry(const AppSeconds& app) const {
+    const auto& info = from_.appInfo.info(app.app);
+    const auto category = from_.categories.category(app.app);
+    return {app.app, app.seconds, info.name, info.icon, category, from_.categories.tier(category)};
+}
+
+std::vector<AppEntry> DashboardModel::readApps(const DayKey& day) const {
+    std::vector<AppEntry> apps;
+    for (const auto& app : from_.apps.aggregate({&day, 1})) apps.push_back(entry(app));
+    return apps;
+}
+
+std::vector<ProjectRow> DashboardModel::readProjectRows(const DayKey& day) const {
+    std::vector<ProjectRow> rows;
+    Seconds tagged;
+    for (const auto& project : from_.projects.activeProjects()) {
+        auto row = readProjectRow(day, project);
+        if (row.seconds < Seconds(1)) continue;
+        tagged += row.seconds;
+        rows.push_back(std::move(row));
+    }
+    const auto rest = from_.days.seconds(day) - tagged;
+    if (rest > Seconds()) rows.push_back({std::string(ProjectRow::untaggedId), std::nullopt, rest, {}});
+    std::ranges::stable_sort(rows, std::ranges::greater(), &ProjectRow::seconds);
+    return rows;
+}
+
+ProjectRow DashboardModel::readProjectRow(const DayKey& day, const Project& project) const {
+    ProjectRow row{project.id.text(), project, Seconds(), {}};
+    for (const auto& app : from_.projectTime.aggregate({&day, 1}, project.id)) {
+        row.seconds += app.seconds;
+        if (row.topApps.size() < mostTopApps) row.topApps.push_back(entry(app));
+    }
+    return row;
+}
+
+ProductivityScore DashboardModel::scoreOfDayBefore(int daysBefore) const {
+    const auto day = keyOf(plusDays(selectedDate_, days(-daysBefore), *from_.clock.timeZone()));
+    return from_.scorer.compute({&day, 1});
+}
+
+double DashboardModel::meanOfSevenDaysBefore() const {
+    double sum = 0;
+    int count = 0;
+    for (int daysBefore = 1; daysBefore <= daysOfTheMean; ++daysBefore) {
+        const auto score = scoreOfDayBefore(daysBefore);
+        if (!score.isTelling()) continue;
+        sum += score.score();
+        ++count;
+    }
+    return count == 0 ? 0 : sum / count;
+}
+
+}  // namespace tidewatch
