@@ -135,6 +135,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
     [[nodiscard]] virtual Dialogs& dialogs() = 0;
 
+    /// Opens a menu of `rows` at a place on the desktop; returns at once.
+    virtual void popUpMenu(const MenuRows& rows, platform::Point at) = 0;
+
     /// Says something short beside the floating clock for a few seconds.
     virtual void showHint(const std::string& text) = 0;
 };
