@@ -21,7 +21,6 @@ int& prepared(int& argumentCount) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QCoreApplication::setOrganizationName("brightlooms");
     QCoreApplication::setApplicationName("tidewatch");
-    QGuiApplication::setApplicationDisplayName("Tidewatch");
     QGuiApplication::setDesktopFileName("com.brightlooms.tidewatch");
     return argumentCount;
 }

@@ -107,9 +107,21 @@ public:
 class StatisticsWindow {
 public:
     virtual ~StatisticsWindow() = default;
+
+    /// Brings it up, in the middle of the main screen and with the focus, and posts DashboardWillShow; each
+    /// time, also if it is visible.
     virtual void showWindow() = 0;
     virtual void close() = 0;
+    /// Not while it is minimised.
     [[nodiscard]] virtual bool isVisible() const = 0;
+
+    void toggleWindow() {
+        if (isVisible()) {
+            close();
+        } else {
+            showWindow();
+        }
+    }
 };
 
 /// Makes what is on the screen. The main thread owns what it gives.
@@ -122,6 +134,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) = 0;
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
     [[nodiscard]] virtual Dialogs& dialogs() = 0;
+
+    /// Opens a menu of `rows` at a place on the desktop; returns at once.
+    virtual void popUpMenu(const MenuRows& rows, platform::Point at) = 0;
 
     /// Says something short beside the floating clock for a few seconds.
     virtual void showHint(const std::string& text) = 0;

@@ -105,6 +105,7 @@ public:
         return item;
     }
     [[nodiscard]] Dialogs& dialogs() override { return *this; }
+    void popUpMenu(const MenuRows& rows, platform::Point) override { poppedUp_ = rows; }
     void showHint(const std::string& text) override { hints_.push_back(text); }
 
     [[nodiscard]] FakePanelWindow& panel() { return *panel_; }
@@ -146,6 +147,7 @@ private:
     ScreenLog log_;
     FakePanelWindow* panel_ = nullptr;
     FakeStatusItem* statusItem_ = nullptr;
+    MenuRows poppedUp_;
     std::vector<std::string> hints_;
     std::vector<std::string> warnings_;
     TextPrompt prompt_;

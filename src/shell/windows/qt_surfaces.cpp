@@ -15,6 +15,7 @@
 #include "shell/style/fonts.h"
 #include "shell/style/style.h"
 #include "shell/windows/menu_style.h"
+#include "shell/windows/menu_view.h"
 #include "shell/windows/question_dialog.h"
 #include "shell/windows/save_dialog.h"
 #include "shell/windows/tray_status_item.h"
@@ -74,6 +75,12 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeClock() {
     if (item == nullptr) throw std::runtime_error(component.errorString().toStdString());
     static_cast<void>(object.release());
     return std::unique_ptr<QQuickItem>(item);
+}
+
+void QtSurfaces::popUpMenu(const MenuRows& rows, platform::Point at) {
+    if (menu_) menu_->close();
+    menu_ = new MenuView(rows, theme_.active().dashboard);
+    menu_->popup(QPointF(at.x, at.y).toPoint());
 }
 
 void QtSurfaces::showHint(const std::string& hint) {

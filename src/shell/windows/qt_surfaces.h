@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMenu>
 #include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -24,6 +25,7 @@ public:
     [[nodiscard]] std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) override;
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
     [[nodiscard]] Dialogs& dialogs() override { return *this; }
+    void popUpMenu(const MenuRows& rows, platform::Point at) override;
     void showHint(const std::string& text) override;
 
 private:
@@ -39,6 +41,7 @@ private:
     ClockPresenter& clock_;
     QQmlEngine engine_;
     QPointer<QuickPanelWindow> panel_;
+    QPointer<QMenu> menu_;
     QString saveFolder_;  ///< where the user last had a file written; empty before
 };
 
