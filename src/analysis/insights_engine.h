@@ -1,8 +1,7 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
-#include <string_view>
 
 #include "analysis/insights.h"
 #include "base/instant.h"
@@ -37,9 +36,11 @@ public:
     [[nodiscard]] static std::string hourLabel(int hour);
 
 private:
-    [[nodiscard]] std::optional<LongestSession> longestSession(std::string_view cutoffKey) const;
+    /// Key of the first day of the range; empty without a limit.
+    [[nodiscard]] std::string cutoffKey(InsightsRange range, Instant now) const;
 
     const platform::Clock& clock_;
+    const std::shared_ptr<const platform::TimeZone> namingZone_;
     const DailyStore& days_;
     const HourlyStore& hours_;
     const MinuteStore& minutes_;

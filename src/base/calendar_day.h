@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <optional>
+#include <string_view>
 
 #include "base/instant.h"
 #include "base/named_string.h"
@@ -13,5 +15,9 @@ namespace tidewatch {
 
 /// The key of the logical day that begins on `day`.
 [[nodiscard]] DayKey dayKeyOf(std::chrono::sys_days day);
+
+/// The day that a key names; nothing if `text` is not four, two and two digits with hyphens between them, or
+/// no day of the calendar.
+[[nodiscard]] std::optional<std::chrono::sys_days> dayOfKey(std::string_view text);
 
 }  // namespace tidewatch

@@ -3,6 +3,11 @@
 #include <algorithm>
 
 namespace tidewatch {
+namespace {
+
+constexpr std::chrono::days week(7);
+
+}  // namespace
 
 WallTime wallTime(Instant instant, const platform::TimeZone& zone) {
     return WallTime((instant + zone.utcOffset(instant)).time_since_epoch());
@@ -18,6 +23,20 @@ Instant instantOf(WallTime time, const platform::TimeZone& zone) {
     if (beforeShowsIt && afterShowsIt) return std::min(before, after);
     if (beforeShowsIt) return before;
     return afterShowsIt ? after : std::max(before, after);
+}
+
+Instant InstantReader::instantOf(WallTime time) {
+    const auto day = std::chrono::floor<std::chrono::days>(time);
+    if (!week_ || day < *week_ || day >= *week_ + week) turnTo(day);
+    return offset_ ? Instant(time.time_since_epoch() - *offset_) : tidewatch::instantOf(time, zone_);
+}
+
+void InstantReader::turnTo(std::chrono::local_days firstDay) {
+    const Instant firstDayAsUtc(firstDay.time_since_epoch());
+    const auto before = zone_.utcOffset(firstDayAsUtc - std::chrono::days(1));
+    const auto after = zone_.utcOffset(firstDayAsUtc + week + std::chrono::days(1));
+    week_ = firstDay;
+    offset_ = before == after ? std::optional(before) : std::nullopt;
 }
 
 Instant plusDays(Instant instant, std::chrono::days count, const platform::TimeZone& zone) {

@@ -75,5 +75,18 @@ TEST(LocalTimeTest, EveryInstantComesBackButForTheSecondOfATimeThatComesTwice) {
     }
 }
 
+TEST(LocalTimeTest, AReaderGivesWhatOneByOneGivesForwardsAndBackwards) {
+    for (const auto& zone : {platform::madridZone(), platform::mexicoCityZone()}) {
+        InstantReader forwards(*zone);
+        InstantReader backwards(*zone);
+        const auto first = wall(2021y / 12 / 1, 0h);
+        const auto last = wall(2022y / 12 / 31, 0h);
+        for (auto up = first, down = last; up < last; up += 10min, down -= 10min) {
+            ASSERT_EQ(forwards.instantOf(up), instantOf(up, *zone)) << up.time_since_epoch().count();
+            ASSERT_EQ(backwards.instantOf(down), instantOf(down, *zone)) << down.time_since_epoch().count();
+        }
+    }
+}
+
 }  // namespace
 }  // namespace tidewatch

@@ -36,8 +36,8 @@ public:
     QString symbolName;
     QString name;
     QString time;
-    QColor color;    ///< of its tier
-    QString spoken;  ///< the line as a sentence
+    QColor color;      ///< of its tier
+    QString spoken{};  ///< the line as a sentence
 
     bool operator==(const AppRow&) const = default;
 };

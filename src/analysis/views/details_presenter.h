@@ -3,6 +3,8 @@
 #include <qqmlregistration.h>
 #include <QColor>
 #include <QObject>
+#include <QPointF>
+#include <QStringList>
 #include <functional>
 
 #include "analysis/views/row_list.h"
@@ -55,7 +57,7 @@ public:
     QString time;
     QString share;
     double fraction = 0;  ///< the same share, 0 to 1
-    QString spoken;
+    QString spoken{};
 
     bool operator==(const AppDetails&) const = default;
 };

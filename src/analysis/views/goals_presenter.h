@@ -33,7 +33,7 @@ public:
     QString mark;         ///< "✓" once it is reached
     double fraction = 0;  ///< 0 to 1
     QColor color;
-    QString spoken;
+    QString spoken{};
 
     bool operator==(const GoalRow&) const = default;
 };

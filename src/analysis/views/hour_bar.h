@@ -29,7 +29,7 @@ public:
     double productive = 0;   ///< 0 to 1
     double neutral = 0;      ///< 0 to 1
     double distracting = 0;  ///< 0 to 1
-    QString spoken;          ///< the hour as a sentence
+    QString spoken{};        ///< the hour as a sentence
 
     bool operator==(const HourBar&) const = default;
 };

@@ -36,8 +36,8 @@ public:
     QString time;
     QString share;
     double fraction = 0;  ///< the same share, 0 to 1
-    QList<AppRow> apps;
-    QString spoken;
+    QList<AppRow> apps{};
+    QString spoken{};
 
     bool operator==(const ProjectSheet&) const = default;
 };

@@ -3,7 +3,7 @@
 #include <qqmlregistration.h>
 #include <QColor>
 #include <QObject>
-#include <QVariantList>
+#include <QStringList>
 
 #include "analysis/views/app_row.h"
 #include "analysis/views/row_list.h"
@@ -58,11 +58,11 @@ class HourSheet final {
 public:
     QString id;
     QString hour;  ///< "9:00am"
-    QList<BucketCell> buckets;
-    QList<NamedTime> summary;
-    QList<AppRow> activities;
-    QList<NamedTime> categories;
-    QString spoken;
+    QList<BucketCell> buckets{};
+    QList<NamedTime> summary{};
+    QList<AppRow> activities{};
+    QList<NamedTime> categories{};
+    QString spoken{};
 
     bool operator==(const HourSheet&) const = default;
 };

@@ -1,5 +1,6 @@
 #include "shell/style/style.h"
 
+#include "shell/style/contrast.h"
 #include "shell/style/fonts.h"
 #include "shell/themes/builtin_themes.h"
 
@@ -68,6 +69,24 @@ QFont Style::sans(double size, Weight weight) const {
 
 QFont Style::system(double size, Weight weight) const {
     return font(FontRole::system, size, weight);
+}
+
+QFont Style::heading() const {
+    constexpr double size = 11;
+    constexpr double spacing = 1.8;
+    auto font = tracked(sans(size, Semibold), spacing);
+    font.setCapitalization(QFont::AllUppercase);
+    return font;
+}
+
+QFont Style::tracked(const QFont& font, double spacing) const {
+    auto result = font;
+    result.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    return result;
+}
+
+QColor Style::legible(const QColor& color) const {
+    return legibleOn(laidOver(palette_.card, palette_.bg), color);
 }
 
 void Style::wear(const DashboardStyle& style) {
