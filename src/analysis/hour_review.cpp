@@ -1,9 +1,11 @@
 #include "analysis/hour_review.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstddef>
 #include <map>
+#include <numeric>
 #include <string>
 #include <vector>
 
@@ -23,10 +25,10 @@ struct DayAndHour {
 // The pieces of a key between blanks are a day and a whole number.
 std::optional<DayAndHour> dayAndHourOf(std::string_view key) {
     const auto takePiece = [&key] {
-        key.remove_prefix(std::min(key.find_first_not_of(' '), key.size()));
-        const auto piece = key.substr(0, key.find(' '));
-        key.remove_prefix(piece.size());
-        return piece;
+        const auto* begin = std::ranges::find_if(key, [](char character) { return character != ' '; });
+        const auto* end = std::find(begin, key.end(), ' ');
+        key = {end, key.end()};
+        return std::string_view(begin, end);
     };
     const auto day = takePiece();
     auto number = takePiece();
@@ -39,6 +41,12 @@ std::optional<DayAndHour> dayAndHourOf(std::string_view key) {
     return DayAndHour{day, hour};
 }
 
+using TierSeconds = std::array<Seconds, 4>;
+
+std::size_t indexOf(Tier tier) {
+    return static_cast<std::size_t>(tier);
+}
+
 struct BusiestHour {
     int hour = 0;
     Seconds seconds;
@@ -49,10 +57,9 @@ struct DayOfHours {
     Seconds distracting;
     std::optional<BusiestHour> busiest;
 
-    void add(int hour, const ProductivityScore& byTier) {
-        productive += byTier.productiveSeconds;
-        distracting += byTier.distractingSeconds;
-        const auto total = byTier.totalActive();
+    void add(int hour, const TierSeconds& seconds, Seconds total) {
+        productive += seconds[indexOf(Tier::productive)];
+        distracting += seconds[indexOf(Tier::distracting)];
         if (!busiest || total > busiest->seconds) busiest = {hour, total};
     }
 };
@@ -64,7 +71,7 @@ public:
     HourReader(const UsageSnapshot& hours, const CategoryStore& categories) : hours_(hours) {
         tiers_.reserve(hours.appCount());
         for (std::uint32_t app = 0; app < hours.appCount(); ++app) {
-            tiers_.push_back(categories.tier(AppId(std::string(hours.app(app)))));
+            tiers_.push_back(indexOf(categories.tier(AppId(std::string(hours.app(app))))));
         }
     }
 
@@ -79,21 +86,22 @@ public:
                 today = days.try_emplace(days.end(), key->day);
             }
             const auto seconds = byTier(i);
-            histogram[static_cast<std::size_t>(key->hour)] += seconds.totalActive();
-            today->second.add(key->hour, seconds);
+            const auto total = std::accumulate(seconds.begin(), seconds.end(), Seconds());
+            histogram[static_cast<std::size_t>(key->hour)] += total;
+            today->second.add(key->hour, seconds, total);
         }
         return days;
     }
 
 private:
-    [[nodiscard]] ProductivityScore byTier(UsageSnapshot::Index hour) const {
-        ProductivityScore score;
-        hours_.forEachApp(hour, [&](std::uint32_t app, Seconds seconds) { score.add(tiers_[app], seconds); });
-        return score;
+    [[nodiscard]] TierSeconds byTier(UsageSnapshot::Index hour) const {
+        TierSeconds seconds{};
+        hours_.forEachApp(hour, [&](std::uint32_t app, Seconds ofApp) { seconds[tiers_[app]] += ofApp; });
+        return seconds;
     }
 
     const UsageSnapshot& hours_;
-    std::vector<Tier> tiers_;  // of each application, looked up once
+    std::vector<std::size_t> tiers_;  // of each application, looked up once
 };
 
 void findPeakHour(Insights& insights) {

@@ -19,6 +19,7 @@ struct BusyBucket {
     Seconds seconds;
 };
 
+// Nothing if it is no number of two digits below `limit`.
 std::optional<int> twoDigits(std::string_view text, int limit) {
     const auto isDigit = [](char character) { return character >= '0' && character <= '9'; };
     if (!isDigit(text[0]) || !isDigit(text[1])) return std::nullopt;
@@ -26,33 +27,57 @@ std::optional<int> twoDigits(std::string_view text, int limit) {
     return value < limit ? std::optional(value) : std::nullopt;
 }
 
-// Of "yyyy-MM-dd HH:mm".
-std::optional<WallTime> wallTimeOf(std::string_view key) {
-    if (key.size() != 16 || key[10] != ' ' || key[13] != ':') return std::nullopt;
-    const auto day = dayOfKey(key.substr(0, 10));
-    const auto hour = twoDigits(key.substr(11, 2), hoursADay);
-    const auto minute = twoDigits(key.substr(14, 2), 60);
-    if (!day || !hour || !minute) return std::nullopt;
-    return std::chrono::local_days(day->time_since_epoch()) + std::chrono::hours(*hour) +
-           std::chrono::minutes(*minute);
-}
+// Reads keys of the form "yyyy-MM-dd HH:mm"; what is to be known of a day is worked out once for all its
+// buckets.
+class BucketKeyReader final {
+public:
+    explicit BucketKeyReader(const platform::TimeZone& zone) : zone_(zone), offsets_(zone) {}
 
-std::string_view dayPart(std::string_view key) {
-    const auto blank = key.find(' ');
-    return blank == std::string_view::npos ? key : key.substr(0, blank);
+    std::optional<Instant> instantOf(std::string_view key) {
+        if (key.size() != 16 || key[10] != ' ' || key[13] != ':') return std::nullopt;
+        const auto hour = twoDigits(key.substr(11, 2), hoursADay);
+        const auto minute = twoDigits(key.substr(14, 2), 60);
+        if (const auto dayText = key.substr(0, 10); dayText != dayText_) turnTo(dayText);
+        if (!day_ || !hour || !minute) return std::nullopt;
+        const auto time = std::chrono::minutes(*hour * 60 + *minute);
+        return midnight_ ? *midnight_ + time : tidewatch::instantOf(*day_ + time, zone_);
+    }
+
+private:
+    void turnTo(std::string_view dayText) {
+        dayText_ = dayText;
+        day_.reset();
+        midnight_.reset();
+        const auto day = dayOfKey(dayText);
+        if (!day) return;
+        day_ = std::chrono::local_days(day->time_since_epoch());
+        if (const auto offset = offsets_.allDay(*day_)) midnight_ = *day - *offset;
+    }
+
+    const platform::TimeZone& zone_;
+    DayOffsets offsets_;
+    std::string_view dayText_;
+    std::optional<std::chrono::local_days> day_;
+    std::optional<Instant> midnight_;  // if times of the day can be added to it
+};
+
+// By the day, which is what stands before the first blank; it is never more than the whole key.
+bool isBefore(std::string_view key, std::string_view cutoffKey) {
+    return !cutoffKey.empty() && (key < cutoffKey || key.substr(0, key.find(' ')) < cutoffKey);
 }
 
 std::vector<BusyBucket> busyBuckets(const UsageSnapshot& minutes, std::string_view cutoffKey,
                                     const platform::TimeZone& zone) {
-    InstantReader reader(zone);
+    BucketKeyReader reader(zone);
     std::vector<BusyBucket> buckets;
+    buckets.reserve(minutes.keyCount());
     for (UsageSnapshot::Index i = 0; i < minutes.keyCount(); ++i) {
         const auto key = minutes.key(i);
-        if (dayPart(key) < cutoffKey) continue;
+        if (isBefore(key, cutoffKey)) continue;
         Seconds total;
         minutes.forEachApp(i, [&](std::uint32_t, Seconds seconds) { total += seconds; });
         if (total < leastBusy) continue;
-        if (const auto time = wallTimeOf(key)) buckets.push_back({reader.instantOf(*time), total});
+        if (const auto start = reader.instantOf(key)) buckets.push_back({*start, total});
     }
     // Keys ascend, and so do their instants but for the nights in which the clock changes.
     if (!std::ranges::is_sorted(buckets, {}, &BusyBucket::start)) {

@@ -14,14 +14,22 @@ public:
 
     [[nodiscard]] constexpr std::int64_t count() const noexcept { return count_; }
 
-    Seconds& operator+=(Seconds other);
-    Seconds& operator-=(Seconds other);
+    Seconds& operator+=(Seconds other) {
+        if (__builtin_add_overflow(count_, other.count_, &count_)) endOverflown();
+        return *this;
+    }
+    Seconds& operator-=(Seconds other) {
+        if (__builtin_sub_overflow(count_, other.count_, &count_)) endOverflown();
+        return *this;
+    }
     [[nodiscard]] friend Seconds operator+(Seconds left, Seconds right) { return left += right; }
     [[nodiscard]] friend Seconds operator-(Seconds left, Seconds right) { return left -= right; }
 
     constexpr auto operator<=>(const Seconds&) const = default;
 
 private:
+    [[noreturn]] static void endOverflown();
+
     std::int64_t count_ = 0;
 };
 

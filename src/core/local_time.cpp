@@ -5,7 +5,8 @@
 namespace tidewatch {
 namespace {
 
-constexpr std::chrono::days week(7);
+// Some zones keep another offset for the month of Ramadan; none comes back to an offset sooner.
+constexpr std::chrono::days stretch(14);
 
 }  // namespace
 
@@ -25,18 +26,20 @@ Instant instantOf(WallTime time, const platform::TimeZone& zone) {
     return afterShowsIt ? after : std::max(before, after);
 }
 
-Instant InstantReader::instantOf(WallTime time) {
-    const auto day = std::chrono::floor<std::chrono::days>(time);
-    if (!week_ || day < *week_ || day >= *week_ + week) turnTo(day);
-    return offset_ ? Instant(time.time_since_epoch() - *offset_) : tidewatch::instantOf(time, zone_);
+std::optional<std::chrono::seconds> DayOffsets::allDay(std::chrono::local_days day) {
+    if (!stretchStart_ || day < *stretchStart_ || day >= *stretchStart_ + stretch) {
+        stretchStart_ = day;
+        offset_ = steadyOffset(day, stretch);
+    }
+    return offset_ ? offset_ : steadyOffset(day, std::chrono::days(1));
 }
 
-void InstantReader::turnTo(std::chrono::local_days firstDay) {
-    const Instant firstDayAsUtc(firstDay.time_since_epoch());
-    const auto before = zone_.utcOffset(firstDayAsUtc - std::chrono::days(1));
-    const auto after = zone_.utcOffset(firstDayAsUtc + week + std::chrono::days(1));
-    week_ = firstDay;
-    offset_ = before == after ? std::optional(before) : std::nullopt;
+std::optional<std::chrono::seconds> DayOffsets::steadyOffset(std::chrono::local_days first,
+                                                             std::chrono::days count) const {
+    const Instant asUtc(first.time_since_epoch());
+    const auto before = zone_.utcOffset(asUtc - std::chrono::days(1));
+    const auto after = zone_.utcOffset(asUtc + count + std::chrono::days(1));
+    return before == after ? std::optional(before) : std::nullopt;
 }
 
 Instant plusDays(Instant instant, std::chrono::days count, const platform::TimeZone& zone) {

@@ -18,21 +18,23 @@ using WallTime = std::chrono::local_time<std::chrono::milliseconds>;
 /// as much later as the zone skips.
 [[nodiscard]] Instant instantOf(WallTime time, const platform::TimeZone& zone);
 
-/// instantOf() for many times: quick if one lies near the one before it. Takes a zone's offset as the same
-/// for a whole week if it is the same at both of its ends.
-class InstantReader final {
+/// The offsets of a zone on many days: quick if one lies near the one before it. Takes a zone's offset as the
+/// same for two weeks if it is the same at both of its ends.
+class DayOffsets final {
 public:
     /// `zone` must outlive it.
-    explicit InstantReader(const platform::TimeZone& zone) : zone_(zone) {}
+    explicit DayOffsets(const platform::TimeZone& zone) : zone_(zone) {}
 
-    [[nodiscard]] Instant instantOf(WallTime time);
+    /// The offset from UTC of every time of `day`; nothing if the clock changes on it or on a day beside it.
+    [[nodiscard]] std::optional<std::chrono::seconds> allDay(std::chrono::local_days day);
 
 private:
-    void turnTo(std::chrono::local_days firstDay);
+    [[nodiscard]] std::optional<std::chrono::seconds> steadyOffset(std::chrono::local_days first,
+                                                                   std::chrono::days count) const;
 
     const platform::TimeZone& zone_;
-    std::optional<std::chrono::local_days> week_;  // its first day
-    std::optional<std::chrono::seconds> offset_;   // of the whole week, if it has one
+    std::optional<std::chrono::local_days> stretchStart_;
+    std::optional<std::chrono::seconds> offset_;  // of that stretch
 };
 
 /// The same time on the clock `count` calendar days later, or earlier if it is below 0.

@@ -47,7 +47,8 @@ ScrollPane {
             Layout.fillWidth: true
             padding: 8
 
-            contentItem: ColumnLayout {
+            ColumnLayout {
+                anchors.fill: parent
                 spacing: 0
 
                 RowLayout {

@@ -18,7 +18,8 @@ ScrollPane {
         Card {
             Layout.fillWidth: true
 
-            contentItem: ColumnLayout {
+            ColumnLayout {
+                anchors.fill: parent
                 spacing: 14
 
                 Heading {
@@ -30,13 +31,15 @@ ScrollPane {
 
                     SymbolRow {
                         objectName: "stars"
-                        Layout.fillWidth: true
                         names: root.presenter.stars
                         colors: root.presenter.starColors
                         side: 34
                         spacing: 10
                         Accessible.role: Accessible.StaticText
                         Accessible.name: root.presenter.starsSpoken
+                    }
+                    Item {
+                        Layout.fillWidth: true
                     }
                     Stat {
                         objectName: "streak"
@@ -54,7 +57,8 @@ ScrollPane {
         Card {
             Layout.fillWidth: true
 
-            contentItem: ColumnLayout {
+            ColumnLayout {
+                anchors.fill: parent
                 spacing: 18
 
                 Heading {
@@ -74,7 +78,8 @@ ScrollPane {
         Card {
             Layout.fillWidth: true
 
-            contentItem: ColumnLayout {
+            ColumnLayout {
+                anchors.fill: parent
                 spacing: 10
 
                 Heading {

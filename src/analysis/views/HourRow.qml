@@ -14,7 +14,8 @@ Card {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.row.spoken
 
-    contentItem: RowLayout {
+    RowLayout {
+        anchors.fill: parent
         spacing: 28
 
         ColumnLayout {

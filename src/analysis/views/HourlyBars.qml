@@ -14,7 +14,8 @@ Card {
     Accessible.role: Accessible.Chart
     Accessible.name: root.presenter.hoursSpoken
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 16
 
         Heading {
@@ -46,7 +47,7 @@ Card {
                         anchors.horizontalCenter: parent.horizontalCenter
                         width: Math.min(18, parent.width - 6)
                         height: (parent.height - label.height - 8) * hour.row.height
-                        radius: 3
+                        radius: 2
                         color: Style.palette.stroke
                     }
                     Rectangle {
@@ -56,7 +57,7 @@ Card {
                         anchors.right: bar.right
                         anchors.bottom: bar.bottom
                         height: bar.height * hour.row.productive
-                        radius: 3
+                        radius: 2
                         color: Style.palette.tierProductive
                     }
                     Rectangle {
@@ -66,7 +67,7 @@ Card {
                         anchors.right: bar.right
                         anchors.bottom: productive.top
                         height: bar.height * hour.row.neutral
-                        radius: 3
+                        radius: 2
                         color: Style.palette.tierNeutral
                     }
                     Rectangle {
@@ -74,7 +75,7 @@ Card {
                         anchors.right: bar.right
                         anchors.bottom: neutral.top
                         height: bar.height * hour.row.distracting
-                        radius: 3
+                        radius: 2
                         color: Style.palette.tierDistracting
                     }
                     Text {

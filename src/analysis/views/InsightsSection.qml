@@ -34,7 +34,8 @@ ColumnLayout {
         Accessible.role: Accessible.Grouping
         Accessible.name: root.presenter.sessionTitle
 
-        contentItem: ColumnLayout {
+        ColumnLayout {
+            anchors.fill: parent
             spacing: Style.measures.spacing
 
             RowLayout {
@@ -113,7 +114,8 @@ ColumnLayout {
                 Accessible.role: Accessible.Grouping
                 Accessible.name: row.title + ": " + row.value + ", " + row.subtitle
 
-                contentItem: ColumnLayout {
+                ColumnLayout {
+                    anchors.fill: parent
                     spacing: 4
 
                     RowLayout {

@@ -11,7 +11,8 @@ Card {
     Accessible.role: Accessible.Grouping
     Accessible.name: root.presenter.scoreTitle + ": " + root.presenter.score + ". " + root.presenter.comparison
 
-    contentItem: Item {
+    Item {
+        anchors.fill: parent
         implicitWidth: 196
         implicitHeight: 260
 
@@ -27,7 +28,7 @@ Card {
             readonly property real side: Math.min(parent.width, parent.height - heading.height - 60)
 
             anchors.horizontalCenter: parent.horizontalCenter
-            y: heading.height + 20
+            y: heading.height + (comparisonLine.y - heading.height - height) / 2
             width: side
             height: side
             fraction: root.presenter.scoreFraction
@@ -56,6 +57,8 @@ Card {
             }
         }
         Text {
+            id: comparisonLine
+
             objectName: "comparison"
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.bottom: parent.bottom

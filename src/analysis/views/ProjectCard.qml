@@ -14,7 +14,8 @@ Card {
     Accessible.role: Accessible.ListItem
     Accessible.name: root.row.spoken
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 12
 
         RowLayout {

@@ -19,7 +19,8 @@ ScrollPane {
             Layout.fillWidth: true
             visible: root.presenter.isEmpty
 
-            contentItem: EmptyState {
+            EmptyState {
+                anchors.fill: parent
                 objectName: "empty"
                 symbol: "calendar"
                 title: root.presenter.emptyTitle

@@ -14,7 +14,8 @@ Card {
     Accessible.role: Accessible.Grouping
     Accessible.name: root.presenter.title + ": " + root.presenter.time
 
-    contentItem: ColumnLayout {
+    ColumnLayout {
+        anchors.fill: parent
         spacing: 2
 
         RowLayout {

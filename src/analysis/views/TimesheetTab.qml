@@ -45,7 +45,8 @@ ScrollPane {
             Layout.fillWidth: true
             visible: root.presenter.isEmpty
 
-            contentItem: EmptyState {
+            EmptyState {
+                anchors.fill: parent
                 objectName: "empty"
                 symbol: "clock"
                 title: root.presenter.emptyText

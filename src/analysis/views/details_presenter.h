@@ -63,14 +63,14 @@ public:
 };
 
 /// The table of the day's applications, with its filters. Main thread only.
-class DetailsPresenter final : public TabPresenter {
+class DetailsPresenter final : public tidewatch::TabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
     Q_PROPERTY(tidewatch::RowListModel* tiers READ tiers CONSTANT FINAL)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged FINAL)
     Q_PROPERTY(QString searchPrompt READ searchPrompt CONSTANT FINAL)
-    Q_PROPERTY(QStringList columns READ columns CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> columns READ columns CONSTANT FINAL)
     Q_PROPERTY(tidewatch::RowListModel* rows READ rows CONSTANT FINAL)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY rowsChanged FINAL)
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT FINAL)

@@ -59,7 +59,7 @@ public:
 };
 
 /// Stars, progress, and what the goals are. Main thread only.
-class GoalsPresenter final : public TabPresenter {
+class GoalsPresenter final : public tidewatch::TabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

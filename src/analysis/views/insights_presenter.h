@@ -38,7 +38,7 @@ class InsightsPresenter final : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
     Q_PROPERTY(QString title READ title CONSTANT FINAL)
-    Q_PROPERTY(QStringList ranges READ ranges CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> ranges READ ranges CONSTANT FINAL)
     Q_PROPERTY(int rangeIndex READ rangeIndex NOTIFY rangeChanged FINAL)
     Q_PROPERTY(QString sessionTitle READ sessionTitle CONSTANT FINAL)
     Q_PROPERTY(bool hasSession READ hasSession NOTIFY sessionChanged FINAL)

@@ -45,7 +45,7 @@ private:
 };
 
 /// The day at a glance. Main thread only.
-class OverviewPresenter final : public TabPresenter {
+class OverviewPresenter final : public tidewatch::TabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

@@ -43,7 +43,7 @@ public:
 };
 
 /// Where the day's time went by project. Main thread only.
-class ProjectsPresenter final : public TabPresenter {
+class ProjectsPresenter final : public tidewatch::TabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

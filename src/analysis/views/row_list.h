@@ -1,5 +1,6 @@
 #pragma once
 
+#include <qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QHash>
 #include <QVariant>
@@ -13,6 +14,8 @@ namespace tidewatch {
 /// "row".
 class RowListModel : public QAbstractListModel {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Given by the presenters")
 
 public:
     enum Role { rowRole = Qt::UserRole };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <qqmlregistration.h>
 #include <QObject>
 
 #include "analysis/dashboard_model.h"
@@ -10,6 +11,8 @@ namespace tidewatch {
 /// refresh costs what can be seen. Main thread only.
 class TabPresenter : public QObject {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("What the presenters of the tabs are")
 
 public:
     /// `model` must outlive it.

@@ -68,11 +68,11 @@ public:
 };
 
 /// The day hour by hour. Main thread only.
-class TimesheetPresenter final : public TabPresenter {
+class TimesheetPresenter final : public tidewatch::TabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
-    Q_PROPERTY(QStringList columns READ columns CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> columns READ columns CONSTANT FINAL)
     Q_PROPERTY(tidewatch::RowListModel* hours READ hours CONSTANT FINAL)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY hoursChanged FINAL)
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT FINAL)

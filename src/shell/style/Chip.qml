@@ -20,6 +20,8 @@ PressButton {
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: checked
+    Accessible.onPressAction: flip()
+    Accessible.onToggleAction: flip()
 
     Keys.onReturnPressed: flip()
     Keys.onEnterPressed: flip()

@@ -29,6 +29,8 @@ Rectangle {
         objectName: "liquid"
         anchors.fill: parent
         visible: Style.decoration === Style.Liquid
+        // Bright enough to be seen moving, dark enough for small text on cards that hardly cover it.
+        opacity: 0.5
         time: root.time
         running: root.running
         intensity: Style.liquidDecorationIntensity

@@ -6,7 +6,7 @@ PressButton {
     id: root
 
     required property string symbol
-    property real symbolSide: 18
+    property real symbolSide: 20
 
     implicitWidth: 30
 

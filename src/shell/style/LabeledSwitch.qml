@@ -20,25 +20,36 @@ Item {
         readonly property real gap: 16
 
         function flip() {
-            root.toggled(!root.checked);
+            toggle();
+            tell();
+        }
+
+        /*! The template has toggled itself; what is shown is the owner's to say. */
+        function tell() {
+            root.toggled(checked);
+            checked = root.checked;
         }
 
         anchors.fill: parent
         implicitWidth: label.implicitWidth + gap + groove.width
         implicitHeight: 30
+        checkable: true
         focusPolicy: Qt.StrongFocus
         hoverEnabled: true
         text: root.text
 
-        Accessible.role: Accessible.CheckBox
         Accessible.name: text
-        Accessible.checkable: true
-        Accessible.checked: root.checked
+        Accessible.onPressAction: flip()
+        Accessible.onToggleAction: flip()
 
         Keys.onReturnPressed: flip()
         Keys.onEnterPressed: flip()
 
-        onClicked: flip()
+        onToggled: tell()
+
+        Binding on checked {
+            value: root.checked
+        }
 
         Text {
             id: label

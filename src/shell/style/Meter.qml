@@ -11,15 +11,17 @@ Item {
     property color track: Style.palette.stroke
     property string accessibleName
 
-    readonly property real value: Math.min(1, Math.max(0, fraction))
-    readonly property real minimumValue: 0
-    readonly property real maximumValue: 1
+    /*! The figure in words, for those who cannot see the bar. */
+    property string valueText
+
+    readonly property real filled: Math.min(1, Math.max(0, fraction))
 
     implicitWidth: 120
     implicitHeight: 6
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: accessibleName
+    Accessible.description: valueText
     Accessible.ignored: accessibleName === ""
 
     Rectangle {
@@ -30,9 +32,9 @@ Item {
 
     Rectangle {
         objectName: "fill"
-        visible: root.value > 0
+        visible: root.filled > 0
         // Never shorter than its own round ends.
-        width: Math.max(height, Math.round(parent.width * root.value))
+        width: Math.max(height, Math.round(parent.width * root.filled))
         height: parent.height
         radius: height / 2
         color: root.color

@@ -16,6 +16,7 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
+    Accessible.onPressAction: clicked()
 
     // The space bar alone comes with the template.
     Keys.onReturnPressed: clicked()

@@ -50,7 +50,7 @@ Item {
 
             model: root.labels.length
 
-            T.AbstractButton {
+            T.RadioButton {
                 id: segment
 
                 required property int index
@@ -61,15 +61,16 @@ Item {
                 implicitWidth: Math.max(56, implicitContentWidth + leftPadding + rightPadding)
                 height: row.height - 4
                 horizontalPadding: 14
-                // One stop of the tabulator for all: the chosen one.
-                focusPolicy: chosen ? Qt.StrongFocus : Qt.ClickFocus
+                // One stop of the tabulator for all: the chosen one. What has the focus must stay a stop.
+                focusPolicy: chosen || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 hoverEnabled: true
                 text: root.labels[index]
 
-                Accessible.role: Accessible.RadioButton
+                checked: chosen
+
                 Accessible.name: text
-                Accessible.checkable: true
-                Accessible.checked: chosen
+                Accessible.onPressAction: clicked()
+                Accessible.onToggleAction: clicked()
 
                 Keys.onLeftPressed: root.choose(index - 1)
                 Keys.onRightPressed: root.choose(index + 1)

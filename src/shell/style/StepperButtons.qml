@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tidewatch.Style
 
 /*! Less and more of a value that is shown beside it: one stop of the tabulator, worked with the arrows, + and -. */
-T.Control {
+Item {
     id: root
 
     property bool canDecrease: true
@@ -12,6 +11,12 @@ T.Control {
 
     /*! The value as it is shown. */
     property string valueText
+
+    // The same for assistive technology, which asks for these by name.
+    property real value: 0
+    property real minimumValue: 0
+    property real maximumValue: 0
+    property real stepSize: 0
 
     signal decrease
     signal increase
@@ -26,9 +31,10 @@ T.Control {
             increase();
     }
 
-    implicitWidth: implicitContentWidth
+    implicitWidth: buttons.implicitWidth
     implicitHeight: 30
-    focusPolicy: Qt.StrongFocus
+    // By the keyboard only: a click on one of the buttons leaves the focus where it is.
+    activeFocusOnTab: true
 
     Accessible.role: Accessible.SpinBox
     Accessible.name: accessibleName
@@ -50,7 +56,17 @@ T.Control {
         event.accepted = true;
     }
 
-    contentItem: Row {
+    Rectangle {
+        anchors.fill: parent
+        radius: Style.measures.controlRadius
+        color: "transparent"
+        border.width: 1
+        border.color: Style.palette.stroke
+    }
+
+    Row {
+        id: buttons
+
         IconButton {
             objectName: "decrease"
             height: root.height
@@ -85,14 +101,7 @@ T.Control {
         }
     }
 
-    background: Rectangle {
-        radius: Style.measures.controlRadius
-        color: "transparent"
-        border.width: 1
-        border.color: Style.palette.stroke
-    }
-
     FocusRing {
-        shown: root.visualFocus
+        shown: root.activeFocus
     }
 }

@@ -2,6 +2,7 @@
 
 #include "shell/style/contrast.h"
 #include "shell/style/fonts.h"
+#include "shell/style/qt_color.h"
 #include "shell/themes/builtin_themes.h"
 
 namespace tidewatch {
@@ -86,7 +87,13 @@ QFont Style::tracked(const QFont& font, double spacing) const {
 }
 
 QColor Style::legible(const QColor& color) const {
-    return legibleOn(laidOver(palette_.card, palette_.bg), color);
+    return legibleOn(textGround(), color);
+}
+
+QColor Style::textGround() const {
+    // Of the liquid, what shines through the cards where it is rather bright.
+    const auto behind = decoration_ == Liquid ? toQColor(Color::whiteLevel(0.24)) : palette_.bg;
+    return laidOver(palette_.card, behind);
 }
 
 void Style::wear(const DashboardStyle& style) {

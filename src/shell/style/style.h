@@ -63,6 +63,7 @@ Q_SIGNALS:
     void themeChanged();
 
 private:
+    [[nodiscard]] QColor textGround() const;
     void wear(const DashboardStyle& style);
 
     Palette palette_;

@@ -72,22 +72,23 @@ QPainterPath filledCircle() {
 }
 
 QPainterPath bomb() {
-    const QPointF middle(0.40, 0.61);
+    // In hundredths: set operations flatten curves, and would do so visibly in a unit square.
+    const QPointF middle(40, 61);
     QPainterPath light;
-    light.moveTo(middle + QPointF(-0.235, 0));
-    light.quadTo(middle + QPointF(-0.235, -0.235), middle + QPointF(0, -0.235));
+    light.moveTo(middle + QPointF(-23, 0));
+    light.cubicTo(middle + QPointF(-23, -13), middle + QPointF(-13, -23), middle + QPointF(0, -23));
 
     QPainterPath neck;
-    neck.addRoundedRect(QRectF(-0.115, -0.465, 0.23, 0.14), 0.03, 0.03);
-    const auto leaning = QTransform::fromTranslate(middle.x(), middle.y()).rotate(38).map(neck);
+    neck.addRoundedRect(QRectF(-12, -46, 24, 16), 3, 3);
+    const auto leaning = QTransform::fromTranslate(middle.x(), middle.y()).rotate(40).map(neck);
 
     QPainterPath fuse;
-    fuse.moveTo(0.66, 0.29);
-    fuse.cubicTo({0.70, 0.18}, {0.79, 0.16}, {0.82, 0.22});
+    fuse.moveTo(67, 29);
+    fuse.cubicTo({72, 17}, {80, 16}, {84, 21});
 
-    const auto body = circle(middle, 0.37).subtracted(outline(light, 0.06));
-    const auto spark = star({0.87, 0.16}, 6, 0.14, 0.055);
-    return fitted(body.united(leaning).united(outline(fuse, 0.06)).united(spark));
+    const auto body = circle(middle, 37).subtracted(outline(light, 6));
+    const auto spark = star({90, 15}, 7, 13, 6);
+    return fitted(body.united(leaning).united(outline(fuse, 6)).united(spark));
 }
 
 }  // namespace tidewatch

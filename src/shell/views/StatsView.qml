@@ -1,6 +1,5 @@
 pragma ComponentBehavior: Bound
 
-import QtQml
 import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
@@ -13,9 +12,20 @@ FocusScope {
 
     required property StatsPresenter presenter
 
-    readonly property list<Component> tabs: [overview, goals, details, timesheet, projects]
-
     focus: true
+
+    Keys.onEscapePressed: root.Window.window.close()
+    Keys.onPressed: event => {
+        if (!(event.modifiers & Qt.ControlModifier))
+            return;
+        if (event.key === Qt.Key_W)
+            root.Window.window.close();
+        else if (event.key >= Qt.Key_1 && event.key <= Qt.Key_9)
+            root.presenter.selectTab(event.key - Qt.Key_1);
+        else
+            return;
+        event.accepted = true;
+    }
 
     DashboardBackground {
         anchors.fill: parent
@@ -46,67 +56,52 @@ FocusScope {
             Layout.preferredHeight: 1
             color: Style.palette.stroke
         }
-        Loader {
-            objectName: "tab"
+        // The tab on show alone. Not loaders: those of this toolkit's version know no bound components.
+        Item {
             Layout.fillWidth: true
             Layout.fillHeight: true
-            sourceComponent: root.tabs[root.presenter.tabIndex]
+
+            Repeater {
+                model: root.presenter.tabIndex === 0 ? 1 : 0
+                delegate: OverviewTab {
+                    anchors.fill: parent
+                    padding: 28
+                    presenter: root.presenter.overview
+                    insights: root.presenter.insights
+                }
+            }
+            Repeater {
+                model: root.presenter.tabIndex === 1 ? 1 : 0
+                delegate: GoalsTab {
+                    anchors.fill: parent
+                    padding: 28
+                    presenter: root.presenter.goals
+                }
+            }
+            Repeater {
+                model: root.presenter.tabIndex === 2 ? 1 : 0
+                delegate: DetailsTab {
+                    anchors.fill: parent
+                    padding: 28
+                    presenter: root.presenter.details
+                }
+            }
+            Repeater {
+                model: root.presenter.tabIndex === 3 ? 1 : 0
+                delegate: TimesheetTab {
+                    anchors.fill: parent
+                    padding: 28
+                    presenter: root.presenter.timesheet
+                }
+            }
+            Repeater {
+                model: root.presenter.tabIndex === 4 ? 1 : 0
+                delegate: ProjectsTab {
+                    anchors.fill: parent
+                    padding: 28
+                    presenter: root.presenter.projects
+                }
+            }
         }
-    }
-
-    Component {
-        id: overview
-
-        OverviewTab {
-            padding: 28
-            presenter: root.presenter.overview
-            insights: root.presenter.insights
-        }
-    }
-    Component {
-        id: goals
-
-        GoalsTab {
-            padding: 28
-            presenter: root.presenter.goals
-        }
-    }
-    Component {
-        id: details
-
-        DetailsTab {
-            padding: 28
-            presenter: root.presenter.details
-        }
-    }
-    Component {
-        id: timesheet
-
-        TimesheetTab {
-            padding: 28
-            presenter: root.presenter.timesheet
-        }
-    }
-    Component {
-        id: projects
-
-        ProjectsTab {
-            padding: 28
-            presenter: root.presenter.projects
-        }
-    }
-
-    Instantiator {
-        model: root.presenter.tabs.length
-        delegate: Shortcut {
-            required property int index
-
-            sequence: "Ctrl+" + (index + 1)
-            onActivated: root.presenter.selectTab(index)
-        }
-    }
-    Shortcut {
-        sequences: ["Ctrl+W", "Esc"]
-        onActivated: root.Window.window.close()
     }
 }

@@ -29,7 +29,7 @@ class StatsPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
-    Q_PROPERTY(QStringList tabs READ tabs CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> tabs READ tabs CONSTANT FINAL)
     /// The place of the tab on show among tabs().
     Q_PROPERTY(int tabIndex READ tabIndex NOTIFY tabChanged FINAL)
     Q_PROPERTY(tidewatch::HeaderPresenter* header READ header CONSTANT FINAL)

@@ -13,19 +13,19 @@
 namespace tidewatch {
 namespace {
 
-constexpr QSize componentsSize(1000, 640);
-constexpr QSize symbolsSize(1000, 560);
+constexpr QSize componentsSize(1000, 680);
+constexpr QSize symbolsSize(1000, 340);
 
 constexpr auto components = R"(
 Item {
     id: gallery
     property alias time: ground.time
-    width: 1000; height: 640
+    width: 1000; height: 680
     DashboardBackground { id: ground; anchors.fill: parent }
     Row {
         x: 24; y: 24; spacing: 20
         Card {
-            width: 300; height: 592
+            width: 300; height: 632
             Column {
                 width: parent.width; spacing: 14
                 Heading { text: "Productividad" }
@@ -54,7 +54,7 @@ Item {
             }
         }
         Card {
-            width: 316; height: 592
+            width: 316; height: 632
             Column {
                 width: parent.width; spacing: 16
                 Heading { text: "Mandos" }
@@ -93,7 +93,7 @@ Item {
             }
         }
         Card {
-            width: 276; height: 592
+            width: 276; height: 632
             Column {
                 width: parent.width; spacing: 20
                 Heading { text: "Con el teclado" }
@@ -138,7 +138,7 @@ constexpr auto symbols = R"(
 Rectangle {
     id: sheet
     property var names: []
-    width: 1000; height: 560
+    width: 1000; height: 340
     color: Style.palette.bg
     Grid {
         x: 16; y: 16; columns: 8; spacing: 8

@@ -7,6 +7,18 @@
 #include "shell/style/style.h"
 
 namespace tidewatch {
+namespace {
+
+/// Rows of a list belong to no object, so that only the tree of what is shown leads to them.
+QQuickItem* findShown(QQuickItem& in, const QString& name) {
+    if (in.objectName() == name) return &in;
+    for (auto* child : in.childItems()) {
+        if (auto* found = findShown(*child, name)) return found;
+    }
+    return nullptr;
+}
+
+}  // namespace
 
 StyleScene::StyleScene() {
     QObject::connect(&engine_, &QQmlEngine::warnings, &engine_, [this](const QList<QQmlError>& errors) {
@@ -34,7 +46,7 @@ void StyleScene::show(const QString& source, QSize size) {
 }
 
 QQuickItem* StyleScene::item(const QString& name) const {
-    return view_->findChild<QQuickItem*>(name);
+    return findShown(*view_, name);
 }
 
 void StyleScene::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {

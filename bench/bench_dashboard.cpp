@@ -1,0 +1,57 @@
+// What the statistics window reads of a ten-year record: the whole of a day every two seconds, and the look
+// back over everything.
+
+#include "analysis/dashboard_model.h"
+#include "analysis/insights_engine.h"
+#include "bench/support/bench_world.h"
+#include "bench/support/ratio.h"
+#include "platform/fake/fake_time_zone.h"
+
+namespace {
+
+using namespace tidewatch;
+using namespace tidewatch::bench;
+
+constexpr double mostMilliseconds = 5;
+
+template <class Work>
+double milliseconds(Work&& work) {
+    std::vector<Milliseconds> times;
+    for (int round = 0; round < 101; ++round) times.push_back(processorTime(work));
+    return median(times).count();
+}
+
+}  // namespace
+
+int main() {
+    const auto record = makeLargeRecord({});
+    BenchWorld world(record);
+    world.clock.setZone(platform::madridZone());
+    const BenchStores stores(world);
+    const CategoryStore categories(world.files, world.log, world.workspace);
+    const AppInfoResolver appInfo(world.workspace);
+    const ProductivityScorer scorer(stores.apps, categories);
+    const Broadcaster broadcaster;
+    ProjectStore projects(world.files, world.log, world.randomness, broadcaster);
+    projects.addProject("Casa");
+
+    world.clock.setNow(std::chrono::sys_days(std::chrono::December / 19 / 2025) + std::chrono::hours(18));
+    DashboardModel dashboard({world.clock, world.loop, stores.daily, stores.apps, stores.hours,
+                              stores.minutes, stores.keys, categories, scorer, projects, stores.times,
+                              appInfo});
+    const InsightsEngine insights(world.clock, stores.daily, stores.hours, stores.minutes, categories);
+
+    Verdicts verdicts;
+    verdicts.compare("dashboard reload, ten years", milliseconds([&] {
+                         dashboard.reload();
+                         if (dashboard.hourGroups().size() != 9) giveUp("the day is not what it should be");
+                     }),
+                     mostMilliseconds, "ms", "fixed bar");
+    verdicts.compare("insights over everything, ten years", milliseconds([&] {
+                         if (insights.compute(InsightsRange::all).activeDays != 2600) {
+                             giveUp("the record is not what it should be");
+                         }
+                     }),
+                     mostMilliseconds, "ms", "fixed bar");
+    return verdicts.exitCode();
+}
