@@ -9,6 +9,7 @@
 #include "platform/linux/desktop_notifications.h"
 #include "platform/linux/desktop_workspace.h"
 #include "platform/linux/linux_process_endings.h"
+#include "platform/linux/linux_process_memory.h"
 #include "platform/linux/locked_running_instance.h"
 #include "platform/linux/posix_file_system.h"
 #include "platform/linux/stderr_log.h"
@@ -59,9 +60,10 @@ struct NativePlatform::Parts {
     LinuxProcessEndings endings;
     SystemRandomness randomness;
     DesktopNotifications notifications{QDBusConnection::sessionBus(), log};
-    Platform all{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
-                 workspace,  screens,      windowManager, loginItem, runningInstance, endings,
-                 randomness, notifications};
+    LinuxProcessMemory memory;
+    Platform all{log,        clock,         mainLoop,      files,     preferences,     inputActivity,
+                 workspace,  screens,       windowManager, loginItem, runningInstance, endings,
+                 randomness, notifications, memory};
 };
 
 NativePlatform::NativePlatform() : parts_(std::make_unique<Parts>()) {}

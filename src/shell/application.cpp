@@ -1,6 +1,7 @@
 #include "shell/application.h"
 
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QQuickWindow>
 
 #include "core/data_directory.h"
@@ -20,15 +21,13 @@ int& prepared(int& argumentCount) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QCoreApplication::setOrganizationName("brightlooms");
     QCoreApplication::setApplicationName("tidewatch");
-    QGuiApplication::setApplicationDisplayName("Tidewatch");
     QGuiApplication::setDesktopFileName("com.brightlooms.tidewatch");
     return argumentCount;
 }
 
 QIcon programIcon() {
     QIcon icon;
-    for (const int size : {16, 32, 48})
-        icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
+    for (const int size : {16, 32, 48}) icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
     return icon;
 }
 
@@ -38,6 +37,9 @@ Application::Application(int& argumentCount, char** arguments)
     : toolkit_(prepared(argumentCount), arguments) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setWindowIcon(programIcon());
+    if (toolkitWords_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&toolkitWords_);
+    }
 }
 
 int Application::run(const platform::Platform& platform) {

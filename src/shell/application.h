@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QTranslator>
 
 #include "platform/api/platform.h"
 
@@ -19,6 +20,7 @@ public:
 
 private:
     QApplication toolkit_;
+    QTranslator toolkitWords_;  ///< of the dialogs that the toolkit makes
 };
 
 }  // namespace tidewatch

@@ -8,7 +8,7 @@ Composition::Composition(const platform::Platform& platform, std::function<void(
     : services_(platform),
       theme_(themes_, services_.settings, services_.broadcaster),
       clock_(services_.engine, theme_, platform.clock, [this] { return services_.rewards.starsToday(); }),
-      surfaces_(platform.windowManager, theme_, clock_),
+      surfaces_(platform, theme_, clock_),
       delegate_({
           .platform = platform,
           .services = services_,

@@ -76,6 +76,16 @@ struct Confirmation {
     std::string accept;  ///< what the button that acts says
 };
 
+/// What kind of file the user is asked a place for.
+enum class SaveKind { csv, pdf };
+
+/// A question where a file is to be written.
+struct SaveRequest {
+    std::string title;
+    std::string proposedName;  ///< with its extension, without a folder
+    SaveKind kind = SaveKind::csv;
+};
+
 /// Messages and questions that keep the user from the program's other windows until they are answered. All
 /// return at once and call back when the button that acts is chosen.
 class Dialogs {
@@ -86,15 +96,32 @@ public:
 
     /// For what cannot be undone.
     virtual void confirm(const Confirmation& question, std::function<void()> accepted) = 0;
+
+    /// Asks where a file is to be written, and whether one that is there may be replaced. `accepted` gets an
+    /// absolute path with the kind's extension.
+    virtual void chooseSaveLocation(const SaveRequest& request,
+                                    std::function<void(std::string path)> accepted) = 0;
 };
 
 /// The statistics window, where it exists.
 class StatisticsWindow {
 public:
     virtual ~StatisticsWindow() = default;
+
+    /// Brings it up, in the middle of the main screen and with the focus, and posts DashboardWillShow; each
+    /// time, also if it is visible.
     virtual void showWindow() = 0;
     virtual void close() = 0;
+    /// Not while it is minimised.
     [[nodiscard]] virtual bool isVisible() const = 0;
+
+    void toggleWindow() {
+        if (isVisible()) {
+            close();
+        } else {
+            showWindow();
+        }
+    }
 };
 
 /// Makes what is on the screen. The main thread owns what it gives.
@@ -107,6 +134,9 @@ public:
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) = 0;
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
     [[nodiscard]] virtual Dialogs& dialogs() = 0;
+
+    /// Opens a menu of `rows` at a place on the desktop; returns at once.
+    virtual void popUpMenu(const MenuRows& rows, platform::Point at) = 0;
 
     /// Says something short beside the floating clock for a few seconds.
     virtual void showHint(const std::string& text) = 0;

@@ -174,13 +174,13 @@ class Commands(unittest.TestCase):
 
     def test_the_data_file_is_written_and_shown_in_the_file_manager(self):
         with running("reveal") as (world, menu):
-            # Nobody answers here, so the folder is opened instead; what the desktop's opener says of that is its own.
-            world.expected_warnings += ["mime-type", "mailcap", "xdg-open"]
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             time.sleep(0.5)
             menu.open_from_tray()
             menu.choose(rows.REVEAL)
             wait_until(lambda: f"file://{world.home.data}/today.json" in monitor.log(), "the file manager to be asked")
+            # None answers on this bus, so the folder is opened instead.
+            wait_until(lambda: world.opened() == [f"file://{world.home.data}"], "the folder to be opened")
             self.assertGreaterEqual(world.home.day_seconds(), 1)
 
     def test_start_at_login_writes_an_entry_that_starts_this_program_and_takes_it_back(self):

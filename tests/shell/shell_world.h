@@ -105,6 +105,7 @@ public:
         return item;
     }
     [[nodiscard]] Dialogs& dialogs() override { return *this; }
+    void popUpMenu(const MenuRows& rows, platform::Point) override { poppedUp_ = rows; }
     void showHint(const std::string& text) override { hints_.push_back(text); }
 
     [[nodiscard]] FakePanelWindow& panel() { return *panel_; }
@@ -119,6 +120,8 @@ public:
     [[nodiscard]] int questionsAsked() const { return asked_; }
     void answer(const std::string& text) const { answered_(text); }
     void agree() const { agreed_(); }
+    [[nodiscard]] const SaveRequest& saveRequest() const { return saveRequest_; }
+    void place(const std::string& path) const { placed_(path); }
 
 private:
     void warn(const std::string& title, const std::string& text) override {
@@ -134,10 +137,17 @@ private:
         agreed_ = std::move(accepted);
         ++asked_;
     }
+    void chooseSaveLocation(const SaveRequest& request,
+                            std::function<void(std::string path)> accepted) override {
+        saveRequest_ = request;
+        placed_ = std::move(accepted);
+        ++asked_;
+    }
 
     ScreenLog log_;
     FakePanelWindow* panel_ = nullptr;
     FakeStatusItem* statusItem_ = nullptr;
+    MenuRows poppedUp_;
     std::vector<std::string> hints_;
     std::vector<std::string> warnings_;
     TextPrompt prompt_;
@@ -145,6 +155,8 @@ private:
     int asked_ = 0;
     std::function<void(std::string)> answered_;
     std::function<void()> agreed_;
+    SaveRequest saveRequest_;
+    std::function<void(std::string)> placed_;
 };
 
 /// The whole program but for the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.

@@ -10,6 +10,7 @@ class LoginItem;
 class MainLoop;
 class Preferences;
 class ProcessEndings;
+class ProcessMemory;
 class Randomness;
 class RunningInstance;
 class Screens;
@@ -34,6 +35,7 @@ struct Platform {
     ProcessEndings& endings;
     Randomness& randomness;
     UserNotifications& notifications;
+    ProcessMemory& memory;
 };
 
 }  // namespace tidewatch::platform

@@ -11,6 +11,18 @@ namespace tidewatch::platform {
 /// The windowing system's own name for a window of this program.
 using WindowHandle = std::uint64_t;
 
+/// What the desktop's frame adds to a window on each side, in device pixels.
+struct FrameMargins {
+    int left = 0;
+    int right = 0;
+    int top = 0;
+    int bottom = 0;
+    bool operator==(const FrameMargins&) const = default;
+};
+
+/// How bright the frame around a window is to be.
+enum class FrameShade { light, dark };
+
 /// What is asked of the desktop about windows beyond what the toolkit offers. Main thread only.
 class WindowManager {
 public:
@@ -26,6 +38,18 @@ public:
 
     /// Lets only `region`, in device pixels of the window, take the mouse; the rest lets clicks through.
     virtual void setInputRegion(WindowHandle window, Rectangle region) = 0;
+
+    /// The frame that the window has or, before it is shown, will get; none if the desktop does not tell
+    /// within a tenth of a second.
+    [[nodiscard]] virtual FrameMargins frameMargins(WindowHandle window) = 0;
+
+    /// Asks for a frame that goes with the window's content. Holds from the next showing on at the latest; a
+    /// desktop whose frames have one look only takes no notice.
+    virtual void setFrameShade(WindowHandle window, FrameShade shade) = 0;
+
+    /// Gives a window that is shown the focus and brings it before all others, whatever the user is doing in
+    /// another application.
+    virtual void activate(WindowHandle window) = 0;
 
     /// Calls `changed` with true when other windows cover all of `window`, with false when they no longer
     /// do. On a composited desktop a covered window may go unnoticed.

@@ -29,6 +29,9 @@ public:
     /// Reads a file each time: whoever asks often keeps the answer.
     [[nodiscard]] virtual std::optional<ApplicationInfo> applicationInfo(const AppId& app) const = 0;
 
+    /// Where the desktop keeps the user's documents, absolute; the home directory if it has no such folder.
+    [[nodiscard]] virtual std::string documentsDirectory() const = 0;
+
     /// Shows the file at the absolute `path` in the desktop's file manager.
     virtual Outcome reveal(const std::string& path) = 0;
 };

@@ -11,6 +11,7 @@
 #include "platform/fake/fake_login_item.h"
 #include "platform/fake/fake_main_loop.h"
 #include "platform/fake/fake_process_endings.h"
+#include "platform/fake/fake_process_memory.h"
 #include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
@@ -42,10 +43,11 @@ struct FakeMachine {
     FakeProcessEndings endings;
     FakeRandomness randomness;
     FakeUserNotifications notifications;
+    FakeProcessMemory memory;
 
-    Platform platform{log,        clock,        mainLoop,      files,     preferences,     inputActivity,
-                      workspace,  screens,      windowManager, loginItem, runningInstance, endings,
-                      randomness, notifications};
+    Platform platform{log,        clock,         mainLoop,      files,     preferences,     inputActivity,
+                      workspace,  screens,       windowManager, loginItem, runningInstance, endings,
+                      randomness, notifications, memory};
 };
 
 }  // namespace tidewatch::platform

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <utility>
 
 #include "platform/api/window_manager.h"
@@ -18,6 +19,14 @@ public:
     Connection onCovered(WindowHandle, std::function<void(bool covered)> changed) override {
         return covered_.connect(std::move(changed));
     }
+    [[nodiscard]] FrameMargins frameMargins(WindowHandle) override { return margins_; }
+    void setFrameShade(WindowHandle, FrameShade shade) override { shade_ = shade; }
+    void activate(WindowHandle) override { ++activated_; }
+
+    void setFrameMargins(FrameMargins margins) { margins_ = margins; }
+    [[nodiscard]] std::optional<FrameShade> frameShade() const { return shade_; }
+    /// How often a window was activated.
+    [[nodiscard]] int activated() const { return activated_; }
 
     void setCompositing(bool compositing) {
         compositing_ = compositing;
@@ -33,6 +42,9 @@ private:
     bool compositing_ = false;
     int prepared_ = 0;
     Rectangle inputRegion_;
+    FrameMargins margins_;
+    std::optional<FrameShade> shade_;
+    int activated_ = 0;
     Signal<> compositingChanged_;
     Signal<bool> covered_;
 };

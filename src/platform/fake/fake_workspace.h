@@ -16,6 +16,7 @@ public:
         const auto found = registered_.find(app);
         return found == registered_.end() ? std::nullopt : std::optional(found->second);
     }
+    [[nodiscard]] std::string documentsDirectory() const override { return "/home/user/Documentos"; }
     Outcome reveal(const std::string& path) override {
         revealed_.push_back(path);
         return revealOutcome_;

@@ -5,8 +5,10 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QUrl>
 
 namespace tidewatch::platform {
@@ -28,6 +30,12 @@ std::optional<AppId> DesktopWorkspace::frontmostApplication() const {
 
 std::optional<ApplicationInfo> DesktopWorkspace::applicationInfo(const AppId& app) const {
     return entries_.info(app.text(), QLocale::system().name().toStdString());
+}
+
+std::string DesktopWorkspace::documentsDirectory() const {
+    const auto documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const bool exists = !documents.isEmpty() && QFileInfo(documents).isDir();
+    return (exists ? documents : QDir::homePath()).toStdString();
 }
 
 Outcome DesktopWorkspace::reveal(const std::string& path) {

@@ -17,6 +17,8 @@ public:
 
     [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const AppId& app) const override;
 
+    [[nodiscard]] std::string documentsDirectory() const override;
+
     /// Through the file manager that answers on the session bus; else the folder is opened. Asks without
     /// waiting: only what fails at once is told.
     Outcome reveal(const std::string& path) override;

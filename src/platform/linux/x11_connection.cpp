@@ -35,9 +35,15 @@ bool X11Connection::hasExtension(xcb_extension_t* extension) const {
 }
 
 std::optional<std::uint32_t> X11Connection::cardinal(xcb_window_t window, xcb_atom_t name) const {
+    const auto all = cardinals(window, name);
+    return all.empty() ? std::nullopt : std::optional(all.front());
+}
+
+std::vector<std::uint32_t> X11Connection::cardinals(xcb_window_t window, xcb_atom_t name) const {
     const auto reply = property(get(), window, name);
-    if (!reply || reply->format != 32 || reply->value_len < 1) return std::nullopt;
-    return *static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    if (!reply || reply->format != 32) return {};
+    const auto* first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {first, first + reply->value_len};
 }
 
 std::vector<std::string> X11Connection::texts(xcb_window_t window, xcb_atom_t name) const {

@@ -36,6 +36,8 @@ public:
     [[nodiscard]] bool hasExtension(xcb_extension_t* extension) const;
 
     [[nodiscard]] std::optional<std::uint32_t> cardinal(xcb_window_t window, xcb_atom_t property) const;
+    /// All numbers of a property of 32 bits each; none without it.
+    [[nodiscard]] std::vector<std::uint32_t> cardinals(xcb_window_t window, xcb_atom_t property) const;
     /// The texts of a property of one or more strings that end with a zero byte.
     [[nodiscard]] std::vector<std::string> texts(xcb_window_t window, xcb_atom_t property) const;
 

@@ -6,7 +6,11 @@
 
 #include <QSocketNotifier>
 #include <QTimer>
+#include <algorithm>
 #include <array>
+#include <chrono>
+#include <string_view>
+#include <thread>
 #include <utility>
 
 namespace tidewatch::platform {
@@ -14,6 +18,12 @@ namespace tidewatch::platform {
 namespace {
 
 constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
+
+/// Whoever asks in the name of the user, as a taskbar does, is not kept from taking the focus.
+constexpr std::uint32_t actsForTheUser = 2;
+
+constexpr int frameLooks = 50;
+constexpr auto timeBetweenFrameLooks = std::chrono::milliseconds(2);
 
 xcb_window_t xWindow(WindowHandle window) {
     return static_cast<xcb_window_t>(window);
@@ -27,7 +37,13 @@ X11WindowManager::X11WindowManager()
       stateAtom_(connection_.atom("_NET_WM_STATE")),
       skipTaskbarAtom_(connection_.atom("_NET_WM_STATE_SKIP_TASKBAR")),
       skipPagerAtom_(connection_.atom("_NET_WM_STATE_SKIP_PAGER")),
-      shadowAtom_(connection_.atom("_COMPTON_SHADOW")) {
+      shadowAtom_(connection_.atom("_COMPTON_SHADOW")),
+      supportedAtom_(connection_.atom("_NET_SUPPORTED")),
+      frameExtentsAtom_(connection_.atom("_NET_FRAME_EXTENTS")),
+      requestFrameExtentsAtom_(connection_.atom("_NET_REQUEST_FRAME_EXTENTS")),
+      activeWindowAtom_(connection_.atom("_NET_ACTIVE_WINDOW")),
+      themeVariantAtom_(connection_.atom("_GTK_THEME_VARIANT")),
+      utf8Atom_(connection_.atom("UTF8_STRING")) {
     if (!connection_.alive()) return;
     watchCompositor();
     updateCompositing();
@@ -43,11 +59,7 @@ void X11WindowManager::prepareFloating(WindowHandle window) {
     setCardinal(xWindow(window), desktopAtom_, everyDesktop);
     setCardinal(xWindow(window), shadowAtom_, 0);
     keepOutOfTaskbar(xWindow(window));
-    // The server must have seen this before the toolkit's connection asks to map the window.
-    const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
-        xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
-    // Events that came along with the answer no longer wake the notifier.
-    QTimer::singleShot(0, notifier_.get(), [this] { readEvents(); });
+    waitForServer();
 }
 
 Connection X11WindowManager::onCompositingChanged(std::function<void()> changed) {
@@ -73,6 +85,34 @@ Connection X11WindowManager::onCovered(WindowHandle window, std::function<void(b
         xcb_flush(connection_.get());
     }
     return signal->connect(std::move(changed));
+}
+
+FrameMargins X11WindowManager::frameMargins(WindowHandle window) {
+    if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return {};
+    auto extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
+    if (extents.empty()) sendToRoot(xWindow(window), requestFrameExtentsAtom_, {});
+    for (int look = 0; extents.empty() && look < frameLooks; ++look) {
+        std::this_thread::sleep_for(timeBetweenFrameLooks);
+        extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
+    }
+    waitForServer();
+    if (extents.size() < 4) return {};
+    const auto side = [&](std::size_t index) { return static_cast<int>(extents[index]); };
+    return {.left = side(0), .right = side(1), .top = side(2), .bottom = side(3)};
+}
+
+void X11WindowManager::setFrameShade(WindowHandle window, FrameShade shade) {
+    if (!connection_.alive()) return;
+    const std::string_view variant = shade == FrameShade::dark ? "dark" : "light";
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, xWindow(window), themeVariantAtom_,
+                        utf8Atom_, 8, static_cast<std::uint32_t>(variant.size()), variant.data());
+    waitForServer();
+}
+
+void X11WindowManager::activate(WindowHandle window) {
+    if (!connection_.alive()) return;
+    sendToRoot(xWindow(window), activeWindowAtom_, {actsForTheUser, XCB_CURRENT_TIME});
+    xcb_flush(connection_.get());
 }
 
 void X11WindowManager::watchCompositor() {
@@ -115,6 +155,32 @@ void X11WindowManager::keepOutOfTaskbar(xcb_window_t window) {
     const std::array states = {skipTaskbarAtom_, skipPagerAtom_};
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, stateAtom_, XCB_ATOM_ATOM, 32,
                         states.size(), states.data());
+}
+
+void X11WindowManager::waitForServer() {
+    // The server must have seen what was sent before the toolkit's connection goes on.
+    const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
+        xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
+    // Events that came along with the answer no longer wake the notifier.
+    QTimer::singleShot(0, notifier_.get(), [this] { readEvents(); });
+}
+
+bool X11WindowManager::supports(xcb_atom_t feature) const {
+    const auto supported = connection_.cardinals(connection_.root(), supportedAtom_);
+    return std::ranges::find(supported, feature) != supported.end();
+}
+
+void X11WindowManager::sendToRoot(xcb_window_t window, xcb_atom_t message,
+                                  std::array<std::uint32_t, 5> data) {
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = message;
+    std::ranges::copy(data, std::begin(event.data.data32));
+    xcb_send_event(connection_.get(), 0, connection_.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
 }
 
 void X11WindowManager::setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <map>
 #include <memory>
 
@@ -21,12 +22,18 @@ public:
     Connection onCompositingChanged(std::function<void()> changed) override;
     void setInputRegion(WindowHandle window, Rectangle region) override;
     Connection onCovered(WindowHandle window, std::function<void(bool covered)> changed) override;
+    [[nodiscard]] FrameMargins frameMargins(WindowHandle window) override;
+    void setFrameShade(WindowHandle window, FrameShade shade) override;
+    void activate(WindowHandle window) override;
 
 private:
     void watchCompositor();
     void readEvents();
     void updateCompositing();
     void keepOutOfTaskbar(xcb_window_t window);
+    void waitForServer();
+    [[nodiscard]] bool supports(xcb_atom_t feature) const;
+    void sendToRoot(xcb_window_t window, xcb_atom_t message, std::array<std::uint32_t, 5> data);
     void setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value);
 
     X11Connection connection_;
@@ -36,6 +43,12 @@ private:
     xcb_atom_t skipTaskbarAtom_;
     xcb_atom_t skipPagerAtom_;
     xcb_atom_t shadowAtom_;
+    xcb_atom_t supportedAtom_;
+    xcb_atom_t frameExtentsAtom_;
+    xcb_atom_t requestFrameExtentsAtom_;
+    xcb_atom_t activeWindowAtom_;
+    xcb_atom_t themeVariantAtom_;
+    xcb_atom_t utf8Atom_;
     int selectionEvent_ = -1;
     bool compositing_ = false;
     Signal<> compositingChanged_;

@@ -19,7 +19,8 @@ Palette::Palette(const DashboardStyle& style)
       tierNeutral(toQColor(DashboardStyle::tierNeutral)),
       tierDistracting(toQColor(DashboardStyle::tierDistracting)),
       tierOther(toQColor(DashboardStyle::tierOther)),
-      amber(toQColor(DashboardStyle::amber)) {
+      amber(toQColor(DashboardStyle::amber)),
+      onFill(toQColor(fathom::ink)) {
     for (const auto& piece : style.gamePieces) gamePieces.append(toQColor(piece));
 }
 

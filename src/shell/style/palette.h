@@ -29,6 +29,7 @@ class Palette final {
     Q_PROPERTY(QColor tierDistracting MEMBER tierDistracting FINAL)
     Q_PROPERTY(QColor tierOther MEMBER tierOther FINAL)
     Q_PROPERTY(QColor amber MEMBER amber FINAL)
+    Q_PROPERTY(QColor onFill MEMBER onFill FINAL)
 
 public:
     Palette() = default;
@@ -50,6 +51,7 @@ public:
     QColor tierDistracting;
     QColor tierOther;
     QColor amber;
+    QColor onFill;  ///< of text and symbols on a fill of one of the tiers' colours
 
     bool operator==(const Palette&) const = default;
 };

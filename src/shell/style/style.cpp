@@ -1,6 +1,8 @@
 #include "shell/style/style.h"
 
+#include "shell/style/contrast.h"
 #include "shell/style/fonts.h"
+#include "shell/style/qt_color.h"
 #include "shell/themes/builtin_themes.h"
 
 namespace tidewatch {
@@ -68,6 +70,30 @@ QFont Style::sans(double size, Weight weight) const {
 
 QFont Style::system(double size, Weight weight) const {
     return font(FontRole::system, size, weight);
+}
+
+QFont Style::heading() const {
+    constexpr double size = 11;
+    constexpr double spacing = 1.8;
+    auto font = tracked(sans(size, Semibold), spacing);
+    font.setCapitalization(QFont::AllUppercase);
+    return font;
+}
+
+QFont Style::tracked(const QFont& font, double spacing) const {
+    auto result = font;
+    result.setLetterSpacing(QFont::AbsoluteSpacing, spacing);
+    return result;
+}
+
+QColor Style::legible(const QColor& color) const {
+    return legibleOn(textGround(), color);
+}
+
+QColor Style::textGround() const {
+    // Of the liquid, what shines through the cards where it is rather bright.
+    const auto behind = decoration_ == Liquid ? toQColor(Color::whiteLevel(0.24)) : palette_.bg;
+    return laidOver(palette_.card, behind);
 }
 
 void Style::wear(const DashboardStyle& style) {

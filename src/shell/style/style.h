@@ -49,10 +49,21 @@ public:
     Q_INVOKABLE [[nodiscard]] QFont sans(double size, tidewatch::Style::Weight weight) const;
     Q_INVOKABLE [[nodiscard]] QFont system(double size, tidewatch::Style::Weight weight) const;
 
+    /// The font of headings: small, heavy and spaced capitals, whatever the case of the text.
+    Q_INVOKABLE [[nodiscard]] QFont heading() const;
+
+    /// `font` with so many pixels more between its letters.
+    Q_INVOKABLE [[nodiscard]] QFont tracked(const QFont& font, double spacing) const;
+
+    /// `color` as text can wear it on this theme's cards: as it is where it is easy to read there, else as
+    /// much darker or lighter as it must be.
+    Q_INVOKABLE [[nodiscard]] QColor legible(const QColor& color) const;
+
 Q_SIGNALS:
     void themeChanged();
 
 private:
+    [[nodiscard]] QColor textGround() const;
     void wear(const DashboardStyle& style);
 
     Palette palette_;

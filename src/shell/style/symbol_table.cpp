@@ -1,90 +1,80 @@
 #include "shell/style/symbol_table.h"
 
-#include <QPainterPathStroker>
-#include <QPointF>
-#include <QTransform>
+#include <algorithm>
 #include <array>
-#include <cmath>
-#include <numbers>
+#include <variant>
+
+#include "shell/style/symbol_drawings.h"
+#include "shell/style/symbol_font.h"
 
 namespace tidewatch {
 namespace {
 
-using Maker = QPainterPath (*)();
+using Drawing = QPainterPath (*)();
+
+/// A drawing of our own, or a code point of the icon font.
+using Source = std::variant<Drawing, char32_t>;
 
 struct Row {
     QStringView name;
-    Maker shape;
+    Source source;
 };
-
-/// A five-pointed star with slightly rounded points that touches the square's edges.
-QPainterPath starBody() {
-    constexpr int corners = 10;
-    constexpr double outer = 0.5;
-    constexpr double inner = 0.225;
-    constexpr double centreY = 0.53;
-    QPainterPath path;
-    for (int corner = 0; corner < corners; ++corner) {
-        const double radius = corner % 2 == 0 ? outer : inner;
-        const double angle = std::numbers::pi * (2.0 * corner / corners - 0.5);
-        const QPointF point(0.5 + radius * std::cos(angle), centreY + radius * std::sin(angle));
-        if (corner == 0) {
-            path.moveTo(point);
-        } else {
-            path.lineTo(point);
-        }
-    }
-    path.closeSubpath();
-    return path;
-}
-
-QPainterPath outline(const QPainterPath& shape, double width) {
-    QPainterPathStroker stroker;
-    stroker.setWidth(width);
-    stroker.setJoinStyle(Qt::RoundJoin);
-    return stroker.createStroke(shape);
-}
-
-QPainterPath fitted(const QPainterPath& path) {
-    const auto bounds = path.boundingRect();
-    const double scale = 1 / std::max(bounds.width(), bounds.height());
-    QTransform transform;
-    transform.translate(0.5, 0.5);
-    transform.scale(scale, scale);
-    transform.translate(-bounds.center().x(), -bounds.center().y());
-    return transform.map(path);
-}
-
-QPainterPath filledStar() {
-    const auto body = starBody();
-    return fitted(body.united(outline(body, 0.08)));
-}
-
-QPainterPath hollowStar() {
-    const auto body = starBody();
-    constexpr double line = 0.1;
-    return fitted(outline(body, line));
-}
-
-QPainterPath filledCircle() {
-    QPainterPath path;
-    path.addEllipse(QRectF(0, 0, 1, 1));
-    return path;
-}
 
 constexpr std::array table = {
     Row{u"star.fill", filledStar},
     Row{u"star", hollowStar},
     Row{u"circle.fill", filledCircle},
+    Row{u"bomb", bomb},
+    // Commands.
+    Row{u"chevron.left", U'\uE5CB'},
+    Row{u"chevron.right", U'\uE5CC'},
+    Row{u"plus", U'\uE145'},
+    Row{u"minus", U'\uE15B'},
+    Row{u"xmark", U'\uE5CD'},
+    Row{u"checkmark", U'\uE5CA'},
+    Row{u"checkmark.circle.fill", U'\uE86C'},
+    Row{u"magnifyingglass", U'\uE8B6'},
+    Row{u"doc.richtext", U'\uE873'},
+    // Figures of the day and of a range of days.
+    Row{u"app", U'\uE835'},
+    Row{u"gamecontroller.fill", U'\uEA28'},
+    Row{u"flame.fill", U'\uEF55'},
+    Row{u"calendar", U'\uEBCC'},
+    Row{u"calendar.badge.checkmark", U'\uE614'},
+    Row{u"clock", U'\uE8B5'},
+    Row{u"clock.badge.exclamationmark", U'\uE51D'},
+    Row{u"bolt.fill", U'\uEA0B'},
+    Row{u"sum", U'\uE24A'},
+    Row{u"chart.bar.fill", U'\uF20C'},
+    Row{u"trophy.fill", U'\uEA23'},
+    Row{u"leaf.fill", U'\uEA35'},
+    // Exercises.
+    Row{u"figure.mind.and.body", U'\uEA78'},
+    Row{u"figure.arms.open", U'\uE92C'},
+    Row{u"figure.flexibility", U'\uEBC4'},
+    Row{u"eye", U'\uE8F4'},
+    Row{u"hand.raised.fingers.spread", U'\uE925'},
+    Row{u"figure.cooldown", U'\uE566'},
+    Row{u"figure.walk", U'\uE536'},
 };
+
+QPainterPath shapeOf(const Source& source) {
+    if (const auto* codePoint = std::get_if<char32_t>(&source)) return symbolGlyph(*codePoint);
+    return std::get<Drawing>(source)();
+}
 
 }  // namespace
 
 std::optional<QPainterPath> symbolShape(QStringView name) {
-    for (const auto& row : table) {
-        if (row.name == name) return row.shape();
-    }
-    return std::nullopt;
+    const auto row = std::ranges::find(table, name, &Row::name);
+    if (row == table.end()) return std::nullopt;
+    return shapeOf(row->source);
+}
+
+QStringList symbolNames() {
+    QStringList names;
+    for (const auto& row : table) names.append(row.name.toString());
+    return names;
 }
 
 }  // namespace tidewatch

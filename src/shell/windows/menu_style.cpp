@@ -7,19 +7,18 @@ namespace tidewatch {
 namespace {
 
 /// What `colour` looks like over `ground`: a menu is opaque, whatever lies below it.
-QString over(const Color& ground, const Color& colour) {
+QColor over(const Color& ground, const Color& colour) {
     const auto mix = [&](double below, double above) {
         return static_cast<float>(below * (1 - colour.alpha) + above * colour.alpha);
     };
     return QColor::fromRgbF(mix(ground.red, colour.red), mix(ground.green, colour.green),
-                            mix(ground.blue, colour.blue))
-        .name();
+                            mix(ground.blue, colour.blue));
 }
 
 }  // namespace
 
 QString menuStyleSheet(const DashboardStyle& style) {
-    const auto shade = [&](const Color& colour) { return over(style.bg, colour); };
+    const auto shade = [&](const Color& colour) { return over(style.bg, colour).name(); };
     return QStringLiteral(
                "QMenu { background: %1; border: 1px solid %2; padding: 5px; font: 13px Inter; }"
                "QMenu::item { color: %3; padding: 5px 22px 5px 26px; border-radius: 5px; margin: 0 1px; }"
@@ -33,13 +32,33 @@ QString menuStyleSheet(const DashboardStyle& style) {
 }
 
 QString hintStyleSheet(const DashboardStyle& style) {
+    const auto shade = [&](const Color& colour) { return over(style.bg, colour).name(); };
     return QStringLiteral(
                "QLabel { background: %1; border: 1px solid %2; color: %3; padding: 10px; font-size: 13px; }")
-        .arg(over(style.bg, style.card), over(style.bg, style.stroke), over(style.bg, style.primaryText));
+        .arg(shade(style.card), shade(style.stroke), shade(style.primaryText));
+}
+
+QPalette dialogPalette(const DashboardStyle& style) {
+    const auto shade = [&](const Color& colour) { return over(style.bg, colour); };
+    const auto text = shade(style.primaryText);
+    const auto disabled = shade(style.mute);
+    QPalette palette(shade(style.card), shade(style.bg));
+    palette.setColor(QPalette::Base, shade(style.cardSubtle));
+    palette.setColor(QPalette::AlternateBase, shade(style.card));
+    palette.setColor(QPalette::ToolTipBase, shade(style.card));
+    palette.setColor(QPalette::PlaceholderText, disabled);
+    palette.setColor(QPalette::Highlight, shade(style.strongMute));
+    palette.setColor(QPalette::HighlightedText, shade(style.bg));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,
+                            QPalette::BrightText}) {
+        palette.setColor(role, text);
+        palette.setColor(QPalette::Disabled, role, disabled);
+    }
+    return palette;
 }
 
 QString dialogStyleSheet(const DashboardStyle& style) {
-    const auto shade = [&](const Color& colour) { return over(style.bg, colour); };
+    const auto shade = [&](const Color& colour) { return over(style.bg, colour).name(); };
     return QStringLiteral(
                "QDialog { background: %1; }"
                "QLabel { color: %2; font: 13px Inter; }"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPalette>
 #include <QString>
 
 #include "shell/themes/dashboard_style.h"
@@ -11,6 +12,9 @@ namespace tidewatch {
 
 /// The style sheet of the bubble that tells something beside the clock.
 [[nodiscard]] QString hintStyleSheet(const DashboardStyle& style);
+
+/// The colours of dialogs that the toolkit makes.
+[[nodiscard]] QPalette dialogPalette(const DashboardStyle& style);
 
 /// The style sheet of dialogs.
 [[nodiscard]] QString dialogStyleSheet(const DashboardStyle& style);

@@ -1,5 +1,6 @@
 #include "shell/windows/qt_surfaces.h"
 
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QQmlComponent>
@@ -9,10 +10,14 @@
 #include <stdexcept>
 #include <utility>
 
+#include "platform/api/window_manager.h"
+#include "platform/api/workspace.h"
 #include "shell/style/fonts.h"
 #include "shell/style/style.h"
 #include "shell/windows/menu_style.h"
+#include "shell/windows/menu_view.h"
 #include "shell/windows/question_dialog.h"
+#include "shell/windows/save_dialog.h"
 #include "shell/windows/tray_status_item.h"
 
 namespace tidewatch {
@@ -29,8 +34,8 @@ QString text(const std::string& utf8) {
 
 }  // namespace
 
-QtSurfaces::QtSurfaces(platform::WindowManager& manager, ThemeController& theme, ClockPresenter& clock)
-    : manager_(manager), theme_(theme), clock_(clock) {}
+QtSurfaces::QtSurfaces(const platform::Platform& platform, ThemeController& theme, ClockPresenter& clock)
+    : platform_(platform), theme_(theme), clock_(clock) {}
 
 QtSurfaces::~QtSurfaces() = default;
 
@@ -49,7 +54,7 @@ std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
         .setTranslucent = [this](bool translucent) { clock_.setTranslucent(translucent); },
         .setOnScreen = [this](bool onScreen) { clock_.setOnScreen(onScreen); },
     };
-    auto window = std::make_unique<QuickPanelWindow>(manager_, std::move(content), size);
+    auto window = std::make_unique<QuickPanelWindow>(platform_.windowManager, std::move(content), size);
     panel_ = window.get();
     return window;
 }
@@ -70,6 +75,12 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeClock() {
     if (item == nullptr) throw std::runtime_error(component.errorString().toStdString());
     static_cast<void>(object.release());
     return std::unique_ptr<QQuickItem>(item);
+}
+
+void QtSurfaces::popUpMenu(const MenuRows& rows, platform::Point at) {
+    if (menu_) menu_->close();
+    menu_ = new MenuView(rows, theme_.active().dashboard);
+    menu_->popup(QPointF(at.x, at.y).toPoint());
 }
 
 void QtSurfaces::showHint(const std::string& hint) {
@@ -109,6 +120,15 @@ void QtSurfaces::confirm(const Confirmation& question, std::function<void()> acc
     dialog->addButtons(text(question.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, dialog, accepted);
     dialog->present();
+}
+
+void QtSurfaces::chooseSaveLocation(const SaveRequest& request, std::function<void(std::string)> accepted) {
+    if (saveFolder_.isEmpty()) saveFolder_ = text(platform_.workspace.documentsDirectory());
+    presentSaveDialog(request, saveFolder_, theme_.active().dashboard,
+                      [this, accepted = std::move(accepted)](const QString& path) {
+                          saveFolder_ = QFileInfo(path).absolutePath();
+                          accepted(path.toStdString());
+                      });
 }
 
 }  // namespace tidewatch

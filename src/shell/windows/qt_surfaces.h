@@ -1,11 +1,12 @@
 #pragma once
 
+#include <QMenu>
 #include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <memory>
 
-#include "platform/api/window_manager.h"
+#include "platform/api/platform.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/views/clock_presenter.h"
@@ -16,27 +17,32 @@ namespace tidewatch {
 /// The surfaces on the toolkit, with the one QML engine of the program. Main thread only.
 class QtSurfaces final : public Surfaces, private Dialogs {
 public:
-    /// All arguments must outlive this object and what it makes.
-    QtSurfaces(platform::WindowManager& manager, ThemeController& theme, ClockPresenter& clock);
+    /// All arguments, and what `platform` refers to, must outlive this object and what it makes.
+    QtSurfaces(const platform::Platform& platform, ThemeController& theme, ClockPresenter& clock);
     ~QtSurfaces() override;
 
     void registerFonts() override;
     [[nodiscard]] std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) override;
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
     [[nodiscard]] Dialogs& dialogs() override { return *this; }
+    void popUpMenu(const MenuRows& rows, platform::Point at) override;
     void showHint(const std::string& text) override;
 
 private:
     void warn(const std::string& title, const std::string& text) override;
     void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) override;
     void confirm(const Confirmation& question, std::function<void()> accepted) override;
+    void chooseSaveLocation(const SaveRequest& request,
+                            std::function<void(std::string path)> accepted) override;
     [[nodiscard]] std::unique_ptr<QQuickItem> makeClock();
 
-    platform::WindowManager& manager_;
+    const platform::Platform& platform_;
     ThemeController& theme_;
     ClockPresenter& clock_;
     QQmlEngine engine_;
     QPointer<QuickPanelWindow> panel_;
+    QPointer<QMenu> menu_;
+    QString saveFolder_;  ///< where the user last had a file written; empty before
 };
 
 }  // namespace tidewatch

@@ -1,0 +1,33 @@
+import QtQuick
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! How full ten minutes were, and of what. */
+Item {
+    id: root
+
+    required property bucketCell bucket
+
+    implicitWidth: 12
+    implicitHeight: 22
+
+    Rectangle {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        width: 10
+        height: 22
+        radius: 2
+        color: Style.palette.stroke
+    }
+    Rectangle {
+        objectName: "bar"
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 1
+        visible: root.bucket.filled
+        width: 8
+        height: root.bucket.height
+        radius: Math.min(2, height / 2)
+        color: root.bucket.color
+    }
+}

@@ -1,0 +1,111 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! An application of the table. The right button, the menu key and Return ask for its menu. */
+T.ItemDelegate {
+    id: root
+
+    required property appDetails row
+
+    signal menuRequested(point at)
+
+    function askForMenu(x: real, y: real) {
+        menuRequested(mapToGlobal(x, y));
+    }
+
+    implicitHeight: 40
+    leftPadding: 12
+    rightPadding: 12
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.row.spoken
+    Accessible.focusable: true
+    Accessible.onPressAction: askForMenu(width / 2, height)
+
+    Keys.onMenuPressed: askForMenu(48, height)
+    Keys.onReturnPressed: askForMenu(48, height)
+    Keys.onEnterPressed: askForMenu(48, height)
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier) {
+            askForMenu(48, height);
+            event.accepted = true;
+        }
+    }
+
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => {
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.askForMenu(eventPoint.position.x, eventPoint.position.y);
+        }
+    }
+
+    background: Rectangle {
+        radius: Style.measures.controlRadius
+        color: root.hovered || root.activeFocus ? Style.palette.cardSubtle : "transparent"
+    }
+
+    contentItem: RowLayout {
+        spacing: 12
+
+        AppIconView {
+            Layout.preferredWidth: 20
+            Layout.preferredHeight: 20
+            iconName: root.row.iconName
+            symbolName: root.row.symbolName
+            color: Style.palette.mute
+            side: 20
+        }
+        Text {
+            objectName: "name"
+            Layout.fillWidth: true
+            text: root.row.name
+            textFormat: Text.PlainText
+            elide: Text.ElideRight
+            font: Style.sans(14, Style.Regular)
+            color: Style.palette.primaryText
+            Accessible.ignored: true
+        }
+        Rectangle {
+            Layout.preferredWidth: 8
+            Layout.preferredHeight: 8
+            radius: 4
+            color: root.row.color
+        }
+        Text {
+            objectName: "tier"
+            Layout.preferredWidth: 104
+            text: root.row.tier
+            elide: Text.ElideRight
+            font: Style.sans(13, Style.Regular)
+            color: Style.palette.secondaryText
+            Accessible.ignored: true
+        }
+        Text {
+            objectName: "time"
+            Layout.preferredWidth: 84
+            horizontalAlignment: Text.AlignRight
+            text: root.row.time
+            font: Style.mono(13, Style.Regular)
+            color: Style.palette.primaryText
+            Accessible.ignored: true
+        }
+        Text {
+            objectName: "share"
+            Layout.preferredWidth: 48
+            horizontalAlignment: Text.AlignRight
+            text: root.row.share
+            font: Style.mono(13, Style.Regular)
+            color: Style.palette.secondaryText
+            Accessible.ignored: true
+        }
+    }
+
+    FocusRing {
+        shown: root.visualFocus
+    }
+}

@@ -1,0 +1,48 @@
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! How far a goal is reached: its name, its figures and a bar. */
+ColumnLayout {
+    id: root
+
+    required property goalRow goal
+
+    spacing: 8
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: Style.measures.spacing
+
+        Text {
+            Layout.fillWidth: true
+            text: root.goal.label
+            elide: Text.ElideRight
+            font: Style.sans(14, Style.Regular)
+            color: Style.palette.primaryText
+            Accessible.ignored: true
+        }
+        Text {
+            text: root.goal.figures
+            font: Style.mono(13, Style.Regular)
+            color: Style.palette.secondaryText
+            Accessible.ignored: true
+        }
+        Text {
+            Layout.preferredWidth: 16
+            horizontalAlignment: Text.AlignRight
+            text: root.goal.mark
+            font: Style.mono(14, Style.Medium)
+            color: Style.legible(Style.palette.tierProductive)
+            Accessible.ignored: true
+        }
+    }
+    Meter {
+        Layout.fillWidth: true
+        fraction: root.goal.fraction
+        color: root.goal.color
+        track: Style.palette.stroke
+        Accessible.name: root.goal.spoken
+    }
+}

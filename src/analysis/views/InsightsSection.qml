@@ -1,0 +1,153 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! The look back: the longest session and the figures of a range of days. */
+ColumnLayout {
+    id: root
+
+    required property InsightsPresenter presenter
+
+    spacing: Style.measures.wideSpacing
+
+    RowLayout {
+        Layout.fillWidth: true
+
+        Heading {
+            Layout.fillWidth: true
+            text: root.presenter.title
+        }
+        SegmentedPicker {
+            objectName: "ranges"
+            labels: root.presenter.ranges
+            currentIndex: root.presenter.rangeIndex
+            accessibleName: "Rango"
+            onActivated: index => root.presenter.selectRange(index)
+        }
+    }
+    Card {
+        objectName: "session"
+        Layout.fillWidth: true
+        Accessible.role: Accessible.Grouping
+        Accessible.name: root.presenter.sessionTitle
+
+        ColumnLayout {
+            anchors.fill: parent
+            spacing: Style.measures.spacing
+
+            RowLayout {
+                spacing: Style.measures.spacing
+
+                Symbol {
+                    name: "flame.fill"
+                    side: 16
+                    color: Style.palette.amber
+                }
+                Heading {
+                    Layout.fillWidth: true
+                    text: root.presenter.sessionTitle
+                }
+            }
+            Text {
+                Layout.fillWidth: true
+                visible: !root.presenter.hasSession
+                text: root.presenter.noSession
+                wrapMode: Text.WordWrap
+                font: Style.sans(13, Style.Regular)
+                color: Style.palette.secondaryText
+            }
+            RowLayout {
+                visible: root.presenter.hasSession
+                spacing: Style.measures.spacing
+
+                Text {
+                    objectName: "sessionLength"
+                    Layout.rightMargin: 16
+                    text: root.presenter.sessionLength
+                    font: Style.mono(28, Style.Light)
+                    color: Style.palette.primaryText
+                }
+                Symbol {
+                    name: "calendar"
+                    side: 16
+                    color: Style.palette.mute
+                }
+                Text {
+                    objectName: "sessionDay"
+                    Layout.rightMargin: 16
+                    text: root.presenter.sessionDay
+                    font: Style.mono(13, Style.Regular)
+                    color: Style.palette.secondaryText
+                }
+                Symbol {
+                    name: "clock"
+                    side: 16
+                    color: Style.palette.mute
+                }
+                Text {
+                    objectName: "sessionTimes"
+                    text: root.presenter.sessionTimes
+                    font: Style.mono(13, Style.Regular)
+                    color: Style.palette.secondaryText
+                }
+            }
+        }
+    }
+    GridLayout {
+        Layout.fillWidth: true
+        columns: 3
+        columnSpacing: Style.measures.wideSpacing
+        rowSpacing: Style.measures.wideSpacing
+
+        Repeater {
+            model: root.presenter.tiles
+            delegate: Card {
+                id: tile
+
+                required property insightTile row
+
+                Layout.fillWidth: true
+                Layout.preferredWidth: 1
+                Accessible.role: Accessible.Grouping
+                Accessible.name: row.title + ": " + row.value + ", " + row.subtitle
+
+                ColumnLayout {
+                    anchors.fill: parent
+                    spacing: 4
+
+                    RowLayout {
+                        spacing: Style.measures.spacing
+
+                        Symbol {
+                            name: tile.row.symbol
+                            side: 14
+                            color: Style.palette.mute
+                        }
+                        Heading {
+                            Layout.fillWidth: true
+                            text: tile.row.title
+                        }
+                    }
+                    Text {
+                        Layout.fillWidth: true
+                        Layout.topMargin: 4
+                        text: tile.row.value
+                        elide: Text.ElideRight
+                        font: Style.mono(24, Style.Light)
+                        color: Style.palette.primaryText
+                    }
+                    Text {
+                        Layout.fillWidth: true
+                        text: tile.row.subtitle
+                        elide: Text.ElideRight
+                        font: Style.sans(12, Style.Regular)
+                        color: Style.palette.secondaryText
+                    }
+                }
+            }
+        }
+    }
+}

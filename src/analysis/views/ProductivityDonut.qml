@@ -1,0 +1,70 @@
+import QtQuick
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! The day's one large figure in its ring, and how it compares. */
+Card {
+    id: root
+
+    required property OverviewPresenter presenter
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.presenter.scoreTitle + ": " + root.presenter.score + ". " + root.presenter.comparison
+
+    Item {
+        anchors.fill: parent
+        implicitWidth: 196
+        implicitHeight: 260
+
+        Heading {
+            id: heading
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: root.presenter.scoreTitle
+        }
+        DonutRing {
+            id: ring
+
+            readonly property real side: Math.min(parent.width, parent.height - heading.height - 60)
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: heading.height + (comparisonLine.y - heading.height - height) / 2
+            width: side
+            height: side
+            fraction: root.presenter.scoreFraction
+            color: root.presenter.scoreColor
+            track: Style.palette.stroke
+            thickness: 10
+
+            Column {
+                anchors.centerIn: parent
+                spacing: 2
+
+                Text {
+                    objectName: "score"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: root.presenter.score
+                    font: Style.mono(38, Style.Light)
+                    color: Style.palette.primaryText
+                }
+                Text {
+                    objectName: "total"
+                    anchors.horizontalCenter: parent.horizontalCenter
+                    text: root.presenter.total
+                    font: Style.mono(12, Style.Regular)
+                    color: Style.palette.secondaryText
+                }
+            }
+        }
+        Text {
+            id: comparisonLine
+
+            objectName: "comparison"
+            anchors.horizontalCenter: parent.horizontalCenter
+            anchors.bottom: parent.bottom
+            text: root.presenter.comparison
+            font: Style.mono(12, Style.Medium)
+            color: Style.legible(root.presenter.comparisonColor)
+        }
+    }
+}

@@ -1,0 +1,99 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! The day's time of one project, or of none, and what it was spent in. */
+Card {
+    id: root
+
+    required property projectSheet row
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.row.spoken
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 12
+
+        RowLayout {
+            Layout.fillWidth: true
+            spacing: 12
+
+            Rectangle {
+                Layout.preferredWidth: 12
+                Layout.preferredHeight: 12
+                radius: 6
+                color: root.row.color
+            }
+            Text {
+                objectName: "title"
+                Layout.fillWidth: true
+                visible: root.row.tagged
+                text: root.row.title
+                textFormat: Text.PlainText
+                elide: Text.ElideRight
+                font: Style.sans(16, Style.Medium)
+                color: Style.palette.primaryText
+                Accessible.ignored: true
+            }
+            Heading {
+                Layout.fillWidth: true
+                visible: !root.row.tagged
+                text: root.row.title
+            }
+            Text {
+                objectName: "time"
+                text: root.row.time
+                font: Style.mono(20, Style.Light)
+                color: Style.palette.primaryText
+                Accessible.ignored: true
+            }
+            Text {
+                objectName: "share"
+                Layout.preferredWidth: 48
+                horizontalAlignment: Text.AlignRight
+                text: root.row.share
+                font: Style.mono(13, Style.Regular)
+                color: Style.palette.secondaryText
+                Accessible.ignored: true
+            }
+        }
+        Meter {
+            Layout.fillWidth: true
+            fraction: root.row.fraction
+            color: root.row.color
+            track: Style.palette.stroke
+            Accessible.ignored: true
+        }
+        Text {
+            Layout.fillWidth: true
+            visible: root.row.note !== ""
+            text: root.row.note
+            wrapMode: Text.WordWrap
+            font: Style.sans(13, Style.Regular)
+            color: Style.palette.secondaryText
+        }
+        GridLayout {
+            Layout.fillWidth: true
+            visible: root.row.apps.length > 0
+            columns: 2
+            columnSpacing: 40
+            rowSpacing: 8
+
+            Repeater {
+                model: root.row.apps
+                delegate: AppLine {
+                    required property appRow modelData
+
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    app: modelData
+                    dotted: true
+                }
+            }
+        }
+    }
+}

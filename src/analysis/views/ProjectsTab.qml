@@ -1,0 +1,45 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! Where the day's time went by project. */
+ScrollPane {
+    id: root
+
+    required property ProjectsPresenter presenter
+
+    ColumnLayout {
+        width: parent.width
+        spacing: Style.measures.wideSpacing
+
+        Card {
+            Layout.fillWidth: true
+            visible: root.presenter.isEmpty
+
+            EmptyState {
+                anchors.fill: parent
+                objectName: "empty"
+                symbol: "calendar"
+                title: root.presenter.emptyTitle
+                text: root.presenter.emptyText
+            }
+        }
+        Repeater {
+            model: root.presenter.isEmpty ? null : root.presenter.rows
+            delegate: ProjectCard {
+                Layout.fillWidth: true
+            }
+        }
+        Text {
+            Layout.fillWidth: true
+            visible: !root.presenter.isEmpty
+            text: root.presenter.hint
+            wrapMode: Text.WordWrap
+            font: Style.sans(12, Style.Regular)
+            color: Style.palette.secondaryText
+        }
+    }
+}

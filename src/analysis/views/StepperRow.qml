@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! A goal, its value, and the way to less and more of it. */
+RowLayout {
+    id: root
+
+    required property goalStepper stepper
+
+    signal increase
+    signal decrease
+
+    spacing: 16
+
+    Text {
+        Layout.fillWidth: true
+        text: root.stepper.title
+        elide: Text.ElideRight
+        font: Style.sans(14, Style.Regular)
+        color: Style.palette.primaryText
+        Accessible.ignored: true
+    }
+    Text {
+        objectName: "value"
+        Layout.preferredWidth: 54
+        horizontalAlignment: Text.AlignRight
+        text: root.stepper.value
+        font: Style.mono(14, Style.Medium)
+        color: Style.palette.primaryText
+        Accessible.ignored: true
+    }
+    StepperButtons {
+        objectName: root.stepper.id
+        accessibleName: root.stepper.title
+        valueText: root.stepper.value
+        canDecrease: root.stepper.canDecrease
+        canIncrease: root.stepper.canIncrease
+        onDecrease: root.decrease()
+        onIncrease: root.increase()
+    }
+}

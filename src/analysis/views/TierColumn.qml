@@ -1,0 +1,74 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! A tier's time and the applications that it went to. */
+Card {
+    id: root
+
+    required property TierColumnPresenter presenter
+
+    Accessible.role: Accessible.Grouping
+    Accessible.name: root.presenter.title + ": " + root.presenter.time
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 2
+
+        RowLayout {
+            spacing: Style.measures.spacing
+
+            Rectangle {
+                Layout.preferredWidth: 8
+                Layout.preferredHeight: 8
+                radius: 4
+                color: root.presenter.color
+            }
+            Heading {
+                Layout.fillWidth: true
+                text: root.presenter.title.toUpperCase()
+            }
+        }
+        Text {
+            objectName: "time"
+            Layout.topMargin: 4
+            Layout.bottomMargin: 12
+            text: root.presenter.time
+            font: Style.mono(24, Style.Light)
+            color: Style.palette.primaryText
+        }
+        ListView {
+            id: list
+
+            objectName: "apps"
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            visible: !root.presenter.isEmpty
+            clip: true
+            interactive: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
+            model: root.presenter.apps
+            Accessible.role: Accessible.List
+            Accessible.name: root.presenter.title
+            delegate: AppLine {
+                required property appRow row
+
+                width: list.width
+                height: 28
+                app: row
+            }
+        }
+        Text {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            visible: root.presenter.isEmpty
+            text: root.presenter.emptyText
+            wrapMode: Text.WordWrap
+            font: Style.sans(13, Style.Regular)
+            color: Style.palette.mute
+        }
+    }
+}

@@ -1,0 +1,56 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Style
+
+/*! The day hour by hour. */
+ScrollPane {
+    id: root
+
+    required property TimesheetPresenter presenter
+
+    ColumnLayout {
+        width: parent.width
+        spacing: 10
+
+        RowLayout {
+            Layout.fillWidth: true
+            Layout.leftMargin: 20
+            Layout.rightMargin: 20
+            visible: !root.presenter.isEmpty
+            spacing: 28
+
+            Heading {
+                Layout.preferredWidth: 100
+                text: root.presenter.columns[0]
+            }
+            Heading {
+                Layout.preferredWidth: 176
+                text: root.presenter.columns[1]
+            }
+            Heading {
+                Layout.fillWidth: true
+                text: root.presenter.columns[2]
+            }
+        }
+        Repeater {
+            model: root.presenter.hours
+            delegate: HourRow {
+                Layout.fillWidth: true
+            }
+        }
+        Card {
+            Layout.fillWidth: true
+            visible: root.presenter.isEmpty
+
+            EmptyState {
+                anchors.fill: parent
+                objectName: "empty"
+                symbol: "clock"
+                title: root.presenter.emptyText
+            }
+        }
+    }
+}

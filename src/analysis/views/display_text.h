@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+#include <string_view>
+
+#include "base/seconds.h"
+
+namespace tidewatch {
+
+/// UTF-8 as the views take it.
+[[nodiscard]] QString text(std::string_view utf8);
+
+/// "45s", "12m" or "2h 5m".
+[[nodiscard]] QString timeText(Seconds seconds);
+
+/// "37%": what `part` is of `whole`, in whole per cent; "0%" of nothing.
+[[nodiscard]] QString shareText(Seconds part, Seconds whole);
+
+/// What `part` is of `whole`, 0 to 1; 0 of nothing.
+[[nodiscard]] double share(Seconds part, Seconds whole);
+
+/// "84%": a fraction in whole per cent, halves away from zero.
+[[nodiscard]] QString percentText(double fraction);
+
+}  // namespace tidewatch

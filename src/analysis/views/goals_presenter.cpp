@@ -1,0 +1,111 @@
+#include "analysis/views/goals_presenter.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "analysis/views/display_text.h"
+#include "analysis/views/goal_steps.h"
+#include "base/duration_format.h"
+#include "shell/style/qt_color.h"
+#include "shell/themes/dashboard_style.h"
+
+namespace tidewatch {
+namespace {
+
+constexpr int starCount = 5;
+constexpr double unfinishedOpacity = 0.6;
+
+QString figures(const GoalProgress& goal) {
+    if (goal.isProductivity) return percentText(goal.currentScore) + " / " + percentText(goal.targetScore);
+    return text(hm(goal.currentSeconds) + " / " + hm(goal.targetSeconds));
+}
+
+GoalRow goalRow(const GoalProgress& goal) {
+    const bool reached = goal.fraction >= 1;
+    const auto green = DashboardStyle::tierProductive;
+    GoalRow row{.id = text(goal.label),
+                .label = text(goal.label),
+                .figures = figures(goal),
+                .mark = reached ? "✓" : "",
+                .fraction = std::clamp(goal.fraction, 0.0, 1.0),
+                .color = toQColor(reached ? green : green.at(unfinishedOpacity))};
+    row.spoken = row.label + ": " + row.figures + (reached ? ", cumplida" : "");
+    return row;
+}
+
+std::vector<GoalStepper> stepperRows(const GoalSettings& settings) {
+    std::vector<GoalStepper> rows;
+    for (const auto& step : goalSteps()) {
+        rows.push_back({.id = text(step.id),
+                        .title = text(step.title),
+                        .value = step.valueText(settings),
+                        .canDecrease = step.shown(settings) > step.least,
+                        .canIncrease = step.shown(settings) < step.most});
+    }
+    return rows;
+}
+
+}  // namespace
+
+GoalsPresenter::GoalsPresenter(DashboardModel& model, const Sources& from, std::function<void()> exportReport)
+    : TabPresenter(model),
+      from_(from),
+      exportReport_(std::move(exportReport)),
+      goalsChanged_(from_.goals.changed.connect([this] {
+          Q_EMIT settingsChanged();
+          updateIfOnShow();
+      })) {}
+
+void GoalsPresenter::update() {
+    updateReward();
+    std::vector<GoalRow> rows;
+    for (const auto& goal : from_.evaluator.evaluate()) rows.push_back(goalRow(goal));
+    progress_.setRows(rows);
+    steppers_.setRows(stepperRows(from_.goals.settings()));
+}
+
+void GoalsPresenter::updateReward() {
+    const int earned = std::clamp(from_.rewards.starsToday(), 0, starCount);
+    stars_.clear();
+    starColors_.clear();
+    for (int star = 0; star < starCount; ++star) {
+        stars_.append(star < earned ? "star.fill" : "star");
+        starColors_.append(toQColor(DashboardStyle::amber.at(star < earned ? 1 : unfinishedOpacity)));
+    }
+    starsSpoken_ = QString("%1 de %2 estrellas").arg(earned).arg(starCount);
+    streak_ = QString::number(from_.rewards.currentStreak()) + " días";
+    monthStars_ = "★ " + QString::number(from_.rewards.starsThisMonth());
+    Q_EMIT rewardChanged();
+}
+
+void GoalsPresenter::increase(const QString& id) {
+    step(id, 1);
+}
+
+void GoalsPresenter::decrease(const QString& id) {
+    step(id, -1);
+}
+
+void GoalsPresenter::step(const QString& id, int direction) {
+    const auto& steps = goalSteps();
+    const auto found =
+        std::find_if(steps.begin(), steps.end(), [&](const GoalStep& step) { return text(step.id) == id; });
+    if (found != steps.end()) save(found->stepped(from_.goals.settings(), direction));
+}
+
+void GoalsPresenter::setNotificationsEnabled(bool enabled) {
+    auto settings = from_.goals.settings();
+    settings.notificationsEnabled = enabled;
+    save(settings);
+}
+
+void GoalsPresenter::save(const GoalSettings& settings) {
+    from_.goals.setSettings(settings);
+    from_.goals.save();
+}
+
+void GoalsPresenter::exportReport() {
+    exportReport_();
+}
+
+}  // namespace tidewatch

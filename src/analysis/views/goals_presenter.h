@@ -1,0 +1,137 @@
+#pragma once
+
+#include <qqmlregistration.h>
+#include <QColor>
+#include <QObject>
+#include <QStringList>
+#include <functional>
+
+#include "analysis/goal_evaluator.h"
+#include "analysis/goal_store.h"
+#include "analysis/reward_engine.h"
+#include "analysis/views/row_list.h"
+#include "analysis/views/tab_presenter.h"
+
+namespace tidewatch {
+
+/// How far one goal is reached.
+class GoalRow final {
+    Q_GADGET
+    QML_VALUE_TYPE(goalRow)
+    Q_PROPERTY(QString id MEMBER id FINAL)
+    Q_PROPERTY(QString label MEMBER label FINAL)
+    Q_PROPERTY(QString figures MEMBER figures FINAL)
+    Q_PROPERTY(QString mark MEMBER mark FINAL)
+    Q_PROPERTY(double fraction MEMBER fraction FINAL)
+    Q_PROPERTY(QColor color MEMBER color FINAL)
+    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+
+public:
+    QString id;
+    QString label;
+    QString figures;      ///< "3h 5m / 6h 0m"
+    QString mark;         ///< "✓" once it is reached
+    double fraction = 0;  ///< 0 to 1
+    QColor color;
+    QString spoken{};
+
+    bool operator==(const GoalRow&) const = default;
+};
+
+/// One goal that can be set in steps.
+class GoalStepper final {
+    Q_GADGET
+    QML_VALUE_TYPE(goalStepper)
+    Q_PROPERTY(QString id MEMBER id FINAL)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString value MEMBER value FINAL)
+    Q_PROPERTY(bool canDecrease MEMBER canDecrease FINAL)
+    Q_PROPERTY(bool canIncrease MEMBER canIncrease FINAL)
+
+public:
+    QString id;
+    QString title;
+    QString value;
+    bool canDecrease = false;
+    bool canIncrease = false;
+
+    bool operator==(const GoalStepper&) const = default;
+};
+
+/// Stars, progress, and what the goals are. Main thread only.
+class GoalsPresenter final : public tidewatch::TabPresenter {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Given by the composition of the program")
+    Q_PROPERTY(QString rewardTitle READ rewardTitle CONSTANT FINAL)
+    Q_PROPERTY(QStringList stars READ stars NOTIFY rewardChanged FINAL)
+    Q_PROPERTY(QList<QColor> starColors READ starColors NOTIFY rewardChanged FINAL)
+    Q_PROPERTY(QString starsSpoken READ starsSpoken NOTIFY rewardChanged FINAL)
+    Q_PROPERTY(QString streakTitle READ streakTitle CONSTANT FINAL)
+    Q_PROPERTY(QString streak READ streak NOTIFY rewardChanged FINAL)
+    Q_PROPERTY(QString monthTitle READ monthTitle CONSTANT FINAL)
+    Q_PROPERTY(QString monthStars READ monthStars NOTIFY rewardChanged FINAL)
+    Q_PROPERTY(QString progressTitle READ progressTitle CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::RowListModel* progress READ progress CONSTANT FINAL)
+    Q_PROPERTY(QString settingsTitle READ settingsTitle CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::RowListModel* steppers READ steppers CONSTANT FINAL)
+    Q_PROPERTY(QString notificationsTitle READ notificationsTitle CONSTANT FINAL)
+    Q_PROPERTY(bool notificationsEnabled READ notificationsEnabled NOTIFY settingsChanged FINAL)
+    Q_PROPERTY(QString reportTitle READ reportTitle CONSTANT FINAL)
+
+public:
+    struct Sources {
+        const GoalEvaluator& evaluator;
+        const RewardEngine& rewards;
+        GoalStore& goals;
+    };
+
+    /// All that is given must outlive it; `exportReport` asks for a place and writes the month's report
+    /// there.
+    GoalsPresenter(DashboardModel& model, const Sources& from, std::function<void()> exportReport);
+
+    [[nodiscard]] QString rewardTitle() const { return "RECOMPENSA DE HOY"; }
+    [[nodiscard]] QStringList stars() const { return stars_; }
+    [[nodiscard]] QList<QColor> starColors() const { return starColors_; }
+    [[nodiscard]] QString starsSpoken() const { return starsSpoken_; }
+    [[nodiscard]] QString streakTitle() const { return "Racha"; }
+    [[nodiscard]] QString streak() const { return streak_; }
+    [[nodiscard]] QString monthTitle() const { return "Estrellas del mes"; }
+    [[nodiscard]] QString monthStars() const { return monthStars_; }
+    [[nodiscard]] QString progressTitle() const { return "PROGRESO"; }
+    [[nodiscard]] RowListModel* progress() { return &progress_; }
+    [[nodiscard]] QString settingsTitle() const { return "FIJAR METAS"; }
+    [[nodiscard]] RowListModel* steppers() { return &steppers_; }
+    [[nodiscard]] QString notificationsTitle() const { return "Notificaciones de metas"; }
+    [[nodiscard]] bool notificationsEnabled() const { return from_.goals.settings().notificationsEnabled; }
+    [[nodiscard]] QString reportTitle() const { return "Generar reporte PDF del mes…"; }
+
+    /// One step of the stepper with this id, saved at once; within its range. An unknown id changes nothing.
+    Q_INVOKABLE void increase(const QString& id);
+    Q_INVOKABLE void decrease(const QString& id);
+    Q_INVOKABLE void setNotificationsEnabled(bool enabled);
+    Q_INVOKABLE void exportReport();
+
+Q_SIGNALS:
+    void rewardChanged();
+    void settingsChanged();
+
+private:
+    void update() override;
+    void updateReward();
+    void step(const QString& id, int direction);
+    void save(const GoalSettings& settings);
+
+    Sources from_;
+    std::function<void()> exportReport_;
+    QStringList stars_;
+    QList<QColor> starColors_;
+    QString starsSpoken_;
+    QString streak_;
+    QString monthStars_;
+    RowList<GoalRow> progress_;
+    RowList<GoalStepper> steppers_;
+    Connection goalsChanged_;
+};
+
+}  // namespace tidewatch

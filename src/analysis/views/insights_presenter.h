@@ -1,0 +1,94 @@
+#pragma once
+
+#include <qqmlregistration.h>
+#include <QObject>
+#include <QStringList>
+#include <memory>
+
+#include "analysis/insights_engine.h"
+#include "analysis/views/row_list.h"
+#include "platform/api/main_loop.h"
+
+namespace tidewatch {
+
+/// One figure of the look back.
+class InsightTile final {
+    Q_GADGET
+    QML_VALUE_TYPE(insightTile)
+    Q_PROPERTY(QString id MEMBER id FINAL)
+    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
+    Q_PROPERTY(QString title MEMBER title FINAL)
+    Q_PROPERTY(QString value MEMBER value FINAL)
+    Q_PROPERTY(QString subtitle MEMBER subtitle FINAL)
+
+public:
+    QString id;
+    QString symbol;
+    QString title;
+    QString value;
+    QString subtitle;
+
+    bool operator==(const InsightTile&) const = default;
+};
+
+/// The look back over a range of days, computed anew every eight seconds while it is on show. Main thread
+/// only.
+class InsightsPresenter final : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Given by the composition of the program")
+    Q_PROPERTY(QString title READ title CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> ranges READ ranges CONSTANT FINAL)
+    Q_PROPERTY(int rangeIndex READ rangeIndex NOTIFY rangeChanged FINAL)
+    Q_PROPERTY(QString sessionTitle READ sessionTitle CONSTANT FINAL)
+    Q_PROPERTY(bool hasSession READ hasSession NOTIFY sessionChanged FINAL)
+    Q_PROPERTY(QString sessionLength READ sessionLength NOTIFY sessionChanged FINAL)
+    Q_PROPERTY(QString sessionDay READ sessionDay NOTIFY sessionChanged FINAL)
+    Q_PROPERTY(QString sessionTimes READ sessionTimes NOTIFY sessionChanged FINAL)
+    Q_PROPERTY(QString noSession READ noSession CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::RowListModel* tiles READ tiles CONSTANT FINAL)
+
+public:
+    /// Both must outlive it.
+    InsightsPresenter(const InsightsEngine& engine, platform::MainLoop& mainLoop);
+    ~InsightsPresenter() override;
+
+    [[nodiscard]] QString title() const { return "RACHA & ANÁLISIS"; }
+    [[nodiscard]] QStringList ranges() const;
+    [[nodiscard]] int rangeIndex() const;
+    [[nodiscard]] QString sessionTitle() const { return "SESIÓN MÁS LARGA SIN PARAR"; }
+    [[nodiscard]] bool hasSession() const { return insights_.longest.has_value(); }
+    [[nodiscard]] QString sessionLength() const;
+    [[nodiscard]] QString sessionDay() const;
+    [[nodiscard]] QString sessionTimes() const;
+    [[nodiscard]] QString noSession() const {
+        return "Aún no hay una sesión larga registrada en este rango.";
+    }
+    [[nodiscard]] RowListModel* tiles() { return &tiles_; }
+
+    /// An index that is none of ranges() changes nothing.
+    Q_INVOKABLE void selectRange(int index);
+
+    /// Whether it is on show; false at first.
+    void setOnShow(bool onShow);
+
+Q_SIGNALS:
+    void rangeChanged();
+    void sessionChanged();
+
+private:
+    void compute();
+    [[nodiscard]] std::vector<InsightTile> makeTiles() const;
+    [[nodiscard]] QString peakSubtitle() const;
+    [[nodiscard]] QString totalSubtitle() const;
+    [[nodiscard]] QString dateOf(const std::optional<DayKey>& day) const;
+
+    const InsightsEngine& engine_;
+    platform::MainLoop& mainLoop_;
+    InsightsRange range_ = InsightsRange::week;
+    Insights insights_;
+    RowList<InsightTile> tiles_;
+    std::unique_ptr<platform::RepeatingTimer> timer_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,64 @@
+#include "analysis/views/overview_presenter.h"
+
+#include <fmt/format.h>
+
+#include "analysis/views/display_text.h"
+#include "analysis/views/tier_color.h"
+#include "shell/style/qt_color.h"
+
+namespace tidewatch {
+
+QString TierColumnPresenter::title() const {
+    return text(displayName(tier_));
+}
+
+QColor TierColumnPresenter::color() const {
+    return tierColor(tier_);
+}
+
+void TierColumnPresenter::update(const DashboardModel& model) {
+    apps_.setRows(appRows(model.apps(tier_)));
+    time_ = timeText(model.seconds(tier_));
+    Q_EMIT changed();
+}
+
+OverviewPresenter::OverviewPresenter(DashboardModel& model) : TabPresenter(model) {
+    updateScore();
+}
+
+void OverviewPresenter::update() {
+    productive_.update(model());
+    neutral_.update(model());
+    distracting_.update(model());
+    updateScore();
+    hours_.setRows(hourBars(model().hourSummaries()));
+    change(this, hoursSpoken_, hourBarsSpoken(model().hourSummaries()), &OverviewPresenter::hoursChanged);
+}
+
+void OverviewPresenter::updateScore() {
+    const auto& score = model().score();
+    score_ = text(score.displayString());
+    scoreFraction_ = score.isTelling() ? score.score() : 0;
+    scoreColor_ = toQColor(DashboardStyle::tierProductive);
+    total_ = timeText(model().totalActiveToday());
+    updateComparison();
+    Q_EMIT scoreChanged();
+}
+
+void OverviewPresenter::updateComparison() {
+    comparison_.clear();
+    if (!model().score().isTelling()) return;
+    if (model().prevScore().isTelling()) {
+        compareWith(model().prevScore().score(), "ayer");
+    } else if (model().avg7Score() > 0) {
+        compareWith(model().avg7Score(), "prom 7d");
+    }
+}
+
+void OverviewPresenter::compareWith(double reference, const QString& name) {
+    const double points = (model().score().score() - reference) * 100;
+    comparison_ = text(fmt::format("{}{:.0f}% vs ", points >= 0 ? "+" : "", points)) + name;
+    comparisonColor_ = tierColor(reference > model().score().score() ? Tier::distracting : Tier::productive);
+}
+
+}  // namespace tidewatch

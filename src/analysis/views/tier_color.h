@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QColor>
+
+#include "classification/tier.h"
+#include "shell/style/qt_color.h"
+#include "shell/themes/ochre_palette.h"
+
+namespace tidewatch {
+
+/// The colour of a tier in lists, chips and bars.
+[[nodiscard]] QColor tierColor(Tier tier);
+
+/// The colour of a tier in the cells of ten minutes, where what has no tier is a shade lighter.
+[[nodiscard]] QColor bucketColor(Tier tier);
+
+}  // namespace tidewatch

@@ -1,0 +1,85 @@
+#include "analysis/views/timesheet_presenter.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+
+#include "analysis/views/display_text.h"
+#include "analysis/views/tier_color.h"
+
+namespace tidewatch {
+namespace {
+
+// Points.
+constexpr double fullHeight = 20;
+constexpr double leastHeight = 2;
+constexpr double barOpacity = 0.85;
+
+QString hourText(int hour) {
+    const int onClock = hour % 12 == 0 ? 12 : hour % 12;
+    return text(fmt::format("{}:{:02}{}", onClock, 0, hour < 12 ? "am" : "pm"));
+}
+
+BucketCell cell(const BucketSummary& bucket) {
+    if (bucket.seconds < Seconds(1)) return {};
+    auto color = bucketColor(bucket.dominantTier());
+    // What has no tier is faint enough by itself.
+    if (bucket.dominantTier() != Tier::uncategorized) color.setAlphaF(static_cast<float>(barOpacity));
+    return {true, std::max(fullHeight * std::min(bucket.fillRatio(), 1.0), leastHeight), color};
+}
+
+QList<NamedTime> summary(const HourGroup& group) {
+    return {
+        {"Total", timeText(group.totalSeconds), Qt::transparent},
+        {"Productivo", timeText(group.productive), tierColor(Tier::productive)},
+        {"Neutral", timeText(group.neutral), tierColor(Tier::neutral)},
+        {"Distrayendo", timeText(group.distracting), tierColor(Tier::distracting)},
+    };
+}
+
+QList<AppRow> activities(const HourGroup& group) {
+    QList<AppRow> rows;
+    for (const auto& activity : group.topActivities) {
+        const auto icon = iconNames(activity.icon);
+        rows.append({.id = text(activity.app.text()),
+                     .iconName = icon.desktop,
+                     .symbolName = icon.symbol,
+                     .name = text(activity.name),
+                     .time = timeText(activity.seconds),
+                     .color = tierColor(activity.tier),
+                     .spoken = text(activity.name) + ", " + timeText(activity.seconds)});
+    }
+    return rows;
+}
+
+QList<NamedTime> categories(const HourGroup& group) {
+    QList<NamedTime> rows;
+    for (const auto& top : group.topCategories) {
+        rows.append({text(rawValue(top.category)), timeText(top.seconds), tierColor(top.tier)});
+    }
+    return rows;
+}
+
+HourSheet sheet(const HourGroup& group) {
+    HourSheet row{.id = QString::number(group.hour), .hour = hourText(group.hour)};
+    for (const auto& bucket : group.buckets) row.buckets.append(cell(bucket));
+    row.summary = summary(group);
+    row.activities = activities(group);
+    row.categories = categories(group);
+    QStringList spoken{row.hour};
+    for (const auto& line : row.summary) spoken.append(line.name + " " + line.time);
+    for (const auto& activity : row.activities) spoken.append(activity.name + " " + activity.time);
+    row.spoken = spoken.join(", ");
+    return row;
+}
+
+}  // namespace
+
+void TimesheetPresenter::update() {
+    std::vector<HourSheet> rows;
+    for (const auto& group : model().hourGroups()) rows.push_back(sheet(group));
+    hours_.setRows(rows);
+    Q_EMIT hoursChanged();
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,15 @@
+#pragma once
+
+namespace tidewatch::platform {
+
+/// The memory that this process holds. Main thread only.
+class ProcessMemory {
+public:
+    virtual ~ProcessMemory() = default;
+
+    /// Gives the machine back what was freed and is kept for later use. Takes some milliseconds: for the
+    /// moment after something large has gone for good.
+    virtual void giveBackUnused() = 0;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,11 @@
+import QtQuick
+import Tidewatch.Style
+
+/*! The title of a card or a section. */
+Text {
+    font: Style.heading()
+    color: Style.palette.strongMute
+    elide: Text.ElideRight
+    Accessible.role: Accessible.Heading
+    Accessible.name: text
+}

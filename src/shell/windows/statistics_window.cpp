@@ -1,0 +1,109 @@
+#include "shell/windows/statistics_window.h"
+
+#include <QCloseEvent>
+#include <QTimer>
+#include <utility>
+
+#include "platform/api/process_memory.h"
+#include "platform/api/window_manager.h"
+#include "shell/statistics_frame.h"
+#include "shell/style/qt_color.h"
+
+namespace tidewatch {
+
+namespace {
+
+constexpr QSize leastSize(820, 560);  // what the user can make of it
+
+}  // namespace
+
+/// The window itself, from one opening to the next closing.
+class QuickStatisticsWindow::Frame final : public QQuickWindow {
+public:
+    Frame(std::unique_ptr<QQuickItem> view, std::function<void()> askedToClose)
+        : view_(std::move(view)), askedToClose_(std::move(askedToClose)) {
+        setTitle("FATHOM · Estadísticas");
+        setMinimumSize(leastSize);
+        view_->setParentItem(contentItem());
+        view_->setFocus(true);
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        askedToClose_();
+    }
+
+    void resizeEvent(QResizeEvent* event) override {
+        QQuickWindow::resizeEvent(event);
+        view_->setSize(size());
+    }
+
+private:
+    std::unique_ptr<QQuickItem> view_;
+    std::function<void()> askedToClose_;
+};
+
+QuickStatisticsWindow::QuickStatisticsWindow(const platform::Platform& platform, ThemeController& theme,
+                                             Broadcaster& broadcaster, Content content)
+    : platform_(platform),
+      theme_(theme),
+      broadcaster_(broadcaster),
+      content_(std::move(content)),
+      themeChanges_(broadcaster.observe<ThemeChanged>([this](const auto&) { wearTheme(); })) {}
+
+QuickStatisticsWindow::~QuickStatisticsWindow() = default;
+
+void QuickStatisticsWindow::showWindow() {
+    if (!window_) {
+        window_ = std::make_unique<Frame>(content_.makeView(), [this] { close(); });
+        window_->create();
+    }
+    wearTheme();
+    place();
+    window_->showNormal();
+    window_->raise();
+    window_->requestActivate();
+    platform_.windowManager.activate(window_->winId());
+    broadcaster_.post(DashboardWillShow{});
+}
+
+void QuickStatisticsWindow::close() {
+    if (!window_) return;
+    window_->hide();
+    retired_ = std::move(window_);
+    QTimer::singleShot(0, &retirement_, [this] { destroyRetired(); });
+    content_.disappeared();
+}
+
+bool QuickStatisticsWindow::isVisible() const {
+    return window_ && window_->isVisible() && !window_->windowStates().testFlag(Qt::WindowMinimized);
+}
+
+void QuickStatisticsWindow::wearTheme() {
+    if (!window_) return;
+    const auto& style = theme_.active().dashboard;
+    window_->setColor(toQColor(style.nsBackground));
+    platform_.windowManager.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
+                                                                ? platform::FrameShade::dark
+                                                                : platform::FrameShade::light);
+}
+
+void QuickStatisticsWindow::place() {
+    const auto frame = statisticsFrame(platform_.screens);
+    const auto margins = platform_.windowManager.frameMargins(window_->winId());
+    const double ratio = window_->devicePixelRatio();
+    window_->setGeometry(QRectF(frame.x, frame.y, frame.width, frame.height)
+                             .adjusted(margins.left / ratio, margins.top / ratio, -margins.right / ratio,
+                                       -margins.bottom / ratio)
+                             .toRect());
+}
+
+void QuickStatisticsWindow::destroyRetired() {
+    if (!retired_) return;
+    retired_.reset();
+    content_.viewDestroyed();
+    platform_.memory.giveBackUnused();
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QObject>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <functional>
+#include <memory>
+
+#include "core/broadcaster.h"
+#include "platform/api/platform.h"
+#include "shell/surfaces.h"
+#include "shell/themes/theme_controller.h"
+
+namespace tidewatch {
+
+/// The statistics window on the toolkit: an ordinary window of the desktop, whose view lives only as long as
+/// it is on show. What the view shows must live elsewhere.
+class QuickStatisticsWindow final : public StatisticsWindow {
+public:
+    /// What the window asks of the view that it shows.
+    struct Content {
+        std::function<std::unique_ptr<QQuickItem>()> makeView;  ///< at each opening; fills the window
+        std::function<void()> disappeared;                      ///< the window was closed
+        std::function<void()> viewDestroyed;                    ///< some time after that
+    };
+
+    /// `platform` and what it refers to, `theme` and `broadcaster` must outlive this object.
+    QuickStatisticsWindow(const platform::Platform& platform, ThemeController& theme,
+                          Broadcaster& broadcaster, Content content);
+    ~QuickStatisticsWindow() override;
+
+    void showWindow() override;
+    void close() override;
+    [[nodiscard]] bool isVisible() const override;
+
+private:
+    class Frame;
+
+    void wearTheme();
+    void place();
+    void destroyRetired();
+
+    const platform::Platform& platform_;
+    ThemeController& theme_;
+    Broadcaster& broadcaster_;
+    Content content_;
+    Connection themeChanges_;
+    std::unique_ptr<Frame> window_;
+    /// Closed, often by its own view, which must have returned from that before it goes.
+    std::unique_ptr<Frame> retired_;
+    QObject retirement_;
+};
+
+}  // namespace tidewatch

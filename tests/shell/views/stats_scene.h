@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QImage>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QStringList>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "shell/services.h"
+#include "shell/themes/theme_controller.h"
+#include "shell/themes/theme_registry.h"
+#include "shell/views/stats_presenter.h"
+#include "tests/support/fake_world.h"
+
+namespace tidewatch {
+
+/// What the statistics window stands on, on a fake machine; nothing is booked at first.
+class StatsWorld {
+public:
+    StatsWorld();
+
+    /// Books `seconds` to an application as a tick would, in all four stores, in the ten minutes of the clock
+    /// that begin at `hour` and `minute`.
+    void book(const char* app, const DayKey& day, int hour, int minute, std::int64_t seconds);
+    /// The same in the project's time.
+    void bookProject(const Uuid& project, const char* app, const DayKey& day, std::int64_t seconds);
+
+    /// A quarter of a year of believable work that ends today, Thursday the 15th of January, in the
+    /// afternoon.
+    void bookBelievableWork();
+
+    /// The window is about to be shown.
+    void appear() { services_.broadcaster.post(DashboardWillShow()); }
+
+    [[nodiscard]] DayKey today() const { return services_.days.today(); }
+
+    test::FakeWorld machine_;
+    Services services_{machine_.platform};
+    ThemeRegistry themes_;
+    ThemeController theme_{themes_, services_.settings, services_.broadcaster};
+    int reportsAsked_ = 0;
+    std::vector<std::string> menusAsked_;  ///< the applications whose menus were asked for
+    StatsPresenter presenter_;
+
+private:
+    void registerApplications();
+    void bookDay(const DayKey& day, int seed);
+    void bookToday();
+};
+
+/// The window's view on such a world, in a window of the software scene graph.
+class StatsScene : public StatsWorld {
+public:
+    StatsScene();
+    virtual ~StatsScene();
+
+    /// Makes the view anew in a window of that size, in points.
+    void show(QSize size = {1360, 1000});
+
+    /// The item of the view of this name; nothing if there is none.
+    [[nodiscard]] QQuickItem* item(const QString& name) const;
+
+    [[nodiscard]] QImage picture();
+
+    QQmlEngine engine_;
+    QQuickWindow window_;
+    std::unique_ptr<QQuickItem> view_;
+    QStringList viewWarnings_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,63 @@
+#include "tools/demo/demo_home.h"
+
+#include <fmt/format.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string_view>
+
+#include "analysis/goal_settings_json.h"
+#include "core/counter_json.h"
+#include "tools/demo/demo_applications.h"
+
+namespace tidewatch::demo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view settings =
+    "[General]\n"
+    "activeThemeID=ochre\n"
+    "sizeScale=0.75\n"
+    "windowVisible=true\n";
+
+void write(const fs::path& path, std::string_view content) {
+    fs::create_directories(path.parent_path());
+    std::ofstream file(path, std::ios::binary);
+    file << content;
+    if (!file.flush()) throw std::runtime_error("cannot write " + path.string());
+}
+
+void write(const fs::path& path, const CounterRecord& record) {
+    write(path, writeCounters(record).view());
+}
+
+std::string desktopEntry(const DemoApplication& app, const std::string& iconFolder) {
+    return fmt::format(
+        "[Desktop Entry]\nType=Application\nName={0}\nName[es]={0}\nExec=true\nIcon={1}/{2}.png\n"
+        "Categories={3}\n",
+        app.name, iconFolder, app.id, app.categories);
+}
+
+}  // namespace
+
+void writeDemoHome(const DemoRecord& record, const std::string& home, const std::string& iconFolder) {
+    const auto data = fs::path(home) / ".tidewatch";
+    write(data / "today.json", record.today);
+    write(data / "apps.json", record.apps);
+    write(data / "hours.json", record.hours);
+    write(data / "minutes.json", record.minutes);
+    write(data / "project_time.json", record.projectTime);
+    write(data / "projects.json", writeProjects(record.projects));
+    write(data / "categories.json", writeCategoryOverrides(record.overrides));
+    write(data / "goals.json", writeGoalSettings(record.goals).value());
+    write(fs::path(home) / ".config/brightlooms/tidewatch.conf", settings);
+    for (const auto& app : demoApplications()) {
+        write(fs::path(home) / ".local/share/applications" / (std::string(app.id) + ".desktop"),
+              desktopEntry(app, iconFolder));
+    }
+}
+
+}  // namespace tidewatch::demo
