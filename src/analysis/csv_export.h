@@ -31,6 +31,9 @@ public:
     [[nodiscard]] static std::string fileName(const Project& project);
 
 private:
+    /// From the identifier to the duration; both files have these six.
+    [[nodiscard]] std::string applicationColumns(const AppSeconds& app) const;
+
     const AppUsageStore& apps_;
     const ProjectTimeStore& projectTime_;
     const CategoryStore& categories_;

@@ -28,8 +28,7 @@ public:
         const ThemeRegistry& themes;
         ThemeController& theme;
         Surfaces& surfaces;
-        /// The statistics window; null as long as there is none.
-        StatisticsWindow* statistics;
+        StatisticsWindow& statistics;
         /// Ends the program in the ordinary way.
         std::function<void()> terminate;
     };

@@ -115,6 +115,8 @@ MenuRows buildStatusMenu(const StatusMenuSources& from) {
         [&to] { to.toggleVisible(); }, 'h'));
     rows.push_back(command("Reiniciar día", [&to] { to.resetToday(); }));
     rows.push_back(MenuRow::separator());
+    rows.push_back(command(
+        "Estadísticas…", [&to] { to.showStats(); }, 'e'));
     rows.push_back(command("Revelar archivo de datos", [&to] { to.revealData(); }));
     rows.push_back(MenuRow::separator());
     rows.push_back(

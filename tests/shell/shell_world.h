@@ -170,13 +170,14 @@ protected:
     bool choose(const std::string& title);
 
     /// Builds the program and lets it launch.
-    void launch(StatisticsWindow* statistics = nullptr);
+    void launch();
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
     [[nodiscard]] static bool chooseIn(const MenuRows& rows, const std::string& title);
     [[nodiscard]] std::string file(const std::string& name) const;
 
     platform::FakeMachine machine_;
     FakeSurfaces surfaces_;
+    FakeStatisticsWindow statistics_;
     bool terminated_ = false;
 
     struct Program;
@@ -185,8 +186,7 @@ protected:
 
 /// What the composition root builds, on the fakes.
 struct ShellWorld::Program {
-    Program(const platform::Platform& platform, Surfaces& surfaces, StatisticsWindow* statistics,
-            std::function<void()> terminate);
+    explicit Program(ShellWorld& world);
 
     Services services;
     ThemeRegistry themes;
