@@ -236,7 +236,7 @@ TEST_F(StatsViewTest, EveryControlIsReachedByTheTabulator) {
             if (stop == nullptr || stops.contains(stop)) break;
             stops.append(stop);
             const auto* accessible = QAccessible::queryAccessibleInterface(stop);
-            ASSERT_NE(accessible, nullptr);
+            ASSERT_NE(accessible, nullptr) << stop->metaObject()->className();
         }
         // At least the day's buttons, the tabs and what the tab itself has.
         EXPECT_GE(stops.size(), 3);
