@@ -142,6 +142,7 @@ void AppDelegate::openMenu() {
         .loginItem = with_.platform.loginItem,
         .commands = *commands_,
         .projectCommands = *projectCommands_,
+        .exportCommands = with_.exports,
     }));
 }
 

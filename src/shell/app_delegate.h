@@ -7,6 +7,7 @@
 #include "base/signal.h"
 #include "platform/api/main_loop.h"
 #include "platform/api/platform.h"
+#include "shell/export_commands.h"
 #include "shell/floating_panel.h"
 #include "shell/project_commands.h"
 #include "shell/services.h"
@@ -29,6 +30,7 @@ public:
         ThemeController& theme;
         Surfaces& surfaces;
         StatisticsWindow& statistics;
+        ExportCommands& exports;
         /// Ends the program in the ordinary way.
         std::function<void()> terminate;
     };

@@ -12,6 +12,13 @@ Composition::Composition(const platform::Platform& platform, std::function<void(
       theme_(themes_, services_.settings, services_.broadcaster),
       clock_(services_.engine, theme_, platform.clock, [this] { return services_.rewards.starsToday(); }),
       surfaces_(platform, theme_, clock_),
+      exports_({
+          .services = services_,
+          .files = platform.files,
+          .workspace = platform.workspace,
+          .dialogs = surfaces_.dialogs(),
+          .generateReport = [](const std::string&) { return false; },
+      }),
       statistics_(platform, theme_, services_.broadcaster, statisticsContent()),
       delegate_({
           .platform = platform,
@@ -20,6 +27,7 @@ Composition::Composition(const platform::Platform& platform, std::function<void(
           .theme = theme_,
           .surfaces = surfaces_,
           .statistics = statistics_,
+          .exports = exports_,
           .terminate = std::move(terminate),
       }) {}
 

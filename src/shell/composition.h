@@ -5,6 +5,7 @@
 
 #include "platform/api/platform.h"
 #include "shell/app_delegate.h"
+#include "shell/export_commands.h"
 #include "shell/services.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
@@ -33,6 +34,7 @@ private:
     ThemeController theme_;
     ClockPresenter clock_;
     QtSurfaces surfaces_;
+    ExportCommands exports_;
     std::unique_ptr<StatsPresenter> stats_;  ///< from the first showing of the statistics window on
     QuickStatisticsWindow statistics_;
     AppDelegate delegate_;

@@ -52,6 +52,17 @@ std::string ShellWorld::file(const std::string& name) const {
 ShellWorld::Program::Program(ShellWorld& world)
     : services(world.machine_.platform),
       theme(themes, services.settings, services.broadcaster),
+      exports({
+          .services = services,
+          .files = world.machine_.files,
+          .workspace = world.machine_.workspace,
+          .dialogs = world.surfaces_.dialogs(),
+          .generateReport =
+              [&world](const std::string& path) {
+                  world.reports_.push_back(path);
+                  return false;
+              },
+      }),
       delegate({
           .platform = world.machine_.platform,
           .services = services,
@@ -59,6 +70,7 @@ ShellWorld::Program::Program(ShellWorld& world)
           .theme = theme,
           .surfaces = world.surfaces_,
           .statistics = world.statistics_,
+          .exports = exports,
           .terminate = [&world] { world.terminated_ = true; },
       }) {}
 

@@ -8,6 +8,7 @@
 
 #include "platform/fake/fake_machine.h"
 #include "shell/app_delegate.h"
+#include "shell/export_commands.h"
 #include "shell/services.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
@@ -178,6 +179,7 @@ protected:
     platform::FakeMachine machine_;
     FakeSurfaces surfaces_;
     FakeStatisticsWindow statistics_;
+    std::vector<std::string> reports_;  ///< where the report of the month was to be written
     bool terminated_ = false;
 
     struct Program;
@@ -191,6 +193,7 @@ struct ShellWorld::Program {
     Services services;
     ThemeRegistry themes;
     ThemeController theme;
+    ExportCommands exports;
     AppDelegate delegate;
 };
 

@@ -58,6 +58,7 @@ TEST_F(StatusMenuTest, HasItsRowsInOrder) {
                                       "-",
                                       "Estadísticas…",
                                       "Revelar archivo de datos",
+                                      "Exportar día (CSV)…",
                                       "-",
                                       "Iniciar al arrancar",
                                       "-",
