@@ -3,11 +3,14 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QQuickWindow>
+#include <QTimer>
+#include <chrono>
 
 #include "core/data_directory.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/process_endings.h"
+#include "platform/api/process_memory.h"
 #include "platform/api/running_instance.h"
 #include "shell/composition.h"
 #include "shell/icons/fathom_icons.h"
@@ -15,6 +18,8 @@
 namespace tidewatch {
 
 namespace {
+
+constexpr std::chrono::seconds settlingTime(4);
 
 int& prepared(int& argumentCount) {
     // Without a GPU the software scene graph needs half the memory and a third of the time.
@@ -63,6 +68,8 @@ int Application::run(const platform::Platform& platform) {
     platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
     platform.endings.onSessionEnding([&] { delegate.flushAllStores(); });
     platform.endings.onDisplayLost([&] { delegate.applicationWillTerminate(); });
+    // Most of what the start ran never runs again.
+    QTimer::singleShot(settlingTime, &toolkit_, [&] { platform.memory.giveBackUnused(); });
     const int code = QApplication::exec();
     delegate.applicationWillTerminate();
     platform.endings.onDisplayLost(nullptr);
