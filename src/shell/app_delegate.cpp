@@ -49,12 +49,7 @@ void AppDelegate::applicationShouldHandleReopen() {
     with_.services.days.flush();
     with_.services.apps.flush();
     with_.services.hours.flush();
-    if (with_.statistics != nullptr) {
-        with_.statistics->showWindow();
-    } else {
-        panel_->orderFrontRegardless();
-        with_.services.settings.setWindowVisible(true);
-    }
+    with_.statistics.showWindow();
 }
 
 void AppDelegate::flushAllStores() {
@@ -84,6 +79,7 @@ void AppDelegate::makeCommands() {
         .workspace = with_.platform.workspace,
         .loginItem = with_.platform.loginItem,
         .dialogs = with_.surfaces.dialogs(),
+        .statistics = with_.statistics,
         .refreshStatusBarTitle = [this] { refreshStatusBarTitle(); },
         .terminate = with_.terminate,
     });
@@ -120,19 +116,18 @@ void AppDelegate::applyLayoutChange() {
 }
 
 void AppDelegate::floatingPanelClicked() {
-    if (with_.statistics != nullptr && with_.statistics->isVisible()) {
-        with_.statistics->close();
+    if (with_.statistics.isVisible()) {
+        with_.statistics.close();
         return;
     }
     flushAllStores();
-    if (with_.statistics != nullptr) with_.statistics->showWindow();
+    with_.statistics.showWindow();
 }
 
 void AppDelegate::handleStatusClick(StatusItem::Click click) {
-    const bool canShowStatistics = with_.statistics != nullptr && !with_.statistics->isVisible();
-    if (click == StatusItem::Click::left && canShowStatistics) {
+    if (click == StatusItem::Click::left && !with_.statistics.isVisible()) {
         flushAllStores();
-        with_.statistics->showWindow();
+        with_.statistics.showWindow();
     } else {
         openMenu();
     }
@@ -147,6 +142,7 @@ void AppDelegate::openMenu() {
         .loginItem = with_.platform.loginItem,
         .commands = *commands_,
         .projectCommands = *projectCommands_,
+        .exportCommands = with_.exports,
     }));
 }
 

@@ -7,6 +7,7 @@
 #include "base/signal.h"
 #include "platform/api/main_loop.h"
 #include "platform/api/platform.h"
+#include "shell/export_commands.h"
 #include "shell/floating_panel.h"
 #include "shell/project_commands.h"
 #include "shell/services.h"
@@ -28,8 +29,8 @@ public:
         const ThemeRegistry& themes;
         ThemeController& theme;
         Surfaces& surfaces;
-        /// The statistics window; null as long as there is none.
-        StatisticsWindow* statistics;
+        StatisticsWindow& statistics;
+        ExportCommands& exports;
         /// Ends the program in the ordinary way.
         std::function<void()> terminate;
     };

@@ -1,14 +1,18 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "platform/api/platform.h"
 #include "shell/app_delegate.h"
+#include "shell/export_commands.h"
 #include "shell/services.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
 #include "shell/views/clock_presenter.h"
+#include "shell/views/stats_presenter.h"
 #include "shell/windows/qt_surfaces.h"
+#include "shell/windows/statistics_window.h"
 
 namespace tidewatch {
 
@@ -21,11 +25,18 @@ public:
     [[nodiscard]] AppDelegate& delegate() { return delegate_; }
 
 private:
+    [[nodiscard]] QuickStatisticsWindow::Content statisticsContent();
+    [[nodiscard]] std::unique_ptr<StatsPresenter> makeStats();
+
+    const platform::Platform& platform_;
     Services services_;
     ThemeRegistry themes_;
     ThemeController theme_;
     ClockPresenter clock_;
     QtSurfaces surfaces_;
+    ExportCommands exports_;
+    std::unique_ptr<StatsPresenter> stats_;  ///< from the first showing of the statistics window on
+    QuickStatisticsWindow statistics_;
     AppDelegate delegate_;
 };
 

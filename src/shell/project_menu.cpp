@@ -32,7 +32,7 @@ MenuRow colorMenu(const Project& project, ProjectCommands& commands) {
     return menu;
 }
 
-MenuRow menuOf(const Project& project, bool active, ProjectCommands& to) {
+MenuRow menuOf(const Project& project, bool active, ProjectCommands& to, ExportCommands& exports) {
     const auto id = project.id;
     MenuRow menu{.title = project.name, .checked = active, .swatch = project.color()};
     menu.children = {
@@ -42,6 +42,7 @@ MenuRow menuOf(const Project& project, bool active, ProjectCommands& to) {
         MenuRow::separator(),
         {.title = "Renombrar…", .action = [&to, id] { to.renameProject(id); }},
         colorMenu(project, to),
+        {.title = "Exportar CSV…", .action = [&exports, id] { exports.exportProjectCSV(id); }},
         MenuRow::separator(),
         {.title = "Archivar", .action = [&to, id] { to.archiveProject(id); }},
         {.title = "Borrar…", .action = [&to, id] { to.deleteProject(id); }},
@@ -61,14 +62,15 @@ MenuRow archivedMenu(const std::vector<Project>& archived, ProjectCommands& to) 
 
 }  // namespace
 
-MenuRow projectMenu(const ProjectStore& projects, ProjectCommands& to) {
+MenuRow projectMenu(const ProjectStore& projects, ProjectCommands& to, ExportCommands& exports) {
     MenuRow menu{.title = "Proyecto"};
     const auto active = projects.activeProjectId();
     menu.children.push_back(
         {.title = "(ninguno)", .checked = !active, .action = [&to] { to.switchProject(std::nullopt); }});
     const auto current = projects.activeProjects();
     if (!current.empty()) menu.children.push_back(MenuRow::separator());
-    for (const auto& project : current) menu.children.push_back(menuOf(project, project.id == active, to));
+    for (const auto& project : current)
+        menu.children.push_back(menuOf(project, project.id == active, to, exports));
     menu.children.push_back(MenuRow::separator());
     menu.children.push_back({.title = "Nuevo proyecto…", .action = [&to] { to.newProject(); }});
     if (const auto archived = projects.archivedProjects(); !archived.empty()) {

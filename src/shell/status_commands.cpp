@@ -41,9 +41,13 @@ void StatusCommands::resetToday() {
     to_.services.engine.resetToday();
 }
 
+void StatusCommands::showStats() {
+    writeDay();
+    to_.statistics.showWindow();
+}
+
 void StatusCommands::revealData() {
-    to_.services.days.set(to_.services.engine.todaySeconds(), to_.services.days.today());
-    to_.services.days.flush();
+    writeDay();
     if (const auto shown = to_.workspace.reveal(to_.services.days.dataFilePath()); !shown) {
         to_.dialogs.warn("No se pudo mostrar el archivo de datos", shown.error().message);
     }
@@ -61,6 +65,11 @@ void StatusCommands::toggleLoginItem() {
 
 void StatusCommands::quit() {
     to_.terminate();
+}
+
+void StatusCommands::writeDay() {
+    to_.services.days.set(to_.services.engine.todaySeconds(), to_.services.days.today());
+    to_.services.days.flush();
 }
 
 }  // namespace tidewatch

@@ -24,6 +24,7 @@ public:
         platform::Workspace& workspace;
         platform::LoginItem& loginItem;
         Dialogs& dialogs;
+        StatisticsWindow& statistics;
         std::function<void()> refreshStatusBarTitle;
         std::function<void()> terminate;
     };
@@ -37,6 +38,8 @@ public:
     void toggleVisible();
     void resetToday();
 
+    void showStats();
+
     /// A failure is told in a dialog.
     void revealData();
     void toggleLoginItem();
@@ -44,6 +47,8 @@ public:
     void quit();
 
 private:
+    void writeDay();
+
     Targets to_;
 };
 

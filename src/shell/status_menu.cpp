@@ -109,13 +109,16 @@ MenuRows buildStatusMenu(const StatusMenuSources& from) {
     rows.push_back(sizeMenu(from));
     rows.push_back(idleMenu(from));
     rows.push_back(dayStartMenu(from));
-    rows.push_back(projectMenu(from.services.projects, from.projectCommands));
+    rows.push_back(projectMenu(from.services.projects, from.projectCommands, from.exportCommands));
     rows.push_back(command(
         from.services.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana",
         [&to] { to.toggleVisible(); }, 'h'));
     rows.push_back(command("Reiniciar día", [&to] { to.resetToday(); }));
     rows.push_back(MenuRow::separator());
+    rows.push_back(command(
+        "Estadísticas…", [&to] { to.showStats(); }, 'e'));
     rows.push_back(command("Revelar archivo de datos", [&to] { to.revealData(); }));
+    rows.push_back(command("Exportar día (CSV)…", [&exports = from.exportCommands] { exports.exportCSV(); }));
     rows.push_back(MenuRow::separator());
     rows.push_back(
         choice("Iniciar al arrancar", from.loginItem.isEnabled(), [&to] { to.toggleLoginItem(); }));

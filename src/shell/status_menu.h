@@ -2,6 +2,7 @@
 
 #include "platform/api/input_activity.h"
 #include "platform/api/login_item.h"
+#include "shell/export_commands.h"
 #include "shell/menu_row.h"
 #include "shell/project_commands.h"
 #include "shell/services.h"
@@ -20,6 +21,7 @@ struct StatusMenuSources {
     const platform::LoginItem& loginItem;
     StatusCommands& commands;
     ProjectCommands& projectCommands;
+    ExportCommands& exportCommands;
 };
 
 /// The status menu as it stands at this moment.

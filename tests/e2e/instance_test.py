@@ -10,7 +10,7 @@ from harness.world import World, sleep_until
 
 
 class SecondStart(unittest.TestCase):
-    def test_it_brings_the_hidden_clock_of_the_first_up_writes_its_day_and_ends_with_0(self):
+    def test_it_brings_the_statistics_of_the_first_up_writes_its_day_and_ends_with_0(self):
         with World("second-start") as world:
             world.home.write_settings(windowVisible="false")
             first = world.start_program(wait_for_clock=False)
@@ -20,7 +20,8 @@ class SecondStart(unittest.TestCase):
 
             second = world.start_program(wait_for_clock=False)
             self.assertEqual(second.wait(5), 0)
-            wait_until(world.clock, "the clock")
+            wait_until(world.statistics, "the statistics window")
+            self.assertIsNone(world.clock())
             self.assertTrue(first.is_running())
             wait_until(lambda: world.home.day_seconds() >= 2, "the day on disk", 2)
 

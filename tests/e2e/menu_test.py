@@ -34,10 +34,14 @@ class Opening(unittest.TestCase):
             world.screenshot("menu")
             menu.close()
 
-    def test_a_left_click_on_the_tray_icon_opens_it(self):
+    def test_a_left_click_on_the_tray_icon_opens_it_while_the_statistics_are_open(self):
         with running("left-click") as (world, menu):
+            menu.open_from_tray()
+            menu.choose(rows.STATISTICS)
+            wait_until(world.statistics, "the statistics window")
             menu.open_from_tray(LEFT)
             menu.close()
+            self.assertIsNotNone(world.statistics())
 
     def test_a_right_click_on_the_clock_opens_it(self):
         with running("clock-click") as (world, menu):

@@ -70,36 +70,27 @@ TEST_F(AppDelegateTest, TheRefreshSetsTheRunningTotalUnderTheClocksKeyBetweenThe
 }
 
 TEST_F(AppDelegateTest, ALeftClickOnTheStatusItemWritesTheStoresAndOpensTheStatisticsWindow) {
-    FakeStatisticsWindow statistics;
-    launch(&statistics);
+    launch();
     runFor(5s);
     surfaces_.statusItem().click(StatusItem::Click::left);
-    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_TRUE(statistics_.isVisible());
     EXPECT_TRUE(surfaces_.statusItem().menus().empty());
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 5\n}");
     EXPECT_EQ(file("apps.json"), "{\n  \"2026-01-15\" : {\n    \"org.example.Editor\" : 5\n  }\n}");
 }
 
 TEST_F(AppDelegateTest, ALeftClickWithTheStatisticsWindowOpenShowsTheMenuAndDoesNotCloseIt) {
-    FakeStatisticsWindow statistics;
-    launch(&statistics);
-    statistics.showWindow();
+    launch();
+    statistics_.showWindow();
     surfaces_.statusItem().click(StatusItem::Click::left);
-    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_TRUE(statistics_.isVisible());
     EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
 }
 
 TEST_F(AppDelegateTest, ARightClickOpensTheMenu) {
-    FakeStatisticsWindow statistics;
-    launch(&statistics);
-    surfaces_.statusItem().click(StatusItem::Click::right);
-    EXPECT_FALSE(statistics.isVisible());
-    EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
-}
-
-TEST_F(AppDelegateTest, WithoutAStatisticsWindowALeftClickOpensTheMenu) {
     launch();
-    surfaces_.statusItem().click(StatusItem::Click::left);
+    surfaces_.statusItem().click(StatusItem::Click::right);
+    EXPECT_FALSE(statistics_.isVisible());
     EXPECT_EQ(surfaces_.statusItem().menus().size(), 1U);
 }
 
@@ -110,42 +101,39 @@ TEST_F(AppDelegateTest, ARightClickOnThePanelOpensTheMenu) {
 }
 
 TEST_F(AppDelegateTest, AClickOnThePanelWritesTheStoresAndOpensTheStatisticsWindow) {
-    FakeStatisticsWindow statistics;
-    launch(&statistics);
+    launch();
     runFor(3s);
     clickPanel();
-    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_TRUE(statistics_.isVisible());
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 3\n}");
 }
 
 TEST_F(AppDelegateTest, AClickOnThePanelWhileTheStatisticsWindowIsVisibleClosesItAndWritesNothing) {
-    FakeStatisticsWindow statistics;
-    launch(&statistics);
+    launch();
     runFor(3s);
-    statistics.showWindow();
+    statistics_.showWindow();
     const int writes = machine_.files.writeCount();
     clickPanel();
-    EXPECT_FALSE(statistics.isVisible());
+    EXPECT_FALSE(statistics_.isVisible());
     EXPECT_EQ(machine_.files.writeCount(), writes);
 }
 
 TEST_F(AppDelegateTest, AReopenShowsTheStatisticsWindowWhetherOrNotItIsVisible) {
-    FakeStatisticsWindow statistics;
-    launch(&statistics);
+    launch();
     runFor(2s);
     program_->delegate.applicationShouldHandleReopen();
-    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_TRUE(statistics_.isVisible());
     program_->delegate.applicationShouldHandleReopen();
-    EXPECT_TRUE(statistics.isVisible());
+    EXPECT_TRUE(statistics_.isVisible());
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 2\n}");
 }
 
-TEST_F(AppDelegateTest, WithoutAStatisticsWindowAReopenBringsAHiddenPanelUp) {
+TEST_F(AppDelegateTest, AReopenLeavesAHiddenPanelHidden) {
     machine_.preferences.setBoolean("windowVisible", false);
     launch();
     program_->delegate.applicationShouldHandleReopen();
-    EXPECT_TRUE(surfaces_.panel().isVisible());
-    EXPECT_TRUE(program_->services.settings.windowVisible());
+    EXPECT_TRUE(statistics_.isVisible());
+    EXPECT_FALSE(surfaces_.panel().isVisible());
 }
 
 TEST_F(AppDelegateTest, TheEndWritesEverythingAndARestartContinuesTheDay) {

@@ -47,8 +47,8 @@ TEST_F(ProjectMenuTest, ProjectsInTheOrderOfCreationWithTheActiveOneChecked) {
     projects().setActive(projects().addProject("Dos").id);
     EXPECT_EQ(titles(rowsAt({"Proyecto"})),
               (Titles{"(ninguno)", "-", "Uno", "✓Dos", "-", "Nuevo proyecto…"}));
-    EXPECT_EQ(titles(rowsAt({"Proyecto", "Uno"})),
-              (Titles{"Activar", "-", "Renombrar…", "Cambiar color", "-", "Archivar", "Borrar…"}));
+    EXPECT_EQ(titles(rowsAt({"Proyecto", "Uno"})), (Titles{"Activar", "-", "Renombrar…", "Cambiar color",
+                                                           "Exportar CSV…", "-", "Archivar", "Borrar…"}));
     EXPECT_EQ(titles(rowsAt({"Proyecto", "Dos"}))[0], "✓Activo");
 }
 

@@ -16,10 +16,9 @@ ShellWorld::ShellWorld() : machine_(start, [](const std::string& complaint) { AD
     machine_.workspace.setFrontmost(AppId("org.example.Editor"));
 }
 
-void ShellWorld::launch(StatisticsWindow* statistics) {
+void ShellWorld::launch() {
     program_.reset();
-    program_ =
-        std::make_unique<Program>(machine_.platform, surfaces_, statistics, [this] { terminated_ = true; });
+    program_ = std::make_unique<Program>(*this);
     program_->delegate.applicationDidFinishLaunching();
 }
 
@@ -50,18 +49,29 @@ std::string ShellWorld::file(const std::string& name) const {
     return machine_.files.content(dataDirectory(machine_.files) + "/" + name).value_or("(none)");
 }
 
-ShellWorld::Program::Program(const platform::Platform& platform, Surfaces& surfaces,
-                             StatisticsWindow* statistics, std::function<void()> terminate)
-    : services(platform),
+ShellWorld::Program::Program(ShellWorld& world)
+    : services(world.machine_.platform),
       theme(themes, services.settings, services.broadcaster),
+      exports({
+          .services = services,
+          .files = world.machine_.files,
+          .workspace = world.machine_.workspace,
+          .dialogs = world.surfaces_.dialogs(),
+          .generateReport =
+              [&world](const std::string& path) {
+                  world.reports_.push_back(path);
+                  return false;
+              },
+      }),
       delegate({
-          .platform = platform,
+          .platform = world.machine_.platform,
           .services = services,
           .themes = themes,
           .theme = theme,
-          .surfaces = surfaces,
-          .statistics = statistics,
-          .terminate = std::move(terminate),
+          .surfaces = world.surfaces_,
+          .statistics = world.statistics_,
+          .exports = exports,
+          .terminate = [&world] { world.terminated_ = true; },
       }) {}
 
 }  // namespace tidewatch

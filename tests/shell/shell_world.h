@@ -8,6 +8,7 @@
 
 #include "platform/fake/fake_machine.h"
 #include "shell/app_delegate.h"
+#include "shell/export_commands.h"
 #include "shell/services.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
@@ -170,13 +171,15 @@ protected:
     bool choose(const std::string& title);
 
     /// Builds the program and lets it launch.
-    void launch(StatisticsWindow* statistics = nullptr);
+    void launch();
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
     [[nodiscard]] static bool chooseIn(const MenuRows& rows, const std::string& title);
     [[nodiscard]] std::string file(const std::string& name) const;
 
     platform::FakeMachine machine_;
     FakeSurfaces surfaces_;
+    FakeStatisticsWindow statistics_;
+    std::vector<std::string> reports_;  ///< where the report of the month was to be written
     bool terminated_ = false;
 
     struct Program;
@@ -185,12 +188,12 @@ protected:
 
 /// What the composition root builds, on the fakes.
 struct ShellWorld::Program {
-    Program(const platform::Platform& platform, Surfaces& surfaces, StatisticsWindow* statistics,
-            std::function<void()> terminate);
+    explicit Program(ShellWorld& world);
 
     Services services;
     ThemeRegistry themes;
     ThemeController theme;
+    ExportCommands exports;
     AppDelegate delegate;
 };
 

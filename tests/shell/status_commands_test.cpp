@@ -54,6 +54,14 @@ TEST_F(StatusCommandsTest, ResetTodayPutsTheDayBackOnDiskAtOnce) {
     EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(1));
 }
 
+TEST_F(StatusCommandsTest, ShowStatsWritesTheDayAloneAndShowsTheWindow) {
+    runFor(5s);
+    ASSERT_TRUE(choose("Estadísticas…"));
+    EXPECT_TRUE(statistics_.isVisible());
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 5\n}");
+    EXPECT_EQ(file("apps.json"), "(none)");
+}
+
 TEST_F(StatusCommandsTest, RevealDataWritesTheDayAndShowsItsFile) {
     runFor(5s);
     ASSERT_TRUE(choose("Revelar archivo de datos"));

@@ -56,7 +56,9 @@ TEST_F(StatusMenuTest, HasItsRowsInOrder) {
                                       "Ocultar ventana",
                                       "Reiniciar día",
                                       "-",
+                                      "Estadísticas…",
                                       "Revelar archivo de datos",
+                                      "Exportar día (CSV)…",
                                       "-",
                                       "Iniciar al arrancar",
                                       "-",
@@ -104,6 +106,7 @@ TEST_F(StatusMenuTest, UncategorisedTimeHasARowFromAMinuteOn) {
 TEST_F(StatusMenuTest, KeyEquivalents) {
     const auto rows = menu();
     EXPECT_EQ(row(rows, "Ocultar ventana").keyEquivalent, 'h');
+    EXPECT_EQ(row(rows, "Estadísticas…").keyEquivalent, 'e');
     EXPECT_EQ(row(rows, "Salir").keyEquivalent, 'q');
     EXPECT_EQ(row(rows, "Reiniciar día").keyEquivalent, std::nullopt);
 }

@@ -39,7 +39,7 @@ Row {
             text: root.labels[index]
             hoverEnabled: true
             // One stop of the tabulator for all: the current one.
-            focusPolicy: current ? Qt.StrongFocus : Qt.ClickFocus
+            focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             Accessible.role: Accessible.PageTab
             Accessible.name: text
             Accessible.selectable: true

@@ -63,6 +63,8 @@ Item {
             showFocused();
     }
 
+    Accessible.role: Accessible.Pane
+    Accessible.focusable: overflows
     activeFocusOnTab: overflows
     clip: true
 

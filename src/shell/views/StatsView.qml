@@ -65,6 +65,7 @@ FocusScope {
                 model: root.presenter.tabIndex === 0 ? 1 : 0
                 delegate: OverviewTab {
                     anchors.fill: parent
+                    Accessible.name: root.presenter.tabs[0]
                     padding: 28
                     presenter: root.presenter.overview
                     insights: root.presenter.insights
@@ -74,6 +75,7 @@ FocusScope {
                 model: root.presenter.tabIndex === 1 ? 1 : 0
                 delegate: GoalsTab {
                     anchors.fill: parent
+                    Accessible.name: root.presenter.tabs[1]
                     padding: 28
                     presenter: root.presenter.goals
                 }
@@ -82,6 +84,7 @@ FocusScope {
                 model: root.presenter.tabIndex === 2 ? 1 : 0
                 delegate: DetailsTab {
                     anchors.fill: parent
+                    Accessible.name: root.presenter.tabs[2]
                     padding: 28
                     presenter: root.presenter.details
                 }
@@ -90,6 +93,7 @@ FocusScope {
                 model: root.presenter.tabIndex === 3 ? 1 : 0
                 delegate: TimesheetTab {
                     anchors.fill: parent
+                    Accessible.name: root.presenter.tabs[3]
                     padding: 28
                     presenter: root.presenter.timesheet
                 }
@@ -98,6 +102,7 @@ FocusScope {
                 model: root.presenter.tabIndex === 4 ? 1 : 0
                 delegate: ProjectsTab {
                     anchors.fill: parent
+                    Accessible.name: root.presenter.tabs[4]
                     padding: 28
                     presenter: root.presenter.projects
                 }

@@ -45,7 +45,7 @@ void QtSurfaces::registerFonts() {
 
 std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
     QuickPanelWindow::Content content{
-        .item = makeClock(),
+        .item = makeView("ContentView", clock_),
         .cornerRadius =
             [this](PanelSize panel) {
                 const auto& theme = theme_.active();
@@ -63,18 +63,23 @@ std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
     return std::make_unique<TrayStatusItem>(theme_);
 }
 
-std::unique_ptr<QQuickItem> QtSurfaces::makeClock() {
+std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject& presenter) {
     QQmlComponent component(&engine_);
-    component.setData("import Tidewatch.Shell\nContentView {}", QUrl());
+    component.setData("import Tidewatch.Shell\n" + name + " {}", QUrl());
     if (!component.isReady()) throw std::runtime_error(component.errorString().toStdString());
     // The engine knows the style module from the import on.
     Style::of(engine_)->follow(theme_);
-    const QVariantMap properties{{"presenter", QVariant::fromValue(&clock_)}};
+    const QVariantMap properties{{"presenter", QVariant::fromValue(&presenter)}};
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
     auto* item = qobject_cast<QQuickItem*>(object.get());
     if (item == nullptr) throw std::runtime_error(component.errorString().toStdString());
     static_cast<void>(object.release());
     return std::unique_ptr<QQuickItem>(item);
+}
+
+void QtSurfaces::forgetViews() {
+    engine_.collectGarbage();
+    engine_.trimComponentCache();
 }
 
 void QtSurfaces::popUpMenu(const MenuRows& rows, platform::Point at) {

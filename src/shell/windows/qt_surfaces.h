@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QMenu>
 #include <QPointer>
 #include <QQmlEngine>
@@ -28,13 +29,19 @@ public:
     void popUpMenu(const MenuRows& rows, platform::Point at) override;
     void showHint(const std::string& text) override;
 
+    /// Makes a view of the module of the shell anew; `presenter` must outlive it. Throws std::runtime_error
+    /// if the module has no such view.
+    [[nodiscard]] std::unique_ptr<QQuickItem> makeView(const QByteArray& name, QObject& presenter);
+
+    /// Frees what is kept for views that may never be made again.
+    void forgetViews();
+
 private:
     void warn(const std::string& title, const std::string& text) override;
     void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) override;
     void confirm(const Confirmation& question, std::function<void()> accepted) override;
     void chooseSaveLocation(const SaveRequest& request,
                             std::function<void(std::string path)> accepted) override;
-    [[nodiscard]] std::unique_ptr<QQuickItem> makeClock();
 
     const platform::Platform& platform_;
     ThemeController& theme_;

@@ -1,9 +1,17 @@
 #include "shell/windows/save_dialog.h"
 
+#include <QAbstractItemView>
+#include <QChildEvent>
+#include <QCompleter>
 #include <QFileDialog>
 #include <QFont>
 #include <QGuiApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListView>
 #include <QLocale>
+#include <QPushButton>
+#include <QTreeView>
 #include <QWindow>
 #include <utility>
 
@@ -12,6 +20,10 @@
 namespace tidewatch {
 
 namespace {
+
+constexpr QSize dialogSize(780, 480);
+constexpr int placesWidth = 150;
+constexpr int leastColumnWidth = 90;
 
 /// How a kind of file is told apart.
 struct FileType {
@@ -33,6 +45,42 @@ QFont dialogFont() {
     QFont font("Inter");
     font.setPixelSize(13);
     return font;
+}
+
+void wear(QWidget& widget, const DashboardStyle& style) {
+    widget.setPalette(dialogPalette(style));
+    widget.setFont(dialogFont());
+    for (auto* button : widget.findChildren<QPushButton*>()) button->setIcon({});
+}
+
+/// Puts the theme on the questions of a dialog, which take nothing from it as other widgets would.
+class QuestionTailor final : public QObject {
+public:
+    QuestionTailor(QObject& dialog, const DashboardStyle& style) : QObject(&dialog), style_(style) {
+        dialog.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ChildPolished) {
+            auto* child = static_cast<QChildEvent*>(event)->child();
+            if (auto* question = qobject_cast<QDialog*>(child)) wear(*question, style_);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    const DashboardStyle style_;
+};
+
+/// Those parts that the toolkit's own dialog alone has.
+void wearInside(QFileDialog& dialog, const DashboardStyle& style) {
+    if (auto* places = dialog.findChild<QListView*>("sidebar")) places->setMinimumWidth(placesWidth);
+    if (auto* files = dialog.findChild<QTreeView*>("treeView")) {
+        files->header()->setStretchLastSection(true);
+        files->header()->setMinimumSectionSize(leastColumnWidth);
+    }
+    const auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    if (name != nullptr && name->completer() != nullptr) wear(*name->completer()->popup(), style);
 }
 
 void putWordsOn(QFileDialog& dialog) {
@@ -61,9 +109,11 @@ QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(type.extension);
-    dialog->setPalette(dialogPalette(style));
-    dialog->setFont(dialogFont());
     putWordsOn(*dialog);
+    wear(*dialog, style);
+    wearInside(*dialog, style);
+    new QuestionTailor(*dialog, style);
+    dialog->resize(dialogSize);
     dialog->selectFile(QString::fromStdString(request.proposedName));
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, std::move(accepted));
     placeAbove(*dialog, QGuiApplication::focusWindow());

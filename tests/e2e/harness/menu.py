@@ -8,7 +8,9 @@ from harness.waiting import wait_until
 from harness.world import CLOCK_CLASS
 
 # The rows that can be chosen, from the top.
-THEME, SIZE, IDLE, DAY_START, PROJECT, TOGGLE_VISIBLE, RESET, REVEAL, LOGIN_ITEM, QUIT = range(10)
+(
+    THEME, SIZE, IDLE, DAY_START, PROJECT, TOGGLE_VISIBLE, RESET, STATISTICS, REVEAL, EXPORT_DAY, LOGIN_ITEM, QUIT,
+) = range(12)
 
 THEMES = ("ochre", "editorial", "minimal", "hacker", "liquid")
 SIZES = (0.1, 0.25, 0.5, 0.75, 1.0, 5.0)

@@ -19,6 +19,7 @@ WIDTH, HEIGHT = 1280, 800
 BACKGROUND = (0x2F, 0x48, 0x58)
 CLOCK_TITLE = "Tidewatch"
 CLOCK_CLASS = "tidewatch"
+STATISTICS_TITLE = "FATHOM · Estadísticas"
 
 PROGRAM = os.environ.get("TIDEWATCH_PROGRAM", "")
 ARTEFACTS = Path(os.environ.get("TIDEWATCH_E2E_ARTEFACTS", tempfile.gettempdir() + "/tidewatch-e2e"))
@@ -205,6 +206,10 @@ class World:
             if window.window_class == CLOCK_CLASS and window.title == CLOCK_TITLE and window.id in managed:
                 return window
         return None
+
+    def statistics(self):
+        """The statistics window, None while it is not on the screen."""
+        return self.screen.window(title=STATISTICS_TITLE)
 
     def check_log(self):
         """Fails on any line that a program wrote and the test did not announce."""

@@ -13,7 +13,6 @@
 namespace tidewatch {
 namespace {
 
-
 struct KnownApp {
     const char* id;
     const char* name;
@@ -69,7 +68,7 @@ void StatsWorld::bookProject(const Uuid& project, const char* app, const DayKey&
 void StatsWorld::bookBelievableWork() {
     machine_.clock.advance(std::chrono::hours(7) + std::chrono::minutes(43));
     const auto now = std::chrono::floor<std::chrono::days>(machine_.clock.now());
-    for (int back = 60; back > 0; --back) {
+    for (int back = 40; back > 0; --back) {
         const auto date = now - std::chrono::days(back);
         const bool weekend = std::chrono::weekday(date).iso_encoding() > 5;
         if (!weekend || back % 5 == 0) bookDay(dayKeyOf(date), back);
@@ -145,7 +144,14 @@ void StatsScene::show(QSize size) {
 }
 
 QQuickItem* StatsScene::item(const QString& name) const {
-    return view_->findChild<QQuickItem*>(name);
+    // Along what is seen: the rows of a list are nobody's children but the view's.
+    QList<QQuickItem*> open{view_.get()};
+    while (!open.isEmpty()) {
+        auto* found = open.takeFirst();
+        if (found->objectName() == name) return found;
+        open.append(found->childItems());
+    }
+    return nullptr;
 }
 
 QImage StatsScene::picture() {

@@ -28,7 +28,7 @@ public:
     /// The same in the project's time.
     void bookProject(const Uuid& project, const char* app, const DayKey& day, std::int64_t seconds);
 
-    /// A quarter of a year of believable work that ends today, Thursday the 15th of January, in the
+    /// Some weeks of believable work that end today, Thursday the 15th of January, in the
     /// afternoon.
     void bookBelievableWork();
 

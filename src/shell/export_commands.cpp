@@ -1,0 +1,57 @@
+#include "shell/export_commands.h"
+
+#include <utility>
+
+namespace tidewatch {
+
+ExportCommands::ExportCommands(Targets targets)
+    : to_(std::move(targets)),
+      csv_(to_.services.apps, to_.services.projectTime, to_.services.categories, to_.services.appInfo) {}
+
+void ExportCommands::exportCSV() {
+    auto& services = to_.services;
+    const auto day = services.days.today();
+    services.days.set(services.engine.todaySeconds(), day);
+    services.days.flush();
+    services.apps.flush();
+    const SaveRequest request{
+        .title = "Exportar día",
+        .proposedName = CsvExport::fileName(day),
+        .kind = SaveKind::csv,
+    };
+    to_.dialogs.chooseSaveLocation(request,
+                                   [this, day](const std::string& path) { write(path, csv_.day(day)); });
+}
+
+void ExportCommands::exportProjectCSV(const Uuid& id) {
+    const auto project = to_.services.projects.project(id);
+    if (!project) return;
+    to_.services.projectTime.flush();
+    const SaveRequest request{
+        .title = "Exportar proyecto",
+        .proposedName = CsvExport::fileName(*project),
+        .kind = SaveKind::csv,
+    };
+    to_.dialogs.chooseSaveLocation(
+        request, [this, project = *project](const std::string& path) { write(path, csv_.project(project)); });
+}
+
+void ExportCommands::exportReport() {
+    const SaveRequest request{
+        .title = "Guardar reporte",
+        .proposedName = "fathom-reporte.pdf",
+        .kind = SaveKind::pdf,
+    };
+    to_.dialogs.chooseSaveLocation(request, [this](const std::string& path) {
+        static_cast<void>(to_.generateReport(path));
+        static_cast<void>(to_.workspace.reveal(path));
+    });
+}
+
+void ExportCommands::write(const std::string& path, const std::string& text) {
+    if (const auto written = to_.files.replaceAtomically(path, text); !written) {
+        to_.dialogs.warn("No se pudo escribir el archivo", written.error().message);
+    }
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,136 @@
+"""The day and a project as files, through the real dialog."""
+
+import unittest
+from contextlib import contextmanager
+
+from harness import menu as rows
+from harness.home import today
+from harness.menu import Menu
+from harness.waiting import stays, wait_until
+from harness.world import World
+
+HEADER = "bundle_id,app_name,category,tier,seconds,hms,percent\n"
+PROJECT = "0A0B0C0D-0000-4000-8000-000000000001"
+PROJECTS = '{"projects": [{"id": "%s", "name": "Corto", "colorHex": "#7BD88F", "archived": false}]}' % PROJECT
+
+
+@contextmanager
+def running(name):
+    with World(f"export-{name}") as world:
+        world.home.write_settings(sizeScale=0.5)
+        world.home.write("today.json", '{"%s": 120}' % today())
+        world.home.write("apps.json", '{"%s": {"a,b": 90, "writer": 30}}' % today())
+        world.home.write("projects.json", PROJECTS)
+        world.home.write("project_time.json", '{"2026-01-05": {"%s": {"writer": 3600}}}' % PROJECT)
+        world.program = world.start_program()
+        yield world, Menu(world)
+
+
+def dialog(world, title):
+    window = wait_until(lambda: world.screen.window(title=title), f"the dialog {title}")
+    wait_until(lambda: world.screen.active_window() == window.id, "the dialog's focus")
+    return window
+
+
+def exported_day(world, menu):
+    menu.open_from_tray()
+    menu.choose(rows.EXPORT_DAY)
+    return dialog(world, "Exportar día")
+
+
+class Day(unittest.TestCase):
+    def test_it_is_written_where_the_dialog_proposes(self):
+        with running("day") as (world, menu):
+            window = exported_day(world, menu)
+            world.screenshot("dialog")
+            world.hands.key("Return")
+            path = world.home.path / f"tidewatch-{today()}.csv"
+            wait_until(path.exists, "the file")
+            self.assertEqual(
+                path.read_text(encoding="utf-8"),
+                HEADER
+                + '"a,b","a,b",Sin categorizar,sincategorizar,90,00:01:30,75.00\n'
+                + "writer,writer,Sin categorizar,sincategorizar,30,00:00:30,25.00\n",
+            )
+            wait_until(lambda: world.screen.window(title=window.title) is None, "the dialog to go")
+
+    def test_it_goes_where_the_user_says_and_gets_its_extension(self):
+        with running("elsewhere") as (world, menu):
+            exported_day(world, menu)
+            world.hands.key("ctrl+a")
+            world.hands.type(str(world.folder / "mine"))
+            world.hands.key("Return")
+            wait_until((world.folder / "mine.csv").exists, "the file")
+
+    def test_escape_writes_nothing(self):
+        with running("escape") as (world, menu):
+            window = exported_day(world, menu)
+            world.hands.key("Escape")
+            wait_until(lambda: world.screen.window(title=window.title) is None, "the dialog to go")
+            self.assertEqual(list(world.home.path.glob("*.csv")), [])
+
+    def test_a_file_that_is_there_is_replaced_after_a_question_in_spanish(self):
+        with running("replace") as (world, menu):
+            path = world.home.path / f"tidewatch-{today()}.csv"
+            path.write_text("old", encoding="utf-8")
+            exported_day(world, menu)
+            world.hands.key("Return")
+            wait_until(lambda: len(popups(world)) > 1, "the question")
+            world.screenshot("question")
+            self.assertEqual(path.read_text(encoding="utf-8"), "old")
+            world.hands.key("alt+s")
+            wait_until(lambda: path.read_text(encoding="utf-8").startswith(HEADER), "the new file")
+
+    def test_a_place_that_is_gone_meanwhile_is_told(self):
+        with running("gone") as (world, menu):
+            documents = world.home.path / "Documents"
+            documents.mkdir()
+            exported_day(world, menu)
+            documents.rmdir()
+            world.hands.key("Return")
+            dialog(world, "No se pudo escribir el archivo")
+            world.screenshot("alert")
+            world.hands.key("Return")
+            stays(world.program.is_running, "the program", 0.5)
+
+    def test_the_clock_counts_on_while_the_dialog_is_open(self):
+        with running("counting") as (world, menu):
+            exported_day(world, menu)
+            before = world.screen.grab(world.clock().frame)
+            wait_until(lambda: world.screen.grab(world.clock().frame) != before, "the clock to count", 3)
+
+
+def popups(world):
+    """The program's managed windows beside the clock."""
+    clock = world.clock()
+    return [
+        window
+        for window in world.screen.windows()
+        if window.id in world.screen.managed()
+        and window.window_class == clock.window_class
+        and window.id != clock.id
+    ]
+
+
+class Project(unittest.TestCase):
+    def test_its_whole_history_is_written(self):
+        with running("project") as (world, menu):
+            menu.open_from_tray()
+            world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Right")
+            wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
+            world.hands.key("Down", "Down", "Down", "Return")
+            dialog(world, "Exportar proyecto")
+            world.hands.key("Return")
+            path = world.home.path / "tidewatch-Corto.csv"
+            wait_until(path.exists, "the file")
+            self.assertEqual(
+                path.read_text(encoding="utf-8"),
+                "date,bundle_id,app_name,category,tier,seconds,hms\n"
+                "2026-01-05,writer,writer,Sin categorizar,sincategorizar,3600,01:00:00\n"
+                "\n"
+                "# total,,,,,3600,01:00:00\n",
+            )
+
+
+if __name__ == "__main__":
+    unittest.main()

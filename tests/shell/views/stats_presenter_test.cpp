@@ -1,0 +1,394 @@
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+
+#include "shell/views/stats_scene.h"
+#include "tests/support/presenter_probe.h"
+
+namespace tidewatch {
+namespace {
+
+using std::chrono::hours;
+using std::chrono::seconds;
+
+constexpr int overviewTab = 0;
+constexpr int goalsTab = 1;
+constexpr int detailsTab = 2;
+constexpr int timesheetTab = 3;
+constexpr int projectsTab = 4;
+
+struct StatsPresenterTest : testing::Test, StatsWorld {
+    void showTab(int tab) {
+        presenter_.selectTab(tab);
+        appear();
+    }
+
+    [[nodiscard]] DayKey daysAgo(int days) const {
+        return services_.days.dayKey(machine_.clock.now() - hours(24 * days));
+    }
+
+    /// A day with this many productive and distracting seconds.
+    void bookScore(const DayKey& day, int productive, int distracting) {
+        if (productive > 0) book("code", day, 9, 0, productive);
+        if (distracting > 0) book("supertuxkart", day, 9, 10, distracting);
+    }
+
+    [[nodiscard]] std::string comparison() { return presenter_.overview()->comparison().toStdString(); }
+};
+
+void expectGolden(const QObject* presenter, const QString& name) {
+    test::expectGolden(test::probe(*presenter), TIDEWATCH_GOLDEN_FOLDER "/" + name);
+}
+
+// The golden values of every tab.
+
+TEST_F(StatsPresenterTest, OverviewOfAFullDay) {
+    bookBelievableWork();
+    showTab(overviewTab);
+    expectGolden(presenter_.overview(), "overview-full.json");
+}
+
+TEST_F(StatsPresenterTest, OverviewWithoutData) {
+    showTab(overviewTab);
+    expectGolden(presenter_.overview(), "overview-empty.json");
+}
+
+TEST_F(StatsPresenterTest, OverviewOfOneApplication) {
+    book("code", today(), 9, 0, 90);
+    showTab(overviewTab);
+    expectGolden(presenter_.overview(), "overview-one.json");
+}
+
+TEST_F(StatsPresenterTest, InsightsOfAllThreeRanges) {
+    bookBelievableWork();
+    showTab(overviewTab);
+    for (int range = 0; range < 3; ++range) {
+        presenter_.insights()->selectRange(range);
+        expectGolden(presenter_.insights(), QString("insights-%1.json").arg(range));
+    }
+}
+
+TEST_F(StatsPresenterTest, InsightsWithoutData) {
+    showTab(overviewTab);
+    expectGolden(presenter_.insights(), "insights-empty.json");
+}
+
+TEST_F(StatsPresenterTest, GoalsOfAFullDay) {
+    bookBelievableWork();
+    showTab(goalsTab);
+    expectGolden(presenter_.goals(), "goals-full.json");
+}
+
+TEST_F(StatsPresenterTest, GoalsWithoutData) {
+    showTab(goalsTab);
+    expectGolden(presenter_.goals(), "goals-empty.json");
+}
+
+TEST_F(StatsPresenterTest, DetailsOfAFullDay) {
+    bookBelievableWork();
+    showTab(detailsTab);
+    expectGolden(presenter_.details(), "details-full.json");
+}
+
+TEST_F(StatsPresenterTest, TimesheetOfAFullDay) {
+    bookBelievableWork();
+    showTab(timesheetTab);
+    expectGolden(presenter_.timesheet(), "timesheet-full.json");
+}
+
+TEST_F(StatsPresenterTest, ProjectsOfAFullDay) {
+    bookBelievableWork();
+    showTab(projectsTab);
+    expectGolden(presenter_.projects(), "projects-full.json");
+}
+
+// The comparison line.
+
+TEST_F(StatsPresenterTest, WithoutAScoreThereIsNoComparison) {
+    bookScore(daysAgo(1), 100, 100);
+    bookScore(today(), 29, 0);
+    showTab(overviewTab);
+    EXPECT_EQ(comparison(), "");
+}
+
+TEST_F(StatsPresenterTest, YesterdayIsComparedWithFirst) {
+    bookScore(daysAgo(1), 50, 50);
+    bookScore(today(), 75, 25);
+    showTab(overviewTab);
+    EXPECT_EQ(comparison(), "+25% vs ayer");
+    EXPECT_EQ(presenter_.overview()->comparisonColor().name(), "#7bd88f");
+}
+
+TEST_F(StatsPresenterTest, ALowerScoreHasItsOwnMinusSignInTheDistractingColour) {
+    bookScore(daysAgo(1), 75, 25);
+    bookScore(today(), 50, 50);
+    showTab(overviewTab);
+    EXPECT_EQ(comparison(), "-25% vs ayer");
+    EXPECT_EQ(presenter_.overview()->comparisonColor().name(), "#d15757");
+}
+
+TEST_F(StatsPresenterTest, WithoutYesterdayTheMeanOfTheWeekIsComparedWith) {
+    bookScore(daysAgo(3), 50, 50);
+    bookScore(daysAgo(5), 60, 40);
+    bookScore(today(), 75, 25);
+    showTab(overviewTab);
+    EXPECT_EQ(comparison(), "+20% vs prom 7d");
+}
+
+TEST_F(StatsPresenterTest, WithNoPreviousScoreAndNoMeanThereIsNoComparison) {
+    bookScore(today(), 75, 25);
+    showTab(overviewTab);
+    EXPECT_EQ(comparison(), "");
+}
+
+TEST_F(StatsPresenterTest, ADeltaOfZeroPrintsAPlusSignInTheProductiveColour) {
+    bookScore(daysAgo(1), 60, 40);
+    bookScore(today(), 60, 40);
+    showTab(overviewTab);
+    EXPECT_EQ(comparison(), "+0% vs ayer");
+    EXPECT_EQ(presenter_.overview()->comparisonColor().name(), "#7bd88f");
+}
+
+// The hours.
+
+[[nodiscard]] double heightOf(OverviewPresenter* overview, int hour) {
+    return overview->hours()->index(hour).data(RowListModel::rowRole).value<HourBar>().height;
+}
+
+TEST_F(StatsPresenterTest, AQuietDaysBarsStayLow) {
+    book("code", today(), 9, 0, 10);
+    book("code", today(), 10, 0, 30);
+    book("code", today(), 11, 0, 40);
+    showTab(overviewTab);
+    EXPECT_DOUBLE_EQ(heightOf(presenter_.overview(), 9), 0.04);
+    EXPECT_DOUBLE_EQ(heightOf(presenter_.overview(), 10), 0.05);
+    EXPECT_NEAR(heightOf(presenter_.overview(), 11), 40.0 / 600, 1e-9);
+}
+
+TEST_F(StatsPresenterTest, HoursAreLabelledTwelveAtMidnightAndAtNoon) {
+    showTab(overviewTab);
+    const auto label = [&](int hour) {
+        return presenter_.overview()->hours()->index(hour).data(RowListModel::rowRole).value<HourBar>().label;
+    };
+    EXPECT_EQ(label(0), "12a");
+    EXPECT_EQ(label(11), "11a");
+    EXPECT_EQ(label(12), "12p");
+    EXPECT_EQ(label(23), "11p");
+}
+
+// The look back.
+
+TEST_F(StatsPresenterTest, ASessionAcrossMidnightIsOneSession) {
+    const auto yesterday = daysAgo(1);
+    for (int minute : {40, 50}) book("code", yesterday, 23, minute, 600);
+    for (int minute : {0, 10}) book("code", today(), 0, minute, 600);
+    showTab(overviewTab);
+    EXPECT_EQ(presenter_.insights()->sessionLength(), "40m");
+    EXPECT_EQ(presenter_.insights()->sessionDay(), "mié 14 ene");
+    EXPECT_EQ(presenter_.insights()->sessionTimes(), "11:40 pm – 12:20 am");
+}
+
+TEST_F(StatsPresenterTest, ConstancyIsMeasuredAgainstTheDaysBetweenFirstAndLast) {
+    book("code", daysAgo(1), 9, 0, 60);
+    book("code", today(), 9, 0, 60);
+    showTab(overviewTab);
+    const auto tile =
+        presenter_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<InsightTile>();
+    EXPECT_EQ(tile.value, "2/2");
+}
+
+TEST_F(StatsPresenterTest, TheLookBackIsRenewedEveryEightSecondsWhileItIsOnShow) {
+    showTab(overviewTab);
+    book("code", today(), 9, 0, 600);
+    machine_.mainLoop.runFor(seconds(7));
+    EXPECT_FALSE(presenter_.insights()->hasSession());
+    machine_.mainLoop.runFor(seconds(1));
+    EXPECT_TRUE(presenter_.insights()->hasSession());
+    presenter_.selectTab(goalsTab);
+    book("code", today(), 9, 10, 600);
+    machine_.mainLoop.runFor(seconds(16));
+    EXPECT_EQ(presenter_.insights()->sessionLength(), "10m");
+}
+
+// Goals.
+
+TEST_F(StatsPresenterTest, EachStepIsWithinItsRangeAndSavedAtOnce) {
+    showTab(goalsTab);
+    presenter_.goals()->increase("dailyHours");
+    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 6.5);
+    EXPECT_TRUE(machine_.files.readWhole(services_.goals.filePath()).ok());
+    for (int step = 0; step < 40; ++step) presenter_.goals()->increase("dailyHours");
+    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 16);
+    for (int step = 0; step < 40; ++step) presenter_.goals()->decrease("dailyHours");
+    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 1);
+}
+
+struct StepRange {
+    const char* id;
+    double GoalSettings::*goal;
+    double least;
+    double most;
+    double step;
+};
+
+TEST_F(StatsPresenterTest, TheRangesAndStepsOfAllGoals) {
+    showTab(goalsTab);
+    for (const auto& range : {StepRange{"dailyHours", &GoalSettings::dailyHours, 1, 16, 0.5},
+                              StepRange{"dailyProductivity", &GoalSettings::dailyProductivity, 0.3, 1, 0.05},
+                              StepRange{"weeklyHours", &GoalSettings::weeklyHours, 5, 80, 1},
+                              StepRange{"monthlyHours", &GoalSettings::monthlyHours, 20, 320, 5}}) {
+        SCOPED_TRACE(range.id);
+        const double before = services_.goals.settings().*range.goal;
+        presenter_.goals()->decrease(range.id);
+        EXPECT_DOUBLE_EQ(services_.goals.settings().*range.goal, before - range.step);
+        for (int step = 0; step < 100; ++step) presenter_.goals()->increase(range.id);
+        EXPECT_DOUBLE_EQ(services_.goals.settings().*range.goal, range.most);
+        for (int step = 0; step < 100; ++step) presenter_.goals()->decrease(range.id);
+        EXPECT_DOUBLE_EQ(services_.goals.settings().*range.goal, range.least);
+    }
+}
+
+TEST_F(StatsPresenterTest, TheSwitchOfTheNotificationsIsSavedAtOnce) {
+    showTab(goalsTab);
+    presenter_.goals()->setNotificationsEnabled(false);
+    EXPECT_FALSE(services_.goals.settings().notificationsEnabled);
+    EXPECT_NE(machine_.files.readWhole(services_.goals.filePath()).value().find("false"), std::string::npos);
+}
+
+TEST_F(StatsPresenterTest, TheReportIsAskedForByItsButton) {
+    presenter_.goals()->exportReport();
+    EXPECT_EQ(reportsAsked_, 1);
+}
+
+// Details.
+
+TEST_F(StatsPresenterTest, WithAllChipsOffTheTableIsEmpty) {
+    bookBelievableWork();
+    showTab(detailsTab);
+    EXPECT_FALSE(presenter_.details()->isEmpty());
+    for (const auto* tier : {"productivo", "neutral", "distrayendo", "sincategorizar"})
+        presenter_.details()->toggleTier(tier);
+    EXPECT_TRUE(presenter_.details()->isEmpty());
+    EXPECT_EQ(presenter_.details()->emptyText(), "Sin actividad para los filtros seleccionados.");
+}
+
+TEST_F(StatsPresenterTest, TheSearchFindsByNameIdentifierAndCategory) {
+    bookBelievableWork();
+    showTab(detailsTab);
+    for (const auto& [query, count] :
+         {std::pair("  VISUAL studio ", 1), std::pair("org.", 6), std::pair("desarrollo", 2)}) {
+        presenter_.details()->setSearchText(query);
+        EXPECT_EQ(presenter_.details()->rows()->rowCount(), count) << query;
+    }
+}
+
+TEST_F(StatsPresenterTest, ARowAsksForItsMenu) {
+    presenter_.details()->openMenu("code", {10, 20});
+    EXPECT_EQ(menusAsked_, std::vector<std::string>{"code"});
+}
+
+TEST_F(StatsPresenterTest, AReclassificationReachesEveryTabAtTheReloadAfterIt) {
+    bookBelievableWork();
+    showTab(overviewTab);
+    services_.categories.setCategory(Category::games, AppId("code"));
+    appear();
+    EXPECT_NE(presenter_.overview()->score(), "96%");
+    EXPECT_EQ(presenter_.overview()->distracting()->apps()->rowCount(), 3);
+    presenter_.selectTab(detailsTab);
+    EXPECT_EQ(presenter_.details()->rows()->index(0).data(RowListModel::rowRole).value<AppDetails>().tier,
+              "Distrayendo");
+}
+
+// Projects.
+
+TEST_F(StatsPresenterTest, WithoutAnyProjectTheTabSaysHowToMakeOne) {
+    book("code", today(), 9, 0, 600);
+    showTab(projectsTab);
+    EXPECT_TRUE(presenter_.projects()->isEmpty());
+    EXPECT_EQ(presenter_.projects()->emptyTitle(), "Sin proyectos todavía");
+    EXPECT_EQ(presenter_.projects()->emptyText(), "Créa uno desde el menú ⏰ → Proyecto → Nuevo proyecto…");
+}
+
+TEST_F(StatsPresenterTest, WithProjectsButNoRowsTheTabSaysThatNothingIsTaggedYet) {
+    services_.projects.addProject("Web");
+    showTab(projectsTab);
+    EXPECT_EQ(presenter_.projects()->emptyTitle(), "Aún no etiquetas tiempo a ningún proyecto en este día.");
+    EXPECT_EQ(presenter_.projects()->emptyText(), "");
+}
+
+// The window.
+
+TEST_F(StatsPresenterTest, ShowingWritesFourFilesAndReloads) {
+    book("code", today(), 9, 0, 600);
+    bookProject(services_.projects.addProject("Web").id, "code", today(), 10);
+    appear();
+    EXPECT_EQ(presenter_.overview()->productive()->time(), "10m");
+    for (const auto& file :
+         {machine_.todayJson, machine_.appsJson, machine_.hoursJson, machine_.minutesJson}) {
+        EXPECT_TRUE(machine_.files.readWhole(file).ok()) << file;
+    }
+    EXPECT_FALSE(machine_.files.readWhole(machine_.projectTimeJson).ok());
+}
+
+TEST_F(StatsPresenterTest, TodayIsRefreshedEveryTwoSecondsUntilTheWindowCloses) {
+    appear();
+    book("code", today(), 9, 0, 60);
+    machine_.mainLoop.runFor(seconds(2));
+    EXPECT_EQ(presenter_.overview()->productive()->time(), "1m");
+    presenter_.disappear();
+    book("code", today(), 9, 0, 60);
+    machine_.mainLoop.runFor(seconds(10));
+    EXPECT_EQ(presenter_.overview()->productive()->time(), "1m");
+}
+
+TEST_F(StatsPresenterTest, APastDayStandsStill) {
+    appear();
+    presenter_.header()->previousDay();
+    book("code", daysAgo(1), 9, 0, 60);
+    machine_.mainLoop.runFor(seconds(10));
+    EXPECT_EQ(presenter_.overview()->productive()->time(), "0s");
+}
+
+TEST_F(StatsPresenterTest, TheHeadStepsThroughTheDaysButNotIntoTheFuture) {
+    appear();
+    auto& header = *presenter_.header();
+    EXPECT_EQ(header.date(), "jue 15 ene");
+    EXPECT_FALSE(header.canGoForward());
+    header.nextDay();
+    EXPECT_EQ(header.date(), "jue 15 ene");
+    header.previousDay();
+    header.previousDay();
+    EXPECT_EQ(header.date(), "mar 13 ene");
+    EXPECT_TRUE(header.canGoForward());
+    header.nextDay();
+    EXPECT_EQ(header.date(), "mié 14 ene");
+    header.today();
+    EXPECT_EQ(header.date(), "jue 15 ene");
+}
+
+TEST_F(StatsPresenterTest, TheTabsAreThoseThatExist) {
+    EXPECT_EQ(presenter_.tabs(), QStringList({"Overview", "Metas", "Detalle", "Timesheet", "Proyectos"}));
+    presenter_.selectTab(7);
+    presenter_.selectTab(-1);
+    EXPECT_EQ(presenter_.tabIndex(), 0);
+}
+
+TEST_F(StatsPresenterTest, ARefreshChangesOnlyTheRowsThatDiffer) {
+    book("code", today(), 9, 0, 120);
+    book("firefox", today(), 9, 0, 60);
+    showTab(detailsTab);
+    auto* rows = presenter_.details()->rows();
+    QSignalSpy changed(rows, &QAbstractItemModel::dataChanged);
+    QSignalSpy reset(rows, &QAbstractItemModel::modelReset);
+    QSignalSpy inserted(rows, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(rows, &QAbstractItemModel::rowsRemoved);
+    machine_.mainLoop.runFor(seconds(2));
+    EXPECT_EQ(changed.count(), 0);
+    book("thunderbird", today(), 9, 0, 30);
+    machine_.mainLoop.runFor(seconds(2));
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(removed.count() + reset.count(), 0);
+}
+
+}  // namespace
+}  // namespace tidewatch

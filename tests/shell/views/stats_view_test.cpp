@@ -1,0 +1,298 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QCoreApplication>
+#include <QTest>
+
+#include "shell/views/stats_scene.h"
+
+namespace tidewatch {
+namespace {
+
+using std::chrono::seconds;
+
+constexpr int goalsTab = 1;
+constexpr int detailsTab = 2;
+constexpr int timesheetTab = 3;
+
+struct StatsViewTest : testing::Test, StatsScene {
+    StatsViewTest() {
+        bookBelievableWork();
+        appear();
+    }
+    ~StatsViewTest() override {
+        EXPECT_TRUE(viewWarnings_.isEmpty()) << viewWarnings_.join("\n").toStdString();
+    }
+
+    void showTab(int tab, QSize size = {1360, 1000}) {
+        presenter_.selectTab(tab);
+        show(size);
+        settle();
+    }
+
+    static void settle() {
+        for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
+    }
+
+    /// The middle of an item, in pixels of the window.
+    [[nodiscard]] static QPoint middle(const QQuickItem& shown) {
+        return shown.mapToScene({shown.width() / 2, shown.height() / 2}).toPoint();
+    }
+
+    void click(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+        auto* target = item(name);
+        ASSERT_NE(target, nullptr) << qPrintable(name);
+        QTest::mouseClick(&window_, button, {}, middle(*target));
+        settle();
+    }
+
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&window_, key, modifiers);
+        settle();
+    }
+
+    [[nodiscard]] QString textOf(const char* name) const { return item(name)->property("text").toString(); }
+
+    /// Every visible item below `root`, with everything around it visible too.
+    static void collect(QQuickItem& root, QList<QQuickItem*>& found) {
+        if (!root.isVisible()) return;
+        found.append(&root);
+        for (auto* child : root.childItems()) collect(*child, found);
+    }
+};
+
+// Every tab, every theme, every size.
+
+TEST_F(StatsViewTest, EveryTabLoadsInEveryThemeWithoutAWarning) {
+    for (const auto& theme : themes_.themes()) {
+        theme_.switchTo(theme.id);
+        for (int tab = 0; tab < presenter_.tabs().size(); ++tab) {
+            SCOPED_TRACE(theme.id + " " + presenter_.tabs()[tab].toStdString());
+            showTab(tab);
+            EXPECT_EQ(picture().size(), QSize(1360, 1000));
+        }
+    }
+}
+
+TEST_F(StatsViewTest, NothingIsCutOffAtTheSmallestSizeButTheNamesOfApplications) {
+    QStringList names;
+    for (const auto& app : services_.apps.aggregate(std::array{today()})) {
+        names.append(QString::fromStdString(services_.appInfo.info(app.app).name));
+    }
+    for (int tab = 0; tab < presenter_.tabs().size(); ++tab) {
+        SCOPED_TRACE(presenter_.tabs()[tab].toStdString());
+        showTab(tab, {820, 560});
+        QList<QQuickItem*> shown;
+        collect(*view_, shown);
+        for (const auto* found : shown) {
+            const auto words = found->property("text").toString();
+            if (words.isEmpty() || names.contains(words)) continue;
+            EXPECT_FALSE(found->property("truncated").toBool()) << qPrintable(words);
+            const auto place = found->mapRectToScene({0, 0, found->width(), found->height()});
+            EXPECT_GE(place.left(), 0) << qPrintable(words);
+            EXPECT_LE(place.right(), 820) << qPrintable(words);
+        }
+    }
+}
+
+TEST_F(StatsViewTest, NoTwoTextsOverlapAtEitherSize) {
+    for (const auto size : {QSize(820, 560), QSize(1360, 1000)}) {
+        for (int tab = 0; tab < presenter_.tabs().size(); ++tab) {
+            SCOPED_TRACE(presenter_.tabs()[tab].toStdString());
+            showTab(tab, size);
+            QList<QQuickItem*> shown;
+            collect(*view_, shown);
+            QList<std::pair<QRectF, QString>> texts;
+            for (const auto* found : shown) {
+                if (!found->inherits("QQuickText") || found->property("text").toString().isEmpty()) continue;
+                const double width = found->property("contentWidth").toDouble();
+                const double height = found->property("contentHeight").toDouble();
+                const auto place = found->mapRectToScene({(found->width() - width) / 2, 0, width, height});
+                texts.append({place.adjusted(1, 2, -1, -2), found->property("text").toString()});
+            }
+            for (qsizetype one = 0; one < texts.size(); ++one) {
+                for (qsizetype other = one + 1; other < texts.size(); ++other) {
+                    // The head stays where it is while what lies below it scrolls away under it.
+                    if (texts[other].first.bottom() < 115) continue;
+                    EXPECT_FALSE(texts[one].first.intersects(texts[other].first))
+                        << qPrintable(texts[one].second) << " and " << qPrintable(texts[other].second);
+                }
+            }
+        }
+    }
+}
+
+// Working it.
+
+TEST_F(StatsViewTest, AClickOnATabAndItsKeyShowIt) {
+    show();
+    settle();
+    const auto tabs = item("tabs")->childItems();
+    QTest::mouseClick(&window_, Qt::LeftButton, {}, middle(*tabs.at(goalsTab)));
+    settle();
+    EXPECT_EQ(presenter_.tabIndex(), goalsTab);
+    EXPECT_NE(item("report"), nullptr);
+    key(Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(presenter_.tabIndex(), detailsTab);
+    EXPECT_NE(item("search"), nullptr);
+    EXPECT_EQ(item("report"), nullptr);
+    key(Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(presenter_.tabIndex(), 0);
+}
+
+TEST_F(StatsViewTest, ArrowsGoFromTabToTab) {
+    show();
+    settle();
+    item("tabs")->childItems().at(0)->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Right);
+    key(Qt::Key_Right);
+    EXPECT_EQ(presenter_.tabIndex(), 2);
+    key(Qt::Key_Left);
+    EXPECT_EQ(presenter_.tabIndex(), 1);
+}
+
+TEST_F(StatsViewTest, TheHeadStepsThroughTheDays) {
+    show();
+    settle();
+    EXPECT_EQ(textOf("date"), "jue 15 ene");
+    EXPECT_FALSE(item("nextDay")->isEnabled());
+    click("previousDay");
+    EXPECT_EQ(textOf("date"), "mié 14 ene");
+    EXPECT_TRUE(item("nextDay")->isEnabled());
+    click("today");
+    EXPECT_EQ(textOf("date"), "jue 15 ene");
+}
+
+TEST_F(StatsViewTest, TheRangeIsPicked) {
+    show();
+    settle();
+    auto* scroll = item("session");
+    ASSERT_NE(scroll, nullptr);
+    const auto week = textOf("sessionDay");
+    presenter_.insights()->selectRange(2);
+    settle();
+    EXPECT_EQ(item("ranges")->property("currentIndex").toInt(), 2);
+    EXPECT_EQ(textOf("sessionDay"), presenter_.insights()->sessionDay());
+    EXPECT_FALSE(week.isEmpty());
+}
+
+TEST_F(StatsViewTest, AStepperChangesItsGoalByClickAndByKey) {
+    showTab(goalsTab);
+    auto* stepper = item("dailyHours");
+    ASSERT_NE(stepper, nullptr);
+    QTest::mouseClick(&window_, Qt::LeftButton, {}, middle(*stepper) + QPoint(15, 0));
+    settle();
+    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 6.5);
+    item("dailyHours")->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Down);
+    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 6);
+    EXPECT_EQ(item("dailyHours"), stepper) << "the row was built anew";
+}
+
+TEST_F(StatsViewTest, TheSwitchAndTheReportButtonWork) {
+    showTab(goalsTab);
+    item("notifications")->childItems().first()->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Space);
+    EXPECT_FALSE(services_.goals.settings().notificationsEnabled);
+    click("report");
+    EXPECT_EQ(reportsAsked_, 1);
+}
+
+TEST_F(StatsViewTest, ChipsAndSearchFilterTheTable) {
+    showTab(detailsTab);
+    const int all = presenter_.details()->rows()->rowCount();
+    click("productivo");
+    EXPECT_LT(presenter_.details()->rows()->rowCount(), all);
+    click("productivo");
+    EXPECT_EQ(presenter_.details()->rows()->rowCount(), all);
+    click("search");
+    for (const auto letter : QString("firef")) QTest::keyClick(&window_, letter.toLatin1());
+    settle();
+    EXPECT_EQ(presenter_.details()->rows()->rowCount(), 1);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(presenter_.details()->rows()->rowCount(), all);
+}
+
+TEST_F(StatsViewTest, TheRightButtonAndTheKeyboardAskForARowsMenu) {
+    showTab(detailsTab);
+    click("firefox", Qt::RightButton);
+    ASSERT_EQ(menusAsked_, std::vector<std::string>{"firefox"});
+    item("code")->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Return);
+    key(Qt::Key_Down);
+    key(Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(menusAsked_, (std::vector<std::string>{"firefox", "code", "firefox"}));
+}
+
+TEST_F(StatsViewTest, EveryControlIsReachedByTheTabulator) {
+    for (int tab = 0; tab < presenter_.tabs().size(); ++tab) {
+        SCOPED_TRACE(presenter_.tabs()[tab].toStdString());
+        showTab(tab);
+        window_.requestActivate();
+        QList<QQuickItem*> stops;
+        for (int press = 0; press < 40; ++press) {
+            QTest::keyClick(&window_, Qt::Key_Tab);
+            auto* stop = window_.activeFocusItem();
+            if (stop == nullptr || stops.contains(stop)) break;
+            stops.append(stop);
+            const auto* accessible = QAccessible::queryAccessibleInterface(stop);
+            ASSERT_NE(accessible, nullptr) << stop->metaObject()->className();
+        }
+        // At least the day's buttons, the tabs and what the tab itself has.
+        EXPECT_GE(stops.size(), 3);
+    }
+}
+
+// Refreshing.
+
+TEST_F(StatsViewTest, ARefreshKeepsScrollFocusAndRows) {
+    showTab(detailsTab, {820, 560});
+    auto* row = item("firefox");
+    ASSERT_NE(row, nullptr);
+    row->forceActiveFocus(Qt::TabFocusReason);
+    auto* pane = row->parentItem();
+    while (!pane->property("contentY").isValid()) pane = pane->parentItem();
+    pane->setProperty("contentY", 60.0);
+    book("firefox", today(), 16, 30, 120);
+    machine_.mainLoop.runFor(seconds(2));
+    settle();
+    EXPECT_EQ(item("firefox"), row);
+    EXPECT_EQ(window_.activeFocusItem(), row);
+    EXPECT_DOUBLE_EQ(pane->property("contentY").toDouble(), 60);
+}
+
+TEST_F(StatsViewTest, ARefreshThatChangesNothingPaintsNothing) {
+    showTab(timesheetTab);
+    const auto before = picture();
+    machine_.mainLoop.runFor(seconds(4));
+    EXPECT_EQ(picture(), before);
+}
+
+TEST_F(StatsViewTest, AThemeSwitchRedressesTheOpenWindow) {
+    show();
+    settle();
+    const auto dark = picture().pixelColor(4, 4);
+    theme_.switchTo("editorial");
+    settle();
+    EXPECT_GT(picture().pixelColor(4, 4).lightness(), dark.lightness() + 100);
+}
+
+// For those who listen.
+
+TEST_F(StatsViewTest, ChartsAreSentences) {
+    show();
+    settle();
+    QStringList names;
+    QList<QQuickItem*> shown;
+    collect(*view_, shown);
+    for (auto* found : shown) {
+        if (const auto* accessible = QAccessible::queryAccessibleInterface(found)) {
+            names.append(accessible->text(QAccessible::Name));
+        }
+    }
+    EXPECT_TRUE(names.contains(presenter_.overview()->hoursSpoken()));
+    EXPECT_TRUE(names.contains("PRODUCTIVIDAD: 96%. -2% vs ayer")) << qPrintable(names.join("\n"));
+}
+
+}  // namespace
+}  // namespace tidewatch
