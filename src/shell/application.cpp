@@ -1,7 +1,6 @@
 #include "shell/application.h"
 
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QQuickWindow>
 #include <QTimer>
 #include <chrono>
@@ -42,9 +41,7 @@ Application::Application(int& argumentCount, char** arguments)
     : toolkit_(prepared(argumentCount), arguments) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setWindowIcon(programIcon());
-    if (toolkitWords_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(&toolkitWords_);
-    }
+    if (toolkitWords_.load()) QCoreApplication::installTranslator(&toolkitWords_);
 }
 
 int Application::run(const platform::Platform& platform) {
