@@ -26,6 +26,8 @@ FocusScope {
     }
 
     function giveFocusBack() {
+        // Else what holds this view would hand the focus back to it.
+        focus = false;
         if (focusedBefore !== null)
             focusedBefore.forceActiveFocus(Qt.OtherFocusReason);
         focusedBefore = null;
