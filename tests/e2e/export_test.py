@@ -1,5 +1,7 @@
 """The day and a project as files, through the real dialog."""
 
+import subprocess
+import time
 import unittest
 from contextlib import contextmanager
 
@@ -130,6 +132,27 @@ class Project(unittest.TestCase):
                 "\n"
                 "# total,,,,,3600,01:00:00\n",
             )
+
+
+class Report(unittest.TestCase):
+    def test_the_month_is_written_as_a_page_and_shown_in_the_file_manager(self):
+        with running("report") as (world, _):
+            monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
+            world.start_program(wait_for_clock=False).wait(5)
+            window = wait_until(world.statistics, "the statistics window")
+            wait_until(lambda: world.screen.active_window() == window.id, "the focus")
+            # The last thing of the tab of goals is the button that asks for the report.
+            world.hands.key("ctrl+2")
+            time.sleep(0.5)
+            world.hands.key("shift+Tab", "Return")
+            dialog(world, "Guardar reporte")
+            world.hands.key("Return")
+            path = world.home.path / "fathom-reporte.pdf"
+            wait_until(path.exists, "the page")
+            said = subprocess.run(["pdfinfo", path], capture_output=True, text=True, check=True).stdout
+            self.assertRegex(said, r"Pages:\s+1\n")
+            self.assertRegex(said, r"Page size:\s+612 x 792 pts")
+            wait_until(lambda: f"file://{path}" in monitor.log(), "the file manager to be asked")
 
 
 if __name__ == "__main__":

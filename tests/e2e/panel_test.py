@@ -104,12 +104,13 @@ class Layer(unittest.TestCase):
             self.assertIsNotNone(world.clock())
             world.screen.select_desktop(0)
 
-    def test_a_click_on_it_does_not_take_the_keyboard(self):
+    def test_a_drag_of_it_does_not_take_the_keyboard(self):
         with World("panel-focus") as world:
             world.home.write_settings(sizeScale=1.0, windowOriginX=700, windowOriginY=400)
             world.start_program()
             terminal = world.open_terminal()
-            world.hands.click(*world.clock().frame.centre, LEFT)
+            x, y = world.clock().frame.centre
+            world.hands.drag((x, y), (x + 60, y + 40))
             time.sleep(0.3)
             self.assertEqual(world.screen.active_window(), terminal.id)
             before = world.screen.grab(terminal.frame)
