@@ -1,13 +1,15 @@
 #include "shell/application.h"
 
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QQuickWindow>
+#include <QTimer>
+#include <chrono>
 
 #include "core/data_directory.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/process_endings.h"
+#include "platform/api/process_memory.h"
 #include "platform/api/running_instance.h"
 #include "shell/composition.h"
 #include "shell/icons/fathom_icons.h"
@@ -15,6 +17,8 @@
 namespace tidewatch {
 
 namespace {
+
+constexpr std::chrono::seconds settlingTime(4);
 
 int& prepared(int& argumentCount) {
     // Without a GPU the software scene graph needs half the memory and a third of the time.
@@ -37,9 +41,7 @@ Application::Application(int& argumentCount, char** arguments)
     : toolkit_(prepared(argumentCount), arguments) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setWindowIcon(programIcon());
-    if (toolkitWords_.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(&toolkitWords_);
-    }
+    if (toolkitWords_.load()) QCoreApplication::installTranslator(&toolkitWords_);
 }
 
 int Application::run(const platform::Platform& platform) {
@@ -63,6 +65,8 @@ int Application::run(const platform::Platform& platform) {
     platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
     platform.endings.onSessionEnding([&] { delegate.flushAllStores(); });
     platform.endings.onDisplayLost([&] { delegate.applicationWillTerminate(); });
+    // Most of what the start ran never runs again.
+    QTimer::singleShot(settlingTime, &toolkit_, [&] { platform.memory.giveBackUnused(); });
     const int code = QApplication::exec();
     delegate.applicationWillTerminate();
     platform.endings.onDisplayLost(nullptr);

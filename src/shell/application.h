@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QApplication>
-#include <QTranslator>
 
 #include "platform/api/platform.h"
+#include "shell/windows/toolkit_words.h"
 
 namespace tidewatch {
 
@@ -20,7 +20,7 @@ public:
 
 private:
     QApplication toolkit_;
-    QTranslator toolkitWords_;  ///< of the dialogs that the toolkit makes
+    ToolkitWords toolkitWords_;
 };
 
 }  // namespace tidewatch

@@ -116,6 +116,7 @@ TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
         [[nodiscard]] std::optional<platform::ApplicationInfo> applicationInfo(const AppId&) const override {
             return std::nullopt;
         }
+        [[nodiscard]] std::string documentsDirectory() const override { return {}; }
         Outcome reveal(const std::string&) override { return success(); }
     } workspace;
     Settings settings(world.preferences);

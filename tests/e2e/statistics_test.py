@@ -83,7 +83,7 @@ class Place(unittest.TestCase):
             world.start_program(wait_for_clock=False).wait(5)
             window = opened(world)
             self.assertEqual(self.outer(world, window), expected)
-            world.hands._xdotool("windowsize", window.id, 830, 570)
+            world.hands.resize(window.id, 830, 570)
             wait_until(lambda: world.statistics().frame.width == 830, "the smaller window")
             world.start_program(wait_for_clock=False).wait(5)
             wait_until(lambda: self.outer(world, world.statistics()) == expected, "the old size and place")
@@ -93,7 +93,7 @@ class Place(unittest.TestCase):
             world.start_program(wait_for_clock=False).wait(5)
             window = opened(world)
             world.hands.focus(window.id)
-            world.hands._xdotool("windowsize", window.id, 300, 200)
+            world.hands.resize(window.id, 300, 200)
             wait_until(lambda: world.statistics().frame.width < 1000, "a smaller window")
             time.sleep(0.3)
             frame = world.statistics().frame

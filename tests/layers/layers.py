@@ -72,6 +72,8 @@ def rooms():
         plan[f"{name}/views"] = room(f"{below} shell/style shell/themes {name}", "fmt qt")
         below += f" {name}"
         every_domain_room += f" {name} {name}/views"
+    plan["analysis/report"] = plan["analysis/views"]
+    every_domain_room += " analysis/report"
     plan["shell/themes"] = room("base platform/api core")
     plan["shell/style"] = room("base platform/api shell/themes", "fmt qt")
     shell = f"base platform/api platform/qt shell/themes shell/style {every_domain_room}"

@@ -20,7 +20,6 @@ namespace fs = std::filesystem;
 constexpr std::string_view settings =
     "[General]\n"
     "activeThemeID=ochre\n"
-    "sizeScale=0.75\n"
     "windowVisible=true\n";
 
 void write(const fs::path& path, std::string_view content) {

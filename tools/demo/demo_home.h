@@ -6,7 +6,7 @@
 
 namespace tidewatch::demo {
 
-/// Makes a home directory with the record, settings that show the clock at a good size, and desktop entries
+/// Makes a home directory with the record, settings, and desktop entries
 /// for the applications, whose icons are looked for in `iconFolder`. What is there is replaced file by file.
 /// Throws std::runtime_error if anything cannot be written.
 void writeDemoHome(const DemoRecord& record, const std::string& home, const std::string& iconFolder);

@@ -89,7 +89,7 @@ std::optional<DayPlan> planOf(sys_days day, std::uint32_t seed) {
 /// Today counts only up to now, so that it has to have begun in time.
 DayPlan planOfToday(minutes now, std::uint32_t seed) {
     auto plan = workingDay(seed);
-    plan.mood = Mood::good;
+    plan.mood = Mood::usual;
     plan.start = std::max(minutes(0), std::min(plan.start, now - leastWorkedToday));
     return plan;
 }

@@ -73,6 +73,8 @@ public:
     std::vector<WorkedMinute> live() {
         spend(Activity::mail, chance_.between(15, 35), Share::none);
         if (plan_.meeting) spend(Activity::meeting, chance_.between(25, 50), Share::first);
+        workUntil(plan_.target * chance_.between(20, 28) / 100, Share::first);
+        spend(Activity::drifting, chance_.between(5, 14), Share::none);
         workUntil(plan_.target * chance_.between(45, 55) / 100, Share::first);
         clock_ += minutes(chance_.between(50, 80));
         spend(Activity::drifting, drift(), Share::none);

@@ -37,9 +37,18 @@ void Symbol::setSide(double side) {
     Q_EMIT sideChanged();
 }
 
+void Symbol::setTurn(double turn) {
+    if (turn == turn_) return;
+    turn_ = turn;
+    update();
+    Q_EMIT turnChanged();
+}
+
 void Symbol::paint(QPainter* painter) {
-    painter->translate((width() - side_) / 2, (height() - side_) / 2);
+    painter->translate(width() / 2, height() / 2);
+    painter->rotate(turn_);
     painter->scale(side_, side_);
+    painter->translate(-0.5, -0.5);
     painter->fillPath(shape_, color_);
 }
 

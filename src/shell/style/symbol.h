@@ -15,6 +15,9 @@ class Symbol : public QQuickPaintedItem {
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
     Q_PROPERTY(double side READ side WRITE setSide NOTIFY sideChanged FINAL)
+    /// Degrees clockwise that the drawing is turned by; smooth, unlike the item's own rotation. What is
+    /// turned needs an item larger than its `side` so as to keep its corners.
+    Q_PROPERTY(double turn READ turn WRITE setTurn NOTIFY turnChanged FINAL)
 
 public:
     explicit Symbol(QQuickItem* parent = nullptr);
@@ -25,6 +28,8 @@ public:
     void setColor(const QColor& color);
     [[nodiscard]] double side() const { return side_; }
     void setSide(double side);
+    [[nodiscard]] double turn() const { return turn_; }
+    void setTurn(double turn);
 
     void paint(QPainter* painter) override;
 
@@ -32,12 +37,14 @@ Q_SIGNALS:
     void nameChanged();
     void colorChanged();
     void sideChanged();
+    void turnChanged();
 
 private:
     QString name_;
     QPainterPath shape_;
     QColor color_ = Qt::black;
     double side_ = 0;
+    double turn_ = 0;
 };
 
 }  // namespace tidewatch

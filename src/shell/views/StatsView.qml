@@ -5,6 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Shell
 import Tidewatch.Style
+import Tidewatch.Wellbeing
 
 /*! All of the statistics window: its head, its tabs, and the one on show. */
 FocusScope {
@@ -108,5 +109,10 @@ FocusScope {
                 }
             }
         }
+    }
+
+    BreakBombView {
+        anchors.fill: parent
+        presenter: root.presenter.breakAlert
     }
 }

@@ -33,6 +33,7 @@ StatsPresenter::StatsPresenter(const platform::Platform& platform, Services& ser
       details_(model_, [this](const AppId& app, QPointF at) { commands_.reclassify(model_, app, at); }),
       timesheet_(model_),
       projects_(model_, services.projects, services.days),
+      breakAlert_(services.breakReminder),
       rows_({{DashboardTab::overview, &overview_},
              {DashboardTab::goals, &goals_},
              {DashboardTab::details, &details_},

@@ -19,6 +19,7 @@
 #include "platform/api/platform.h"
 #include "shell/services.h"
 #include "shell/style/wall_time.h"
+#include "wellbeing/views/break_presenter.h"
 
 namespace tidewatch {
 
@@ -39,6 +40,7 @@ class StatsPresenter final : public QObject {
     Q_PROPERTY(tidewatch::DetailsPresenter* details READ details CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TimesheetPresenter* timesheet READ timesheet CONSTANT FINAL)
     Q_PROPERTY(tidewatch::ProjectsPresenter* projects READ projects CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::BreakPresenter* breakAlert READ breakAlert CONSTANT FINAL)
     Q_PROPERTY(tidewatch::WallTime* wallTime READ wallTime CONSTANT FINAL)
 
 public:
@@ -61,6 +63,7 @@ public:
     [[nodiscard]] DetailsPresenter* details() { return &details_; }
     [[nodiscard]] TimesheetPresenter* timesheet() { return &timesheet_; }
     [[nodiscard]] ProjectsPresenter* projects() { return &projects_; }
+    [[nodiscard]] BreakPresenter* breakAlert() { return &breakAlert_; }
     [[nodiscard]] WallTime* wallTime() { return &wallTime_; }
 
     /// A place that is none of tabs() changes nothing.
@@ -94,6 +97,7 @@ private:
     DetailsPresenter details_;
     TimesheetPresenter timesheet_;
     ProjectsPresenter projects_;
+    BreakPresenter breakAlert_;
     std::vector<TabRow> rows_;
     bool appeared_ = false;
     Connection willShow_;

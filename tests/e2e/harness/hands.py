@@ -55,5 +55,8 @@ class Hands:
         time.sleep(0.1)
         self.release()
 
+    def resize(self, window_id, width, height):
+        self._xdotool("windowsize", window_id, width, height)
+
     def focus(self, window_id):
         self._xdotool("windowactivate", "--sync", window_id)

@@ -33,13 +33,16 @@ class World:
     the world checks that.
     """
 
-    def __init__(self, name, tray=True, session_bus=True, accessibility=False, expected_warnings=()):
+    def __init__(
+        self, name, tray=True, session_bus=True, accessibility=False, expected_warnings=(), size=(WIDTH, HEIGHT)
+    ):
         self.folder = ARTEFACTS / name
         shutil.rmtree(self.folder, ignore_errors=True)
         self.folder.mkdir(parents=True)
         self.home = Home(self.folder / "home")
         self.expected_warnings = list(expected_warnings)
         self.programs = []
+        self._size = size
         self._wants_tray = tray
         self._wants_session_bus = session_bus
         self._wants_accessibility = accessibility
@@ -89,7 +92,7 @@ class World:
     def _start_server(self):
         read_end, write_end = os.pipe()
         self.server = Process(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", f"{self._size[0]}x{self._size[1]}x24", "-nolisten", "tcp", "-noreset"],
             os.environ.copy(),
             self.folder / "Xvfb.log",
             pass_fds=(write_end,),
@@ -104,7 +107,7 @@ class World:
         self.env = self._environment()
         self._screen = Screen(self.display)
         self.hands = Hands(self.env)
-        self.hands._xdotool("mousemove", WIDTH // 2, HEIGHT // 2)
+        self.hands.move(self._size[0] // 2, self._size[1] // 2)
         root_colour = Process(
             ["xsetroot", "-solid", "#%02x%02x%02x" % BACKGROUND], self.env, self.folder / "xsetroot.log"
         )

@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
+#include <cmath>
 
 #include "platform/fake/fake_clock.h"
 #include "shell/style/app_icon_view.h"
@@ -374,6 +375,23 @@ TEST_F(ComponentsTest, TheSearchFieldFollowsItsOwner) {
     EXPECT_EQ(seen("wanted").toString(), "a");
     view_->setProperty("wanted", "editor");
     EXPECT_EQ(the("field").property("text").toString(), "editor");
+}
+
+TEST_F(ComponentsTest, ASymbolTurnsAroundItsMiddle) {
+    show("Symbol { name: 'chevron.left'; side: 40; width: 60; height: 60; color: 'black' }");
+    const auto upright = picture().copy(0, 0, 60, 60);
+    const auto mirrored = upright.mirrored(true, true);
+    view_->setProperty("turn", 180);
+    const auto turned = picture().copy(0, 0, 60, 60);
+    int different = 0;
+    for (int y = 0; y < 60; ++y) {
+        for (int x = 0; x < 60; ++x) {
+            // The edges may be smoothed differently.
+            if (std::abs(qGray(turned.pixel(x, y)) - qGray(mirrored.pixel(x, y))) > 64) ++different;
+        }
+    }
+    EXPECT_EQ(different, 0);
+    EXPECT_NE(turned, upright);
 }
 
 TEST_F(ComponentsTest, TheRingOfTheFilledPartStartsAtTwelveAndGoesClockwise) {

@@ -28,11 +28,11 @@ StyleScene::StyleScene() {
 
 StyleScene::~StyleScene() = default;
 
-void StyleScene::show(const QString& source, QSize size) {
+void StyleScene::show(const QString& source, QSize size, const QVariantMap& properties) {
     view_.reset();
     QQmlComponent component(&engine_);
     component.setData(("import QtQuick\nimport Tidewatch.Style\n" + source).toUtf8(), QUrl());
-    std::unique_ptr<QObject> object(component.create());
+    std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
     auto* item = qobject_cast<QQuickItem*>(object.get());
     if (item == nullptr) qFatal("%s", qPrintable(component.errorString()));
     static_cast<void>(object.release());

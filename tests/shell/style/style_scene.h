@@ -5,6 +5,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QStringList>
+#include <QVariantMap>
 #include <memory>
 
 #include "core/broadcaster.h"
@@ -21,8 +22,9 @@ public:
     StyleScene();
     virtual ~StyleScene();
 
-    /// Shows what `source` makes, its imports being there already, in a window of this size.
-    void show(const QString& source, QSize size = {480, 320});
+    /// Shows what `source` makes with these properties, in a window of this size. The toolkit and the style
+    /// are imported already.
+    void show(const QString& source, QSize size = {480, 320}, const QVariantMap& properties = {});
 
     /// The item of the view of this name; nothing if there is none.
     [[nodiscard]] QQuickItem* item(const QString& name) const;

@@ -243,6 +243,25 @@ TEST_F(StatsViewTest, EveryControlIsReachedByTheTabulator) {
     }
 }
 
+TEST_F(StatsViewTest, ABreakAlertLiesOverAllAndLetsNothingThroughButItsButton) {
+    show();
+    settle();
+    for (int second = 0; second < 7200; ++second) services_.breakReminder.tickActiveSecond(Seconds(7200));
+    settle();
+    EXPECT_TRUE(presenter_.breakAlert()->alertActive());
+    QTest::mouseClick(&window_, Qt::LeftButton, {}, middle(*item("tabs")->childItems().at(goalsTab)));
+    click("previousDay");
+    key(Qt::Key_3, Qt::ControlModifier);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(presenter_.tabIndex(), 0);
+    EXPECT_EQ(textOf("date"), "jue 15 ene");
+    EXPECT_TRUE(presenter_.breakAlert()->alertActive());
+    key(Qt::Key_Space);
+    EXPECT_FALSE(presenter_.breakAlert()->alertActive());
+    key(Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(presenter_.tabIndex(), detailsTab);
+}
+
 // Refreshing.
 
 TEST_F(StatsViewTest, ARefreshKeepsScrollFocusAndRows) {

@@ -1,0 +1,162 @@
+#include "analysis/report/page_painter.h"
+
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QMarginsF>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QRawFont>
+#include <QString>
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "shell/style/fonts.h"
+#include "shell/style/qt_color.h"
+
+namespace tidewatch {
+namespace {
+
+// The toolkit places letters on whole dots in places: this makes them too small to matter.
+constexpr int dotsAPoint = 20;
+constexpr int pointsAnInch = 72;
+
+QString toText(std::string_view utf8) {
+    // What comes from elsewhere may hold line ends, which a line cannot.
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).simplified();
+}
+
+// In dots.
+QFont toPageFont(const FontSpec& spec) {
+    auto font = toQFont(spec);
+    font.setPixelSize(static_cast<int>(std::lround(spec.size * dotsAPoint)));
+    // A ligature is one glyph for two letters, and a search for them does not find it.
+    font.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::NoSubpixelAntialias | QFont::PreferNoShaping));
+    return font;
+}
+
+// A piece of a line in one font, drawn in one go; lengths in dots.
+struct Run {
+    QString text;
+    QFont font;
+    double x = 0;  // from the line's start
+};
+
+struct LaidOutLine {
+    std::vector<Run> runs;
+    double width = 0;
+};
+
+bool hasGlyph(const QFont& font, QChar character) {
+    return QRawFont::fromFont(font).supportsCharacter(character);
+}
+
+// Symbols come from a family that draws them well: in the monospaced one a check mark looks like a root.
+QFont symbolFont(QChar symbol, const QFont& font) {
+    for (const auto* family : {"Inter", "DejaVu Sans"}) {
+        auto other = font;
+        other.setFamilies({QString(family)});
+        if (hasGlyph(other, symbol)) return other;
+    }
+    return font;
+}
+
+bool isSymbol(QChar character) {
+    return character == u'★' || character == u'✓';
+}
+
+// The toolkit's own letter spacing depends on the resolution of the screen, so tracked letters are placed one
+// by one.
+LaidOutLine layOut(const QString& text, const QFont& font, double tracking) {
+    LaidOutLine line;
+    for (qsizetype begin = 0; begin < text.size();) {
+        const auto endOfRun = [&] {
+            auto end = begin + 1;
+            while (end < text.size() && tracking == 0 && isSymbol(text[end]) == isSymbol(text[begin])) ++end;
+            return end;
+        };
+        const auto end = endOfRun();
+        const auto own = isSymbol(text[begin]) ? symbolFont(text[begin], font) : font;
+        const auto& run = line.runs.emplace_back(Run{text.mid(begin, end - begin), own, line.width});
+        line.width += QFontMetricsF(own).horizontalAdvance(run.text) + tracking;
+        begin = end;
+    }
+    line.width = std::max(0.0, line.width - tracking);
+    return line;
+}
+
+LaidOutLine layOut(const PageText& text) {
+    const auto font = toPageFont(text.font);
+    const double tracking = text.tracking * dotsAPoint;
+    const double column = text.width * dotsAPoint;
+    const auto whole = toText(text.text);
+    auto line = layOut(whole, font, tracking);
+    if (line.width <= column) return line;
+    return layOut(QFontMetricsF(font).elidedText(whole, Qt::ElideRight, column), font, tracking);
+}
+
+class PagePainter final {
+public:
+    explicit PagePainter(QPainter& painter) : painter_(painter) {}
+
+    void draw(const ReportPage& page) {
+        fill({0, 0, ReportPage::width, ReportPage::height, page.paper});
+        for (const auto& box : page.boxes) fill(box);
+        for (const auto& text : page.texts) write(text);
+    }
+
+private:
+    void fill(const PageBox& box) {
+        const QRectF rectangle(box.x * dotsAPoint, box.y * dotsAPoint, box.width * dotsAPoint,
+                               box.height * dotsAPoint);
+        if (box.radius <= 0) {
+            painter_.fillRect(rectangle, toQColor(box.color));
+            return;
+        }
+        painter_.setPen(Qt::NoPen);
+        painter_.setBrush(toQColor(box.color));
+        const double radius = std::min(box.radius, box.width / 2) * dotsAPoint;
+        painter_.drawRoundedRect(rectangle, radius, radius);
+    }
+
+    void write(const PageText& text) {
+        const auto line = layOut(text);
+        const double free = text.width * dotsAPoint - line.width;
+        const double left = text.x * dotsAPoint + (text.alignment == PageText::Alignment::right ? free : 0);
+        painter_.setPen(toQColor(text.color));
+        for (const auto& run : line.runs) {
+            painter_.setFont(run.font);
+            painter_.drawText(QPointF(left + run.x, text.baseline * dotsAPoint), run.text);
+        }
+    }
+
+    QPainter& painter_;
+};
+
+}  // namespace
+
+QByteArray toPdf(const ReportPage& page) {
+    QByteArray file;
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(toText(page.title));
+    writer.setCreator("Fathom");
+    writer.setPageSize(QPageSize(QSizeF(ReportPage::width, ReportPage::height), QPageSize::Point));
+    writer.setPageMargins(QMarginsF());
+    writer.setResolution(pointsAnInch * dotsAPoint);
+    QPainter painter;
+    if (!painter.begin(&writer)) return {};
+    PagePainter(painter).draw(page);
+    return painter.end() ? file : QByteArray();
+}
+
+TextWidth pageTextWidth() {
+    return [](std::string_view text, const FontSpec& spec, double tracking) {
+        return layOut(toText(text), toPageFont(spec), tracking * dotsAPoint).width / dotsAPoint;
+    };
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,73 @@
+import QtQuick
+import Tidewatch.Style
+import Tidewatch.Wellbeing
+
+/*! What to do in the break. */
+Rectangle {
+    id: root
+
+    required property BreakPresenter presenter
+
+    readonly property color accent: Style.palette.tierProductive
+
+    implicitHeight: Math.max(picture.height, words.implicitHeight) + 40
+    radius: Style.measures.cardRadius
+    color: Qt.alpha(accent, 0.1)
+    border.width: 1
+    border.color: Qt.alpha(accent, 0.3)
+
+    Item {
+        id: picture
+
+        x: 20
+        y: 20
+        width: 56
+        height: 56
+
+        Symbol {
+            anchors.centerIn: parent
+            name: root.presenter.icon
+            side: 56
+            color: Style.legible(root.accent)
+        }
+    }
+
+    Column {
+        id: words
+
+        anchors.left: picture.right
+        anchors.right: parent.right
+        anchors.leftMargin: 20
+        anchors.rightMargin: 20
+        y: 20
+        spacing: 8
+
+        Text {
+            objectName: "title"
+            width: parent.width
+            text: root.presenter.title
+            font: Style.serif(20, Style.Medium)
+            color: Style.legible(root.accent)
+            wrapMode: Text.Wrap
+        }
+
+        Text {
+            objectName: "instruction"
+            width: parent.width
+            text: root.presenter.instruction
+            font: Style.sans(14, Style.Regular)
+            lineHeight: 1.3
+            color: Style.palette.primaryText
+            wrapMode: Text.Wrap
+        }
+
+        Text {
+            objectName: "motivational"
+            width: parent.width
+            text: root.presenter.motivational
+            font: Style.sans(13, Style.Medium)
+            color: Style.legible(root.accent)
+            wrapMode: Text.Wrap
+        }
+    }
+}

@@ -1,0 +1,46 @@
+#include "platform/linux/linux_process_memory.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tidewatch::platform {
+namespace {
+
+long residentKilobytes() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.starts_with("VmRSS:")) return std::stol(line.substr(6));
+    }
+    return 0;
+}
+
+TEST(LinuxProcessMemory, GivesBackWhatWasFreed) {
+    std::vector<std::unique_ptr<std::string>> blocks;
+    for (int block = 0; block < 40'000; ++block) blocks.push_back(std::make_unique<std::string>(1000, 'x'));
+    // One block at the end keeps all below it from being given back by itself.
+    auto last = std::move(blocks.back());
+    blocks.clear();
+    blocks.shrink_to_fit();
+    const auto before = residentKilobytes();
+    LinuxProcessMemory().giveBackUnused();
+    EXPECT_LT(residentKilobytes(), before - 20'000);
+    EXPECT_EQ(last->size(), 1000U);
+}
+
+TEST(LinuxProcessMemory, CodeRunsOnAfterwards) {
+    LinuxProcessMemory memory;
+    for (int time = 0; time < 3; ++time) {
+        memory.giveBackUnused();
+        std::vector<int> numbers{3, 1, 2};
+        std::sort(numbers.begin(), numbers.end());
+        EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3}));
+    }
+}
+
+}  // namespace
+}  // namespace tidewatch::platform
