@@ -12,12 +12,23 @@ Composition::Composition(const platform::Platform& platform, std::function<void(
       theme_(themes_, services_.settings, services_.broadcaster),
       clock_(services_.engine, theme_, platform.clock, [this] { return services_.rewards.starsToday(); }),
       surfaces_(platform, theme_, clock_),
+      report_(
+          {
+              .clock = platform.clock,
+              .days = services_.days,
+              .apps = services_.apps,
+              .appInfo = services_.appInfo,
+              .scorer = services_.scorer,
+              .goalEvaluator = services_.goalEvaluator,
+              .rewards = services_.rewards,
+          },
+          platform.files, platform.log),
       exports_({
           .services = services_,
           .files = platform.files,
           .workspace = platform.workspace,
           .dialogs = surfaces_.dialogs(),
-          .generateReport = [](const std::string&) { return false; },
+          .generateReport = [this](const std::string& path) { return report_.generate(path); },
       }),
       statistics_(platform, theme_, services_.broadcaster, statisticsContent()),
       delegate_({
@@ -47,7 +58,7 @@ std::unique_ptr<StatsPresenter> Composition::makeStats() {
     return std::make_unique<StatsPresenter>(
         platform_, services_,
         StatsPresenter::Commands{
-            .exportReport = [] {},
+            .exportReport = [this] { exports_.exportReport(); },
             .reclassify =
                 [this](DashboardModel& model, const AppId& app, QPointF at) {
                     surfaces_.popUpMenu(reclassifyMenu(app, services_.categories, model), {at.x(), at.y()});

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "analysis/report/pdf_report.h"
 #include "platform/api/platform.h"
 #include "shell/app_delegate.h"
 #include "shell/export_commands.h"
@@ -34,6 +35,7 @@ private:
     ThemeController theme_;
     ClockPresenter clock_;
     QtSurfaces surfaces_;
+    PdfReport report_;
     ExportCommands exports_;
     std::unique_ptr<StatsPresenter> stats_;  ///< from the first showing of the statistics window on
     QuickStatisticsWindow statistics_;
