@@ -26,7 +26,7 @@ QColor mixed(const QColor& from, const QColor& to, float share) {
 }  // namespace
 
 double contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

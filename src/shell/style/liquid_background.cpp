@@ -3,7 +3,8 @@
 #include <QEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
+
+#include "shell/style/pixel_picture.h"
 
 namespace tidewatch {
 namespace {
@@ -83,13 +84,13 @@ void LiquidBackground::paint(QPainter* painter) {
 
 void LiquidBackground::geometryChange(const QRectF& to, const QRectF& from) {
     QQuickPaintedItem::geometryChange(to, from);
-    // The liquid fills its window, which is of whole pixels.
-    setContentsSize({static_cast<int>(std::ceil(to.width())), static_cast<int>(std::ceil(to.height()))});
+    setPictureSize(*this);
 }
 
 void LiquidBackground::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemSceneChange) watch(data.window);
     QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) setPictureSize(*this);
     if (change == ItemSceneChange || change == ItemVisibleHasChanged) updateMoving();
 }
 

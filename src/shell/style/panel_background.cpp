@@ -1,7 +1,8 @@
 #include "shell/style/panel_background.h"
 
 #include <QPainter>
-#include <cmath>
+
+#include "shell/style/pixel_picture.h"
 
 namespace tidewatch {
 namespace {
@@ -70,8 +71,12 @@ void PanelBackgroundItem::setTranslucent(bool translucent) {
 
 void PanelBackgroundItem::geometryChange(const QRectF& to, const QRectF& from) {
     QQuickPaintedItem::geometryChange(to, from);
-    // The panel fills its window, which is of whole pixels.
-    setContentsSize({static_cast<int>(std::ceil(to.width())), static_cast<int>(std::ceil(to.height()))});
+    setPictureSize(*this);
+}
+
+void PanelBackgroundItem::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) setPictureSize(*this);
 }
 
 void PanelBackgroundItem::announce() {

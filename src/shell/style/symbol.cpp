@@ -1,8 +1,8 @@
 #include "shell/style/symbol.h"
 
 #include <QPainter>
-#include <cmath>
 
+#include "shell/style/pixel_picture.h"
 #include "shell/style/symbol_table.h"
 
 namespace tidewatch {
@@ -30,10 +30,7 @@ void Symbol::setSide(double side) {
     if (side == side_) return;
     side_ = side;
     setImplicitSize(side, side);
-    // The picture is of whole pixels, to be copied to the screen as it is.
-    const int pixels = static_cast<int>(std::ceil(side));
-    setContentsSize({pixels, pixels});
-    update();
+    setPictureSize(*this, {side, side});
     Q_EMIT sideChanged();
 }
 
@@ -42,6 +39,17 @@ void Symbol::setTurn(double turn) {
     turn_ = turn;
     update();
     Q_EMIT turnChanged();
+}
+
+void Symbol::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    setPictureSize(*this, {side_, side_});
+}
+
+void Symbol::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged)
+        setPictureSize(*this, {side_, side_});
 }
 
 void Symbol::paint(QPainter* painter) {

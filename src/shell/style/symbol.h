@@ -39,6 +39,10 @@ Q_SIGNALS:
     void sideChanged();
     void turnChanged();
 
+protected:
+    void geometryChange(const QRectF& to, const QRectF& from) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
 private:
     QString name_;
     QPainterPath shape_;

@@ -2,8 +2,8 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
+#include "shell/style/pixel_picture.h"
 #include "shell/style/symbol_table.h"
 
 namespace tidewatch {
@@ -47,9 +47,19 @@ double SymbolRow::length() const {
 
 void SymbolRow::measureAgain() {
     setImplicitSize(length(), side_);
-    // The picture is of whole pixels, to be copied to the screen as it is.
-    setContentsSize({static_cast<int>(std::ceil(length())), static_cast<int>(std::ceil(side_))});
-    update();
+    setPictureSize(*this, {length(), side_});
+}
+
+void SymbolRow::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    setPictureSize(*this, {length(), side_});
+}
+
+void SymbolRow::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) {
+        setPictureSize(*this, {length(), side_});
+    }
 }
 
 void SymbolRow::paint(QPainter* painter) {

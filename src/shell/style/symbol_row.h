@@ -38,6 +38,10 @@ Q_SIGNALS:
     void colorsChanged();
     void measuresChanged();
 
+protected:
+    void geometryChange(const QRectF& to, const QRectF& from) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
 private:
     [[nodiscard]] double length() const;
     void measureAgain();

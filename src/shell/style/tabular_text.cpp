@@ -7,6 +7,8 @@
 #include <array>
 #include <cmath>
 
+#include "shell/style/pixel_picture.h"
+
 namespace tidewatch {
 namespace {
 
@@ -109,9 +111,12 @@ void TabularText::layOutAgain() {
     const QSizeF exact((line_.width + 2 * overhang) * scale, metrics.height() * scale);
     setImplicitSize(exact.width(), exact.height());
     // The picture is of whole pixels; the layout goes by what the line takes.
-    setContentsSize(
-        QSize(static_cast<int>(std::ceil(exact.width())), static_cast<int>(std::ceil(exact.height()))));
-    update();
+    setPictureSize(*this, exact);
+}
+
+void TabularText::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    setPictureSize(*this, {implicitWidth(), implicitHeight()});
 }
 
 void TabularText::paint(QPainter* painter) {

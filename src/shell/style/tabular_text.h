@@ -55,6 +55,7 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void geometryChange(const QRectF& to, const QRectF& from) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:

@@ -31,6 +31,7 @@ FocusScope {
     DashboardBackground {
         anchors.fill: parent
         time: root.presenter.wallTime
+        running: !root.presenter.breakAlert.alertActive
     }
 
     ColumnLayout {

@@ -19,6 +19,7 @@ WIDTH, HEIGHT = 1280, 800
 BACKGROUND = (0x2F, 0x48, 0x58)
 CLOCK_TITLE = "Tidewatch"
 CLOCK_CLASS = "tidewatch"
+ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
 STATISTICS_TITLE = "FATHOM · Estadísticas"
 
 PROGRAM = os.environ.get("TIDEWATCH_PROGRAM", "")
@@ -32,7 +33,9 @@ class World:
     the world checks that.
     """
 
-    def __init__(self, name, tray=True, session_bus=True, expected_warnings=(), size=(WIDTH, HEIGHT)):
+    def __init__(
+        self, name, tray=True, session_bus=True, accessibility=False, expected_warnings=(), size=(WIDTH, HEIGHT)
+    ):
         self.folder = ARTEFACTS / name
         shutil.rmtree(self.folder, ignore_errors=True)
         self.folder.mkdir(parents=True)
@@ -42,8 +45,10 @@ class World:
         self._size = size
         self._wants_tray = tray
         self._wants_session_bus = session_bus
+        self._wants_accessibility = accessibility
         self._processes = []
         self._screen = None
+        self.accessibility = None
         # Sockets have short names only.
         self._runtime = tempfile.mkdtemp(prefix="tw-")
 
@@ -54,6 +59,8 @@ class World:
                 self._start_bus()
             self.start("openbox", "--sm-disable")
             wait_until(self.screen.has_window_manager, "the window manager")
+            if self._wants_accessibility:
+                self._start_accessibility()
             if self._wants_session_bus:
                 self.start("dunst")
             if self._wants_tray:
@@ -68,6 +75,8 @@ class World:
             if kind is not None:
                 self._keep_last_picture()
         finally:
+            if self.accessibility:
+                self.accessibility.close()
             for process in reversed(self._processes[1:]):
                 process.end(5)
             if self._screen:
@@ -146,6 +155,14 @@ class World:
                 return client.connect_ex(str(path)) == 0
 
         wait_until(answers, "the session bus")
+
+    def _start_accessibility(self):
+        """The bus that screen readers listen on, and a reader's connection to it."""
+        from harness.accessibility import Accessibility
+
+        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        self.start(ACCESSIBILITY_BUS, "--launch-immediately")
+        self.accessibility = Accessibility(self.env["DBUS_SESSION_BUS_ADDRESS"])
 
     def start_tray(self):
         tray = self.start(

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCoreApplication>
+#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
@@ -431,6 +432,19 @@ TEST_F(ComponentsTest, AnIconComesFromItsFile) {
     shown.setSymbolName("");
     shown.setIconName("");
     EXPECT_EQ(picture(), symbol);
+}
+
+TEST_F(ComponentsTest, AnIconMayBeAVectorDrawing) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath("icon.svg"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(R"(<svg xmlns="http://www.w3.org/2000/svg" width="16" height="16">
+                  <rect width="16" height="16" fill="#00ff00"/></svg>)");
+    file.close();
+    show("AppIconView { side: 48 }");
+    view_->setProperty("iconName", file.fileName());
+    EXPECT_EQ(picture().pixelColor(2, 2), QColor(0, 255, 0));
+    EXPECT_EQ(picture().pixelColor(45, 45), QColor(0, 255, 0));
 }
 
 TEST_F(ComponentsTest, AnIconThatIsNotThereIsTheSymbolOfAnApplication) {
