@@ -10,6 +10,9 @@ Item {
 
     implicitWidth: 12
     implicitHeight: 22
+    Accessible.role: Accessible.StaticText
+    Accessible.name: root.bucket.spoken
+    Accessible.ignored: !root.bucket.filled
 
     Rectangle {
         anchors.horizontalCenter: parent.horizontalCenter

@@ -117,7 +117,7 @@ ScrollPane {
                 }
             }
         }
-        Text {
+        SpokenText {
             Layout.fillWidth: true
             text: root.presenter.hint
             elide: Text.ElideRight

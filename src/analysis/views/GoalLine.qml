@@ -43,6 +43,6 @@ ColumnLayout {
         fraction: root.goal.fraction
         color: root.goal.color
         track: Style.palette.stroke
-        Accessible.name: root.goal.spoken
+        accessibleName: root.goal.spoken
     }
 }

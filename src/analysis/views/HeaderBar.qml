@@ -31,7 +31,7 @@ RowLayout {
                 Accessible.ignored: true
             }
         }
-        Text {
+        SpokenText {
             text: root.presenter.tagline
             font: Style.sans(12, Style.Regular)
             color: Style.palette.secondaryText
@@ -46,7 +46,7 @@ RowLayout {
         accessibleName: "Día anterior"
         onClicked: root.presenter.previousDay()
     }
-    Text {
+    SpokenText {
         objectName: "date"
         Layout.preferredWidth: 116
         horizontalAlignment: Text.AlignHCenter

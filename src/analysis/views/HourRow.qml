@@ -11,8 +11,8 @@ Card {
 
     required property hourSheet row
 
-    Accessible.role: Accessible.ListItem
-    Accessible.name: root.row.spoken
+    spokenRole: Accessible.ListItem
+    spoken: root.row.spoken
 
     RowLayout {
         anchors.fill: parent

@@ -11,8 +11,8 @@ Card {
 
     required property OverviewPresenter presenter
 
-    Accessible.role: Accessible.Chart
-    Accessible.name: root.presenter.hoursSpoken
+    spokenRole: Accessible.Chart
+    spoken: root.presenter.hoursSpoken
 
     ColumnLayout {
         anchors.fill: parent

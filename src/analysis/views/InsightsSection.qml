@@ -31,8 +31,7 @@ ColumnLayout {
     Card {
         objectName: "session"
         Layout.fillWidth: true
-        Accessible.role: Accessible.Grouping
-        Accessible.name: root.presenter.sessionTitle
+        spoken: root.presenter.sessionSpoken
 
         ColumnLayout {
             anchors.fill: parent
@@ -111,8 +110,7 @@ ColumnLayout {
 
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
-                Accessible.role: Accessible.Grouping
-                Accessible.name: row.title + ": " + row.value + ", " + row.subtitle
+                spoken: row.title + ": " + row.value + ", " + row.subtitle
 
                 ColumnLayout {
                     anchors.fill: parent

@@ -8,8 +8,7 @@ Card {
 
     required property OverviewPresenter presenter
 
-    Accessible.role: Accessible.Grouping
-    Accessible.name: root.presenter.scoreTitle + ": " + root.presenter.score + ". " + root.presenter.comparison
+    spoken: root.presenter.scoreSpoken
 
     Item {
         anchors.fill: parent

@@ -11,8 +11,8 @@ Card {
 
     required property projectSheet row
 
-    Accessible.role: Accessible.ListItem
-    Accessible.name: root.row.spoken
+    spokenRole: Accessible.ListItem
+    spoken: root.row.spoken
 
     ColumnLayout {
         anchors.fill: parent
@@ -68,7 +68,7 @@ Card {
             track: Style.palette.stroke
             Accessible.ignored: true
         }
-        Text {
+        SpokenText {
             Layout.fillWidth: true
             visible: root.row.note !== ""
             text: root.row.note

@@ -33,7 +33,7 @@ ScrollPane {
                 Layout.fillWidth: true
             }
         }
-        Text {
+        SpokenText {
             Layout.fillWidth: true
             visible: !root.presenter.isEmpty
             text: root.presenter.hint

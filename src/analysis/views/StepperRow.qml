@@ -35,6 +35,10 @@ RowLayout {
         objectName: root.stepper.id
         accessibleName: root.stepper.title
         valueText: root.stepper.value
+        value: root.stepper.number
+        minimumValue: root.stepper.least
+        maximumValue: root.stepper.most
+        stepSize: root.stepper.step
         canDecrease: root.stepper.canDecrease
         canIncrease: root.stepper.canIncrease
         onDecrease: root.decrease()

@@ -28,7 +28,7 @@ Row {
         id: tabs
 
         model: root.labels.length
-        delegate: T.AbstractButton {
+        delegate: T.TabButton {
             id: tab
 
             required property int index
@@ -40,7 +40,8 @@ Row {
             hoverEnabled: true
             // One stop of the tabulator for all: the current one.
             focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
-            Accessible.role: Accessible.PageTab
+            checkable: false
+            autoExclusive: false
             Accessible.name: text
             Accessible.selectable: true
             Accessible.selected: current

@@ -11,8 +11,7 @@ Card {
 
     required property TierColumnPresenter presenter
 
-    Accessible.role: Accessible.Grouping
-    Accessible.name: root.presenter.title + ": " + root.presenter.time
+    spoken: root.presenter.title + ": " + root.presenter.time
 
     ColumnLayout {
         anchors.fill: parent
@@ -61,7 +60,7 @@ Card {
                 app: row
             }
         }
-        Text {
+        SpokenText {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: root.presenter.isEmpty

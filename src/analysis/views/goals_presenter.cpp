@@ -39,6 +39,10 @@ std::vector<GoalStepper> stepperRows(const GoalSettings& settings) {
         rows.push_back({.id = text(step.id),
                         .title = text(step.title),
                         .value = step.valueText(settings),
+                        .number = step.shown(settings),
+                        .least = step.least,
+                        .most = step.most,
+                        .step = step.step,
                         .canDecrease = step.shown(settings) > step.least,
                         .canIncrease = step.shown(settings) < step.most});
     }

@@ -45,6 +45,10 @@ class GoalStepper final {
     Q_PROPERTY(QString id MEMBER id FINAL)
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QString value MEMBER value FINAL)
+    Q_PROPERTY(double number MEMBER number FINAL)
+    Q_PROPERTY(double least MEMBER least FINAL)
+    Q_PROPERTY(double most MEMBER most FINAL)
+    Q_PROPERTY(double step MEMBER step FINAL)
     Q_PROPERTY(bool canDecrease MEMBER canDecrease FINAL)
     Q_PROPERTY(bool canIncrease MEMBER canIncrease FINAL)
 
@@ -52,6 +56,10 @@ public:
     QString id;
     QString title;
     QString value;
+    double number = 0;  ///< what `value` says, as `least`, `most` and `step` in the same unit
+    double least = 0;
+    double most = 0;
+    double step = 0;
     bool canDecrease = false;
     bool canIncrease = false;
 

@@ -48,6 +48,11 @@ QString InsightsPresenter::sessionTimes() const {
            text(engine_.clockTime(insights_.longest->end));
 }
 
+QString InsightsPresenter::sessionSpoken() const {
+    if (!hasSession()) return sessionTitle() + ": " + noSession();
+    return sessionTitle() + ": " + QStringList{sessionLength(), sessionDay(), sessionTimes()}.join(", ");
+}
+
 void InsightsPresenter::selectRange(int index) {
     const auto all = allInsightsRanges();
     if (index < 0 || index >= static_cast<int>(all.size()) || all[static_cast<std::size_t>(index)] == range_)

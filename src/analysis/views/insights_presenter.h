@@ -46,6 +46,8 @@ class InsightsPresenter final : public QObject {
     Q_PROPERTY(QString sessionDay READ sessionDay NOTIFY sessionChanged FINAL)
     Q_PROPERTY(QString sessionTimes READ sessionTimes NOTIFY sessionChanged FINAL)
     Q_PROPERTY(QString noSession READ noSession CONSTANT FINAL)
+    /// All of the card as a sentence.
+    Q_PROPERTY(QString sessionSpoken READ sessionSpoken NOTIFY sessionChanged FINAL)
     Q_PROPERTY(tidewatch::RowListModel* tiles READ tiles CONSTANT FINAL)
 
 public:
@@ -64,6 +66,7 @@ public:
     [[nodiscard]] QString noSession() const {
         return "Aún no hay una sesión larga registrada en este rango.";
     }
+    [[nodiscard]] QString sessionSpoken() const;
     [[nodiscard]] RowListModel* tiles() { return &tiles_; }
 
     /// An index that is none of ranges() changes nothing.

@@ -26,6 +26,12 @@ OverviewPresenter::OverviewPresenter(DashboardModel& model) : TabPresenter(model
     updateScore();
 }
 
+QString OverviewPresenter::scoreSpoken() const {
+    QStringList parts{score_, total_};
+    if (!comparison_.isEmpty()) parts.append(comparison_);
+    return scoreTitle() + ": " + parts.join(", ");
+}
+
 void OverviewPresenter::update() {
     productive_.update(model());
     neutral_.update(model());

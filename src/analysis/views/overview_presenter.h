@@ -58,6 +58,8 @@ class OverviewPresenter final : public tidewatch::TabPresenter {
     Q_PROPERTY(QString comparison READ comparison NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QColor comparisonColor READ comparisonColor NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QString total READ total NOTIFY scoreChanged FINAL)
+    /// Score, total and comparison as a sentence.
+    Q_PROPERTY(QString scoreSpoken READ scoreSpoken NOTIFY scoreChanged FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* productive READ productive CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* neutral READ neutral CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* distracting READ distracting CONSTANT FINAL)
@@ -76,6 +78,7 @@ public:
     [[nodiscard]] QString comparison() const { return comparison_; }
     [[nodiscard]] QColor comparisonColor() const { return comparisonColor_; }
     [[nodiscard]] QString total() const { return total_; }
+    [[nodiscard]] QString scoreSpoken() const;
     [[nodiscard]] TierColumnPresenter* productive() { return &productive_; }
     [[nodiscard]] TierColumnPresenter* neutral() { return &neutral_; }
     [[nodiscard]] TierColumnPresenter* distracting() { return &distracting_; }

@@ -15,9 +15,9 @@ constexpr double fullHeight = 20;
 constexpr double leastHeight = 2;
 constexpr double barOpacity = 0.85;
 
-QString hourText(int hour) {
+QString clockText(int hour, int minute) {
     const int onClock = hour % 12 == 0 ? 12 : hour % 12;
-    return text(fmt::format("{}:{:02}{}", onClock, 0, hour < 12 ? "am" : "pm"));
+    return text(fmt::format("{}:{:02}{}", onClock, minute, hour < 12 ? "am" : "pm"));
 }
 
 BucketCell cell(const BucketSummary& bucket) {
@@ -25,7 +25,10 @@ BucketCell cell(const BucketSummary& bucket) {
     auto color = bucketColor(bucket.dominantTier());
     // What has no tier is faint enough by itself.
     if (bucket.dominantTier() != Tier::uncategorized) color.setAlphaF(static_cast<float>(barOpacity));
-    return {true, std::max(fullHeight * std::min(bucket.fillRatio(), 1.0), leastHeight), color};
+    const QStringList spoken{clockText(bucket.hour, bucket.minute), timeText(bucket.seconds),
+                             text(displayName(bucket.dominantTier()))};
+    return {true, std::max(fullHeight * std::min(bucket.fillRatio(), 1.0), leastHeight), color,
+            spoken.join(", ")};
 }
 
 QList<NamedTime> summary(const HourGroup& group) {
@@ -61,7 +64,7 @@ QList<NamedTime> categories(const HourGroup& group) {
 }
 
 HourSheet sheet(const HourGroup& group) {
-    HourSheet row{.id = QString::number(group.hour), .hour = hourText(group.hour)};
+    HourSheet row{.id = QString::number(group.hour), .hour = clockText(group.hour, 0)};
     for (const auto& bucket : group.buckets) row.buckets.append(cell(bucket));
     row.summary = summary(group);
     row.activities = activities(group);

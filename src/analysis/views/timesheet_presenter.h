@@ -18,11 +18,13 @@ class BucketCell final {
     Q_PROPERTY(bool filled MEMBER filled FINAL)
     Q_PROPERTY(double height MEMBER height FINAL)
     Q_PROPERTY(QColor color MEMBER color FINAL)
+    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
 
 public:
     bool filled = false;
     double height = 0;  ///< of the bar, in points
     QColor color;
+    QString spoken;  ///< "9:10am, 9m, Productivo"; nothing while it is not filled
 
     bool operator==(const BucketCell&) const = default;
 };

@@ -8,4 +8,5 @@ Text {
     elide: Text.ElideRight
     Accessible.role: Accessible.Heading
     Accessible.name: text
+    Accessible.ignored: !visible || text === ""
 }

@@ -16,6 +16,9 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
+    // The toolkit does not tell it by itself.
+    Accessible.description: enabled ? "" : "no disponible"
+    Accessible.ignored: !visible
     Accessible.onPressAction: clicked()
 
     // The space bar alone comes with the template.

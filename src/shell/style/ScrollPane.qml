@@ -125,7 +125,8 @@ Item {
             hoverEnabled: true
             visible: size < 1
 
-            Accessible.role: Accessible.ScrollBar
+            Accessible.name: "Desplazamiento"
+            Accessible.ignored: !visible
 
             contentItem: Rectangle {
                 implicitWidth: 6

@@ -38,6 +38,7 @@ FocusScope {
     Accessible.role: Accessible.Dialog
     Accessible.name: presenter.headline
     Accessible.description: presenter.subline
+    Accessible.ignored: !visible
 
     Keys.onShortcutOverride: event => event.accepted = true
     Keys.onPressed: event => event.accepted = true
@@ -116,6 +117,8 @@ FocusScope {
                 color: Style.legible(Style.palette.tierDistracting)
                 horizontalAlignment: Text.AlignHCenter
                 Accessible.role: Accessible.Heading
+                Accessible.name: text
+                Accessible.ignored: !visible
             }
 
             Text {

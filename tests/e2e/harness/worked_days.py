@@ -32,12 +32,12 @@ TIERS = {
 TODAY = {
     (9, 0): {EDITOR: 600},
     (9, 10): {EDITOR: 420, BROWSER: 150},
-    (10, 30): {BROWSER: 330, MUSIC: 200, UNKNOWN: 45},
+    (10, 30): {BROWSER: 330, MUSIC: 183, UNKNOWN: 42},
     (13, 20): {CHAT: 250, EDITOR: 130},
 }
 YESTERDAY = {
     (15, 0): {EDITOR: 580},
-    (15, 10): {EDITOR: 590},
+    (15, 10): {EDITOR: 570},
     (15, 20): {EDITOR: 600},
     (22, 40): {CHAT: 590},
 }
@@ -48,6 +48,21 @@ PROJECT_SECONDS = {EDITOR: 900, BROWSER: 120}
 def day_key(days_ago=0):
     moment = datetime.datetime.now(datetime.timezone.utc) - datetime.timedelta(days=days_ago)
     return moment.strftime("%Y-%m-%d")
+
+
+def short_date(days_ago=0):
+    """As the interface writes it: "sáb 21 nov"."""
+    moment = datetime.datetime.now(datetime.timezone.utc) - datetime.timedelta(days=days_ago)
+    weekday = ("lun", "mar", "mié", "jue", "vie", "sáb", "dom")[moment.weekday()]
+    month = ("ene", "feb", "mar", "abr", "may", "jun", "jul", "ago", "sep", "oct", "nov", "dic")[moment.month - 1]
+    return f"{weekday} {moment.day} {month}"
+
+
+def duration(seconds):
+    """As the tabs write it: "1h 14m", "35m", "42s"."""
+    if seconds >= 3600:
+        return f"{seconds // 3600}h {seconds % 3600 // 60}m"
+    return f"{seconds // 60}m" if seconds >= 60 else f"{seconds}s"
 
 
 def by_application(cells, hour=None):
@@ -95,3 +110,12 @@ def write(home):
         if application != UNKNOWN:
             entry = f"[Desktop Entry]\nType=Application\nName={name}\nExec=true\n"
             (entries / f"{application}.desktop").write_text(entry, encoding="utf-8")
+
+
+def same_week(days_ago):
+    """Whether that day lies in today's week, which begins on a Monday."""
+    return datetime.datetime.now(datetime.timezone.utc).weekday() >= days_ago
+
+
+def same_month(days_ago):
+    return day_key(days_ago)[:7] == day_key()[:7]

@@ -67,6 +67,32 @@ TEST_F(ComponentsTest, AChildCanFillItsCard) {
     EXPECT_EQ(placeOf(the("child")), QRectF(20, 20, 160, 60));
 }
 
+TEST_F(ComponentsTest, ACardSpeaksOnlyIfItIsGivenWordsAndInTheirRole) {
+    show("Item { Accessible.role: Accessible.Pane; Card { Heading { text: 'Metas' } } }");
+    EXPECT_EQ(accessible(*view_).child(0)->role(), QAccessible::Heading);
+    show(R"(Item {
+        Accessible.role: Accessible.Pane
+        Card { spoken: "9:00am, 19m"; spokenRole: Accessible.ListItem; Heading { text: "Metas" } }
+    })");
+    ASSERT_EQ(accessible(*view_).childCount(), 1);
+    auto* card = accessible(*view_).child(0);
+    EXPECT_EQ(card->role(), QAccessible::ListItem);
+    EXPECT_EQ(card->text(QAccessible::Name), "9:00am, 19m");
+    EXPECT_EQ(card->child(0)->role(), QAccessible::Heading);
+}
+
+TEST_F(ComponentsTest, HiddenAndEmptyWordsAreNotSpoken) {
+    show(R"(Column {
+        Accessible.role: Accessible.Pane
+        SpokenText { text: "uno" }
+        SpokenText { text: "dos"; visible: false }
+        SpokenText {}
+    })");
+    ASSERT_EQ(accessible(*view_).childCount(), 1);
+    EXPECT_EQ(accessible(*view_).child(0)->role(), QAccessible::StaticText);
+    EXPECT_EQ(accessible(*view_).child(0)->text(QAccessible::Name), "uno");
+}
+
 TEST_F(ComponentsTest, AHeadingIsAHeadingInItsOwnWords) {
     show("Heading { text: 'Fijar metas' }");
     EXPECT_EQ(accessible(*view_).role(), QAccessible::Heading);
@@ -114,6 +140,13 @@ TEST_F(ComponentsTest, AnIconButtonTakesTheMouseTheKeysAndAssistiveTechnology) {
     EXPECT_EQ(nameOf(*view_), "Día anterior");
     act(*view_, QAccessibleActionInterface::pressAction());
     EXPECT_EQ(count("clicks"), 5);
+}
+
+TEST_F(ComponentsTest, ADisabledButtonSaysSo) {
+    show(oneIconButton);
+    EXPECT_EQ(accessible(*view_).text(QAccessible::Description), "");
+    view_->setEnabled(false);
+    EXPECT_EQ(accessible(*view_).text(QAccessible::Description), "no disponible");
 }
 
 TEST_F(ComponentsTest, ADisabledButtonDoesNothing) {

@@ -310,7 +310,7 @@ TEST_F(StatsViewTest, ChartsAreSentences) {
         }
     }
     EXPECT_TRUE(names.contains(presenter_.overview()->hoursSpoken()));
-    EXPECT_TRUE(names.contains("PRODUCTIVIDAD: 96%. -2% vs ayer")) << qPrintable(names.join("\n"));
+    EXPECT_TRUE(names.contains("PRODUCTIVIDAD: 96%, 4h 10m, -2% vs ayer")) << qPrintable(names.join("\n"));
 }
 
 }  // namespace
