@@ -33,7 +33,8 @@ ColumnLayout {
             Layout.preferredWidth: 16
             horizontalAlignment: Text.AlignRight
             text: root.goal.mark
-            font: Style.mono(14, Style.Medium)
+            // The monospaced family's own mark looks like a root.
+            font: Style.sans(14, Style.Semibold)
             color: Style.legible(Style.palette.tierProductive)
             Accessible.ignored: true
         }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Tidewatch.Style
 
@@ -13,28 +15,33 @@ Rectangle {
 
     color: Style.palette.bg
 
-    EditorialPaperGrain {
-        objectName: "paperGrain"
-        anchors.fill: parent
-        visible: Style.decoration === Style.PaperGrain
+    // Each is there only while its theme is worn: a painted item holds a picture as large as the window.
+    Repeater {
+        model: Style.decoration === Style.PaperGrain ? 1 : 0
+        delegate: EditorialPaperGrain {
+            objectName: "paperGrain"
+            anchors.fill: parent
+        }
     }
-
-    HackerScanlines {
-        objectName: "scanlines"
-        anchors.fill: parent
-        visible: Style.decoration === Style.Scanlines
+    Repeater {
+        model: Style.decoration === Style.Scanlines ? 1 : 0
+        delegate: HackerScanlines {
+            objectName: "scanlines"
+            anchors.fill: parent
+        }
     }
-
-    LiquidBackground {
-        objectName: "liquid"
-        anchors.fill: parent
-        visible: Style.decoration === Style.Liquid
-        // Bright enough to be seen moving, dark enough for small text on cards that hardly cover it.
-        opacity: 0.5
-        time: root.time
-        running: root.running
-        intensity: Style.liquidDecorationIntensity
-        reduction: 9
-        everyFrames: 2
+    Repeater {
+        model: Style.decoration === Style.Liquid ? 1 : 0
+        delegate: LiquidBackground {
+            objectName: "liquid"
+            anchors.fill: parent
+            // Bright enough to be seen moving, dark enough for small text on cards that hardly cover it.
+            opacity: 0.5
+            time: root.time
+            running: root.running
+            intensity: Style.liquidDecorationIntensity
+            reduction: 9
+            everyFrames: 2
+        }
     }
 }
