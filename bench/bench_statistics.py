@@ -1,0 +1,149 @@
+"""What the statistics window costs on a ten-year record: its opening, its refresh, its memory while open and after."""
+
+import json
+import os
+import statistics
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests/e2e"))
+
+from bench_program import Report  # noqa: E402
+from harness.hands import LEFT  # noqa: E402
+from harness.home import today  # noqa: E402
+from harness.screen import Rectangle  # noqa: E402
+from harness.waiting import stays, wait_until  # noqa: E402
+from harness.world import World  # noqa: E402
+
+OPENINGS = 5
+OPENING_LIMIT = 300  # milliseconds
+REFRESH_LIMIT = 15  # milliseconds of processor time
+REFRESH_SECONDS = 2
+OPEN_MEMORY_LIMIT = 90  # megabytes
+LEFT_BEHIND_LIMIT = 10  # megabytes
+
+CATEGORIES = ("Desarrollo", "Navegador", "Sistema", "Música", "Social", "Juegos")
+
+SETTLE_SECONDS = 3
+MEASURED_SECONDS = 20
+PERIODIC_WRITE_SECONDS = 30  # what a write costs has a limit of its own
+TABS = 5
+
+# Where the window shows the seconds of the first tier, and how bright they are there.
+CLOCK_ORIGIN = (1140, 730)
+CONTENT = Rectangle(350, 215, 250, 40)
+BRIGHT = 200
+
+
+def prepare(world):
+    world.home.write_settings(sizeScale=0.5, windowOriginX=CLOCK_ORIGIN[0], windowOriginY=CLOCK_ORIGIN[1])
+    world.home.data.mkdir(mode=0o700)
+    subprocess.run([os.environ["TIDEWATCH_MAKE_RECORD"], str(world.home.data)], check=True)
+    repeat_last_day(world.home, today())
+    classify(world.home)
+
+
+def repeat_last_day(home, day):
+    """What is shown is today: it gets what the record's last day holds."""
+    last = max(home.read("today.json"))
+    for name in ("today.json", "apps.json", "hours.json", "minutes.json", "project_time.json"):
+        counters = home.read(name)
+        counters |= {day + key[len(last) :]: value for key, value in counters.items() if key.startswith(last)}
+        home.write(name, json.dumps(counters))
+
+
+def classify(home):
+    """Every tier gets some of the applications, others stay without one."""
+    applications = sorted({application for day in home.read("apps.json").values() for application in day})
+    overrides = {
+        application: CATEGORIES[number % len(CATEGORIES)]
+        for number, application in enumerate(applications)
+        if number % (len(CATEGORIES) + 1) < len(CATEGORIES)
+    }
+    home.write("categories.json", json.dumps({"appOverrides": overrides, "tierOverrides": []}))
+
+
+def shows_content(world):
+    return min(high for _, high in world.screen.grab(CONTENT).getextrema()) > BRIGHT
+
+
+def open_by_click(world):
+    """From the button's release on the clock until the tab's figures are on the screen, in milliseconds."""
+    x, y = world.clock().frame.centre
+    world.hands.move(x, y)
+    world.hands.press(LEFT)
+    begin = time.monotonic()
+    world.hands.release(LEFT)
+    wait_until(lambda: shows_content(world), "the figures", every=0.002)
+    return (time.monotonic() - begin) * 1000
+
+
+def close(world):
+    world.hands.key("ctrl+w")
+    wait_until(lambda: world.statistics() is None and not shows_content(world), "the window to close")
+    # What was shown is destroyed and given back a moment later.
+    stays(lambda: world.statistics() is None, "the closed window", 0.5)
+
+
+def processor_milliseconds(program):
+    """Spent over the time measured, which must not hold a periodic write of the record."""
+    before = program.processor_seconds()
+    time.sleep(MEASURED_SECONDS)
+    return (program.processor_seconds() - before) * 1000
+
+
+def after_a_write(world):
+    """Waits until the record has just been written, the day's file first and the others after it."""
+    written = world.home.data / "today.json"
+
+    def moment():
+        return written.stat().st_mtime_ns if written.exists() else 0
+
+    before = moment()
+    wait_until(lambda: moment() != before, "a periodic write", 2 * PERIODIC_WRITE_SECONDS)
+    time.sleep(SETTLE_SECONDS)
+
+
+def megabytes(program):
+    return program.memory_kilobytes() / 1024
+
+
+def main():
+    report = Report()
+    with World("bench-statistics") as world:
+        prepare(world)
+        program = world.start_program()
+        wait_until(lambda: world.clock() is not None, "the clock")
+        after_a_write(world)
+        closed_cost = processor_milliseconds(program)
+        before = megabytes(program)
+
+        times = []
+        for opening in range(1 + OPENINGS):
+            times.append(open_by_click(world))
+            if opening < OPENINGS:
+                close(world)
+        report.line("the first opening", times[0], OPENING_LIMIT, "ms")
+        report.line("opening to the figures (median)", statistics.median(times[1:]), OPENING_LIMIT, "ms")
+
+        after_a_write(world)
+        open_cost = processor_milliseconds(program)
+        refreshes = MEASURED_SECONDS / REFRESH_SECONDS
+        report.line("processor time of a refresh", (open_cost - closed_cost) / refreshes, REFRESH_LIMIT, "ms")
+        report.line("resident memory, window open", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
+
+        for tab in range(TABS, 0, -1):
+            world.hands.key(f"ctrl+{tab}")
+            time.sleep(1)
+        report.line("resident memory, every tab shown", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
+        close(world)
+        time.sleep(SETTLE_SECONDS)
+        report.line("more than before, window closed", megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
+        world.stop_program(program)
+    return 1 if report.exceeded else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
