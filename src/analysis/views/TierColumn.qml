@@ -2,6 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
+import QtQuick.Templates as T
 import Tidewatch.Analysis
 import Tidewatch.Style
 
@@ -39,25 +40,42 @@ Card {
             font: Style.mono(24, Style.Light)
             color: Style.palette.primaryText
         }
-        ListView {
-            id: list
-
-            objectName: "apps"
+        Item {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: !root.presenter.isEmpty
-            clip: true
-            interactive: contentHeight > height
-            boundsBehavior: Flickable.StopAtBounds
-            model: root.presenter.apps
-            Accessible.role: Accessible.List
-            Accessible.name: root.presenter.title
-            delegate: AppLine {
-                required property appRow row
 
-                width: list.width
-                height: 28
-                app: row
+            ListView {
+                id: list
+
+                readonly property real rowHeight: 28
+
+                objectName: "apps"
+                anchors.left: parent.left
+                anchors.right: parent.right
+                // Whole rows only.
+                height: parent.height - parent.height % rowHeight
+                clip: true
+                interactive: contentHeight > height
+                snapMode: ListView.SnapToItem
+                boundsBehavior: Flickable.StopAtBounds
+                model: root.presenter.apps
+                Accessible.role: Accessible.List
+                Accessible.name: root.presenter.title
+                delegate: AppLine {
+                    required property appRow row
+
+                    width: list.width
+                    height: list.rowHeight
+                    app: row
+                }
+
+                T.ScrollBar.vertical: SlimScrollBar {
+                    parent: list.parent
+                    anchors.left: parent.right
+                    height: list.height
+                    restingOpacity: 0.4
+                }
             }
         }
         SpokenText {

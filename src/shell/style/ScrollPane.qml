@@ -116,31 +116,7 @@ Item {
             width: flickable.width - 2 * root.padding
         }
 
-        T.ScrollBar.vertical: T.ScrollBar {
-            id: bar
-
-            padding: 3
-            implicitWidth: 12
-            minimumSize: 0.06
-            hoverEnabled: true
-            visible: size < 1
-
-            Accessible.name: "Desplazamiento"
-            Accessible.ignored: !visible
-
-            contentItem: Rectangle {
-                implicitWidth: 6
-                radius: 3
-                color: bar.pressed || bar.hovered ? Style.palette.strongMute : Style.palette.mute
-                opacity: bar.active ? 0.9 : 0
-
-                Behavior on opacity {
-                    NumberAnimation {
-                        duration: bar.active ? Style.measures.quickDuration : 3 * Style.measures.duration
-                    }
-                }
-            }
-        }
+        T.ScrollBar.vertical: SlimScrollBar {}
     }
 
     WheelHandler {

@@ -67,6 +67,14 @@ QPainterPath hollowStar() {
     return fitted(outline(starBody(), 0.1));
 }
 
+QPainterPath appTile() {
+    constexpr double line = 0.09;
+    constexpr double radius = 0.26;
+    QPainterPath tile;
+    tile.addRoundedRect(QRectF(0.1, 0.1, 0.8, 0.8), radius, radius);
+    return outline(tile, line);
+}
+
 QPainterPath filledCircle() {
     return circle({0.5, 0.5}, 0.5);
 }

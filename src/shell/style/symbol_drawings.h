@@ -11,6 +11,8 @@ namespace tidewatch {
 [[nodiscard]] QPainterPath hollowStar();
 
 [[nodiscard]] QPainterPath filledCircle();
+/// The outline of an application that has no picture of its own.
+[[nodiscard]] QPainterPath appTile();
 
 /// A round bomb with a light on its body and a burning fuse.
 [[nodiscard]] QPainterPath bomb();

@@ -493,7 +493,7 @@ TEST_F(ComponentsTest, AnIconThatIsNotThereIsTheSymbolOfAnApplication) {
 
 TEST_F(ComponentsTest, BehindTheDashboardLiesWhatTheThemeSays) {
     show("DashboardBackground { width: 200; height: 100 }");
-    const auto shown = [this](const char* name) { return the(name).isVisible(); };
+    const auto shown = [this](const char* name) { return item(name) != nullptr; };
     EXPECT_FALSE(shown("paperGrain") || shown("scanlines") || shown("liquid"));
     theme_.switchTo("editorial");
     EXPECT_TRUE(shown("paperGrain"));
@@ -509,10 +509,10 @@ TEST_F(ComponentsTest, TheGroundMovesOnlyInItsThemeAndWhileItIsWorthIt) {
     WallTime time(clock);
     show("DashboardBackground { width: 200; height: 100 }");
     view_->setProperty("time", QVariant::fromValue(&time));
+    EXPECT_EQ(item("liquid"), nullptr);
+    theme_.switchTo("liquid");
     auto& liquid = *qobject_cast<LiquidBackground*>(item("liquid"));
     EXPECT_EQ(liquid.time(), &time);
-    EXPECT_FALSE(liquid.isMoving());
-    theme_.switchTo("liquid");
     EXPECT_TRUE(liquid.isMoving());
     view_->setProperty("running", false);
     EXPECT_FALSE(liquid.isMoving());
@@ -520,6 +520,8 @@ TEST_F(ComponentsTest, TheGroundMovesOnlyInItsThemeAndWhileItIsWorthIt) {
     EXPECT_TRUE(liquid.isMoving());
     view_->setVisible(false);
     EXPECT_FALSE(liquid.isMoving());
+    theme_.switchTo("ochre");
+    EXPECT_EQ(item("liquid"), nullptr);
 }
 
 }  // namespace
