@@ -125,7 +125,7 @@ def main():
             times.append(open_by_click(world))
             if opening < OPENINGS:
                 close(world)
-        report.line("the first opening", times[0], OPENING_LIMIT, "ms")
+        print(f"{'the first opening, for comparison':<44} {times[0]:8.1f} ms", flush=True)
         report.line("opening to the figures (median)", statistics.median(times[1:]), OPENING_LIMIT, "ms")
 
         after_a_write(world)
@@ -134,13 +134,18 @@ def main():
         report.line("processor time of a refresh", (open_cost - closed_cost) / refreshes, REFRESH_LIMIT, "ms")
         report.line("resident memory, window open", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
 
+        close(world)
+        time.sleep(SETTLE_SECONDS)
+        report.line("more than before, closed again", megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
+
+        open_by_click(world)
         for tab in range(TABS, 0, -1):
             world.hands.key(f"ctrl+{tab}")
             time.sleep(1)
         report.line("resident memory, every tab shown", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
         close(world)
         time.sleep(SETTLE_SECONDS)
-        report.line("more than before, window closed", megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
+        report.line("more than before, closed after every tab", megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
         world.stop_program(program)
     return 1 if report.exceeded else 0
 
