@@ -19,7 +19,7 @@ LIBRARIES = {
     "qt": r"Q(t\w*|[A-Z]\w*)(/.*)?|q[a-z]+\.h|qt\w+\.h",
     "xcb": r"xcb/.*|X11/.*",
     "system": r"(sys|linux|netinet|arpa|net|asm)/.*|"
-    r"(unistd|fcntl|poll|signal|pwd|grp|dirent|dlfcn|errno|spawn|termios|pthread|sched|malloc|limits|time|"
+    r"(unistd|fcntl|poll|signal|pwd|grp|dirent|dlfcn|errno|spawn|termios|pthread|sched|malloc|link|limits|time|"
     r"stdio|stdlib|string|strings|stdint|stddef|ctype|math|locale|assert)\.h",
 }
 

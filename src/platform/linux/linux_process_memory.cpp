@@ -1,40 +1,36 @@
 #include "platform/linux/linux_process_memory.h"
 
+#include <link.h>
 #include <malloc.h>
 #include <sys/mman.h>
+#include <unistd.h>
 
+#include <cstddef>
 #include <cstdint>
-#include <fstream>
-#include <sstream>
-#include <string>
-#include <string_view>
 
 namespace tidewatch::platform {
 namespace {
 
-/// Begins the path of code that an interpreter made and that no file on disk has.
-constexpr std::string_view madeInMemory = "/memfd:";
-
-/// Code is never written to, so its pages can go at any time: the next call into one finds it in the file.
-void letGoOfCode() {
-    std::ifstream mappings("/proc/self/maps");
-    for (std::string line; std::getline(mappings, line);) {
-        std::istringstream fields(line);
-        std::uintptr_t begin = 0;
-        std::uintptr_t end = 0;
-        char hyphen = 0;
-        std::string access, offset, device, inode, path;
-        fields >> std::hex >> begin >> hyphen >> end >> access >> offset >> device >> inode >> path;
-        if (!fields || access != "r-xp" || path.front() != '/' || path.starts_with(madeInMemory)) continue;
-        ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);
+/// What a library only reads, its code above all, can go at any time: the next touch of a page finds it in
+/// the file. Segments that are written to, be it only by the linker at the start, stay.
+int letGoOfWhatIsOnlyRead(dl_phdr_info* library, std::size_t /*size*/, void* /*context*/) {
+    const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    for (ElfW(Half) i = 0; i < library->dlpi_phnum; ++i) {
+        const auto& segment = library->dlpi_phdr[i];
+        if (segment.p_type != PT_LOAD || (segment.p_flags & PF_W) != 0) continue;
+        const auto begin = library->dlpi_addr + segment.p_vaddr;
+        const auto first = (begin + page - 1) / page * page;
+        const auto last = (begin + segment.p_memsz) / page * page;
+        if (first < last) ::madvise(reinterpret_cast<void*>(first), last - first, MADV_DONTNEED);
     }
+    return 0;
 }
 
 }  // namespace
 
 void LinuxProcessMemory::giveBackUnused() {
     ::malloc_trim(0);
-    letGoOfCode();
+    ::dl_iterate_phdr(letGoOfWhatIsOnlyRead, nullptr);
 }
 
 }  // namespace tidewatch::platform
