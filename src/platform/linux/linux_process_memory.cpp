@@ -7,6 +7,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <fstream>
+#include <sstream>
+#include <string>
 
 namespace tidewatch::platform {
 namespace {
@@ -26,11 +29,27 @@ int letGoOfWhatIsOnlyRead(dl_phdr_info* library, std::size_t /*size*/, void* /*c
     return 0;
 }
 
+/// Fonts are mapped whole, and read glyph by glyph when one is drawn for the first time.
+void letGoOfFonts() {
+    std::ifstream mappings("/proc/self/maps");
+    for (std::string line; std::getline(mappings, line);) {
+        if (!line.ends_with(".ttf") && !line.ends_with(".otf")) continue;
+        std::istringstream fields(line);
+        std::uintptr_t begin = 0;
+        std::uintptr_t end = 0;
+        char hyphen = 0;
+        std::string access;
+        fields >> std::hex >> begin >> hyphen >> end >> access;
+        if (fields && access == "r--p") ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);
+    }
+}
+
 }  // namespace
 
 void LinuxProcessMemory::giveBackUnused() {
     ::malloc_trim(0);
     ::dl_iterate_phdr(letGoOfWhatIsOnlyRead, nullptr);
+    letGoOfFonts();
 }
 
 }  // namespace tidewatch::platform
