@@ -39,8 +39,12 @@ public:
     /// Lets only `region`, in device pixels of the window, take the mouse; the rest lets clicks through.
     virtual void setInputRegion(WindowHandle window, Rectangle region) = 0;
 
-    /// The frame that the window has or, before it is shown, will get; none if the desktop does not tell
-    /// within a tenth of a second.
+    /// Asks the desktop which frame the window will get. To be called as soon as the window exists, so that
+    /// the answer is there when frameMargins() looks for it.
+    virtual void requestFrame(WindowHandle window) = 0;
+
+    /// The frame that the window has or, before it is shown, will get, as far as the desktop has told; waits
+    /// a few milliseconds at most.
     [[nodiscard]] virtual FrameMargins frameMargins(WindowHandle window) = 0;
 
     /// Asks for a frame that goes with the window's content. Holds from the next showing on at the latest; a

@@ -19,6 +19,7 @@ public:
     Connection onCovered(WindowHandle, std::function<void(bool covered)> changed) override {
         return covered_.connect(std::move(changed));
     }
+    void requestFrame(WindowHandle) override {}
     [[nodiscard]] FrameMargins frameMargins(WindowHandle) override { return margins_; }
     void setFrameShade(WindowHandle, FrameShade shade) override { shade_ = shade; }
     void activate(WindowHandle) override { ++activated_; }

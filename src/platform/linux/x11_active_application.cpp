@@ -3,9 +3,21 @@
 #include <unistd.h>
 #include <xcb/res.h>
 
+#include <QSocketNotifier>
+#include <utility>
+
 #include "platform/linux/process_identity.h"
 
 namespace tidewatch::platform {
+
+namespace {
+
+constexpr std::uint32_t nothing = 0;
+constexpr std::uint32_t itsProperties = XCB_EVENT_MASK_PROPERTY_CHANGE;
+constexpr std::uint32_t itsPropertiesAndEnd =
+    XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+
+}  // namespace
 
 X11ActiveApplication::X11ActiveApplication(const X11Connection& connection, DesktopEntries& entries,
                                            AppId own)
@@ -15,39 +27,63 @@ X11ActiveApplication::X11ActiveApplication(const X11Connection& connection, Desk
       activeWindowAtom_(connection.atom("_NET_ACTIVE_WINDOW")),
       applicationIdAtom_(connection.atom("_GTK_APPLICATION_ID")),
       canAskForProcess_(connection.hasExtension(&xcb_res_id)) {
-    if (connection_.alive()) watch(connection_.root());
+    if (!connection_.alive()) return;
+    setWatched(connection_.root(), itsProperties);
+    notifier_ =
+        std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { takeEvents(); });
 }
 
+X11ActiveApplication::~X11ActiveApplication() = default;
+
 std::optional<AppId> X11ActiveApplication::current() {
-    drainEvents();
+    takeEvents();
     if (!connection_.alive()) return std::nullopt;
-    if (stale_) {
-        const auto window =
-            connection_.cardinal(connection_.root(), activeWindowAtom_).value_or(XCB_WINDOW_NONE);
-        if (window != window_ && window != XCB_WINDOW_NONE) watch(window);
-        window_ = window;
-        application_ = window == XCB_WINDOW_NONE ? std::nullopt : identify(window);
-        stale_ = false;
-    }
+    if (stale_) lookAgain();
     return application_;
 }
 
-void X11ActiveApplication::drainEvents() {
+void X11ActiveApplication::lookAgain() {
+    stale_ = false;
+    window_ = connection_.cardinal(connection_.root(), activeWindowAtom_).value_or(XCB_WINDOW_NONE);
+    if (window_ == XCB_WINDOW_NONE) return;
+    setWatched(window_, itsPropertiesAndEnd);
+    application_ = identify(window_);
+    // What came along with the answers no longer wakes the notifier.
+    takeEvents();
+}
+
+void X11ActiveApplication::takeEvents() {
     while (const auto event = connection_.pollEvent()) {
-        const auto type = event->response_type & 0x7f;
-        if (type == XCB_DESTROY_NOTIFY) stale_ = true;
-        if (type != XCB_PROPERTY_NOTIFY) continue;
-        const auto& change = *reinterpret_cast<const xcb_property_notify_event_t*>(event.get());
-        const bool focusMoved = change.window == connection_.root() && change.atom == activeWindowAtom_;
-        const bool renamed = change.window == window_ &&
-                             (change.atom == XCB_ATOM_WM_CLASS || change.atom == applicationIdAtom_);
-        stale_ = stale_ || focusMoved || renamed;
+        if (changesTheAnswer(*event)) forget();
+    }
+    if (!connection_.alive() && notifier_) notifier_->setEnabled(false);
+}
+
+bool X11ActiveApplication::changesTheAnswer(const xcb_generic_event_t& event) const {
+    switch (event.response_type & 0x7f) {
+        case XCB_DESTROY_NOTIFY:
+            return reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_;
+        case XCB_PROPERTY_NOTIFY: {
+            const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+            if (change.window == connection_.root()) return change.atom == activeWindowAtom_;
+            return change.window == window_ &&
+                   (change.atom == XCB_ATOM_WM_CLASS || change.atom == applicationIdAtom_);
+        }
+        default:
+            return false;
     }
 }
 
-void X11ActiveApplication::watch(xcb_window_t window) {
-    const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &mask);
+/// A window that is no longer in front must not go on reporting: nobody may ask for hours.
+void X11ActiveApplication::forget() {
+    stale_ = true;
+    application_.reset();
+    if (window_ != XCB_WINDOW_NONE) setWatched(std::exchange(window_, XCB_WINDOW_NONE), nothing);
+}
+
+void X11ActiveApplication::setWatched(xcb_window_t window, std::uint32_t events) {
+    xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
     xcb_flush(connection_.get());
 }
 

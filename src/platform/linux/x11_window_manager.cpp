@@ -1,6 +1,7 @@
 #include "platform/linux/x11_window_manager.h"
 
 #include <fmt/format.h>
+#include <poll.h>
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
@@ -10,7 +11,6 @@
 #include <array>
 #include <chrono>
 #include <string_view>
-#include <thread>
 #include <utility>
 
 namespace tidewatch::platform {
@@ -22,8 +22,8 @@ constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
 /// Whoever asks in the name of the user, as a taskbar does, is not kept from taking the focus.
 constexpr std::uint32_t actsForTheUser = 2;
 
-constexpr int frameLooks = 50;
-constexpr auto timeBetweenFrameLooks = std::chrono::milliseconds(2);
+/// What a desktop that is well needs far less than, and nobody notices.
+constexpr auto framePatience = std::chrono::milliseconds(10);
 
 xcb_window_t xWindow(WindowHandle window) {
     return static_cast<xcb_window_t>(window);
@@ -80,19 +80,27 @@ Connection X11WindowManager::onCovered(WindowHandle window, std::function<void(b
     auto& signal = covered_[xWindow(window)];
     if (!signal) signal = std::make_unique<Signal<bool>>();
     if (connection_.alive()) {
-        const std::uint32_t mask = XCB_EVENT_MASK_VISIBILITY_CHANGE;
-        xcb_change_window_attributes(connection_.get(), xWindow(window), XCB_CW_EVENT_MASK, &mask);
-        xcb_flush(connection_.get());
+        setWatched(xWindow(window), XCB_EVENT_MASK_VISIBILITY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     }
     return signal->connect(std::move(changed));
 }
 
+void X11WindowManager::requestFrame(WindowHandle window) {
+    if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return;
+    setWatched(xWindow(window), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    sendToRoot(xWindow(window), requestFrameExtentsAtom_, {});
+    xcb_flush(connection_.get());
+}
+
 FrameMargins X11WindowManager::frameMargins(WindowHandle window) {
     if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return {};
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + framePatience;
     auto extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
-    if (extents.empty()) sendToRoot(xWindow(window), requestFrameExtentsAtom_, {});
-    for (int look = 0; extents.empty() && look < frameLooks; ++look) {
-        std::this_thread::sleep_for(timeBetweenFrameLooks);
+    // Anything that comes from the server may be word that the property is there now.
+    for (auto now = Clock::now(); extents.empty() && now < end; now = Clock::now()) {
+        pollfd server{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
+        ::poll(&server, 1, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(end - now).count()));
         extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
     }
     waitForServer();
@@ -138,9 +146,16 @@ void X11WindowManager::readEvents() {
             if (const auto found = covered_.find(change.window); found != covered_.end()) {
                 found->second->emit(change.state == XCB_VISIBILITY_FULLY_OBSCURED);
             }
+        } else if (type == XCB_DESTROY_NOTIFY) {
+            covered_.erase(reinterpret_cast<const xcb_destroy_notify_event_t*>(event.get())->window);
         }
     }
     if (!connection_.alive()) notifier_->setEnabled(false);
+}
+
+void X11WindowManager::setWatched(xcb_window_t window, std::uint32_t events) {
+    xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
+    xcb_flush(connection_.get());
 }
 
 void X11WindowManager::updateCompositing() {

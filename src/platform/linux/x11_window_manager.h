@@ -22,6 +22,7 @@ public:
     Connection onCompositingChanged(std::function<void()> changed) override;
     void setInputRegion(WindowHandle window, Rectangle region) override;
     Connection onCovered(WindowHandle window, std::function<void(bool covered)> changed) override;
+    void requestFrame(WindowHandle window) override;
     [[nodiscard]] FrameMargins frameMargins(WindowHandle window) override;
     void setFrameShade(WindowHandle window, FrameShade shade) override;
     void activate(WindowHandle window) override;
@@ -29,6 +30,7 @@ public:
 private:
     void watchCompositor();
     void readEvents();
+    void setWatched(xcb_window_t window, std::uint32_t events);
     void updateCompositing();
     void keepOutOfTaskbar(xcb_window_t window);
     void waitForServer();

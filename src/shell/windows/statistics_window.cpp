@@ -20,12 +20,16 @@ constexpr QSize leastSize(820, 560);  // what the user can make of it
 /// The window itself, from one opening to the next closing.
 class QuickStatisticsWindow::Frame final : public QQuickWindow {
 public:
-    Frame(std::unique_ptr<QQuickItem> view, std::function<void()> askedToClose)
-        : view_(std::move(view)), askedToClose_(std::move(askedToClose)) {
+    explicit Frame(std::function<void()> askedToClose) : askedToClose_(std::move(askedToClose)) {
         setTitle("FATHOM · Estadísticas");
         setMinimumSize(leastSize);
+    }
+
+    void setView(std::unique_ptr<QQuickItem> view) {
+        view_ = std::move(view);
         view_->setParentItem(contentItem());
         view_->setFocus(true);
+        view_->setSize(size());
     }
 
 protected:
@@ -36,7 +40,7 @@ protected:
 
     void resizeEvent(QResizeEvent* event) override {
         QQuickWindow::resizeEvent(event);
-        view_->setSize(size());
+        if (view_) view_->setSize(size());
     }
 
 private:
@@ -56,8 +60,11 @@ QuickStatisticsWindow::~QuickStatisticsWindow() = default;
 
 void QuickStatisticsWindow::showWindow() {
     if (!window_) {
-        window_ = std::make_unique<Frame>(content_.makeView(), [this] { close(); });
+        window_ = std::make_unique<Frame>([this] { close(); });
         window_->create();
+        // While the view is being made, the desktop has time to answer.
+        platform_.windowManager.requestFrame(window_->winId());
+        window_->setView(content_.makeView());
     }
     wearTheme();
     place();
