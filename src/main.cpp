@@ -1,9 +1,14 @@
+#include <cstdlib>
+
 #include "native/native_platform.h"
+#include "native/process_environment.h"
 #include "shell/application.h"
 
-int main(int argumentCount, char* arguments[]) {
-    tidewatch::platform::prepareEnvironment();
-    tidewatch::Application application(argumentCount, arguments);
-    tidewatch::platform::NativePlatform machine;
+// Nothing is read from the command line: the toolkit would take orders from it, too.
+int main(int, char* arguments[]) {
+    const tidewatch::platform::ProcessEnvironment environment;
+    if (!environment.hasDisplay()) return EXIT_FAILURE;
+    tidewatch::Application application(arguments[0]);
+    tidewatch::platform::NativePlatform machine(environment);
     return application.run(machine.platform());
 }

@@ -1,10 +1,9 @@
 #include "native/native_platform.h"
 
-#include <malloc.h>
-
 #include <QCoreApplication>
 #include <QStandardPaths>
 
+#include "native/process_environment.h"
 #include "platform/linux/autostart_login_item.h"
 #include "platform/linux/desktop_notifications.h"
 #include "platform/linux/desktop_workspace.h"
@@ -12,6 +11,7 @@
 #include "platform/linux/linux_process_memory.h"
 #include "platform/linux/locked_running_instance.h"
 #include "platform/linux/posix_file_system.h"
+#include "platform/linux/session_bus.h"
 #include "platform/linux/stderr_log.h"
 #include "platform/linux/system_randomness.h"
 #include "platform/linux/x11_input_activity.h"
@@ -25,7 +25,6 @@ namespace tidewatch::platform {
 
 namespace {
 
-constexpr int keptAllocations = 256 * 1024;  // bytes
 constexpr char ownIdentifier[] = "com.brightlooms.tidewatch";
 
 std::string configDirectory() {
@@ -34,21 +33,16 @@ std::string configDirectory() {
 
 }  // namespace
 
-void prepareEnvironment() {
-    // The texts of a long record go through memory at every write. Above this size an allocation is the
-    // kernel's own, and is gone when it is freed; left to itself, the allocator would keep the largest one
-    // for ever.
-    mallopt(M_MMAP_THRESHOLD, keptAllocations);
-    mallopt(M_TRIM_THRESHOLD, keptAllocations);
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
 struct NativePlatform::Parts {
+    explicit Parts(const ProcessEnvironment& prepared) : environment(prepared) {}
+
+    const ProcessEnvironment& environment;
     StderrLog log;
     QtClock clock;
     QtMainLoop mainLoop;
     PosixFileSystem files;
     QtPreferences preferences;
+    SessionBus sessionBus{environment.sessionBusAddress()};
     X11Connection idleConnection;
     X11InputActivity inputActivity{idleConnection};
     DesktopWorkspace workspace{AppId(ownIdentifier)};
@@ -59,14 +53,15 @@ struct NativePlatform::Parts {
     LockedRunningInstance runningInstance{log};
     LinuxProcessEndings endings;
     SystemRandomness randomness;
-    DesktopNotifications notifications{QDBusConnection::sessionBus(), log};
+    DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;
     Platform all{log,        clock,         mainLoop,      files,     preferences,     inputActivity,
                  workspace,  screens,       windowManager, loginItem, runningInstance, endings,
                  randomness, notifications, memory};
 };
 
-NativePlatform::NativePlatform() : parts_(std::make_unique<Parts>()) {}
+NativePlatform::NativePlatform(const ProcessEnvironment& environment)
+    : parts_(std::make_unique<Parts>(environment)) {}
 NativePlatform::~NativePlatform() = default;
 
 const Platform& NativePlatform::platform() const {

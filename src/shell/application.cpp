@@ -37,8 +37,8 @@ QIcon programIcon() {
 
 }  // namespace
 
-Application::Application(int& argumentCount, char** arguments)
-    : toolkit_(prepared(argumentCount), arguments) {
+Application::Application(char* programPath)
+    : arguments_{programPath, nullptr}, toolkit_(prepared(argumentCount_), arguments_.data()) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setWindowIcon(programIcon());
     if (toolkitWords_.load()) QCoreApplication::installTranslator(&toolkitWords_);

@@ -1,6 +1,7 @@
 #include "platform_linux/private_bus.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
 
 #include <QUuid>
 
@@ -29,6 +30,11 @@ constexpr int startTimeOut = 10'000;
 PrivateBus::PrivateBus() {
     const auto directory = QString::fromStdString(directory_.path());
     directory_.write("bus.conf", QString(configuration).arg(directory).toStdString());
+    start();
+}
+
+void PrivateBus::start() {
+    const auto directory = QString::fromStdString(directory_.path());
     daemon_.start("dbus-daemon",
                   {"--nofork", "--nopidfile", "--print-address", "--config-file=" + directory + "/bus.conf"});
     const bool answered = daemon_.waitForReadyRead(startTimeOut);
@@ -48,8 +54,17 @@ QDBusConnection PrivateBus::connect() {
 
 void PrivateBus::stop() {
     if (daemon_.state() == QProcess::NotRunning) return;
+    resume();
     daemon_.terminate();
     daemon_.waitForFinished();
+}
+
+void PrivateBus::suspend() {
+    ::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP);
+}
+
+void PrivateBus::resume() {
+    ::kill(static_cast<pid_t>(daemon_.processId()), SIGCONT);
 }
 
 }  // namespace tidewatch::platform

@@ -20,7 +20,16 @@ public:
     /// A connection of its own at each call.
     [[nodiscard]] QDBusConnection connect();
 
+    [[nodiscard]] const QString& address() const { return address_; }
+
     void stop();
+
+    /// Once more after a stop, at the same address. Fails the running test if the bus does not come up.
+    void start();
+
+    /// Keeps the bus from doing anything, as a debugger does, until it is resumed.
+    void suspend();
+    void resume();
 
 private:
     test::TemporaryDirectory directory_;

@@ -39,8 +39,8 @@ Outcome outcomeOf(const QDBusPendingCall& call) {
 
 }  // namespace
 
-DesktopNotifications::DesktopNotifications(QDBusConnection bus, Log& log, std::chrono::milliseconds timeOut)
-    : bus_(std::move(bus)), log_(log), timeOut_(timeOut) {}
+DesktopNotifications::DesktopNotifications(SessionBus& bus, Log& log, std::chrono::milliseconds timeOut)
+    : bus_(bus), log_(log), timeOut_(timeOut) {}
 
 void DesktopNotifications::requestAuthorization(std::function<void(AuthorizationAnswer)> answered) {
     QMetaObject::invokeMethod(
@@ -50,9 +50,10 @@ void DesktopNotifications::requestAuthorization(std::function<void(Authorization
 
 void DesktopNotifications::deliver(const UserNotification& notification,
                                    std::function<void(Outcome)> delivered) {
+    const auto bus = bus_.connection();
     const auto call =
-        bus_.isConnected()
-            ? bus_.asyncCall(notifyCall(notification), static_cast<int>(timeOut_.count()))
+        bus.isConnected()
+            ? bus.asyncCall(notifyCall(notification), static_cast<int>(timeOut_.count()))
             : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, "there is no session bus"));
     auto* watcher = new QDBusPendingCallWatcher(call, &pendingCalls_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QDBusConnection>
 #include <QObject>
 #include <chrono>
 #include <functional>
 
 #include "platform/api/log.h"
 #include "platform/api/user_notifications.h"
+#include "platform/linux/session_bus.h"
 
 namespace tidewatch::platform {
 
@@ -15,10 +15,10 @@ namespace tidewatch::platform {
 /// calls back on it.
 class DesktopNotifications final : public UserNotifications {
 public:
-    /// `bus` is the session's; one that is not connected fails every delivery. A service that has not
+    /// Without a bus a delivery fails. A service that has not
     /// answered after `timeOut` counts as failed; a message that it shows all the same, later, is then seen
-    /// twice. `log` must outlive this object.
-    DesktopNotifications(QDBusConnection bus, Log& log,
+    /// twice. `bus` and `log` must outlive this object.
+    DesktopNotifications(SessionBus& bus, Log& log,
                          std::chrono::milliseconds timeOut = std::chrono::seconds(3));
 
     /// Whether a service runs shows only at each delivery: it may come and go.
@@ -30,7 +30,7 @@ public:
     void setOlderService(std::function<void(const UserNotification&)> show) override;
 
 private:
-    const QDBusConnection bus_;
+    SessionBus& bus_;
     Log& log_;
     const std::chrono::milliseconds timeOut_;
     std::function<void(const UserNotification&)> showOlder_;

@@ -113,6 +113,10 @@ class Screen:
         value = window.get_full_property(self._display.intern_atom(name), X.AnyPropertyType)
         return [] if value is None else list(value.value)
 
+    def text_property(self, window_id, name):
+        """A window's property as a text, "" without one. A window of 0 is the root."""
+        return bytes(self.property(window_id, name)).decode("utf-8")
+
     def states(self, window_id):
         """The names in _NET_WM_STATE."""
         return {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_STATE")}

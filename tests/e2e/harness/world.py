@@ -56,7 +56,7 @@ class World:
         try:
             self._start_server()
             if self._wants_session_bus:
-                self._start_bus()
+                self.start_session_bus()
             self.start("openbox", "--sm-disable")
             wait_until(self.screen.has_window_manager, "the window manager")
             if self._wants_accessibility:
@@ -146,15 +146,20 @@ class World:
         notes = self.folder / "opened"
         return notes.read_text(encoding="utf-8").split() if notes.exists() else []
 
-    def _start_bus(self):
-        path = Path(self._runtime) / "bus"
-        self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={path}")
+    @property
+    def bus_path(self):
+        """The socket of the session bus, where there is one."""
+        return Path(self._runtime) / "bus"
+
+    def start_session_bus(self):
+        bus = self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", f"--address=unix:path={self.bus_path}")
 
         def answers():
             with socket.socket(socket.AF_UNIX) as client:
-                return client.connect_ex(str(path)) == 0
+                return client.connect_ex(str(self.bus_path)) == 0
 
         wait_until(answers, "the session bus")
+        return bus
 
     def _start_accessibility(self):
         """The bus that screen readers listen on, and a reader's connection to it."""

@@ -1,0 +1,154 @@
+#include "native/process_environment.h"
+
+#include <malloc.h>
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <string_view>
+
+#include "platform/linux/bus_guard.h"
+#include "platform/linux/session_probes.h"
+#include "platform/linux/stderr_log.h"
+#include "platform/linux/x11_connection.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int keptAllocations = 256 * 1024;  // bytes
+constexpr auto sessionPatience = 300ms;
+
+/// Toolkit variables that are the user's own affair: how large, how it is typed and read aloud.
+constexpr std::array<std::string_view, 11> harmlessVariables = {
+    "QT_ACCESSIBILITY",
+    "QT_AUTO_SCREEN_SCALE_FACTOR",
+    "QT_ENABLE_HIGHDPI_SCALING",
+    "QT_FONT_DPI",
+    "QT_IM_MODULE",
+    "QT_LINUX_ACCESSIBILITY_ALWAYS_ON",
+    "QT_LOGGING_RULES",
+    "QT_SCALE_FACTOR",
+    "QT_SCALE_FACTOR_ROUNDING_POLICY",
+    "QT_SCREEN_SCALE_FACTORS",
+    "QT_USE_PHYSICAL_DPI",
+};
+
+constexpr std::array<std::string_view, 4> toolkitPrefixes = {"QT_", "QML", "QSG_", "QV4_"};
+
+bool choosesCode(std::string_view variable) {
+    const auto begins = [variable](std::string_view prefix) { return variable.starts_with(prefix); };
+    return std::ranges::any_of(toolkitPrefixes, begins) &&
+           std::ranges::find(harmlessVariables, variable) == harmlessVariables.end();
+}
+
+void dropWhatChoosesCode(const QProcessEnvironment& inherited) {
+    for (const auto& name : inherited.keys()) {
+        if (const auto variable = name.toStdString(); choosesCode(variable)) qunsetenv(variable.c_str());
+    }
+}
+
+/// The address of the session bus, empty if there is none. A bus is not started for this program alone.
+std::string busAddress() {
+    if (const auto told = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !told.isEmpty()) return told.toStdString();
+    const auto standard = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")) + "/bus";
+    return QDir::isAbsolutePath(standard) && QFile::exists(standard) ? "unix:path=" + standard.toStdString()
+                                                                     : "";
+}
+
+/// Where whoever reads the screen aloud listens: what the toolkit would find out for itself.
+std::string accessibilityAddress(const X11Connection& server) {
+    if (const auto told = qgetenv("AT_SPI_BUS_ADDRESS"); !told.isEmpty()) return told.toStdString();
+    const auto announced = server.texts(server.root(), server.atom("AT_SPI_BUS"));
+    return announced.empty() ? "" : announced.front();
+}
+
+void keepSessionManager() {
+    const auto managers = qgetenv("SESSION_MANAGER");
+    if (managers.isEmpty()) return;
+    const auto answering = answeringSessionManagers(managers.toStdString(), sessionPatience);
+    if (answering.empty()) {
+        qunsetenv("SESSION_MANAGER");
+    } else {
+        qputenv("SESSION_MANAGER", QByteArray::fromStdString(answering));
+    }
+}
+
+/// Whether each input method that has announced itself with an address of its own answers.
+bool inputMethodAnswers() {
+    auto configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
+    if (configuration.isEmpty()) configuration = QDir::homePath() + "/.config";
+    const QDir announcements(configuration + "/ibus/bus");
+    constexpr std::string_view key = "IBUS_ADDRESS=";
+    for (const auto& name : announcements.entryList(QDir::Files)) {
+        QFile file(announcements.filePath(name));
+        if (!file.open(QIODevice::ReadOnly)) continue;
+        for (const auto& line : file.read(4096).split('\n')) {
+            const auto text = line.trimmed().toStdString();
+            if (text.starts_with(key) && !busAnswers(text.substr(key.size()), sessionPatience)) return false;
+        }
+    }
+    return true;
+}
+
+void keepInputMethod() {
+    if (qgetenv("QT_IM_MODULE") == "ibus" && !inputMethodAnswers()) qunsetenv("QT_IM_MODULE");
+}
+
+}  // namespace
+
+struct ProcessEnvironment::Parts {
+    QProcessEnvironment inherited = QProcessEnvironment::systemEnvironment();
+    bool hasDisplay = false;
+    std::string sessionBus;
+    BusGuard guard;
+};
+
+ProcessEnvironment::ProcessEnvironment() : parts_(std::make_unique<Parts>()) {
+    // The texts of a long record go through memory at every write. Above this size an allocation is the
+    // kernel's own, and is gone when it is freed; left to itself, the allocator would keep the largest one
+    // for ever.
+    mallopt(M_MMAP_THRESHOLD, keptAllocations);
+    mallopt(M_TRIM_THRESHOLD, keptAllocations);
+
+    dropWhatChoosesCode(parts_->inherited);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    const X11Connection server;
+    parts_->hasDisplay = server.alive();
+    if (!parts_->hasDisplay) {
+        const auto display = parts_->inherited.value("DISPLAY").toStdString();
+        StderrLog().warning("Tidewatch: no X server answers at \"" + display +
+                            "\" (DISPLAY), and the clock needs one");
+        return;
+    }
+    parts_->sessionBus = parts_->guard.guarded(busAddress());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(parts_->sessionBus));
+    // One that answers is left to the toolkit, which goes to it past the session bus and without a guard.
+    if (const auto address = accessibilityAddress(server);
+        !address.empty() && !busAnswers(address, sessionPatience)) {
+        qputenv("AT_SPI_BUS_ADDRESS", QByteArray::fromStdString(parts_->guard.guarded(address)));
+    }
+    keepSessionManager();
+    keepInputMethod();
+}
+
+ProcessEnvironment::~ProcessEnvironment() = default;
+
+bool ProcessEnvironment::hasDisplay() const {
+    return parts_->hasDisplay;
+}
+
+const QProcessEnvironment& ProcessEnvironment::inherited() const {
+    return parts_->inherited;
+}
+
+QString ProcessEnvironment::sessionBusAddress() const {
+    return QString::fromStdString(parts_->sessionBus);
+}
+
+}  // namespace tidewatch::platform
