@@ -36,8 +36,10 @@ void AppDelegate::applicationDidFinishLaunching() {
     observeBroadcasts();
     with_.services.engine.start();
     with_.services.notifications.requestAuthorization();
-    menuRefreshTimer_ = with_.platform.mainLoop.repeat(
-        std::chrono::seconds(1), platform::TimerMode::defaultOnly, [this] { refreshTimerFired(); });
+    // Posted, as the engine posts its tick: each second's tick has run before.
+    menuRefreshTimer_ =
+        with_.platform.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
+                                       [this] { later(&AppDelegate::refreshTimerFired); });
 }
 
 void AppDelegate::applicationWillTerminate() {
@@ -93,21 +95,19 @@ void AppDelegate::serveOlderNotifications() {
 }
 
 void AppDelegate::observeBroadcasts() {
-    const auto later = [this](void (AppDelegate::*work)()) {
-        return [this, work](const auto&) {
-            with_.platform.mainLoop.post([self = std::weak_ptr(self_), work] {
-                if (const auto alive = self.lock()) ((*alive)->*work)();
-            });
-        };
-    };
+    auto& broadcaster = with_.services.broadcaster;
+    const auto doing = [this](Work work) { return [this, work](const auto&) { later(work); }; };
+    observers_.push_back(broadcaster.observe<ThemeChanged>(doing(&AppDelegate::applyLayoutChange)));
+    observers_.push_back(broadcaster.observe<SizeChanged>(doing(&AppDelegate::applyLayoutChange)));
+    observers_.push_back(broadcaster.observe<ProjectsChanged>(doing(&AppDelegate::refreshStatusBarTitle)));
     observers_.push_back(
-        with_.services.broadcaster.observe<ThemeChanged>(later(&AppDelegate::applyLayoutChange)));
-    observers_.push_back(
-        with_.services.broadcaster.observe<SizeChanged>(later(&AppDelegate::applyLayoutChange)));
-    observers_.push_back(
-        with_.services.broadcaster.observe<ProjectsChanged>(later(&AppDelegate::refreshStatusBarTitle)));
-    observers_.push_back(
-        with_.services.broadcaster.observe<FloatingPanelClicked>(later(&AppDelegate::floatingPanelClicked)));
+        broadcaster.observe<FloatingPanelClicked>(doing(&AppDelegate::floatingPanelClicked)));
+}
+
+void AppDelegate::later(Work work) {
+    with_.platform.mainLoop.post([self = std::weak_ptr(self_), work] {
+        if (const auto alive = self.lock()) ((*alive)->*work)();
+    });
 }
 
 void AppDelegate::applyLayoutChange() {

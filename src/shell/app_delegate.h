@@ -51,6 +51,11 @@ public:
     void flushAllStores();
 
 private:
+    using Work = void (AppDelegate::*)();
+
+    /// Does `work` in a job of its own, after those that are waiting already; not at all if this object is
+    /// gone by then.
+    void later(Work work);
     void applyLayoutChange();
     void observeBroadcasts();
     void connectPanel();

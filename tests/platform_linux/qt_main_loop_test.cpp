@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QThread>
+#include <optional>
 #include <string>
 #include <thread>
 
@@ -71,6 +72,44 @@ TEST_F(QtMainLoopTest, WhileAMenuIsOpenOnlyCommonTimersFire) {
     menu.close();
     runFor(60);
     EXPECT_GT(refresh, 0);
+}
+
+TEST_F(QtMainLoopTest, TimersMadeOneAfterTheOtherFireInTheSameTurnAndInThatOrder) {
+    std::string order;
+    const auto noting = [&](char name) { return [&order, name] { order += name; }; };
+    const auto first = loop_.repeat(200ms, TimerMode::common, noting('a'));
+    QThread::msleep(10);
+    const auto second = loop_.repeat(200ms, TimerMode::defaultOnly, noting('b'));
+    const auto third = loop_.repeat(200ms, TimerMode::common, noting('c'));
+    while (order.size() < 6) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(order, "abcabc");
+}
+
+TEST_F(QtMainLoopTest, ATimerMadeInTheMiddleOfAnothersIntervalWaitsForAWholeOneOfItsOwn) {
+    QElapsedTimer sinceMade;
+    std::optional<qint64> fired;
+    const auto first = loop_.repeat(400ms, TimerMode::common, [] {});
+    QThread::msleep(200);
+    sinceMade.start();
+    const auto second = loop_.repeat(400ms, TimerMode::common, [&] {
+        if (!fired) fired = sinceMade.elapsed();
+    });
+    while (!fired) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_GE(*fired, 399);
+}
+
+TEST_F(QtMainLoopTest, ATimerMayDestroyItselfAndThoseBesideIt) {
+    std::string order;
+    std::unique_ptr<RepeatingTimer> first;
+    std::unique_ptr<RepeatingTimer> second;
+    first = loop_.repeat(10ms, TimerMode::common, [&] {
+        order += 'a';
+        second.reset();
+        first.reset();
+    });
+    second = loop_.repeat(10ms, TimerMode::common, [&] { order += 'b'; });
+    runFor(100);
+    EXPECT_EQ(order, "a");
 }
 
 TEST_F(QtMainLoopTest, ABlockedThreadsFiringsAreNotMadeGood) {

@@ -45,9 +45,19 @@ TEST_F(AppDelegateTest, StartedHiddenThePanelExistsAndShowsOnlyAfterToggleVisibl
 
 TEST_F(AppDelegateTest, EachSecondsTickRunsBeforeTheRefresh) {
     launch();
-    runFor(1s);
-    EXPECT_EQ(program_->services.days.seconds(DayKey("2026-01-15")), Seconds(1));
-    EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(1));
+    std::vector<std::string> order;
+    const auto ticks = program_->services.engine.changed.connect([&] { order.emplace_back("tick"); });
+    surfaces_.statusItem().onTitle([&] { order.emplace_back("refresh"); });
+    runFor(3s);
+    EXPECT_EQ(order, (std::vector<std::string>{"tick", "refresh", "tick", "refresh", "tick", "refresh"}));
+}
+
+TEST_F(AppDelegateTest, ARefreshThatIsWaitingWhenTheDelegateGoesDoesNothing) {
+    launch();
+    machine_.clock.advance(1s);
+    machine_.mainLoop.fireDueTimers();
+    program_.reset();
+    machine_.mainLoop.run();
 }
 
 TEST_F(AppDelegateTest, WhileAMenuIsOpenTheTitleStandsStillButTicksGoOn) {

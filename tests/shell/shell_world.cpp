@@ -50,7 +50,7 @@ std::string ShellWorld::file(const std::string& name) const {
 }
 
 ShellWorld::Program::Program(ShellWorld& world)
-    : services(world.machine_.platform),
+    : services(world.platform()),
       theme(themes, services.settings, services.broadcaster),
       exports({
           .services = services,
@@ -64,7 +64,7 @@ ShellWorld::Program::Program(ShellWorld& world)
               },
       }),
       delegate({
-          .platform = world.machine_.platform,
+          .platform = world.platform(),
           .services = services,
           .themes = themes,
           .theme = theme,

@@ -56,6 +56,7 @@ public:
     void setTitle(const StatusTitle& title) override {
         title_ = title;
         ++titlesSet_;
+        if (titled_) titled_();
     }
     void onClick(std::function<void(Click)> clicked) override { clicked_ = std::move(clicked); }
     [[nodiscard]] bool isShown() const override { return shown_; }
@@ -66,6 +67,7 @@ public:
 
     void click(Click click) const { clicked_(click); }
     void setShown(bool shown) { shown_ = shown; }
+    void onTitle(std::function<void()> titled) { titled_ = std::move(titled); }
     [[nodiscard]] const StatusTitle& title() const { return title_; }
     [[nodiscard]] int titlesSet() const { return titlesSet_; }
     [[nodiscard]] const std::vector<MenuRows>& menus() const { return menus_; }
@@ -75,6 +77,7 @@ private:
     StatusTitle title_;
     int titlesSet_ = 0;
     bool shown_ = true;
+    std::function<void()> titled_;
     std::function<void(Click)> clicked_;
     std::vector<MenuRows> menus_;
     std::vector<std::string> messages_;
@@ -172,6 +175,9 @@ protected:
 
     /// Builds the program and lets it launch.
     void launch();
+
+    /// What the program is built on; it must outlive the program.
+    [[nodiscard]] virtual const platform::Platform& platform() { return machine_.platform; }
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
     [[nodiscard]] static bool chooseIn(const MenuRows& rows, const std::string& title);
     [[nodiscard]] std::string file(const std::string& name) const;

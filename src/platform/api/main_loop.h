@@ -30,8 +30,10 @@ public:
     virtual void post(Job job) = 0;
 
     /// Calls `fire` on the main thread every `interval`, first after one interval, without drifting.
-    /// Firings that were missed (a blocked thread, a sleeping machine) are not made good. The loop must
-    /// outlive the timer. Main thread only.
+    /// Firings that were missed (a blocked thread, a sleeping machine) are not made good. Timers of the same
+    /// interval that are made one soon after the other fire in the same turn of the loop, in the order in
+    /// which they were made, and what they post runs in that order; the later ones fire for the first time
+    /// up to a fifth of the interval early for it. The loop must outlive the timer. Main thread only.
     [[nodiscard]] virtual std::unique_ptr<RepeatingTimer> repeat(std::chrono::milliseconds interval,
                                                                  TimerMode mode, Job fire) = 0;
 };

@@ -45,9 +45,14 @@ struct FakeMachine {
     FakeUserNotifications notifications;
     FakeProcessMemory memory;
 
-    Platform platform{log,        clock,         mainLoop,      files,     preferences,     inputActivity,
-                      workspace,  screens,       windowManager, loginItem, runningInstance, endings,
-                      randomness, notifications, memory};
+    Platform platform = on(mainLoop);
+
+    /// The same machine with another main loop, which must outlive what is returned.
+    [[nodiscard]] Platform on(MainLoop& loop) {
+        return {log,        clock,         loop,          files,     preferences,     inputActivity,
+                workspace,  screens,       windowManager, loginItem, runningInstance, endings,
+                randomness, notifications, memory};
+    }
 };
 
 }  // namespace tidewatch::platform

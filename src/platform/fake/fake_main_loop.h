@@ -27,6 +27,9 @@ public:
     /// that they post included, until none is left. Time stands still.
     void run();
 
+    /// The first half of run(): what the timers post waits.
+    void fireDueTimers();
+
     /// Lets `duration` pass, stopping at each moment at which a timer is due to run().
     void runFor(std::chrono::milliseconds duration);
 
@@ -47,7 +50,6 @@ private:
     using Timers = std::map<int, Timer>;
     class Handle;
 
-    void fireDueTimers();
     void runJobs();
 
     FakeClock& clock_;

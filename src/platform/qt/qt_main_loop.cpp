@@ -2,28 +2,78 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <algorithm>
+#include <utility>
 
 namespace tidewatch::platform {
 
 namespace {
 
-class QtRepeatingTimer final : public RepeatingTimer {
+struct Listener {
+    TimerMode mode;
+    MainLoop::Job fire;
+};
+
+bool menuIsOpen() {
+    return QApplication::activePopupWidget() != nullptr;
+}
+
+}  // namespace
+
+/// One timer of the toolkit and all who share it. The wall clock may pass midnight between two timers, but
+/// hardly within one.
+class QtMainLoop::Beat final : public std::enable_shared_from_this<Beat> {
 public:
-    QtRepeatingTimer(std::chrono::milliseconds interval, TimerMode mode, MainLoop::Job fire) {
+    explicit Beat(std::chrono::milliseconds interval) {
         // A precise timer keeps to its first beat: it neither drifts nor makes good what it missed.
         timer_.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&timer_, &QTimer::timeout, &timer_, [mode, fire = std::move(fire)] {
-            const bool menuOpen = QApplication::activePopupWidget() != nullptr;
-            if (mode == TimerMode::common || !menuOpen) fire();
-        });
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { fire(); });
         timer_.start(interval);
     }
 
+    /// Whether one who joins now still waits for most of an interval.
+    [[nodiscard]] bool isYoung() const {
+        return timer_.remainingTimeAsDuration() >= timer_.intervalAsDuration() * 4 / 5;
+    }
+    [[nodiscard]] std::chrono::milliseconds interval() const { return timer_.intervalAsDuration(); }
+
+    void join(std::weak_ptr<Listener> listener) { listeners_.push_back(std::move(listener)); }
+
 private:
+    void fire() {
+        // Any listener may let go of its timer, be it the last one, or make another.
+        const auto self = shared_from_this();
+        std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
+        for (const auto& each : std::vector(listeners_)) {
+            const auto listener = each.lock();
+            if (listener && (listener->mode == TimerMode::common || !menuIsOpen())) listener->fire();
+        }
+    }
+
     QTimer timer_;
+    std::vector<std::weak_ptr<Listener>> listeners_;
+};
+
+namespace {
+
+/// Keeps a listener on its beat.
+template <class Beat>
+class Subscription final : public RepeatingTimer {
+public:
+    Subscription(std::shared_ptr<Beat> beat, Listener listener)
+        : beat_(std::move(beat)), listener_(std::make_shared<Listener>(std::move(listener))) {
+        beat_->join(listener_);
+    }
+
+private:
+    std::shared_ptr<Beat> beat_;
+    std::shared_ptr<Listener> listener_;
 };
 
 }  // namespace
+
+QtMainLoop::QtMainLoop() = default;
+QtMainLoop::~QtMainLoop() = default;
 
 void QtMainLoop::post(Job job) {
     QMetaObject::invokeMethod(qApp, std::move(job), Qt::QueuedConnection);
@@ -31,7 +81,18 @@ void QtMainLoop::post(Job job) {
 
 std::unique_ptr<RepeatingTimer> QtMainLoop::repeat(std::chrono::milliseconds interval, TimerMode mode,
                                                    Job fire) {
-    return std::make_unique<QtRepeatingTimer>(interval, mode, std::move(fire));
+    return std::make_unique<Subscription<Beat>>(beat(interval), Listener{mode, std::move(fire)});
+}
+
+std::shared_ptr<QtMainLoop::Beat> QtMainLoop::beat(std::chrono::milliseconds interval) {
+    std::erase_if(beats_, [](const auto& beat) { return beat.expired(); });
+    for (const auto& each : beats_) {
+        const auto beat = each.lock();
+        if (beat->interval() == interval && beat->isYoung()) return beat;
+    }
+    auto made = std::make_shared<Beat>(interval);
+    beats_.push_back(made);
+    return made;
 }
 
 }  // namespace tidewatch::platform

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "platform/api/main_loop.h"
 
 namespace tidewatch::platform {
@@ -7,9 +10,21 @@ namespace tidewatch::platform {
 /// The toolkit's event loop on the main thread. The application object must exist as long as this one.
 class QtMainLoop final : public MainLoop {
 public:
+    QtMainLoop();
+    ~QtMainLoop() override;
+    QtMainLoop(const QtMainLoop&) = delete;
+    QtMainLoop& operator=(const QtMainLoop&) = delete;
+
     void post(Job job) override;
     [[nodiscard]] std::unique_ptr<RepeatingTimer> repeat(std::chrono::milliseconds interval, TimerMode mode,
                                                          Job fire) override;
+
+private:
+    class Beat;
+
+    [[nodiscard]] std::shared_ptr<Beat> beat(std::chrono::milliseconds interval);
+
+    std::vector<std::weak_ptr<Beat>> beats_;
 };
 
 }  // namespace tidewatch::platform

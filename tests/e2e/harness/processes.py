@@ -37,6 +37,10 @@ class Process:
     def pid(self):
         return self._popen.pid
 
+    def age(self):
+        """Seconds since it was started."""
+        return time.monotonic() - self.started
+
     def is_running(self):
         return self._popen.poll() is None
 

@@ -205,10 +205,10 @@ class World:
 
     # The program
 
-    def start_program(self, wait_for_clock=True):
+    def start_program(self, wait_for_clock=True, environment=None):
         """Starts another instance of the program, by default until its clock is on the screen."""
         number = len(self.programs) + 1
-        process = Process([PROGRAM], self.env, self.folder / f"program-{number}.log")
+        process = Process([PROGRAM], {**self.env, **(environment or {})}, self.folder / f"program-{number}.log")
         self._processes.append(process)
         self.programs.append(process)
         if wait_for_clock:
