@@ -1,6 +1,9 @@
 #include "platform/linux/process_identity.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
 
 #include "support/temporary_directory.h"
 
@@ -39,6 +42,28 @@ TEST(SandboxedApplication, ReadsWhatTheProcessDirectoryHolds) {
     EXPECT_EQ(sandboxedApplication(11, proc.path()), "editor_editor");
     EXPECT_EQ(sandboxedApplication(12, proc.path()), std::nullopt);
     EXPECT_EQ(sandboxedApplication(13, proc.path()), std::nullopt);
+}
+
+TEST(SandboxedApplication, ANamedPipeInTheSandboxDoesNotHoldUpAndTellsNothing) {
+    test::TemporaryDirectory proc;
+    proc.write("10/cgroup", "0::/user.slice/snap.editor.editor.1234.scope\n");
+    std::filesystem::create_directories(proc.path() + "/10/root");
+    ASSERT_EQ(::mkfifo((proc.path() + "/10/root/.flatpak-info").c_str(), 0600), 0);
+    EXPECT_EQ(sandboxedApplication(10, proc.path()), "editor_editor");
+}
+
+TEST(SandboxedApplication, ADeviceWithoutAnEndInTheSandboxTellsNothing) {
+    test::TemporaryDirectory proc;
+    std::filesystem::create_directories(proc.path() + "/10/root");
+    std::filesystem::create_symlink("/dev/zero", proc.path() + "/10/root/.flatpak-info");
+    EXPECT_EQ(sandboxedApplication(10, proc.path()), std::nullopt);
+}
+
+TEST(SandboxedApplication, AFileOutOfAllProportionTellsNothing) {
+    test::TemporaryDirectory proc;
+    proc.write("10/root/.flatpak-info", "[Application]\nname=org.example.Notes\n");
+    std::filesystem::resize_file(proc.path() + "/10/root/.flatpak-info", std::uintmax_t{1} << 40);
+    EXPECT_EQ(sandboxedApplication(10, proc.path()), std::nullopt);
 }
 
 }  // namespace

@@ -1,14 +1,12 @@
 #include "platform/linux/desktop_entries.h"
 
-#include <algorithm>
-#include <cctype>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
+#include <utility>
 
 #include "platform/linux/desktop_entry.h"
+#include "platform/linux/guarded_file.h"
 
 namespace tidewatch::platform {
 
@@ -16,37 +14,54 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view suffix = ".desktop";
-
-std::string lowerCase(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return result;
-}
-
-std::chrono::nanoseconds modificationTime(const std::string& path) {
-    std::error_code error;
-    const auto time = fs::last_write_time(path, error);
-    return error ? std::chrono::nanoseconds(0) : std::chrono::nanoseconds(time.time_since_epoch());
-}
-
-std::optional<std::string> lookUp(const std::unordered_map<std::string, std::string>& map,
-                                  std::string_view key) {
-    if (key.empty()) return std::nullopt;
-    const auto found = map.find(lowerCase(key));
-    return found == map.end() ? std::nullopt : std::optional(found->second);
-}
+constexpr std::chrono::seconds betweenLooks(2);
+constexpr std::chrono::minutes betweenGrowths(1);
 
 std::string environment(const char* name, const std::string& otherwise) {
     const char* value = std::getenv(name);
     return value != nullptr && *value != '\0' ? value : otherwise;
 }
 
+// The files that an id can stand for: a dash in it stands for itself or for a step into a folder.
+class EntrySearch final {
+public:
+    // The text of the entry, nothing if there is none to be read.
+    std::optional<std::string> find(const std::string& folder, const std::string& id, int depth = 0) {
+        // An id is what a window says of itself: with links that lead back, a long one would have no end of
+        // ways.
+        constexpr int maximalTries = 200;
+        if (++tries_ > maximalTries) return std::nullopt;
+        if (auto text = readRegularFile(folder + "/" + id + ".desktop", maximalDesktopEntrySize)) {
+            return std::move(text).value();
+        }
+        if (depth == maximalDesktopEntryDepth) return std::nullopt;
+        for (auto dash = id.find('-'); dash != std::string::npos; dash = id.find('-', dash + 1)) {
+            if (++tries_ > maximalTries) return std::nullopt;
+            const auto name = id.substr(0, dash);
+            std::error_code error;
+            if (name.empty() || name == "." || name == ".." ||
+                !fs::is_directory(folder + "/" + name, error)) {
+                continue;
+            }
+            if (auto below = find(folder + "/" + name, id.substr(dash + 1), depth + 1)) return below;
+        }
+        return std::nullopt;
+    }
+
+private:
+    int tries_ = 0;
+};
+
 }  // namespace
 
-DesktopEntries::DesktopEntries(std::vector<std::string> folders) {
-    for (auto& folder : folders) folders_.push_back({std::move(folder)});
+DesktopEntries::DesktopEntries(std::vector<std::string> folders, Now now)
+    : folders_(std::move(folders)), now_(std::move(now)), lastLook_(now_()), lastGrowth_(lastLook_) {
+    startReading();
+}
+
+DesktopEntries::~DesktopEntries() {
+    stop_ = true;
+    if (reading_.valid()) reading_.wait();
 }
 
 std::vector<std::string> DesktopEntries::standardFolders() {
@@ -61,107 +76,62 @@ std::vector<std::string> DesktopEntries::standardFolders() {
 
 std::optional<std::string> DesktopEntries::idForWindow(std::string_view instance,
                                                        std::string_view windowClass) {
-    if (const auto id = find(instance, windowClass)) return id;
-    return refresh() ? find(instance, windowClass) : std::nullopt;
+    takeWhatWasRead();
+    auto id = index_.idForWindow(instance, windowClass);
+    if (!id) lookAtFolders();
+    return id;
 }
 
-bool DesktopEntries::contains(const std::string& id) {
-    const auto known = [&] {
-        const auto found = idByLowerCaseId_.find(lowerCase(id));
-        return found != idByLowerCaseId_.end() && found->second == id;
-    };
-    return known() || (refresh() && known());
+bool DesktopEntries::isReading() {
+    takeWhatWasRead();
+    return reading_.valid();
+}
+
+void DesktopEntries::waitUntilRead() {
+    if (reading_.valid()) reading_.wait();
+    takeWhatWasRead();
+}
+
+std::uint64_t DesktopEntries::revision() {
+    const auto now = now_();
+    if (now - lastLook_ >= betweenLooks) {
+        lastLook_ = now;
+        takeWhatWasRead();
+        lookAtFolders();
+        if (now - lastGrowth_ >= betweenGrowths) {
+            lastGrowth_ = now;
+            ++revision_;
+        }
+    }
+    return revision_;
 }
 
 std::optional<ApplicationInfo> DesktopEntries::info(const std::string& id, std::string_view locale) const {
     if (id.find_first_of(std::string_view("/\0", 2)) != std::string::npos) return std::nullopt;
     for (const auto& folder : folders_) {
-        const auto path = pathOf(folder.path, id);
-        if (!path) continue;
-        std::ifstream file(*path);
-        const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-        auto info = readDesktopEntry(text, locale);
+        const auto text = EntrySearch().find(folder, id);
+        if (!text) continue;
+        auto info = readDesktopEntry(*text, locale);
         if (info && info->name.empty()) info->name = id;
         return info;
     }
     return std::nullopt;
 }
 
-// A dash in an id stands for itself or for a step into a folder.
-std::optional<std::string> DesktopEntries::pathOf(const std::string& folder, const std::string& id) {
-    std::error_code error;
-    auto path = folder + "/" + id + std::string(suffix);
-    if (fs::is_regular_file(path, error)) return path;
-    for (auto dash = id.find('-'); dash != std::string::npos; dash = id.find('-', dash + 1)) {
-        const auto name = id.substr(0, dash);
-        if (name.empty() || name == "." || name == ".." || !fs::is_directory(folder + "/" + name, error)) {
-            continue;
-        }
-        if (auto below = pathOf(folder + "/" + name, id.substr(dash + 1))) return below;
-    }
-    return std::nullopt;
+void DesktopEntries::lookAtFolders() {
+    if (reading_.valid() || index_.isCurrent()) return;
+    ++revision_;
+    startReading();
 }
 
-std::optional<std::string> DesktopEntries::find(std::string_view instance,
-                                                std::string_view windowClass) const {
-    if (windowClass.empty()) return findName(instance);
-    auto application = findName(windowClass);
-    if (!application) return std::nullopt;
-    auto part = lookUp(idByAnnouncedClass_, instance);
-    return part ? part : application;
+void DesktopEntries::startReading() {
+    reading_ = std::async(std::launch::async, [this] { return DesktopEntryIndex(folders_, stop_); });
 }
 
-std::optional<std::string> DesktopEntries::findName(std::string_view name) const {
-    for (const auto* map : {&idByAnnouncedClass_, &idByLowerCaseId_, &idByLastPart_}) {
-        if (auto id = lookUp(*map, name)) return id;
-    }
-    return std::nullopt;
-}
-
-bool DesktopEntries::refresh() {
-    bool changed = false;
-    for (auto& folder : folders_) {
-        const auto modified = modificationTime(folder.path);
-        changed = changed || modified != folder.modified;
-        folder.modified = modified;
-    }
-    if (!changed) return false;
-    idByAnnouncedClass_.clear();
-    idByLowerCaseId_.clear();
-    idByLastPart_.clear();
-    for (const auto& folder : folders_) readFolder(folder.path, "");
-    return true;
-}
-
-void DesktopEntries::readFolder(const std::string& root, const std::string& prefix) {
-    std::error_code error;
-    for (const auto& entry : fs::directory_iterator(root, error)) {
-        const auto name = entry.path().filename().string();
-        if (entry.is_directory(error)) {
-            readFolder(entry.path().string(), prefix + name + "-");
-        } else if (name.ends_with(suffix)) {
-            readEntry(entry.path().string(), prefix + name.substr(0, name.size() - suffix.size()));
-        }
-    }
-}
-
-void DesktopEntries::readEntry(const std::string& path, const std::string& id) {
-    if (!idByLowerCaseId_.emplace(lowerCase(id), id).second) return;
-    if (const auto dot = id.rfind('.'); dot != std::string::npos) {
-        idByLastPart_.emplace(lowerCase(id.substr(dot + 1)), id);
-    }
-    constexpr std::string_view key = "StartupWMClass=";
-    std::ifstream file(path);
-    bool inMainGroup = false;
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with('[')) {
-            if (inMainGroup) break;
-            inMainGroup = line.starts_with("[Desktop Entry]");
-        } else if (inMainGroup && line.starts_with(key)) {
-            idByAnnouncedClass_.emplace(lowerCase(line.substr(key.size())), id);
-            break;
-        }
-    }
+void DesktopEntries::takeWhatWasRead() {
+    if (!reading_.valid() || reading_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return;
+    index_ = reading_.get();
+    ++revision_;
 }
 
 }  // namespace tidewatch::platform

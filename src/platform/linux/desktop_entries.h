@@ -1,24 +1,34 @@
 #pragma once
 
+#include <atomic>
 #include <chrono>
+#include <cstdint>
+#include <functional>
+#include <future>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "platform/api/workspace.h"
+#include "platform/linux/desktop_entry_index.h"
 
 namespace tidewatch::platform {
 
-/// The applications that the desktop knows, by what their windows call themselves. Read from the
-/// `applications` folders at the first question and again when an unknown name turns up while a folder
-/// has changed. Main thread only.
+/// The applications that the desktop knows, by what their windows call themselves and by their ids. No
+/// question waits for the disk to give up all entries: they are read in a thread of their own, at the start
+/// and again when an `applications` folder has changed. What lies there may be anything; what is no ordinary
+/// file, or out of all proportion, is no entry. Main thread only.
 class DesktopEntries final {
 public:
+    using Now = std::function<std::chrono::steady_clock::time_point()>;
+
     /// `folders` as absolute paths, the most important first: an id found twice counts where it is found
-    /// first.
-    explicit DesktopEntries(std::vector<std::string> folders);
+    /// first. Begins to read them.
+    explicit DesktopEntries(std::vector<std::string> folders, Now now = std::chrono::steady_clock::now);
+    DesktopEntries(const DesktopEntries&) = delete;
+    DesktopEntries& operator=(const DesktopEntries&) = delete;
+    ~DesktopEntries();
 
     /// The folders that the desktop's base-directory variables name.
     [[nodiscard]] static std::vector<std::string> standardFolders();
@@ -27,35 +37,38 @@ public:
     /// entry that announces the class, else of the one whose id equals it or ends in it after a dot. If there
     /// is one, an entry that announces the instance goes before it, as a part of the application with an
     /// entry of its own. A window without a class goes by its instance. Letter case does not matter. Nothing
-    /// if no entry fits.
+    /// if no entry fits; while isReading(), that is not the last word.
     [[nodiscard]] std::optional<std::string> idForWindow(std::string_view instance,
                                                          std::string_view windowClass);
 
-    /// Whether there is an entry of exactly this id.
-    [[nodiscard]] bool contains(const std::string& id);
+    /// Whether entries are being read.
+    [[nodiscard]] bool isReading();
+
+    /// Waits until no entries are being read.
+    void waitUntilRead();
+
+    /// Grows whenever applications may have come, gone or changed: when the folders have changed, when they
+    /// have been read, and once a minute since an entry can be changed in its place. Looks at the folders
+    /// every other second at most, so that it may be asked at any rate.
+    [[nodiscard]] std::uint64_t revision();
 
     /// What the entry of exactly this id tells, its name in Spanish as readDesktopEntry() has it; an entry
     /// without a name goes by its id. Nothing if there is no such entry. Reads the one file each time.
     [[nodiscard]] std::optional<ApplicationInfo> info(const std::string& id, std::string_view locale) const;
 
 private:
-    struct Folder {
-        std::string path;
-        std::chrono::nanoseconds modified{-1};
-    };
+    void lookAtFolders();
+    void startReading();
+    void takeWhatWasRead();
 
-    bool refresh();
-    void readFolder(const std::string& root, const std::string& prefix);
-    void readEntry(const std::string& path, const std::string& id);
-    [[nodiscard]] static std::optional<std::string> pathOf(const std::string& folder, const std::string& id);
-    [[nodiscard]] std::optional<std::string> find(std::string_view instance,
-                                                  std::string_view windowClass) const;
-    [[nodiscard]] std::optional<std::string> findName(std::string_view name) const;
-
-    std::vector<Folder> folders_;
-    std::unordered_map<std::string, std::string> idByAnnouncedClass_;
-    std::unordered_map<std::string, std::string> idByLowerCaseId_;
-    std::unordered_map<std::string, std::string> idByLastPart_;
+    const std::vector<std::string> folders_;
+    const Now now_;
+    std::chrono::steady_clock::time_point lastLook_;
+    std::chrono::steady_clock::time_point lastGrowth_;
+    std::uint64_t revision_ = 0;
+    DesktopEntryIndex index_;
+    std::atomic<bool> stop_ = false;
+    std::future<DesktopEntryIndex> reading_;
 };
 
 }  // namespace tidewatch::platform

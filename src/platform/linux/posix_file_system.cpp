@@ -1,29 +1,25 @@
 #include "platform/linux/posix_file_system.h"
 
 #include <fcntl.h>
-#include <fmt/format.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
 #include <optional>
 #include <utility>
 
 #include "platform/linux/file_descriptor.h"
+#include "platform/linux/guarded_file.h"
+#include "platform/linux/system_error_text.h"
 
 namespace tidewatch::platform {
 namespace {
 
 constexpr mode_t directoryMode = 0700;
 constexpr mode_t fileMode = 0600;
-
-Error systemError(std::string_view operation, const std::string& path) {
-    return {fmt::format("{} {}: {}", operation, path, std::strerror(errno))};
-}
 
 std::string userHomeDirectory() {
     std::string home;
@@ -92,27 +88,8 @@ Outcome PosixFileSystem::createDirectories(const std::string& path) {
 }
 
 Result<std::string> PosixFileSystem::readWhole(const std::string& path) const {
-    // Opening a named pipe would wait for its writer.
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    if (!file.isOpen()) return systemError("open", path);
-    struct stat status {};
-    if (::fstat(file.get(), &status) != 0) return systemError("inspect", path);
-    if (!S_ISREG(status.st_mode)) return Error{"read " + path + ": not a regular file"};
-
-    // Room for the end of the file to be seen, and for what parsers want to lie behind a text.
-    constexpr std::size_t slack = 64;
-    std::string content(static_cast<std::size_t>(status.st_size) + slack, '\0');
-    std::size_t length = 0;
-    while (true) {
-        const auto got = ::read(file.get(), content.data() + length, content.size() - length);
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0) return systemError("read", path);
-        if (got == 0) break;
-        length += static_cast<std::size_t>(got);
-        if (length == content.size()) content.resize(2 * length);
-    }
-    content.resize(length);
-    return content;
+    // A record is as long as its years: there is no size that it must not have.
+    return readRegularFile(path, anySize);
 }
 
 Outcome PosixFileSystem::replaceAtomically(const std::string& path, std::string_view content) {

@@ -1,16 +1,21 @@
 #include "platform/linux/process_identity.h"
 
-#include <fstream>
-#include <iterator>
 #include <sstream>
+#include <utility>
+
+#include "platform/linux/guarded_file.h"
 
 namespace tidewatch::platform {
 
 namespace {
 
+// What a sandbox tells of itself takes some hundred bytes. It lies where the sandboxed process can put
+// anything.
+constexpr std::size_t maximalSize = 64 * 1024;
+
 std::string content(const std::string& path) {
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    auto text = readRegularFile(path, maximalSize);
+    return text ? std::move(text).value() : std::string();
 }
 
 }  // namespace

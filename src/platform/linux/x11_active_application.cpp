@@ -101,6 +101,9 @@ std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
     const std::string instance = names.empty() ? "" : names[0];
     const std::string windowClass = names.size() < 2 ? "" : names[1];
     if (auto id = entries_.idForWindow(instance, windowClass)) return AppId(std::move(*id));
+    // Better no application for a moment than the time of one under two names.
+    stale_ = entries_.isReading();
+    if (stale_) return std::nullopt;
     const auto& name = windowClass.empty() ? instance : windowClass;
     return name.empty() ? std::nullopt : std::optional(AppId(name));
 }
