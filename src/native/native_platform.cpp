@@ -41,7 +41,7 @@ struct NativePlatform::Parts {
     QtClock clock;
     QtMainLoop mainLoop;
     PosixFileSystem files;
-    QtPreferences preferences;
+    QtPreferences preferences{configDirectory(), log};
     SessionBus sessionBus{environment.sessionBusAddress()};
     X11Connection idleConnection;
     X11InputActivity inputActivity{idleConnection};

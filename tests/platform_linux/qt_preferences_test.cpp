@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QSettings>
+#include <sys/stat.h>
+
+#include <filesystem>
 #include <memory>
 
+#include "platform/fake/fake_log.h"
 #include "support/temporary_directory.h"
 
 namespace tidewatch::platform {
@@ -14,18 +17,14 @@ const std::string file = "brightlooms/tidewatch.conf";
 
 class QtPreferencesTest : public testing::Test {
 protected:
-    QtPreferencesTest() {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
-                           QString::fromStdString(config_.path()));
-    }
-
     QtPreferences& preferences() {
-        if (!preferences_) preferences_ = std::make_unique<QtPreferences>();
+        if (!preferences_) preferences_ = std::make_unique<QtPreferences>(config_.path(), log_);
         return *preferences_;
     }
     void startAgain() { preferences_.reset(); }
 
     test::TemporaryDirectory config_;
+    FakeLog log_{[](const std::string& complaint) { ADD_FAILURE() << complaint; }};
     std::unique_ptr<QtPreferences> preferences_;
 };
 
@@ -75,6 +74,57 @@ TEST_F(QtPreferencesTest, AKeyWithASlashOrADotIsOneKey) {
     preferences().setInteger("gate.workSeconds", 7);
     startAgain();
     EXPECT_EQ(preferences().integer("gate.workSeconds"), 7);
+}
+
+class QtPreferencesWithoutAFileTest : public QtPreferencesTest {
+protected:
+    QtPreferencesWithoutAFileTest() { std::filesystem::create_directories(config_.path() + "/brightlooms"); }
+
+    void expectMemoryOnly() {
+        log_.expectWarning("is no ordinary file: the settings start from their defaults and are not kept");
+        EXPECT_FALSE(preferences().contains("dayStartHour"));
+        EXPECT_EQ(preferences().integer("dayStartHour"), 0);
+        preferences().setInteger("dayStartHour", 5);
+        preferences().setText("activeThemeID", "hacker");
+        preferences().setBoolean("windowVisible", true);
+        EXPECT_EQ(preferences().integer("dayStartHour"), 5);
+        EXPECT_EQ(preferences().text("activeThemeID"), "hacker");
+        EXPECT_TRUE(preferences().boolean("windowVisible"));
+        preferences().remove("dayStartHour");
+        EXPECT_FALSE(preferences().contains("dayStartHour"));
+        startAgain();
+    }
+
+    const std::string path_ = config_.path() + "/" + file;
+};
+
+TEST_F(QtPreferencesWithoutAFileTest, ANamedPipeInItsPlaceMeansDefaultsInMemory) {
+    ASSERT_EQ(::mkfifo(path_.c_str(), 0600), 0);
+    expectMemoryOnly();
+    EXPECT_TRUE(std::filesystem::is_fifo(path_));
+}
+
+TEST_F(QtPreferencesWithoutAFileTest, ANamedPipeInThePlaceOfItsLockMeansDefaultsInMemory) {
+    ASSERT_EQ(::mkfifo((path_ + ".lock").c_str(), 0600), 0);
+    expectMemoryOnly();
+}
+
+TEST_F(QtPreferencesWithoutAFileTest, AFolderInItsPlaceMeansDefaultsInMemory) {
+    std::filesystem::create_directory(path_);
+    expectMemoryOnly();
+}
+
+TEST_F(QtPreferencesWithoutAFileTest, AFileOutOfAllProportionMeansDefaultsInMemory) {
+    config_.write(file, "[General]\ndayStartHour=3\n");
+    std::filesystem::resize_file(path_, std::uintmax_t{1} << 40);  // takes no space
+    expectMemoryOnly();
+    EXPECT_EQ(std::filesystem::file_size(path_), std::uintmax_t{1} << 40);
+}
+
+TEST_F(QtPreferencesWithoutAFileTest, AMissingFileIsMade) {
+    preferences().setInteger("dayStartHour", 5);
+    startAgain();
+    EXPECT_EQ(preferences().integer("dayStartHour"), 5);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_preferences.h"
 
+#include <QFileInfo>
 #include <QVariant>
 
 namespace tidewatch::platform {
@@ -10,16 +11,28 @@ QString name(std::string_view key) {
     return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
 }
 
+// Whether the toolkit can open what has this name, or make it. It would wait for ever for a named pipe.
+bool canBeOpened(const QString& path) {
+    constexpr qint64 maximalSize = 1024 * 1024;
+    const QFileInfo info(path);
+    return !info.exists() || (info.isFile() && info.size() <= maximalSize);
+}
+
 }  // namespace
 
-QtPreferences::QtPreferences()
-    : settings_(QSettings::NativeFormat, QSettings::UserScope, "brightlooms", "tidewatch") {
-    settings_.setFallbacksEnabled(false);
+QtPreferences::QtPreferences(const std::string& configDirectory, Log& log) {
+    const auto path = QString::fromStdString(configDirectory) + "/brightlooms/tidewatch.conf";
+    if (canBeOpened(path) && canBeOpened(path + ".lock")) {
+        settings_.emplace(path, QSettings::NativeFormat);
+    } else {
+        log.warning("Tidewatch: " + path.toStdString() +
+                    " is no ordinary file: the settings start from their defaults and are not kept");
+    }
 }
 
 bool QtPreferences::contains(std::string_view key) const {
     const std::lock_guard lock(mutex_);
-    return settings_.contains(name(key));
+    return settings_ ? settings_->contains(name(key)) : memory_.contains(name(key));
 }
 
 bool QtPreferences::boolean(std::string_view key) const {
@@ -51,17 +64,26 @@ void QtPreferences::setText(std::string_view key, std::string_view value) {
 
 void QtPreferences::remove(std::string_view key) {
     const std::lock_guard lock(mutex_);
-    settings_.remove(name(key));
+    if (settings_) {
+        settings_->remove(name(key));
+    } else {
+        memory_.remove(name(key));
+    }
 }
 
 PreferenceValue QtPreferences::value(std::string_view key) const {
     const std::lock_guard lock(mutex_);
-    return settings_.value(name(key)).toString().toStdString();
+    const auto value = settings_ ? settings_->value(name(key)) : memory_.value(name(key));
+    return value.toString().toStdString();
 }
 
 void QtPreferences::set(std::string_view key, const QVariant& value) {
     const std::lock_guard lock(mutex_);
-    settings_.setValue(name(key), value);
+    if (settings_) {
+        settings_->setValue(name(key), value);
+    } else {
+        memory_[name(key)] = value;
+    }
 }
 
 }  // namespace tidewatch::platform

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QSettings>
+#include <QVariantMap>
 #include <mutex>
+#include <optional>
+#include <string>
 
+#include "platform/api/log.h"
 #include "platform/api/preference_value.h"
 #include "platform/api/preferences.h"
 
@@ -11,9 +15,13 @@ namespace tidewatch::platform {
 /// Preferences in an INI file: `brightlooms/tidewatch.conf` under the user's configuration directory. What
 /// the file holds is text, so every value is read by the rules for texts. Values that are set within one turn
 /// of the main loop reach the disk together, at its end.
+///
+/// What is there under the name of the file, or of its lock, and is no ordinary file of a sensible size is
+/// left alone: then values live in memory only, and the log says so once.
 class QtPreferences final : public Preferences {
 public:
-    QtPreferences();
+    /// `configDirectory` is the user's, absolute.
+    QtPreferences(const std::string& configDirectory, Log& log);
 
     [[nodiscard]] bool contains(std::string_view key) const override;
     [[nodiscard]] bool boolean(std::string_view key) const override;
@@ -31,7 +39,8 @@ private:
     void set(std::string_view key, const QVariant& value);
 
     mutable std::mutex mutex_;
-    QSettings settings_;
+    std::optional<QSettings> settings_;
+    QVariantMap memory_;  // in the place of the file
 };
 
 }  // namespace tidewatch::platform

@@ -1,25 +1,12 @@
 #include "shell/style/app_icon_view.h"
 
-#include <QDir>
 #include <QPainter>
 #include <cmath>
 
+#include "shell/style/application_icon.h"
 #include "shell/style/symbol_table.h"
 
 namespace tidewatch {
-namespace {
-
-QIcon desktopIcon(const QString& name) {
-    if (name.isEmpty()) return {};
-    if (!QDir::isAbsolutePath(name)) return QIcon::fromTheme(name);
-    const QIcon icon(name);
-    // A file that cannot be read makes an icon that is there and has no picture.
-    constexpr int anySize = 16;
-    return icon.pixmap(anySize, anySize).isNull() ? QIcon() : icon;
-}
-
-}  // namespace
-
 AppIconView::AppIconView(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
     choosePicture();
@@ -55,7 +42,7 @@ void AppIconView::setSide(double side) {
 }
 
 void AppIconView::choosePicture() {
-    icon_ = symbolName_.isEmpty() ? desktopIcon(iconName_) : QIcon();
+    icon_ = symbolName_.isEmpty() ? applicationIcon(iconName_) : QIcon();
     symbol_ = QPainterPath();
     if (icon_.isNull()) symbol_ = symbolShape(symbolName_.isEmpty() ? "app" : symbolName_).value_or(symbol_);
     rendered_ = QPixmap();
