@@ -9,7 +9,10 @@ namespace tidewatch {
 
 CategoryStore::CategoryStore(platform::FileSystem& files, platform::Log& log,
                              const platform::Workspace& workspace)
-    : files_(files), log_(log), registered_(workspace), filePath_(dataDirectory(files) + "/categories.json") {
+    : files_(files),
+      log_(log),
+      registered_(files, log, workspace),
+      filePath_(dataDirectory(files) + "/categories.json") {
     // Without the directory there is no file either, and the first change will say so.
     static_cast<void>(files_.createDirectories(dataDirectory(files)));
     if (auto text = files_.readWhole(filePath_)) {

@@ -23,8 +23,8 @@ public:
     /// All three must outlive it.
     CategoryStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
 
-    /// The user's choice; else what the built-in table says; else what the application registers with the
-    /// desktop; else Category::uncategorized.
+    /// The user's choice; else what the built-in table says; else what the application registered with the
+    /// desktop when it was first met; else Category::uncategorized.
     [[nodiscard]] Category category(const AppId& app) const;
 
     /// The user's choice, else the category's own tier.
@@ -40,6 +40,10 @@ public:
     void setTier(Tier tier, Category category);
     void clearTierOverride(Category category);
 
+    /// Brings to the disk what applications registered that were met for the first time. To be called often:
+    /// it does nothing without news.
+    void flushRegistered() { registered_.flush(); }
+
     [[nodiscard]] const std::string& dataFilePath() const { return filePath_; }
 
 private:
@@ -47,7 +51,7 @@ private:
 
     platform::FileSystem& files_;
     platform::Log& log_;
-    const RegisteredCategories registered_;
+    mutable RegisteredCategories registered_;  // remembers what it is asked for
     const std::string filePath_;
     CategoryOverrides overrides_;
 };

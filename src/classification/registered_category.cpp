@@ -15,6 +15,9 @@ struct Row {
 };
 
 constexpr std::array rows{
+    // Whoever can hold a conference there is rarely there for anything else.
+    Row{"VideoConference", "", Category::meetings},
+
     // What says exactly what somebody does there.
     Row{"IDE", "", Category::development},
     Row{"TerminalEmulator", "", Category::development},
@@ -23,13 +26,8 @@ constexpr std::array rows{
     Row{"RevisionControl", "", Category::development},
     Row{"GUIDesigner", "", Category::development},
     Row{"WebDevelopment", "", Category::development},
-    Row{"VideoConference", "", Category::meetings},
     Row{"WebBrowser", "", Category::browser},
     Row{"Email", "", Category::communication},
-    Row{"InstantMessaging", "", Category::communication},
-    Row{"Chat", "", Category::communication},
-    Row{"IRCClient", "", Category::communication},
-    Row{"Telephony", "", Category::communication},
     Row{"ContactManagement", "", Category::communication},
     Row{"Calendar", "", Category::meetings},
 
@@ -47,11 +45,29 @@ constexpr std::array rows{
     Row{"Mixer", "", Category::system},
     Row{"DiscBurning", "", Category::utilities},
 
-    // Games name their kind, but every one of them is a game first.
+    // Games name their kind, some of them nothing else, but every one of them is a game first.
     Row{"Game", "", Category::games},
+    Row{"ActionGame", "", Category::games},
+    Row{"AdventureGame", "", Category::games},
+    Row{"ArcadeGame", "", Category::games},
+    Row{"BoardGame", "", Category::games},
+    Row{"BlocksGame", "", Category::games},
+    Row{"CardGame", "", Category::games},
+    Row{"KidsGame", "", Category::games},
+    Row{"LogicGame", "", Category::games},
+    Row{"RolePlaying", "", Category::games},
+    Row{"Shooter", "", Category::games},
+    Row{"SportsGame", "", Category::games},
+    Row{"StrategyGame", "", Category::games},
     Row{"Amusement", "", Category::entertainment},
     Row{"News", "", Category::entertainment},
     Row{"Feed", "", Category::entertainment},
+
+    // After games and entertainment: where people play or watch together they also chat.
+    Row{"InstantMessaging", "", Category::communication},
+    Row{"Chat", "", Category::communication},
+    Row{"IRCClient", "", Category::communication},
+    Row{"Telephony", "", Category::communication},
 
     Row{"Photography", "", Category::audioVideo},
     Row{"Scanning", "", Category::utilities},
@@ -79,6 +95,7 @@ constexpr std::array rows{
     Row{"TextEditor", "", Category::documents},
     Row{"Documentation", "", Category::documents},
     Row{"Engineering", "", Category::design},
+    Row{"Electronics", "", Category::design},
     Row{"Graphics", "", Category::design},
     Row{"Office", "", Category::documents},
     Row{"AudioVideo", "", Category::audioVideo},
@@ -103,10 +120,23 @@ std::optional<Category> categoryOfRegistered(std::span<const std::string> regist
     return row == rows.end() ? std::nullopt : std::optional(row->category);
 }
 
-std::optional<Category> RegisteredCategories::category(const AppId& app) const {
-    if (const auto known = known_.find(app); known != known_.end()) return known->second;
+std::optional<Category> RegisteredCategories::category(const AppId& app) {
+    const auto [entry, isNew] = answers_.try_emplace(app);
+    auto& answer = entry->second;
+    if (answer.category) return answer.category;
+    const auto revision = workspace_.registryRevision();
+    if (isNew || answer.revision != revision) answer = {lookUp(app), revision};
+    return answer.category;
+}
+
+std::optional<Category> RegisteredCategories::lookUp(const AppId& app) {
+    if (const auto* words = registrations_.find(app)) {
+        if (const auto category = categoryOfRegistered(*words)) return category;
+    }
     const auto info = workspace_.applicationInfo(app);
-    return known_[app] = info ? categoryOfRegistered(info->categories) : std::nullopt;
+    const auto category = info ? categoryOfRegistered(info->categories) : std::nullopt;
+    if (category) registrations_.remember(app, info->categories);
+    return category;
 }
 
 }  // namespace tidewatch

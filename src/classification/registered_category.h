@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -7,6 +8,9 @@
 
 #include "base/named_string.h"
 #include "classification/category.h"
+#include "classification/first_registrations.h"
+#include "platform/api/file_system.h"
+#include "platform/api/log.h"
 #include "platform/api/workspace.h"
 
 namespace tidewatch {
@@ -15,19 +19,34 @@ namespace tidewatch {
 /// additional ones, in any order. Nothing if none of them says what kind of application it is.
 [[nodiscard]] std::optional<Category> categoryOfRegistered(std::span<const std::string> registered);
 
-/// What the desktop says of applications that the built-in table does not name. Each is asked for once in
-/// the life of this object. Main thread only.
+/// What the desktop says of applications that the built-in table does not name. What an application
+/// registered when it was first met holds for good ("registered.json"): time that was booked to it must not
+/// count as something else because its package was removed or updated since. One that was unknown is asked
+/// for again once the desktop may have it. Main thread only.
 class RegisteredCategories final {
 public:
-    /// `workspace` must outlive it.
-    explicit RegisteredCategories(const platform::Workspace& workspace) : workspace_(workspace) {}
+    /// Reads the file. All three must outlive it.
+    RegisteredCategories(platform::FileSystem& files, platform::Log& log,
+                         const platform::Workspace& workspace)
+        : workspace_(workspace), registrations_(files, log) {}
 
     /// Nothing for an application that is not registered, or that registers nothing of use.
-    [[nodiscard]] std::optional<Category> category(const AppId& app) const;
+    [[nodiscard]] std::optional<Category> category(const AppId& app);
+
+    /// Writes the file if an application was met that it does not have.
+    void flush() { registrations_.flush(); }
 
 private:
+    struct Answer {
+        std::optional<Category> category;
+        std::uint64_t revision = 0;  ///< of the registry that was asked
+    };
+
+    [[nodiscard]] std::optional<Category> lookUp(const AppId& app);
+
     const platform::Workspace& workspace_;
-    mutable std::unordered_map<AppId, std::optional<Category>> known_;
+    FirstRegistrations registrations_;
+    std::unordered_map<AppId, Answer> answers_;
 };
 
 }  // namespace tidewatch

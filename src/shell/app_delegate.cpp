@@ -44,6 +44,7 @@ void AppDelegate::applicationDidFinishLaunching() {
 
 void AppDelegate::applicationWillTerminate() {
     with_.services.engine.stop();
+    with_.services.categories.flushRegistered();
 }
 
 void AppDelegate::applicationShouldHandleReopen() {
@@ -156,6 +157,7 @@ void AppDelegate::refreshTimerFired() {
     refreshStatusBarTitle();
     setDayUnderCurrentKey();
     with_.services.notifications.checkDailyMilestones();
+    with_.services.categories.flushRegistered();
     sayOnceThatThereIsNoTray();
 }
 

@@ -27,11 +27,29 @@ TEST_F(AppInfoResolverTest, AnUnknownApplicationGoesByItsIdentifierAndHasNoIcon)
     EXPECT_EQ(resolver.info(AppId("org.example.Unknown")), (AppInfo{"org.example.Unknown", std::nullopt}));
 }
 
-TEST_F(AppInfoResolverTest, AnUnknownApplicationKeepsItsNameThoughItIsInstalledMeanwhile) {
+TEST_F(AppInfoResolverTest, AnApplicationThatIsInstalledMeanwhileGetsItsNameAndIcon) {
     const auto& before = resolver.info(AppId("gimp"));
-    workspace.registerApplication(AppId("gimp"), {"GIMP", "gimp", {}});
-    EXPECT_EQ(resolver.info(AppId("gimp")), (AppInfo{"gimp", std::nullopt}));
+    EXPECT_EQ(before, (AppInfo{"gimp", std::nullopt}));
+    workspace.registerApplication(AppId("gimp"), {"GIMP", "gimp-icon", {}});
+    EXPECT_EQ(resolver.info(AppId("gimp")),
+              (AppInfo{"GIMP", AppIcon{AppIcon::Source::desktop, "gimp-icon", ""}}));
     EXPECT_EQ(&resolver.info(AppId("gimp")), &before);
+}
+
+TEST_F(AppInfoResolverTest, AnUnknownApplicationIsAskedForAgainOnlyWhenTheRegistryHasChanged) {
+    for (int i = 0; i < 10; ++i) static_cast<void>(resolver.info(AppId("unknown")));
+    EXPECT_EQ(workspace.questions(), 1);
+    workspace.registerApplication(AppId("gimp"), {"GIMP", "", {}});
+    for (int i = 0; i < 10; ++i) static_cast<void>(resolver.info(AppId("unknown")));
+    EXPECT_EQ(workspace.questions(), 2);
+}
+
+TEST_F(AppInfoResolverTest, AKnownApplicationKeepsItsNameThoughItIsRemoved) {
+    workspace.registerApplication(AppId("gimp"), {"GIMP", "gimp-icon", {}});
+    const auto before = resolver.info(AppId("gimp"));
+    workspace.removeApplication(AppId("gimp"));
+    EXPECT_EQ(resolver.info(AppId("gimp")), before);
+    EXPECT_EQ(workspace.questions(), 1);
 }
 
 TEST_F(AppInfoResolverTest, TheBuiltInGamesHaveTheirOwnNameAndSymbol) {

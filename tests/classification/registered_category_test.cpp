@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/fake/fake_workspace.h"
+#include "classification/tier.h"
 
 namespace tidewatch {
 namespace {
@@ -58,6 +58,19 @@ const std::vector<Row>& applications() {
          communication},
         {"chat", {"Network", "InstantMessaging", "Chat"}, communication},
         {"video conference", {"Network", "InstantMessaging", "VideoConference", "Telephony"}, meetings},
+        {"video conference in a browser of its own", {"Network", "WebBrowser", "VideoConference"}, meetings},
+        {"video conference that also plays", {"AudioVideo", "Player", "VideoConference"}, meetings},
+        {"chat of a game", {"Network", "InstantMessaging", "Game"}, games},
+        {"chat of a kind of game", {"Network", "Chat", "RolePlaying"}, games},
+        {"chat for fun", {"Network", "Chat", "Amusement"}, entertainment},
+        {"chat beside a film",
+         {"Network", "InstantMessaging", "AudioVideo", "Video", "Player"},
+         entertainment},
+        {"chat with a stream of news", {"Network", "InstantMessaging", "News"}, entertainment},
+        {"telephone", {"Network", "Telephony"}, communication},
+        {"network alone", {"Network"}, utilities},
+        {"card game that says only so", {"CardGame"}, games},
+        {"circuit boards", {"Science", "Electronics"}, design},
         {"calendar", {"GNOME", "GTK", "Core", "Office", "Calendar"}, meetings},
         {"archiver", {"GTK", "Utility", "Archiving", "Compression"}, utilities},
         {"torrents", {"Network", "FileTransfer", "P2P"}, utilities},
@@ -91,16 +104,8 @@ TEST(RegisteredCategoryTest, EveryMainCategorySaysSomething) {
     }
 }
 
-TEST(RegisteredCategoryTest, AnApplicationIsAskedForOnce) {
-    platform::FakeWorkspace workspace;
-    workspace.registerApplication(AppId("xterm"), {"XTerm", "", {"TerminalEmulator"}});
-    const RegisteredCategories registered(workspace);
-    EXPECT_EQ(registered.category(AppId("xterm")), Category::development);
-    EXPECT_EQ(registered.category(AppId("gimp")), std::nullopt);
-    workspace.registerApplication(AppId("xterm"), {"XTerm", "", {"Game"}});
-    workspace.registerApplication(AppId("gimp"), {"GIMP", "", {"Graphics"}});
-    EXPECT_EQ(registered.category(AppId("xterm")), Category::development);
-    EXPECT_EQ(registered.category(AppId("gimp")), std::nullopt);
+TEST(RegisteredCategoryTest, NetworkAloneIsNeutral) {
+    EXPECT_EQ(defaultTier(*categoryOfRegistered(std::vector<std::string>{"Network"})), Tier::neutral);
 }
 
 }  // namespace

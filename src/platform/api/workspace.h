@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -28,6 +29,10 @@ public:
     /// What is registered under this identifier; nothing for an application that the desktop does not know.
     /// Reads a file each time: whoever asks often keeps the answer.
     [[nodiscard]] virtual std::optional<ApplicationInfo> applicationInfo(const AppId& app) const = 0;
+
+    /// Grows whenever applications may have come, gone or changed. While it stands still, what was unknown
+    /// still is. May be asked at any rate.
+    [[nodiscard]] virtual std::uint64_t registryRevision() const = 0;
 
     /// Where the desktop keeps the user's documents, absolute; the home directory if it has no such folder.
     [[nodiscard]] virtual std::string documentsDirectory() const = 0;

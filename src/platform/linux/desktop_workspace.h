@@ -17,6 +17,8 @@ public:
 
     [[nodiscard]] std::optional<ApplicationInfo> applicationInfo(const AppId& app) const override;
 
+    [[nodiscard]] std::uint64_t registryRevision() const override { return entries_.revision(); }
+
     [[nodiscard]] std::string documentsDirectory() const override;
 
     /// Through the file manager that answers on the session bus; else the folder is opened. Asks without
@@ -25,7 +27,7 @@ public:
 
 private:
     X11Connection connection_;
-    DesktopEntries entries_;
+    mutable DesktopEntries entries_;
     mutable X11ActiveApplication active_;
 };
 

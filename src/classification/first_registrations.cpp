@@ -1,0 +1,82 @@
+#include "classification/first_registrations.h"
+
+#include <simdjson.h>
+
+#include <optional>
+#include <string_view>
+#include <utility>
+
+#include "core/data_directory.h"
+#include "core/json_document.h"
+#include "core/json_writer.h"
+
+namespace tidewatch {
+namespace {
+
+namespace json = simdjson::dom;
+
+using Registrations = std::map<AppId, FirstRegistrations::Words>;
+
+std::string written(const Registrations& registrations) {
+    JsonWriter writer;
+    writer.beginObject();
+    for (const auto& [app, words] : registrations) {
+        writer.key(app.text()).beginArray();
+        for (const auto& word : words) writer.string(word);
+        writer.endArray();
+    }
+    writer.endObject();
+    return writer.take();
+}
+
+std::optional<FirstRegistrations::Words> readWords(json::element value) {
+    json::array array;
+    if (value.get_array().get(array) != simdjson::SUCCESS) return std::nullopt;
+    FirstRegistrations::Words words;
+    for (const auto element : array) {
+        std::string_view word;
+        if (element.get_string().get(word) != simdjson::SUCCESS) return std::nullopt;
+        words.emplace_back(word);
+    }
+    return words;
+}
+
+std::optional<Registrations> read(std::string text) {
+    const auto document = JsonDocument::parse(std::move(text));
+    json::object object;
+    if (!document || document->root().get_object().get(object) != simdjson::SUCCESS) return std::nullopt;
+    Registrations registrations;
+    for (const auto& [app, value] : object) {
+        auto words = readWords(value);
+        if (!words) return std::nullopt;
+        registrations[AppId(std::string(app))] = std::move(*words);
+    }
+    return registrations;
+}
+
+}  // namespace
+
+FirstRegistrations::FirstRegistrations(platform::FileSystem& files, platform::Log& log)
+    : files_(files), log_(log), filePath_(dataDirectory(files) + "/registered.json") {
+    if (auto text = files_.readWhole(filePath_)) {
+        words_ = read(std::move(text).value()).value_or(Registrations());
+    }
+}
+
+const FirstRegistrations::Words* FirstRegistrations::find(const AppId& app) const {
+    const auto found = words_.find(app);
+    return found == words_.end() ? nullptr : &found->second;
+}
+
+void FirstRegistrations::remember(const AppId& app, Words words) {
+    words_[app] = std::move(words);
+    changed_ = true;
+}
+
+void FirstRegistrations::flush() {
+    if (!std::exchange(changed_, false)) return;
+    const auto outcome = files_.replaceAtomically(filePath_, written(words_));
+    if (!outcome) log_.warning("Tidewatch: failed to write registered.json: " + outcome.error().message);
+}
+
+}  // namespace tidewatch
