@@ -99,6 +99,16 @@ const std::vector<Package>& packages() {
         {"filezilla", "filezilla", "Network;FileTransfer;", utilities},
         {"transmission-gtk", "transmission-gtk", "Network;FileTransfer;P2P;GTK;", utilities},
         {"remmina", "org.remmina.Remmina", "GTK;GNOME;X-GNOME-NetworkSettings;Network;", utilities},
+        {"dino-im", "im.dino.Dino", "GTK;Network;Chat;InstantMessaging;", communication},
+        {"sqlitebrowser", "sqlitebrowser", "Development;Utility;Database;", development},
+        {"gthumb", "org.gnome.gThumb", "GNOME;GTK;Graphics;Viewer;RasterGraphics;2DGraphics;Photography;", audioVideo},
+        {"gnome-chess", "org.gnome.Chess", "GNOME;GTK;Game;BoardGame;", games},
+        {"gnome-mines", "org.gnome.Mines", "GNOME;GTK;Game;LogicGame;", games},
+        {"kpat", "org.kde.kpat", "Qt;KDE;Game;CardGame;", games},
+        {"pavucontrol", "pavucontrol", "AudioVideo;Audio;Mixer;GTK;Settings;X-XFCE-SettingsDialog;X-XFCE-HardwareSettings;", Category::system},
+        {"gnome-tweaks", "org.gnome.tweaks", "GNOME;GTK;Settings;", Category::system},
+        {"eog", "org.gnome.eog", "GNOME;GTK;Graphics;2DGraphics;RasterGraphics;Viewer;", utilities},
+        {"simple-scan", "simple-scan", "GNOME;GTK;Graphics;Scanning;", utilities},
         // clang-format on
     };
     return rows;

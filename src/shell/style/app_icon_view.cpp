@@ -7,6 +7,7 @@
 #include "shell/style/symbol_table.h"
 
 namespace tidewatch {
+
 AppIconView::AppIconView(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
     choosePicture();
