@@ -31,5 +31,6 @@ function(tidewatch_test name)
     # Each test process starts through `env`: a list of variables does not survive the way through discovery.
     set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
         "${CMAKE_COMMAND};-E;env;LC_ALL=C.UTF-8;TZ=UTC;HOME=${CMAKE_BINARY_DIR}/test-home;QT_QPA_PLATFORM=offscreen")
-    gtest_discover_tests(${name} PROPERTIES TIMEOUT 120)
+    # Neither limit is there to judge anything: it ends what hangs, on however slow a machine.
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 600 PROPERTIES TIMEOUT 1800)
 endfunction()

@@ -99,7 +99,7 @@ class Day(unittest.TestCase):
         with running("counting") as (world, menu):
             exported_day(world, menu)
             before = world.screen.grab(world.clock().frame)
-            wait_until(lambda: world.screen.grab(world.clock().frame) != before, "the clock to count", 3)
+            wait_until(lambda: world.screen.grab(world.clock().frame) != before, "the clock to count")
 
 
 def popups(world):
@@ -138,7 +138,7 @@ class Report(unittest.TestCase):
     def test_the_month_is_written_as_a_page_and_shown_in_the_file_manager(self):
         with running("report") as (world, _):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             window = wait_until(world.statistics, "the statistics window")
             wait_until(lambda: world.screen.active_window() == window.id, "the focus")
             # The last thing of the tab of goals is the button that asks for the report.

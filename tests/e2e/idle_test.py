@@ -1,13 +1,12 @@
 """The clock stands still without the user, and goes on with the user."""
 
-import time
 import unittest
 
+from harness.moments import Lapse, Moment
 from harness.screen import difference
 from harness.world import World, sleep_until
 
 THRESHOLD = 60
-TOLERANCE = 2
 
 
 class Idle(unittest.TestCase):
@@ -17,36 +16,33 @@ class Idle(unittest.TestCase):
             world.open_terminal("WorkTerm")
             program = world.start_program()
             sleep_until(program.started + 5)
-            world.hands.type("the last words")
-            last_input = time.monotonic()
+            last_input = Moment.of(lambda: world.hands.type("the last words"))
 
-            sleep_until(last_input + THRESHOLD + 3)
+            sleep_until(last_input.latest + THRESHOLD + 6)
             standing = world.screenshot("standing", world.clock().frame)
-            sleep_until(last_input + THRESHOLD + 12)
+            sleep_until(last_input.latest + THRESHOLD + 15)
             self.assertIsNone(
                 difference(standing, world.screen.grab(world.clock().frame)), "the clock counted without the user"
             )
 
-            world.hands.type("back again")
-            back = time.monotonic()
-            sleep_until(back + 6)
+            back = Moment.of(lambda: world.hands.type("back again"))
+            sleep_until(back.latest + 6)
             self.assertIsNotNone(difference(standing, world.screenshot("going", world.clock().frame)))
-            world.stop_program(program)
-            stopped = time.monotonic()
+            ended = world.stop_program(program)
 
-            expected = (last_input + THRESHOLD - program.started) + (stopped - back)
-            self.assertAlmostEqual(world.home.day_seconds(), expected, delta=TOLERANCE)
-            self.assertAlmostEqual(world.home.application_seconds("WorkTerm"), expected, delta=TOLERANCE)
+            worked = Lapse.between(program.began, last_input + THRESHOLD) + Lapse.between(back, ended)
+            worked.assert_counted(world.home.day_seconds())
+            worked.assert_counted(world.home.application_seconds("WorkTerm"))
 
     def test_a_movement_of_the_mouse_is_presence_too(self):
         with World("idle-mouse") as world:
-            world.home.write_settings(idleThresholdSeconds=3)
+            world.home.write_settings(idleThresholdSeconds=6)
             program = world.start_program()
-            for second in range(1, 13):
-                sleep_until(program.started + second)
+            for second in range(1, 19):
+                sleep_until(program.began.latest + second)
                 world.hands.move(600 + second, 400)
-            world.stop_program(program)
-            self.assertAlmostEqual(world.home.day_seconds(), 12, delta=TOLERANCE)
+            ended = world.stop_program(program)
+            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
 
 
 if __name__ == "__main__":

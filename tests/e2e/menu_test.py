@@ -8,6 +8,7 @@ from harness import menu as rows
 from harness.hands import LEFT, RIGHT
 from harness.home import today
 from harness.menu import Menu
+from harness.moments import Lapse, Moment
 from harness.screen import difference
 from harness.waiting import stays, wait_until
 from harness.world import World, sleep_until
@@ -63,11 +64,11 @@ class Opening(unittest.TestCase):
         with running("counting", activeThemeID="minimal") as (world, menu):
             menu.open_from_tray()
             before = world.screen.grab(world.clock().frame)
-            wait_until(lambda: difference(before, world.screen.grab(world.clock().frame)), "the clock to count", 3)
-            sleep_until(world.program.started + 7)
+            wait_until(lambda: difference(before, world.screen.grab(world.clock().frame)), "the clock to count")
+            sleep_until(world.program.began.latest + 7)
             menu.close()
-            world.stop_program(world.program)
-            self.assertAlmostEqual(world.home.day_seconds(), time.monotonic() - world.program.started, delta=2)
+            ended = world.stop_program(world.program)
+            Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
 
 
 class Choices(unittest.TestCase):
@@ -126,7 +127,7 @@ class Choices(unittest.TestCase):
             menu.open_from_tray()
             menu.choose(rows.DAY_START, rows.DAY_STARTS.index(8))
             wait_for_setting(world, "dayStartHour", "8")
-            time.sleep(2.2)
+            time.sleep(3)
             world.stop_program(world.program)
             days = world.home.read("today.json")
             expected = 2 if time.gmtime().tm_hour < 8 else 1
@@ -158,9 +159,9 @@ class Commands(unittest.TestCase):
             menu.open_from_tray()
             menu.choose(rows.TOGGLE_VISIBLE)
             wait_until(lambda: world.clock() is None, "the clock to hide")
-            sleep_until(world.program.started + 5)
-            world.stop_program(world.program)
-            self.assertAlmostEqual(world.home.day_seconds(), 5, delta=2)
+            sleep_until(world.program.began.latest + 5)
+            ended = world.stop_program(world.program)
+            Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
             world.start_program(wait_for_clock=False)
             wait_until(menu.tray_icon, "the tray icon")
             stays(lambda: world.clock() is None, "the hidden clock", 1)
@@ -168,18 +169,20 @@ class Commands(unittest.TestCase):
     def test_a_reset_empties_the_day_at_once_and_nothing_else(self):
         with running("reset") as (world, menu):
             world.open_terminal("WorkTerm")
-            sleep_until(world.program.started + 6)
+            sleep_until(world.program.began.latest + 6)
             menu.open_from_tray()
+            asked = time.monotonic()
             menu.choose(rows.RESET)
-            wait_until(lambda: world.home.read("today.json") == {today(): 0}, "the day at 0 on disk", 2)
-            world.stop_program(world.program)
-            self.assertLessEqual(world.home.day_seconds(), 2)
+            wait_until(lambda: world.home.read("today.json") == {today(): 0}, "the day at 0 on disk")
+            reset = Moment(asked, time.monotonic())
+            ended = world.stop_program(world.program)
+            Lapse.between(reset, ended).assert_counted(world.home.day_seconds())
             self.assertGreaterEqual(world.home.application_seconds("WorkTerm"), 3)
 
     def test_the_data_file_is_written_and_shown_in_the_file_manager(self):
         with running("reveal") as (world, menu):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
-            time.sleep(0.5)
+            wait_until(monitor.log, "the monitor to listen")
             menu.open_from_tray()
             menu.choose(rows.REVEAL)
             wait_until(lambda: f"file://{world.home.data}/today.json" in monitor.log(), "the file manager to be asked")
@@ -201,11 +204,10 @@ class Commands(unittest.TestCase):
 
     def test_quit_writes_the_day_and_ends_with_0(self):
         with running("quit") as (world, menu):
-            sleep_until(world.program.started + 3)
+            sleep_until(world.program.began.latest + 3)
             menu.open_from_tray()
-            menu.choose(rows.QUIT)
-            self.assertEqual(world.program.wait(), 0)
-            self.assertAlmostEqual(world.home.day_seconds(), time.monotonic() - world.program.started, delta=2)
+            ended = Moment.of(lambda: (menu.choose(rows.QUIT), world.wait_for_end(world.program)))
+            Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
 
     def test_a_key_equivalent_works_in_the_open_menu(self):
         with running("key") as (world, menu):

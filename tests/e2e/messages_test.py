@@ -26,7 +26,7 @@ class Messages(unittest.TestCase):
         with World("messages") as world:
             world.home.write("goals.json", json.dumps(SMALL_GOAL))
             program = world.start_program()
-            wait_until(lambda: messages_on_screen(world), "the message", seconds=20)
+            wait_until(lambda: messages_on_screen(world), "the message")
             world.screenshot("message")
             sleep_until(program.started + 14)
             fired = {key: value for key, value in world.home.settings().items() if key.startswith("notif-")}
@@ -45,11 +45,11 @@ class Messages(unittest.TestCase):
             world.home.write("goals.json", json.dumps(SMALL_GOAL))
             program = world.start_program()
             icon = wait_until(Menu(world).tray_icon, "the tray icon")
-            balloon = wait_until(lambda: self.balloon(world, icon), "the tray's message", seconds=25)
+            balloon = wait_until(lambda: self.balloon(world, icon), "the tray's message")
             world.screenshot("balloon")
             self.assertGreater(balloon.frame.width, 100)
             seconds = world.home.day_seconds()
-            wait_until(lambda: world.home.day_seconds() > seconds, "the next periodic write", seconds=40)
+            wait_until(lambda: world.home.day_seconds() > seconds, "the next periodic write")
             world.stop_program(program)
 
     @staticmethod

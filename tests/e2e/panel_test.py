@@ -67,7 +67,8 @@ class Gestures(unittest.TestCase):
             time.sleep(2.5)
             self.assertEqual(world.home.day_seconds(), 0)
             world.hands.drag((340, 240), (342, 242), steps=2)
-            wait_until(lambda: world.home.day_seconds() >= 1, "the day on disk", 2)
+            wait_until(lambda: world.home.day_seconds() >= 1, "the day on disk")
+            self.assertLess(world.home.day_seconds(), 30, "it was only written when its time had come")
             self.assertEqual(place(world), (300, 200))
 
     def test_a_drag_is_no_click(self):

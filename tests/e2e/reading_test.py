@@ -68,7 +68,7 @@ class Reading(unittest.TestCase):
             return found in possible
 
         try:
-            wait_until(agrees, f"the words of {tab}", 5)
+            wait_until(agrees, f"the words of {tab}")
         except AssertionError:
             self.assertEqual(found, possible[0])
 

@@ -66,7 +66,7 @@ class Opening(unittest.TestCase):
             world.open_terminal()
             world.hands.type("busy")
             second = world.start_program(wait_for_clock=False)
-            self.assertEqual(second.wait(5), 0)
+            self.assertEqual(second.wait(), 0)
             window = opened(world)
             self.assertGreater(world.screen.stacking().index(window.id), 0)
 
@@ -80,17 +80,17 @@ class Place(unittest.TestCase):
     def test_it_stands_frame_included_in_the_middle_of_the_screen_each_time(self):
         with running("place") as (world, menu):
             expected = (MARGIN // 2, MARGIN // 2, WIDTH - MARGIN, HEIGHT - MARGIN)
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             window = opened(world)
             self.assertEqual(self.outer(world, window), expected)
             world.hands.resize(window.id, 830, 570)
             wait_until(lambda: world.statistics().frame.width == 830, "the smaller window")
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             wait_until(lambda: self.outer(world, world.statistics()) == expected, "the old size and place")
 
     def test_it_gets_no_smaller_than_its_least_size(self):
         with running("least") as (world, _):
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             window = opened(world)
             world.hands.focus(window.id)
             world.hands.resize(window.id, 300, 200)
@@ -101,7 +101,7 @@ class Place(unittest.TestCase):
 
     def test_it_is_in_the_taskbar(self):
         with running("taskbar") as (world, _):
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             window = opened(world)
             self.assertFalse(world.screen.states(window.id) & {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_ABOVE"})
 
@@ -109,17 +109,17 @@ class Place(unittest.TestCase):
 class Closing(unittest.TestCase):
     def test_the_window_managers_button_closes_it_and_the_program_goes_on(self):
         with running("close-button") as (world, _):
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             window = opened(world)
             world.hands.key("alt+F4")
             closed(world)
             stays(world.program.is_running, "the program", 1)
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             self.assertNotEqual(opened(world).id, window.id)
 
     def test_the_program_ends_in_order_while_it_is_open(self):
         with running("end") as (world, _):
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             opened(world)
             world.stop_program(world.program)
 
@@ -127,7 +127,7 @@ class Closing(unittest.TestCase):
 class Theme(unittest.TestCase):
     def test_ground_and_frame_follow_the_theme_while_it_is_open(self):
         with running("theme") as (world, menu):
-            world.start_program(wait_for_clock=False).wait(5)
+            world.start_program(wait_for_clock=False).wait()
             window = opened(world)
             self.assertEqual(bytes(world.screen.property(window.id, "_GTK_THEME_VARIANT")), DARK)
             corner = (window.frame.right - 12, window.frame.bottom - 60)

@@ -31,7 +31,7 @@ class Themes(unittest.TestCase):
                 self.assertEqual((frame.width - width, frame.height - height), (2 * (300 - frame.x),) * 2)
                 inside = Rectangle(300, 200, width, height)
                 first = world.screen.grab(inside)
-                wait_until(lambda: difference(first, world.screen.grab(inside)), f"{theme} to count", 4)
+                wait_until(lambda: difference(first, world.screen.grab(inside)), f"{theme} to count")
                 pictures[theme] = world.screenshot(theme, frame)
                 world.stop_program(program)
                 wait_until(lambda: world.clock() is None, "the clock to go")

@@ -17,9 +17,9 @@ class Tray(unittest.TestCase):
             def hint():
                 return [window for window in world.screen.windows() if window.id not in before]
 
-            wait_until(hint, "the hint", 20)
+            wait_until(hint, "the hint")
             world.screenshot("hint")
-            wait_until(lambda: not hint(), "the hint to go", 30)
+            wait_until(lambda: not hint(), "the hint to go")
             menu = Menu(world)
             menu.open_from_clock()
             menu.choose(QUIT)

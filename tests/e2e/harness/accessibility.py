@@ -5,12 +5,12 @@ from dataclasses import dataclass, field
 from gi.repository import Gio, GLib
 
 from harness.screen import Rectangle
-from harness.waiting import wait_until
+from harness.waiting import PATIENCE, wait_until
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
 _ROOT = "/org/a11y/atspi/accessible/root"
 _SCREEN_COORDINATES = 0
-_CALL_MILLISECONDS = 5000
+_CALL_MILLISECONDS = 60_000
 
 # Bits of the state, by their numbers on the bus.
 _STATES = {
@@ -170,7 +170,7 @@ class Accessibility:
         return reply.unpack()
 
 
-def wait_for_window(bus, pid, title, condition=lambda window: True, what="the window on the bus", seconds=10.0):
+def wait_for_window(bus, pid, title, condition=lambda window: True, what="the window on the bus", seconds=PATIENCE):
     """The window once `condition(window)` holds; what was found instead stands in the failure."""
     last = []
 

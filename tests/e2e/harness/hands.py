@@ -3,6 +3,8 @@
 import subprocess
 import time
 
+from harness.waiting import PATIENCE
+
 LEFT, RIGHT = 1, 3
 
 
@@ -15,7 +17,7 @@ class Hands:
             ["xdotool", *(str(argument) for argument in arguments)],
             env=self._env,
             check=True,
-            timeout=20,
+            timeout=PATIENCE,
             stdin=subprocess.DEVNULL,
         )
 

@@ -5,6 +5,9 @@ import datetime
 import json
 from pathlib import Path
 
+# The counter files.
+FILES = ("today.json", "apps.json", "hours.json", "minutes.json", "project_time.json")
+
 
 class Home:
     def __init__(self, path):
@@ -48,6 +51,13 @@ class Home:
 
     def all_application_seconds(self):
         return sum(sum(day.values()) for day in self.read("apps.json").values())
+
+
+def leaves(content, path=()):
+    """The numbers of a counter file by their paths, which are tuples of keys."""
+    if not isinstance(content, dict):
+        return {path: content}
+    return {place: value for key, below in content.items() for place, value in leaves(below, (*path, key)).items()}
 
 
 def today():

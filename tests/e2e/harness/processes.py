@@ -6,6 +6,8 @@ import signal
 import subprocess
 import time
 
+from harness.waiting import PATIENCE
+
 _libc = ctypes.CDLL(None, use_errno=True)
 _PR_SET_PDEATHSIG = 1
 
@@ -47,7 +49,7 @@ class Process:
     def send(self, number):
         self._popen.send_signal(number)
 
-    def wait(self, seconds=10.0):
+    def wait(self, seconds=PATIENCE):
         """The exit status; a negative one is the signal that ended it."""
         try:
             return self._popen.wait(seconds)
@@ -66,7 +68,7 @@ class Process:
     def kill(self):
         if self.is_running():
             self.send(signal.SIGKILL)
-        self._popen.wait(10)
+        self._popen.wait()
 
     def log(self):
         with open(self.log_path, encoding="utf-8", errors="replace") as log:

@@ -17,7 +17,7 @@ class StatisticsWindow:
 
     def open(self):
         """As a second start of the program does it."""
-        self._world.start_program(wait_for_clock=False).wait(5)
+        self._world.start_program(wait_for_clock=False).wait()
         window = wait_until(self._world.statistics, "the statistics window")
         wait_until(lambda: self._world.screen.active_window() == window.id, "the focus")
         self.wait_for(lambda read: read.find("page tab"), "the tabs")

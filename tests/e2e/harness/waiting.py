@@ -7,7 +7,12 @@ class TimeOut(AssertionError):
     """What was waited for did not come."""
 
 
-def wait_until(condition, what, seconds=10.0, every=0.05):
+# How long something is waited for that is sure to come. No test is about it: a machine may be as slow and as busy
+# as it likes.
+PATIENCE = 120.0
+
+
+def wait_until(condition, what, seconds=PATIENCE, every=0.05):
     """The first true result of `condition()`, or TimeOut, which names `what`, after `seconds`."""
     deadline = time.monotonic() + seconds
     while True:

@@ -11,6 +11,7 @@ from pathlib import Path
 
 from harness.hands import Hands
 from harness.home import Home
+from harness.moments import Moment
 from harness.processes import Process
 from harness.screen import Screen
 from harness.waiting import wait_until
@@ -213,14 +214,22 @@ class World:
         self.programs.append(process)
         if wait_for_clock:
             wait_until(self.clock, "the clock on the screen")
+            process.began = Moment(process.started, time.monotonic())
         return process
 
     def stop_program(self, process, number=signal.SIGTERM):
-        """The orderly end by a signal; anything but a status of 0 fails."""
+        """The orderly end by a signal, when it came; anything but a status of 0 fails."""
         process.send(number)
-        status = process.wait(10)
+        return self.wait_for_end(process)
+
+    @staticmethod
+    def wait_for_end(process):
+        """When a program ended that was asked to a moment ago; anything but a status of 0 fails."""
+        asked = time.monotonic()
+        status = process.wait()
         if status != 0:
             raise AssertionError(f"the program ended with {status}")
+        return Moment(asked, time.monotonic())
 
     def clock(self):
         """The clock's window, None while it is hidden."""

@@ -40,10 +40,11 @@ struct ScrollPaneTest : testing::Test, StyleScene {
 
     [[nodiscard]] double contentY() const { return seen("y0").toDouble(); }
 
-    /// Where the pane comes to rest.
-    [[nodiscard]] double settled() const {
+    /// Whether the pane comes to that place, and stays there.
+    [[nodiscard]] bool restsAt(double y) const {
+        if (!QTest::qWaitFor([&] { return contentY() == y; }, 60'000)) return false;
         QTest::qWait(200);
-        return contentY();
+        return contentY() == y;
     }
 
     void turnWheel(QPoint pixels, QPoint angle) {
@@ -61,15 +62,15 @@ struct ScrollPaneTest : testing::Test, StyleScene {
 
 TEST_F(ScrollPaneTest, AWheelScrolls) {
     turnWheel({}, {0, -120});
-    EXPECT_EQ(settled(), 96);
+    EXPECT_TRUE(restsAt(96)) << contentY();
     turnWheel({}, {0, 120});
-    EXPECT_EQ(settled(), 0);
+    EXPECT_TRUE(restsAt(0)) << contentY();
 }
 
 TEST_F(ScrollPaneTest, NotchesOfTheWheelInARowAddUp) {
     turnWheel({}, {0, -120});
     turnWheel({}, {0, -120});
-    EXPECT_EQ(settled(), 192);
+    EXPECT_TRUE(restsAt(192)) << contentY();
 }
 
 TEST_F(ScrollPaneTest, ATouchPadScrollsByPixelsAtOnce) {
@@ -83,26 +84,26 @@ TEST_F(ScrollPaneTest, NothingScrollsBeyondTheEnds) {
     turnWheel({0, -5000}, {0, -5000});
     EXPECT_EQ(contentY(), 400);
     turnWheel({}, {0, -120});
-    EXPECT_EQ(settled(), 400);
+    EXPECT_TRUE(restsAt(400)) << contentY();
 }
 
 TEST_F(ScrollPaneTest, TheMouseDoesNotDragIt) {
     QTest::mousePress(&window_, Qt::LeftButton, Qt::NoModifier, {250, 150});
     for (int y = 140; y >= 20; y -= 10) QTest::mouseMove(&window_, {250, y});
     QTest::mouseRelease(&window_, Qt::LeftButton, Qt::NoModifier, {250, 20});
-    EXPECT_EQ(settled(), 0);
+    EXPECT_TRUE(restsAt(0)) << contentY();
 }
 
 TEST_F(ScrollPaneTest, KeysThatTheContentLeavesOverScroll) {
     click(*item("button0"));
     press(Qt::Key_Down);
-    EXPECT_EQ(settled(), 48);
+    EXPECT_TRUE(restsAt(48)) << contentY();
     press(Qt::Key_PageDown);
-    EXPECT_EQ(settled(), 48 + 152);
+    EXPECT_TRUE(restsAt(48 + 152)) << contentY();
     press(Qt::Key_Up);
-    EXPECT_EQ(settled(), 152);
+    EXPECT_TRUE(restsAt(152)) << contentY();
     press(Qt::Key_PageUp);
-    EXPECT_EQ(settled(), 0);
+    EXPECT_TRUE(restsAt(0)) << contentY();
     press(Qt::Key_End);
     EXPECT_EQ(contentY(), 400);
     press(Qt::Key_Home);
@@ -140,13 +141,13 @@ TEST_F(ScrollPaneTest, AShorterContentDoesNotLeaveItBelowTheEnd) {
     press(Qt::Key_End);
     EXPECT_EQ(contentY(), 400);
     for (int i = 10; i < 20; ++i) item(QString("button%1").arg(i))->setVisible(false);
-    EXPECT_EQ(settled(), 100);
+    EXPECT_TRUE(restsAt(100)) << contentY();
 }
 
 TEST_F(ScrollPaneTest, AChangeOfTheContentKeepsThePlace) {
     turnWheel({0, -120}, {0, -120});
     item("button19")->setHeight(90);
-    EXPECT_EQ(settled(), 120);
+    EXPECT_TRUE(restsAt(120)) << contentY();
 }
 
 TEST_F(ScrollPaneTest, WhatFitsIsNoStopOfTheTabulator) {

@@ -42,7 +42,7 @@ void StyleScene::show(const QString& source, QSize size, const QVariantMap& prop
     window_.resize(size);
     window_.show();
     window_.requestActivate();
-    if (!QTest::qWaitForWindowActive(&window_)) qFatal("the window does not become active");
+    if (!QTest::qWaitForWindowActive(&window_, 60'000)) qFatal("the window does not become active");
 }
 
 QQuickItem* StyleScene::item(const QString& name) const {

@@ -41,7 +41,7 @@ protected:
     }
 
     [[nodiscard]] bool isGone() const {
-        return QTest::qWaitFor([this] { return dialog_.isNull(); });
+        return QTest::qWaitFor([this] { return dialog_.isNull(); }, 60'000);
     }
 
     using Answers = std::vector<std::string>;

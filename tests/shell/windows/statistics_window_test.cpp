@@ -119,7 +119,7 @@ TEST_F(StatisticsWindowTest, ClosingDestroysTheViewAndGivesItsMemoryBack) {
     window_.showWindow();
     window_.close();
     EXPECT_EQ(disappeared_, 1);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return view_.isNull(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view_.isNull(); }, 60'000));
     EXPECT_EQ(destroyed_, 1);
     EXPECT_EQ(machine_.memory.timesGivenBack(), 1);
 }
@@ -130,7 +130,7 @@ TEST_F(StatisticsWindowTest, AViewThatClosesItsWindowOutlivesTheCall) {
     EXPECT_FALSE(window_.isVisible());
     EXPECT_EQ(disappeared_, 1);
     EXPECT_FALSE(view_.isNull());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return view_.isNull(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view_.isNull(); }, 60'000));
 }
 
 TEST_F(StatisticsWindowTest, ShownAgainAtOnceItHasANewView) {
@@ -138,7 +138,7 @@ TEST_F(StatisticsWindowTest, ShownAgainAtOnceItHasANewView) {
     const auto first = view_;
     window_.close();
     window_.showWindow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return first.isNull(); }, 60'000));
     EXPECT_TRUE(window_.isVisible());
     EXPECT_FALSE(view_.isNull());
     EXPECT_EQ(viewsMade_, 2);
