@@ -1,7 +1,6 @@
 """What the whole program costs, on an empty record and on one of ten years: memory, processor time, start."""
 
 import os
-import statistics
 import subprocess
 import sys
 import time
@@ -14,11 +13,15 @@ from harness.screen import Rectangle  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
 from harness.world import World  # noqa: E402
 
-SETTLE_SECONDS = 33  # beyond the first periodic write
-MEASURED_SECONDS = 24  # and before the next: what a write costs has a limit of its own, in bench_flush
-STARTS = 7
-PROCESSOR_LIMIT = 60  # milliseconds a minute
-START_LIMIT = 300  # milliseconds
+JUDGED = os.environ.get("TIDEWATCH_BENCH") == "judge"
+
+SETTLE_SECONDS = 33 if JUDGED else 1  # beyond the first periodic write
+MEASURED_SECONDS = 24 if JUDGED else 4  # and before the next: what a write costs has a limit of its own, in bench_flush
+STARTS = 7 if JUDGED else 1
+
+# Times what the barest clock of the same toolkit takes, in the same run.
+START_LIMIT = 3.5
+PROCESSOR_LIMIT = 2
 
 # Where the digits of the clock are, and how bright they become.
 ORIGIN = (300, 200)
@@ -37,13 +40,18 @@ RECORDS = (Record("empty record", 45, False), Record("ten-year record", 60, True
 
 
 class Report:
+    """What was measured beside its limit; only a run that judges can exceed one."""
+
     def __init__(self):
         self.exceeded = False
 
     def line(self, what, value, limit, unit):
         verdict = "ok" if value <= limit else "ABOVE THE LIMIT"
-        self.exceeded = self.exceeded or value > limit
-        print(f"{what:<44} {value:8.1f} {unit}, limit {limit} {unit}: {verdict}", flush=True)
+        if JUDGED:
+            self.exceeded = self.exceeded or value > limit
+        else:
+            verdict = "not judged"
+        print(f"{what:<44} {value:8.1f} {unit}, limit {limit:.1f} {unit}: {verdict}", flush=True)
 
 
 def prepare(world, record):
@@ -57,39 +65,61 @@ def shows_digits(world):
     return max(high for _, high in world.screen.grab(DIGITS).getextrema()) > BRIGHT
 
 
-def milliseconds_to_clock(world):
-    """From the start of the process until the digits are on the screen."""
-    program = world.start_program(wait_for_clock=False)
+def start_bare_clock(world):
+    return world.start(os.environ["TIDEWATCH_BARE_CLOCK"], *ORIGIN)
+
+
+def milliseconds_to_digits(world, start, stop):
+    """From the start of a process until its digits are on the screen."""
+    process = start()
     wait_until(lambda: shows_digits(world), "the digits", every=0.002)
-    elapsed = time.monotonic() - program.started
-    world.stop_program(program)
+    elapsed = time.monotonic() - process.started
+    stop(process)
     wait_until(lambda: not shows_digits(world), "the clock to go")
     return elapsed * 1000
 
 
+def best_starts(world, rounds):
+    """The program's best start and the barest clock's, in turns, so that a machine that is busy is so for both."""
+    ours, bare = [], []
+    for _ in range(1 + rounds):
+        ours.append(milliseconds_to_digits(world, lambda: world.start_program(wait_for_clock=False), world.stop_program))
+        bare.append(milliseconds_to_digits(world, lambda: start_bare_clock(world), lambda process: process.end()))
+    # The first ones read the programs from the disk.
+    return min(ours[1:]), min(bare[1:])
+
+
 def measure_starts(report, worlds):
     for record, world in worlds:
-        milliseconds_to_clock(world)  # the first one reads the program from the disk
-        times = [milliseconds_to_clock(world) for _ in range(STARTS)]
-        report.line(f"start to the clock, {record.name} (median)", statistics.median(times), START_LIMIT, "ms")
+        ours, bare = best_starts(world, STARTS)
+        report.line(f"start to the clock, {record.name} (best)", ours, START_LIMIT * bare, "ms")
+
+
+def processor_milliseconds(processes, seconds):
+    """What each spends over the same time."""
+    before = [process.processor_seconds() for process in processes]
+    time.sleep(seconds)
+    return [(process.processor_seconds() - spent) * 1000 for process, spent in zip(processes, before)]
 
 
 def measure_running(report, worlds):
-    """Clock and tray as they come, ticking, between two periodic writes. All worlds at once: each waits nearly all
-    of the time."""
+    """Clock and tray as they come, ticking, between two periodic writes. All at once: each waits nearly all of the
+    time."""
     for _, world in worlds:
         world.home.write_settings()
-    programs = [(record, world.start_program()) for record, world in worlds]
+    programs = [world.start_program() for _, world in worlds]
+    bare = start_bare_clock(worlds[0][1])
     time.sleep(SETTLE_SECONDS)
-    before = [(time.monotonic(), program.processor_seconds()) for _, program in programs]
-    time.sleep(MEASURED_SECONDS)
-    for (record, program), (moment, spent) in zip(programs, before):
-        minutes = (time.monotonic() - moment) / 60
-        per_minute = (program.processor_seconds() - spent) * 1000 / minutes
-        report.line(f"processor time a minute, {record.name}", per_minute, PROCESSOR_LIMIT, "ms")
+    *spent, bare_spent = processor_milliseconds([*programs, bare], MEASURED_SECONDS)
+    for (record, world), program, milliseconds in zip(worlds, programs, spent):
+        a_minute = 60 / MEASURED_SECONDS
+        limit = PROCESSOR_LIMIT * bare_spent * a_minute
+        report.line(f"processor time a minute, {record.name}", milliseconds * a_minute, limit, "ms")
         report.line(f"resident memory, {record.name}", program.memory_kilobytes() / 1024, record.memory_limit, "MB")
-    for (_, world), (_, program) in zip(worlds, programs):
         world.stop_program(program)
+        if world.home.day_seconds() <= 0:
+            raise AssertionError("the program did not count")
+    bare.end()
 
 
 def main():

@@ -2,7 +2,6 @@
 
 import json
 import os
-import statistics
 import subprocess
 import sys
 import time
@@ -10,16 +9,16 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests/e2e"))
 
-from bench_program import Report  # noqa: E402
+from bench_program import JUDGED, Report, milliseconds_to_digits, processor_milliseconds, start_bare_clock  # noqa: E402
 from harness.hands import LEFT  # noqa: E402
 from harness.home import today  # noqa: E402
 from harness.screen import Rectangle  # noqa: E402
 from harness.waiting import stays, wait_until  # noqa: E402
 from harness.world import World  # noqa: E402
 
-OPENINGS = 5
-OPENING_LIMIT = 300  # milliseconds
-REFRESH_LIMIT = 15  # milliseconds of processor time
+OPENINGS = 5 if JUDGED else 1
+OPENING_LIMIT = 3.5  # times the start of the barest clock of the same toolkit
+REFRESH_LIMIT = 30  # times the processor time that this clock takes for a second
 REFRESH_SECONDS = 2
 OPEN_MEMORY_LIMIT = 90  # megabytes
 LEFT_BEHIND_LIMIT = 10  # megabytes
@@ -27,8 +26,7 @@ LEFT_BEHIND_LIMIT = 10  # megabytes
 CATEGORIES = ("Desarrollo", "Navegador", "Sistema", "Música", "Social", "Juegos")
 
 SETTLE_SECONDS = 3
-MEASURED_SECONDS = 20
-PERIODIC_WRITE_SECONDS = 30  # what a write costs has a limit of its own
+MEASURED_SECONDS = 20 if JUDGED else 4
 TABS = 5
 
 # Where the window shows the seconds of the first tier, and how bright they are there.
@@ -87,22 +85,22 @@ def close(world):
     stays(lambda: world.statistics() is None, "the closed window", 0.5)
 
 
-def processor_milliseconds(program):
-    """Spent over the time measured, which must not hold a periodic write of the record."""
-    before = program.processor_seconds()
-    time.sleep(MEASURED_SECONDS)
-    return (program.processor_seconds() - before) * 1000
+def start_of_bare_clock(world):
+    return milliseconds_to_digits(world, lambda: start_bare_clock(world), lambda process: process.end())
 
 
 def after_a_write(world):
-    """Waits until the record has just been written, the day's file first and the others after it."""
+    """Waits until the record has just been written, the day's file first and the others after it: what is measured
+    from then on holds no write. What is not judged may hold one."""
+    if not JUDGED:
+        return
     written = world.home.data / "today.json"
 
     def moment():
         return written.stat().st_mtime_ns if written.exists() else 0
 
     before = moment()
-    wait_until(lambda: moment() != before, "a periodic write", 2 * PERIODIC_WRITE_SECONDS)
+    wait_until(lambda: moment() != before, "a periodic write")
     time.sleep(SETTLE_SECONDS)
 
 
@@ -117,21 +115,26 @@ def main():
         program = world.start_program()
         wait_until(lambda: world.clock() is not None, "the clock")
         after_a_write(world)
-        closed_cost = processor_milliseconds(program)
+        (closed_cost,) = processor_milliseconds([program], MEASURED_SECONDS)
         before = megabytes(program)
 
-        times = []
-        for opening in range(1 + OPENINGS):
+        # In turns, so that a machine that is busy is so for both; the first ones read from the disk.
+        times, bare = [], []
+        for _ in range(1 + OPENINGS):
             times.append(open_by_click(world))
-            if opening < OPENINGS:
-                close(world)
+            close(world)
+            bare.append(start_of_bare_clock(world))
         print(f"{'the first opening, for comparison':<44} {times[0]:8.1f} ms", flush=True)
-        report.line("opening to the figures (median)", statistics.median(times[1:]), OPENING_LIMIT, "ms")
+        report.line("opening to the figures (best)", min(times[1:]), OPENING_LIMIT * min(bare[1:]), "ms")
 
+        clock = start_bare_clock(world)
+        open_by_click(world)
         after_a_write(world)
-        open_cost = processor_milliseconds(program)
+        open_cost, bare_cost = processor_milliseconds([program, clock], MEASURED_SECONDS)
+        clock.end()
         refreshes = MEASURED_SECONDS / REFRESH_SECONDS
-        report.line("processor time of a refresh", (open_cost - closed_cost) / refreshes, REFRESH_LIMIT, "ms")
+        limit = REFRESH_LIMIT * bare_cost / MEASURED_SECONDS
+        report.line("processor time of a refresh", (open_cost - closed_cost) / refreshes, limit, "ms")
         report.line("resident memory, window open", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
 
         close(world)
