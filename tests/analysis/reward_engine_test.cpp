@@ -62,6 +62,23 @@ TEST_F(RewardEngineTest, StarsForProductivityBeginAtAQuarterAndThreeQuarters) {
     EXPECT_EQ(starsForScore(100, 0), 2);
 }
 
+TEST_F(RewardEngineTest, ThreeFifthsAgainstTheGoalOfFourFifthsFallShortByARoundingAndGiveOneStar) {
+    // As numbers of the machine 0.6 / 0.8 is a last bit below three quarters, whatever the seconds are.
+    ASSERT_EQ(rooms_.goals.settings().dailyProductivity, 0.8);
+    EXPECT_EQ(starsForScore(60, 40), 1);
+    EXPECT_EQ(starsForScore(18, 12), 1);
+    EXPECT_EQ(starsForScore(10800, 7200), 1);
+    EXPECT_EQ(starsForScore(10801, 7200), 2);
+}
+
+TEST_F(RewardEngineTest, WhereTheQuotientIsExactThreeQuartersOfTheGoalGiveTwoStars) {
+    rooms_.goals.setSettings({.dailyProductivity = 0.5});
+    EXPECT_EQ(starsForScore(375, 625), 2);
+    EXPECT_EQ(starsForScore(374, 626), 1);
+    EXPECT_EQ(starsForScore(125, 875), 1);
+    EXPECT_EQ(starsForScore(124, 876), 0);
+}
+
 TEST_F(RewardEngineTest, BothGoalsReachedGiveFiveStarsAndExceededNoMore) {
     rooms_.setTime(today_, 6 * hour);
     rooms_.addClassified(today_, 80, 20);

@@ -135,6 +135,7 @@ TEST_F(AppDelegateTest, AReopenShowsTheStatisticsWindowWhetherOrNotItIsVisible) 
     EXPECT_TRUE(statistics_.isVisible());
     program_->delegate.applicationShouldHandleReopen();
     EXPECT_TRUE(statistics_.isVisible());
+    EXPECT_EQ(statistics_.showings(), 2) << "each time it is brought to the front";
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 2\n}");
 }
 

@@ -85,12 +85,19 @@ private:
 
 class FakeStatisticsWindow final : public StatisticsWindow {
 public:
-    void showWindow() override { visible_ = true; }
+    void showWindow() override {
+        visible_ = true;
+        ++showings_;
+    }
     void close() override { visible_ = false; }
     [[nodiscard]] bool isVisible() const override { return visible_; }
 
+    /// How often it was shown, whether it was visible before or not.
+    [[nodiscard]] int showings() const { return showings_; }
+
 private:
     bool visible_ = false;
+    int showings_ = 0;
 };
 
 class FakeSurfaces final : public Surfaces, private Dialogs {

@@ -1,0 +1,139 @@
+// The statistics window open while midnight passes.
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QSignalSpy>
+#include <QTest>
+#include <string>
+
+#include "shell/views/stats_scene.h"
+
+namespace tidewatch {
+namespace {
+
+using namespace std::chrono;
+using namespace std::chrono_literals;
+
+const Instant justBefore = sys_days(2026y / 1 / 15) + 23h + 59min + 55s;
+
+struct MidnightTest : testing::Test, StatsWorld {
+    MidnightTest() {
+        machine_.clock.setNow(justBefore);
+        presenter_.header()->today();
+        appear();
+    }
+
+    void passMidnight() { machine_.mainLoop.runFor(10s); }
+
+    /// What the head says: the day on show, and whether its arrow leads on.
+    [[nodiscard]] std::string head() {
+        return header_.date().toStdString() + (header_.canGoForward() ? " >" : " |");
+    }
+    [[nodiscard]] std::string total() { return presenter_.overview()->total().toStdString(); }
+
+    HeaderPresenter& header_ = *presenter_.header();
+};
+
+TEST_F(MidnightTest, BeforeItThereIsNoDayAfterTheOneOnShow) {
+    machine_.mainLoop.runFor(4s);
+    EXPECT_EQ(head(), "jue 15 ene |");
+    header_.nextDay();
+    EXPECT_EQ(head(), "jue 15 ene |");
+}
+
+TEST_F(MidnightTest, TheDayOnShowStaysAndItsArrowLeadsOn) {
+    QSignalSpy announced(&header_, &HeaderPresenter::dateChanged);
+    passMidnight();
+    EXPECT_EQ(head(), "jue 15 ene >");
+    EXPECT_GE(announced.count(), 1) << "or no view would know";
+}
+
+TEST_F(MidnightTest, TheArrowLeadsToTheNewDayAndNoFurther) {
+    passMidnight();
+    header_.nextDay();
+    EXPECT_EQ(head(), "vie 16 ene |");
+    header_.nextDay();
+    EXPECT_EQ(head(), "vie 16 ene |");
+}
+
+TEST_F(MidnightTest, TheButtonForTodayLeadsToTheNewDay) {
+    passMidnight();
+    header_.today();
+    EXPECT_EQ(head(), "vie 16 ene |");
+}
+
+TEST_F(MidnightTest, TheOtherArrowLeadsBackFromTheDayOnShow) {
+    passMidnight();
+    header_.previousDay();
+    EXPECT_EQ(head(), "mié 14 ene >");
+    header_.nextDay();
+    EXPECT_EQ(head(), "jue 15 ene >");
+}
+
+TEST_F(MidnightTest, ADayOfThePastStaysOnShow) {
+    header_.previousDay();
+    ASSERT_EQ(head(), "mié 14 ene >");
+    passMidnight();
+    EXPECT_EQ(head(), "mié 14 ene >");
+    header_.nextDay();
+    header_.nextDay();
+    EXPECT_EQ(head(), "vie 16 ene |");
+}
+
+TEST_F(MidnightTest, TheFiguresOfTheDayOnShowAreTheLastBeforeItAndStandStill) {
+    book("code", DayKey("2026-01-15"), 23, 50, 60);
+    machine_.mainLoop.runFor(4s);
+    ASSERT_EQ(total(), "1m");
+    passMidnight();
+    book("code", DayKey("2026-01-15"), 23, 50, 60);
+    book("code", DayKey("2026-01-16"), 0, 0, 300);
+    machine_.mainLoop.runFor(10s);
+    EXPECT_EQ(total(), "1m");
+}
+
+TEST_F(MidnightTest, TheNewDayIsFollowedOnceItIsOnShow) {
+    passMidnight();
+    header_.nextDay();
+    book("code", DayKey("2026-01-16"), 0, 0, 300);
+    machine_.mainLoop.runFor(2s);
+    EXPECT_EQ(total(), "5m");
+}
+
+TEST_F(MidnightTest, ShownAgainAfterItTheWindowStillHasTheDayOnShow) {
+    presenter_.disappear();
+    passMidnight();
+    appear();
+    EXPECT_EQ(head(), "jue 15 ene >");
+}
+
+TEST_F(MidnightTest, AClockSetBackOverItMakesTheDayOnShowTodayAgain) {
+    passMidnight();
+    header_.nextDay();
+    machine_.clock.setNow(sys_days(2026y / 1 / 15) + 23h);
+    machine_.mainLoop.runFor(2s);
+    header_.previousDay();
+    EXPECT_EQ(head(), "jue 15 ene |");
+}
+
+struct MidnightViewTest : testing::Test, StatsScene {};
+
+TEST_F(MidnightViewTest, TheArrowOnTheScreenCanBePressedOnceThereIsADayToGoTo) {
+    machine_.clock.setNow(justBefore);
+    presenter_.header()->today();
+    appear();
+    show();
+    ASSERT_FALSE(item("nextDay")->isEnabled());
+    machine_.mainLoop.runFor(10s);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(item("nextDay")->isEnabled());
+    const auto* arrow = item("nextDay");
+    QTest::mouseClick(&window_, Qt::LeftButton, {},
+                      arrow->mapToScene({arrow->width() / 2, arrow->height() / 2}).toPoint());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(item("date")->property("text").toString(), "vie 16 ene");
+    EXPECT_FALSE(item("nextDay")->isEnabled());
+}
+
+}  // namespace
+}  // namespace tidewatch
