@@ -113,6 +113,14 @@ TEST_F(GoalEvaluatorTest, FractionsAreNotLimited) {
     EXPECT_EQ(rows[3].fraction, 1.0);
 }
 
+TEST_F(GoalEvaluatorTest, ThreeFifthsOfTheDefaultGoalAreALastBitShortOfThreeQuarters) {
+    rooms_.addClassified(2026y / 1 / 15, 60, 40);
+    const auto row = evaluator_.evaluate()[1];
+    EXPECT_EQ(row.currentScore, 0.6);
+    EXPECT_EQ(row.fraction, 0.6 / 0.8);
+    EXPECT_LT(row.fraction, 0.75);
+}
+
 TEST_F(GoalEvaluatorTest, TheScoreIsTakenAsItIsWithoutTheGatesOfItsDisplay) {
     rooms_.addClassified(2026y / 1 / 15, 3, 1);
     EXPECT_EQ(evaluator_.evaluate()[1].currentScore, 0.75);

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QSignalSpy>
-#include <QTest>
 #include <string>
 
 #include "shell/views/stats_scene.h"
@@ -40,13 +37,6 @@ TEST_F(MidnightTest, BeforeItThereIsNoDayAfterTheOneOnShow) {
     EXPECT_EQ(head(), "jue 15 ene |");
     header_.nextDay();
     EXPECT_EQ(head(), "jue 15 ene |");
-}
-
-TEST_F(MidnightTest, TheDayOnShowStaysAndItsArrowLeadsOn) {
-    QSignalSpy announced(&header_, &HeaderPresenter::dateChanged);
-    passMidnight();
-    EXPECT_EQ(head(), "jue 15 ene >");
-    EXPECT_GE(announced.count(), 1) << "or no view would know";
 }
 
 TEST_F(MidnightTest, TheArrowLeadsToTheNewDayAndNoFurther) {
@@ -114,25 +104,6 @@ TEST_F(MidnightTest, AClockSetBackOverItMakesTheDayOnShowTodayAgain) {
     machine_.mainLoop.runFor(2s);
     header_.previousDay();
     EXPECT_EQ(head(), "jue 15 ene |");
-}
-
-struct MidnightViewTest : testing::Test, StatsScene {};
-
-TEST_F(MidnightViewTest, TheArrowOnTheScreenCanBePressedOnceThereIsADayToGoTo) {
-    machine_.clock.setNow(justBefore);
-    presenter_.header()->today();
-    appear();
-    show();
-    ASSERT_FALSE(item("nextDay")->isEnabled());
-    machine_.mainLoop.runFor(10s);
-    QCoreApplication::processEvents();
-    ASSERT_TRUE(item("nextDay")->isEnabled());
-    const auto* arrow = item("nextDay");
-    QTest::mouseClick(&window_, Qt::LeftButton, {},
-                      arrow->mapToScene({arrow->width() / 2, arrow->height() / 2}).toPoint());
-    QCoreApplication::processEvents();
-    EXPECT_EQ(item("date")->property("text").toString(), "vie 16 ene");
-    EXPECT_FALSE(item("nextDay")->isEnabled());
 }
 
 }  // namespace
