@@ -225,6 +225,14 @@ TEST_F(FlushedValue, OfADayThatEndedIsItsOwnTotalUnderItsOwnKey) {
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 1005,\n  \"2026-01-16\" : 222\n}");
 }
 
+TEST_F(FlushedValue, OfTheThirtiethTickIsSetAlthoughTheUserIsAway) {
+    pass(24s);
+    leave();
+    services().days.set(Seconds(777), today);
+    pass(1s);
+    EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 1005,\n  \"2026-01-16\" : 246\n}");
+}
+
 TEST_F(FlushedValue, OfAResetIsZeroUnderTheEnginesKey) {
     choose("Reiniciar día");
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 0,\n  \"2026-01-16\" : 222\n}");

@@ -117,6 +117,9 @@ TEST(EditorialPaperGrain, AHairlineIsFaintInkAcrossTheWholeWidth) {
         const auto paper = shadeOf(image.pixelColor(x, 100));
         const auto ink = shadeOf(image.pixelColor(x, 110));
         EXPECT_NEAR(ink, paper - 0.022 * (1 + paper), 0.001) << "column " << x;
+        for (const int y : {109, 112}) {
+            EXPECT_NEAR(shadeOf(image.pixelColor(x, y)), paper, 0.001) << "beside it, column " << x;
+        }
     }
 }
 
