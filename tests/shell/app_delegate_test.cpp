@@ -239,12 +239,5 @@ TEST_F(AppDelegateTest, ATrayThatComesLateIsNotMissed) {
     EXPECT_TRUE(surfaces_.hints().empty());
 }
 
-TEST_F(AppDelegateTest, BroadcastsThatRunAfterTheDelegateIsGoneDoNothing) {
-    launch();
-    program_->theme.switchTo("hacker");
-    program_.reset();
-    machine_.mainLoop.run();
-}
-
 }  // namespace
 }  // namespace tidewatch
