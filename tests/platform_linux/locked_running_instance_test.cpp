@@ -86,31 +86,27 @@ TEST_F(LockedRunningInstanceTest, AnInstanceThatHoldsTheLockAndIsStuckIsDeniedIn
 }
 
 TEST_F(LockedRunningInstanceTest, AStartWaitsForAnInstanceThatIsJustEnding) {
-    auto ending = std::make_unique<FileLock>(directory_.path() + "/lock");
-    auto claim = InstanceClaim::denied;
-    std::atomic<bool> waits = false;
-    std::thread other([&] {
-        Start next(log_, 60s);
-        waits = true;
-        claim = next.instance.claim(directory_.path());
+    auto lock = std::make_unique<FileLock>(directory_.path() + "/lock");
+    std::thread ending([&] {
+        std::this_thread::sleep_for(200ms);
+        lock.reset();
     });
-    while (!waits) std::this_thread::yield();
-    std::this_thread::sleep_for(200ms);
-    ending.reset();
-    other.join();
-    EXPECT_EQ(claim, InstanceClaim::first);
+    Start next(log_, 60s);
+    EXPECT_EQ(next.instance.claim(directory_.path()), InstanceClaim::first);
+    ending.join();
 }
 
 TEST_F(LockedRunningInstanceTest, AnInstanceThatEndsWhileItIsAskedIsWaitedForToo) {
-    auto ending = std::make_unique<FileLock>(directory_.path() + "/lock");
-    auto listening = std::move(ReopenSocket::listenIn(directory_.path())).value();
-    auto claim = InstanceClaim::denied;
-    std::thread other([&] { claim = Start(log_, 60s).instance.claim(directory_.path()); });
-    std::this_thread::sleep_for(200ms);
-    listening.reset();
-    ending.reset();
-    other.join();
-    EXPECT_EQ(claim, InstanceClaim::first);
+    auto lock = std::make_unique<FileLock>(directory_.path() + "/lock");
+    auto socket = std::move(ReopenSocket::listenIn(directory_.path())).value();
+    std::thread ending([&] {
+        std::this_thread::sleep_for(200ms);
+        socket.reset();
+        lock.reset();
+    });
+    Start next(log_, 60s);
+    EXPECT_EQ(next.instance.claim(directory_.path()), InstanceClaim::first);
+    ending.join();
 }
 
 TEST_F(LockedRunningInstanceTest, WithoutADirectoryTheProgramStartsAndSaysSo) {
@@ -129,6 +125,7 @@ TEST_F(LockedRunningInstanceTest, ADirectoryWithANameLongerThanASocketsMayBeIsNo
     ASSERT_EQ(first.instance.claim(deep), InstanceClaim::first);
     EXPECT_EQ(claimFromAnotherThread(deep), InstanceClaim::handedOver);
     EXPECT_EQ(reopened, 1);
+    EXPECT_TRUE(std::filesystem::is_socket(deep + "/reopen.socket"));
 }
 
 TEST_F(LockedRunningInstanceTest, ADirectoryWhoseNameIsNotUtf8IsNoHindrance) {
