@@ -109,6 +109,18 @@ TEST_F(LockedRunningInstanceTest, AnInstanceThatEndsWhileItIsAskedIsWaitedForToo
     ending.join();
 }
 
+TEST_F(LockedRunningInstanceTest, AnInstanceThatEndsInTheMomentOfTheQuestionDoesNotAnswer) {
+    auto first = std::make_unique<Start>(log_);
+    ASSERT_EQ(first->instance.claim(directory_.path()), InstanceClaim::first);
+    bool answered = true;
+    std::thread asking([&] { answered = ReopenSocket::askIn(directory_.path(), 60s); });
+    // One turn of the loop, as the last one that a program comes to.
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    first.reset();
+    asking.join();
+    EXPECT_FALSE(answered);
+}
+
 TEST_F(LockedRunningInstanceTest, WithoutADirectoryTheProgramStartsAndSaysSo) {
     log_.expectWarning("no lock could be made");
     Start start(log_);

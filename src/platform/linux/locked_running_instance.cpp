@@ -5,8 +5,10 @@
 
 #include <QMetaObject>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <algorithm>
 #include <thread>
+#include <utility>
 
 namespace tidewatch::platform {
 
@@ -16,6 +18,7 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 constexpr milliseconds pauseBetweenTries(50);
+constexpr milliseconds timeToEnd(20);
 
 }  // namespace
 
@@ -56,11 +59,11 @@ void LockedRunningInstance::listen() {
         log_.warning("Tidewatch: a second start cannot be answered: " + socket.error().message);
         return;
     }
-    requests_.reset();
+    notifier_.reset();
     socket_ = std::move(socket).value();
-    requests_ = std::make_unique<QSocketNotifier>(socket_->descriptor(), QSocketNotifier::Read);
-    QObject::connect(requests_.get(), &QSocketNotifier::activated, requests_.get(),
-                     [this] { answerRequests(); });
+    notifier_ = std::make_unique<QSocketNotifier>(socket_->descriptor(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [this] { takeRequests(); });
     lock_.lookAfter(ReopenSocket::pathIn(directory_), [this] {
         QMetaObject::invokeMethod(
             &mainThread_, [this] { listenAgain(); }, Qt::QueuedConnection);
@@ -73,8 +76,17 @@ void LockedRunningInstance::listenAgain() {
     if (!isBack && lock_.isHeld()) listen();
 }
 
+void LockedRunningInstance::takeRequests() {
+    for (auto request = socket_->nextRequest(); request.isOpen(); request = socket_->nextRequest()) {
+        requests_.push_back(std::move(request));
+    }
+    // If this process has been asked to end as well, it will not come to the answer.
+    QTimer::singleShot(timeToEnd, &mainThread_, [this] { answerRequests(); });
+}
+
 void LockedRunningInstance::answerRequests() {
-    while (socket_->answer()) {
+    for (const auto& request : std::exchange(requests_, {})) {
+        ReopenSocket::answer(request);
         if (reopen_) reopen_();
     }
 }

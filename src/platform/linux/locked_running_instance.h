@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/api/log.h"
 #include "platform/api/running_instance.h"
@@ -34,6 +35,7 @@ public:
 private:
     void listen();
     void listenAgain();
+    void takeRequests();
     void answerRequests();
 
     DirectoryLock& lock_;
@@ -42,8 +44,9 @@ private:
     std::string directory_;
     std::function<void()> reopen_;
     std::unique_ptr<ReopenSocket> socket_;
-    std::unique_ptr<QSocketNotifier> requests_;
-    QObject mainThread_;  // jobs for it are posted here
+    std::unique_ptr<QSocketNotifier> notifier_;
+    std::vector<FileDescriptor> requests_;  // not yet answered
+    QObject mainThread_;                    // jobs for it are posted here
 };
 
 }  // namespace tidewatch::platform

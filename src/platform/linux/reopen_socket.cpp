@@ -70,12 +70,13 @@ Result<std::unique_ptr<ReopenSocket>> ReopenSocket::listenIn(const std::string& 
     return socket;
 }
 
-bool ReopenSocket::answer() const {
-    const FileDescriptor request(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
-    if (!request.isOpen()) return false;
+FileDescriptor ReopenSocket::nextRequest() const {
+    return FileDescriptor(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+}
+
+void ReopenSocket::answer(const FileDescriptor& request) {
     // Whoever does not wait for the answer is none the worse for it.
     static_cast<void>(::send(request.get(), acknowledgement.data(), acknowledgement.size(), MSG_NOSIGNAL));
-    return true;
 }
 
 bool ReopenSocket::askIn(const std::string& directory, std::chrono::milliseconds patience) {

@@ -10,7 +10,7 @@
 namespace tidewatch::platform {
 
 /// The socket in the data directory through which a later start asks the running instance to come to the
-/// front. Whoever connects asks, and is answered with "ok".
+/// front. Whoever connects asks, and is answered with "ok"; without an answer whoever listens is ending.
 ///
 /// The directory's name may be longer than the name of a socket can be, and need not be UTF-8.
 class ReopenSocket final {
@@ -25,8 +25,10 @@ public:
     /// Becomes readable when somebody asks.
     [[nodiscard]] int descriptor() const { return listening_.get(); }
 
-    /// Answers one who has asked; false if nobody has. Never waits.
-    [[nodiscard]] bool answer() const;
+    /// The connection to one who has asked; a closed one if nobody has. Never waits.
+    [[nodiscard]] FileDescriptor nextRequest() const;
+
+    static void answer(const FileDescriptor& request);
 
     /// Asks whoever listens in `directory`. True once it has answered; false after `patience`, or at once if
     /// nobody listens or whoever did is gone.
