@@ -42,7 +42,7 @@ struct Rooms {
           apps(world.files, world.log, world.workspace),
           categories(world.files, world.log, world.workspace),
           scorer(apps, categories),
-          goals(world.files),
+          goals(world.files, world.log),
           evaluator(world.clock, goals, daily, scorer),
           rewards(world.clock, goals, daily, scorer, evaluator) {}
 

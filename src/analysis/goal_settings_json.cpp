@@ -35,13 +35,17 @@ constexpr std::array rows{
     Row{"weeklyHours", &GoalSettings::weeklyHours},
 };
 
-// Each tells whether the value is of the field's type.
+// Beyond it nothing can be meant, and texts and sums of it need not be thought of.
+constexpr double largestGoal = 1e6;
+
+// Each tells whether the value is of the field's type and range.
 struct Read {
     GoalSettings& settings;
     json::element value;
 
     [[nodiscard]] bool operator()(double GoalSettings::*field) const {
-        return value.get_double().get(settings.*field) == simdjson::SUCCESS;
+        return value.get_double().get(settings.*field) == simdjson::SUCCESS &&
+               std::abs(settings.*field) <= largestGoal;
     }
     [[nodiscard]] bool operator()(bool GoalSettings::*field) const {
         return value.get_bool().get(settings.*field) == simdjson::SUCCESS;

@@ -1,19 +1,11 @@
 #include "analysis/goal_store.h"
 
-#include <utility>
-
 #include "analysis/goal_settings_json.h"
-#include "core/data_directory.h"
 
 namespace tidewatch {
 
-GoalStore::GoalStore(platform::FileSystem& files)
-    : files_(files), filePath_(dataDirectory(files) + "/goals.json") {
-    // A directory that cannot be made shows as a file that can be neither read nor written.
-    (void)files_.createDirectories(dataDirectory(files_));
-    if (auto text = files_.readWhole(filePath_)) {
-        settings_ = readGoalSettings(std::move(text).value()).value_or(GoalSettings());
-    }
+GoalStore::GoalStore(platform::FileSystem& files, platform::Log& log) : file_(files, log, "goals.json") {
+    settings_ = file_.read(readGoalSettings).value_or(GoalSettings());
 }
 
 void GoalStore::setSettings(const GoalSettings& settings) {
@@ -23,7 +15,7 @@ void GoalStore::setSettings(const GoalSettings& settings) {
 }
 
 void GoalStore::save() {
-    if (const auto text = writeGoalSettings(settings_)) (void)files_.replaceAtomically(filePath_, *text);
+    if (const auto text = writeGoalSettings(settings_)) file_.write(*text);
 }
 
 }  // namespace tidewatch

@@ -4,7 +4,9 @@
 
 #include "analysis/goal_settings.h"
 #include "base/signal.h"
+#include "core/record_file.h"
 #include "platform/api/file_system.h"
+#include "platform/api/log.h"
 
 namespace tidewatch {
 
@@ -12,9 +14,9 @@ namespace tidewatch {
 class GoalStore final {
 public:
     /// Makes the data directory and reads the file. One that is missing or unreadable, or that lacks any of
-    /// the five values, gives all defaults and stays as it is until the next save(). Failures are silent.
-    /// `files` must outlive it.
-    explicit GoalStore(platform::FileSystem& files);
+    /// the five values, gives all defaults and stays as it is until the next save(), which sets it aside.
+    /// Failures are silent. `files` and `log`, which is told of a file that was set aside, must outlive it.
+    GoalStore(platform::FileSystem& files, platform::Log& log);
     GoalStore(const GoalStore&) = delete;
     GoalStore& operator=(const GoalStore&) = delete;
 
@@ -26,14 +28,13 @@ public:
     /// Writes the file. A failure is silent and leaves memory as it is.
     void save();
 
-    [[nodiscard]] const std::string& filePath() const { return filePath_; }
+    [[nodiscard]] const std::string& filePath() const { return file_.path(); }
 
     /// Announced after a change of the settings.
     Signal<> changed;
 
 private:
-    platform::FileSystem& files_;
-    const std::string filePath_;
+    RecordFile file_;
     GoalSettings settings_;
 };
 

@@ -41,7 +41,9 @@ std::string takeLowerCased(std::string_view& text, const WideCharacters& letters
     const char* rest = nullptr;
     wchar_t* decodedEnd = nullptr;
     utf8.in(state, text.data(), text.data() + text.size(), rest, &character, &character + 1, decodedEnd);
-    const bool decoded = decodedEnd == &character + 1;
+    // A character that breaks off before a zero byte is taken for that byte.
+    const bool swallowed = character == 0 && text.front() != '\0';
+    const bool decoded = decodedEnd == &character + 1 && !swallowed;
     const auto size = decoded ? static_cast<std::size_t>(rest - text.data()) : 1;
     const auto original = text.substr(0, size);
     text.remove_prefix(size);

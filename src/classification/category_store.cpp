@@ -3,23 +3,14 @@
 #include <utility>
 
 #include "classification/category_defaults.h"
-#include "core/data_directory.h"
 
 namespace tidewatch {
 
 CategoryStore::CategoryStore(platform::FileSystem& files, platform::Log& log,
                              const platform::Workspace& workspace)
-    : files_(files),
-      log_(log),
-      registered_(files, log, workspace),
-      filePath_(dataDirectory(files) + "/categories.json") {
-    // Without the directory there is no file either, and the first change will say so.
-    static_cast<void>(files_.createDirectories(dataDirectory(files)));
-    if (auto text = files_.readWhole(filePath_)) {
-        if (auto overrides = readCategoryOverrides(std::move(text).value())) {
-            overrides_ = std::move(*overrides);
-        }
-    }
+    : registered_(files, log, workspace),
+      file_(files, log, "categories.json", "Tidewatch: failed to write categories.json: ") {
+    if (auto overrides = file_.read(readCategoryOverrides)) overrides_ = std::move(*overrides);
 }
 
 Category CategoryStore::category(const AppId& app) const {
@@ -56,8 +47,7 @@ void CategoryStore::clearTierOverride(Category category) {
 }
 
 void CategoryStore::flush() {
-    const auto written = files_.replaceAtomically(filePath_, writeCategoryOverrides(overrides_));
-    if (!written) log_.warning("Tidewatch: failed to write categories.json: " + written.error().message);
+    file_.write(writeCategoryOverrides(overrides_));
 }
 
 }  // namespace tidewatch

@@ -7,6 +7,7 @@
 #include "classification/category_overrides.h"
 #include "classification/registered_category.h"
 #include "classification/tier.h"
+#include "core/record_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/workspace.h"
@@ -44,15 +45,13 @@ public:
     /// it does nothing without news.
     void flushRegistered() { registered_.flush(); }
 
-    [[nodiscard]] const std::string& dataFilePath() const { return filePath_; }
+    [[nodiscard]] const std::string& dataFilePath() const { return file_.path(); }
 
 private:
     void flush();
 
-    platform::FileSystem& files_;
-    platform::Log& log_;
     mutable RegisteredCategories registered_;  // remembers what it is asked for
-    const std::string filePath_;
+    RecordFile file_;
     CategoryOverrides overrides_;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -25,11 +26,17 @@ private:
     std::size_t size_;
 };
 
+/// The largest number that is read as a counter, either way from 0: more seconds than any life has. A record
+/// holds fewer than 2^32 counters, so whatever a file holds, no sum over it can overflow; that is left to
+/// sums that a running program makes.
+constexpr std::int64_t largestCounter = (std::int64_t(1) << 31) - 1;
+
 /// Reads the text of a counter file: any JSON whose top level is an object that holds, `depth` objects deep,
 /// nothing but whole numbers. Nothing if the text is not JSON or has another shape.
 ///
-/// - A number is taken if its value is a 64-bit integer, however it is spelled: 60, 6e1 and 60.0 are one;
-///   60.5, 1e30, "60", true and null are of another shape, and so is a file that holds one of them anywhere.
+/// - A number is taken if its value is an integer from -largestCounter to largestCounter, however it is
+///   spelled: 60, 6e1 and 60.0 are one; 60.5, 2147483648, "60", true and null are of another shape, and so is
+///   a file that holds one of them anywhere.
 /// - Of equal keys in one object the last stands. Keys are compared as bytes, after their escapes are read.
 /// - A byte order mark before the text is passed over.
 [[nodiscard]] std::optional<CounterRecord> readCounters(std::string text, std::size_t depth);

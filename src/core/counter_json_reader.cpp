@@ -14,17 +14,19 @@ namespace json = simdjson::ondemand;
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-std::optional<std::int64_t> wholeNumber(json::value value) {
+std::optional<Seconds> counterIn(json::value value) {
     std::int64_t integer = 0;
-    if (value.get_int64().get(integer) == simdjson::SUCCESS) return integer;
+    if (value.get_int64().get(integer) == simdjson::SUCCESS) {
+        const bool isCounter = integer >= -largestCounter && integer <= largestCounter;
+        return isCounter ? std::optional(Seconds(integer)) : std::nullopt;
+    }
     // An integer of more than 64 bits would be rounded to one that fits.
     bool isInteger = true;
     if (value.is_integer().get(isInteger) != simdjson::SUCCESS || isInteger) return std::nullopt;
     double real = 0;
     if (value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
-    constexpr double limit = 0x1p63;
-    if (std::trunc(real) != real || real < -limit || real >= limit) return std::nullopt;
-    return static_cast<std::int64_t>(real);
+    if (std::trunc(real) != real || std::abs(real) > double{largestCounter}) return std::nullopt;
+    return Seconds(static_cast<std::int64_t>(real));
 }
 
 class Reader final {
@@ -55,9 +57,9 @@ private:
         const auto key = keyOf(field);
         if (!key) return false;
         if (level + 1 == record_.depth()) {
-            const auto number = wholeNumber(field.value());
-            if (number) record_.appendLeaf(*key, Seconds(*number));
-            return number.has_value();
+            const auto counter = counterIn(field.value());
+            if (counter) record_.appendLeaf(*key, *counter);
+            return counter.has_value();
         }
         record_.appendBranch(level, *key);
         json::object child;

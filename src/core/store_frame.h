@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/counter_record.h"
+#include "core/record_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -28,7 +29,8 @@ struct StoreFormat {
 class StoreFrame final {
 public:
     /// Makes the data directory and reads the file. One that is missing, unreadable or of another shape is
-    /// an empty record, without a word; the next flush replaces it. Both references must outlive it.
+    /// an empty record, without a word; the next flush sets it aside and writes its own. Both references must
+    /// outlive it.
     StoreFrame(platform::FileSystem& files, platform::Log& log, const StoreFormat& format);
 
     /// What `reader` makes of the record; it must not call into any store.
@@ -48,19 +50,12 @@ public:
     /// Writes the file. On failure logs and keeps memory as it is; the next flush tries again.
     void flush();
 
-    [[nodiscard]] const std::string& directoryPath() const { return directoryPath_; }
-    [[nodiscard]] const std::string& filePath() const { return filePath_; }
+    [[nodiscard]] const std::string& directoryPath() const { return file_.directoryPath(); }
+    [[nodiscard]] const std::string& filePath() const { return file_.path(); }
 
 private:
-    Outcome write();
-
-    platform::FileSystem& files_;
-    platform::Log& log_;
-    const std::string directoryPath_;
-    const std::string filePath_;
-    const std::string flushFailed_;
-
     mutable std::mutex mutex_;
+    RecordFile file_;
     CounterRecord record_;
 };
 

@@ -7,10 +7,12 @@
 #include "platform/linux/autostart_login_item.h"
 #include "platform/linux/desktop_notifications.h"
 #include "platform/linux/desktop_workspace.h"
+#include "platform/linux/directory_lock.h"
 #include "platform/linux/linux_process_endings.h"
 #include "platform/linux/linux_process_memory.h"
 #include "platform/linux/locked_running_instance.h"
 #include "platform/linux/posix_file_system.h"
+#include "platform/linux/private_directory.h"
 #include "platform/linux/session_bus.h"
 #include "platform/linux/stderr_log.h"
 #include "platform/linux/system_randomness.h"
@@ -31,6 +33,11 @@ std::string configDirectory() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
 }
 
+// A file from before, or one that was copied here, may be open to others.
+void makePreferencesPrivate() {
+    narrowFile(configDirectory() + "/brightlooms/tidewatch.conf");
+}
+
 }  // namespace
 
 struct NativePlatform::Parts {
@@ -40,7 +47,8 @@ struct NativePlatform::Parts {
     StderrLog log;
     QtClock clock;
     QtMainLoop mainLoop;
-    PosixFileSystem files;
+    DirectoryLock recordLock{log};
+    PosixFileSystem files{&recordLock};
     QtPreferences preferences{configDirectory(), log};
     SessionBus sessionBus{environment.sessionBusAddress()};
     X11Connection idleConnection;
@@ -50,7 +58,7 @@ struct NativePlatform::Parts {
     X11WindowManager windowManager;
     AutostartLoginItem loginItem{files, configDirectory(),
                                  QCoreApplication::applicationFilePath().toStdString()};
-    LockedRunningInstance runningInstance{log};
+    LockedRunningInstance runningInstance{recordLock, log};
     LinuxProcessEndings endings;
     SystemRandomness randomness;
     DesktopNotifications notifications{sessionBus, log};
@@ -61,7 +69,9 @@ struct NativePlatform::Parts {
 };
 
 NativePlatform::NativePlatform(const ProcessEnvironment& environment)
-    : parts_(std::make_unique<Parts>(environment)) {}
+    : parts_(std::make_unique<Parts>(environment)) {
+    makePreferencesPrivate();
+}
 NativePlatform::~NativePlatform() = default;
 
 const Platform& NativePlatform::platform() const {

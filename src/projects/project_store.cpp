@@ -5,23 +5,16 @@
 #include <utility>
 
 #include "base/trim.h"
-#include "core/data_directory.h"
 #include "projects/project_color_palette.h"
 
 namespace tidewatch {
 
 ProjectStore::ProjectStore(platform::FileSystem& files, platform::Log& log, platform::Randomness& randomness,
                            const Broadcaster& broadcaster)
-    : files_(files),
-      log_(log),
-      randomness_(randomness),
+    : randomness_(randomness),
       broadcaster_(broadcaster),
-      filePath_(dataDirectory(files) + "/projects.json") {
-    // Without the directory there is no file either, and the first change will say so.
-    static_cast<void>(files_.createDirectories(dataDirectory(files)));
-    if (auto text = files_.readWhole(filePath_)) {
-        if (auto list = readProjects(std::move(text).value())) list_ = std::move(*list);
-    }
+      file_(files, log, "projects.json", "Tidewatch: failed to save projects: ") {
+    if (auto list = file_.read(readProjects)) list_ = std::move(*list);
 }
 
 std::optional<Project> ProjectStore::activeProject() const {
@@ -109,8 +102,7 @@ void ProjectStore::finishChange() {
 }
 
 void ProjectStore::save() {
-    const auto written = files_.replaceAtomically(filePath_, writeProjects(list_));
-    if (!written) log_.warning("Tidewatch: failed to save projects: " + written.error().message);
+    file_.write(writeProjects(list_));
 }
 
 }  // namespace tidewatch

@@ -8,6 +8,7 @@
 #include "base/signal.h"
 #include "base/uuid.h"
 #include "core/broadcaster.h"
+#include "core/record_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/randomness.h"
@@ -65,7 +66,7 @@ public:
     /// more.
     void deleteProject(const Uuid& id);
 
-    [[nodiscard]] const std::string& dataFilePath() const { return filePath_; }
+    [[nodiscard]] const std::string& dataFilePath() const { return file_.path(); }
 
     Signal<> changed;
 
@@ -76,11 +77,9 @@ private:
     void finishChange();
     void save();
 
-    platform::FileSystem& files_;
-    platform::Log& log_;
     platform::Randomness& randomness_;
     const Broadcaster& broadcaster_;
-    const std::string filePath_;
+    RecordFile file_;
     ProjectList list_;
 };
 

@@ -1,8 +1,33 @@
 #include "shell/export_commands.h"
 
+#include <string_view>
 #include <utility>
 
 namespace tidewatch {
+namespace {
+
+std::string_view wordsFor(platform::ExportFault fault) {
+    using enum platform::ExportFault;
+    switch (fault) {
+        case noPermission:
+            return "No tienes permiso para escribir en esa carpeta.";
+        case readOnlyDisk:
+            return "Ese disco es de solo lectura.";
+        case noSpace:
+            return "No queda espacio en el disco.";
+        case folderMissing:
+            return "Esa carpeta ya no existe.";
+        case notAFile:
+            return "Ese nombre ya lo tiene algo que no es un archivo.";
+        case nameTooLong:
+            return "El nombre es demasiado largo.";
+        case other:
+            break;
+    }
+    return "El disco dio un error.";
+}
+
+}  // namespace
 
 ExportCommands::ExportCommands(Targets targets)
     : to_(std::move(targets)),
@@ -49,8 +74,8 @@ void ExportCommands::exportReport() {
 }
 
 void ExportCommands::write(const std::string& path, const std::string& text) {
-    if (const auto written = to_.files.replaceAtomically(path, text); !written) {
-        to_.dialogs.warn("No se pudo escribir el archivo", written.error().message);
+    if (const auto failure = to_.files.exportFile(path, text)) {
+        to_.dialogs.warn("No se pudo escribir el archivo", std::string(wordsFor(failure->fault)));
     }
 }
 

@@ -17,7 +17,7 @@ Services::Services(const platform::Platform& platform)
       projects(platform.files, platform.log, platform.randomness, broadcaster),
       projectTime(platform.files, platform.log, platform.workspace),
       projectBooking(projects, projectTime),
-      goals(platform.files),
+      goals(platform.files, platform.log),
       goalEvaluator(platform.clock, goals, days, scorer),
       rewards(platform.clock, goals, days, scorer, goalEvaluator),
       notifications(platform.notifications, platform.mainLoop, platform.preferences, platform.log, goals,

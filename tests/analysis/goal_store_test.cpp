@@ -29,14 +29,14 @@ class GoalStoreTest : public testing::Test {
 protected:
     GoalSettings load(const std::string& text) {
         world_.files.put(test::goalsJson, text);
-        return GoalStore(world_.files).settings();
+        return GoalStore(world_.files, world_.log).settings();
     }
 
     test::FakeWorld world_;
 };
 
 TEST_F(GoalStoreTest, WithoutAFileAllIsDefaultAndNothingIsWritten) {
-    const GoalStore store(world_.files);
+    const GoalStore store(world_.files, world_.log);
     EXPECT_EQ(store.settings(), GoalSettings());
     EXPECT_EQ(store.settings().dailyHours, 6.0);
     EXPECT_EQ(store.settings().dailyProductivity, 0.8);
@@ -49,7 +49,7 @@ TEST_F(GoalStoreTest, WithoutAFileAllIsDefaultAndNothingIsWritten) {
 }
 
 TEST_F(GoalStoreTest, TheFileIsWrittenSortedAndPrettyPrinted) {
-    GoalStore store(world_.files);
+    GoalStore store(world_.files, world_.log);
     store.save();
     EXPECT_EQ(world_.files.content(test::goalsJson), R"({
   "dailyHours" : 6,
@@ -64,20 +64,20 @@ TEST_F(GoalStoreTest, TheFileIsWrittenSortedAndPrettyPrinted) {
 }
 
 TEST_F(GoalStoreTest, WhatIsSavedIsReadBackToTheLastDigit) {
-    GoalStore store(world_.files);
-    for (const double number :
-         {0.1 + 0.2, 1.0 / 3, 1e-300, 1.7976931348623157e308, -0.5, 123456789.0, 1e21}) {
+    GoalStore store(world_.files, world_.log);
+    for (const double number : {0.1 + 0.2, 1.0 / 3, 1e-300, -0.5, 123456.789, 1e6}) {
         GoalSettings settings;
         settings.dailyHours = number;
         settings.monthlyHours = number * 0.5;
         store.setSettings(settings);
         store.save();
-        EXPECT_EQ(GoalStore(world_.files).settings(), settings) << *world_.files.content(test::goalsJson);
+        EXPECT_EQ(GoalStore(world_.files, world_.log).settings(), settings)
+            << *world_.files.content(test::goalsJson);
     }
 }
 
 TEST_F(GoalStoreTest, AChangeIsAnnouncedOnceAndNotSavedByItself) {
-    GoalStore store(world_.files);
+    GoalStore store(world_.files, world_.log);
     int announced = 0;
     const auto connection = store.changed.connect([&] {
         ++announced;
@@ -153,21 +153,41 @@ TEST_F(GoalStoreTest, AGarbledFileOrAnArrayGivesAllFiveDefaultsAndIsReplacedByTh
         EXPECT_EQ(load(text), GoalSettings()) << text;
         EXPECT_EQ(world_.files.content(test::goalsJson), text) << "rewritten by loading";
     }
-    GoalStore store(world_.files);
+    GoalStore store(world_.files, world_.log);
     store.setSettings(busy);
     store.save();
     EXPECT_EQ(world_.files.content(test::goalsJson), busyText);
 }
 
+TEST_F(GoalStoreTest, ADamagedFileIsSetAsideByTheNextSave) {
+    world_.files.put(test::goalsJson, "garbage");
+    GoalStore store(world_.files, world_.log);
+    store.setSettings(busy);
+    store.save();
+    EXPECT_EQ(world_.files.content(test::goalsJson), busyText);
+    EXPECT_EQ(world_.files.content(std::string(test::goalsJson) + ".damaged-2026-01-15"), "garbage");
+}
+
+TEST_F(GoalStoreTest, ANumberBeyondAMillionGivesAllFiveDefaults) {
+    for (const auto* number : {"1000001", "-1000001", "1e300", "9223372036854775807"}) {
+        std::string text = busyText;
+        text.replace(text.find("7.5"), 3, number);
+        EXPECT_EQ(load(text), GoalSettings()) << number;
+    }
+    std::string text = busyText;
+    text.replace(text.find("7.5"), 3, "1000000");
+    EXPECT_EQ(load(text).dailyHours, 1e6);
+}
+
 TEST_F(GoalStoreTest, AFileThatCannotBeReadGivesAllFiveDefaults) {
     world_.files.put(test::goalsJson, busyText);
     world_.files.makeUnreadable(test::goalsJson);
-    EXPECT_EQ(GoalStore(world_.files).settings(), GoalSettings());
+    EXPECT_EQ(GoalStore(world_.files, world_.log).settings(), GoalSettings());
 }
 
 TEST_F(GoalStoreTest, AFailedSaveIsSilentAndKeepsMemoryAndFile) {
     world_.files.put(test::goalsJson, busyText);
-    GoalStore store(world_.files);
+    GoalStore store(world_.files, world_.log);
     GoalSettings changed = busy;
     changed.weeklyHours = 20;
     store.setSettings(changed);
@@ -183,12 +203,12 @@ TEST_F(GoalStoreTest, AFailedSaveIsSilentAndKeepsMemoryAndFile) {
 
     world_.files.setDisk(platform::MemoryFileSystem::Disk::roomy);
     store.save();
-    EXPECT_EQ(GoalStore(world_.files).settings(), changed);
+    EXPECT_EQ(GoalStore(world_.files, world_.log).settings(), changed);
 }
 
 TEST_F(GoalStoreTest, ADirectoryThatCannotBeMadeIsSilent) {
     world_.files.makeUnmakeable("/home/user/.tidewatch");
-    GoalStore store(world_.files);
+    GoalStore store(world_.files, world_.log);
     store.setSettings(busy);
     store.save();
     EXPECT_EQ(store.settings(), busy);
@@ -197,7 +217,7 @@ TEST_F(GoalStoreTest, ADirectoryThatCannotBeMadeIsSilent) {
 
 TEST_F(GoalStoreTest, ANumberThatJsonCannotSayIsNotSaved) {
     world_.files.put(test::goalsJson, busyText);
-    GoalStore store(world_.files);
+    GoalStore store(world_.files, world_.log);
     GoalSettings settings;
     settings.dailyHours = std::numeric_limits<double>::infinity();
     store.setSettings(settings);

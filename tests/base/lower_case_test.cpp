@@ -21,5 +21,15 @@ TEST(LowerCaseTest, LeavesWhatIsNoText) {
     EXPECT_EQ(lowerCased("Ñ\xE2\x80"), "ñ\xE2\x80");
 }
 
+TEST(LowerCaseTest, ACharacterThatBreaksOffStaysAlsoBeforeAZeroByte) {
+    using namespace std::string_literals;
+    for (const auto& broken : {"\xC3"s, "\xE2\x82"s, "\xF0\x9F\x98"s}) {
+        EXPECT_EQ(lowerCased("A" + broken), "a" + broken);
+        EXPECT_EQ(lowerCased("A" + broken + "\0Z"s), "a" + broken + "\0z"s);
+        EXPECT_EQ(lowerCased(broken + "\0"s), broken + "\0"s);
+        EXPECT_EQ(lowerCased(broken + "Ñ"), broken + "ñ");
+    }
+}
+
 }  // namespace
 }  // namespace tidewatch

@@ -223,6 +223,14 @@ TEST_F(CategoryStoreTest, EveryTruncationReadsAsEmptyAndIsReplacedByTheNextWrite
     }
 }
 
+TEST_F(CategoryStoreTest, ADamagedFileIsSetAsideByTheNextWrite) {
+    restartWith("garbage");
+    store->setTier(Tier::neutral, Category::games);
+    EXPECT_EQ(world.files.content(world.categoriesJson + ".damaged-2026-01-15"), "garbage");
+    store->setTier(Tier::productive, Category::games);
+    EXPECT_EQ(world.log.infos().size(), 1u);
+}
+
 TEST_F(CategoryStoreTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile) {
     const std::string whole = bothKinds;
     for (std::size_t at = 0; at < whole.size(); ++at) {

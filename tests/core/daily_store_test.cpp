@@ -107,15 +107,16 @@ TEST_P(DamagedTodayFile, IsReadAsNoDataInSilenceAndReplacedAtTheNextFlush) {
     world.files.put(world.todayJson, GetParam());
     auto store = open();
     EXPECT_THAT(store.allDays(), IsEmpty());
+    EXPECT_THAT(world.log.infos(), IsEmpty());
     store.set(Seconds(1), monday);
     store.flush();
     EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-12\" : 1\n}");
-    EXPECT_THAT(world.log.infos(), IsEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(DailyStore, DamagedTodayFile,
                          testing::Values("", "garbage", "[1, 2]", R"([{"2026-01-12":5}])",
-                                         R"({"2026-01-12":{"xterm":5}})", R"({"2026-01-12":5)", "\xFF\xFE"));
+                                         R"({"2026-01-12":{"xterm":5}})", R"({"2026-01-12":5)",
+                                         R"({"2026-01-12":9223372036854775807})", "\xFF\xFE"));
 
 TEST_F(DailyStoreTest, AnUnreadableFileIsReadAsNoData) {
     world.files.put(world.todayJson, R"({"2026-01-12":5})");

@@ -50,6 +50,32 @@ TEST(MemoryFileSystem, MissingAndUnreadableFilesAreErrors) {
     EXPECT_FALSE(files.readWhole("/d/f"));
 }
 
+TEST(MemoryFileSystem, SetsAFileAsideUnderANameThatIsFree) {
+    MemoryFileSystem files;
+    EXPECT_EQ(files.setAside("/d/f", "damaged").value(), std::nullopt);
+    files.put("/d/f", "");
+    EXPECT_EQ(files.setAside("/d/f", "damaged").value(), std::nullopt);
+    files.put("/d/f", "one");
+    EXPECT_EQ(files.setAside("/d/f", "damaged").value(), "/d/f.damaged-2026-01-15");
+    files.setDay("2026-01-16");
+    files.put("/d/f", "two");
+    EXPECT_EQ(files.setAside("/d/f", "damaged").value(), "/d/f.damaged-2026-01-16");
+    files.put("/d/f", "three");
+    EXPECT_EQ(files.setAside("/d/f", "damaged").value(), "/d/f.damaged-2026-01-16-2");
+    EXPECT_EQ(files.content("/d/f"), std::nullopt);
+    EXPECT_EQ(files.content("/d/f.damaged-2026-01-15"), "one");
+}
+
+TEST(MemoryFileSystem, TellsExportsFromTheRecord) {
+    MemoryFileSystem files;
+    files.put("/d/f", "old");
+    EXPECT_FALSE(files.exportFile("/d/f", "new"));
+    EXPECT_EQ(files.exports(), std::vector<std::string>{"/d/f"});
+    files.setDisk(MemoryFileSystem::Disk::full);
+    EXPECT_EQ(files.exportFile("/d/f", "newer").value().fault, ExportFault::noSpace);
+    EXPECT_EQ(files.content("/d/f"), "new");
+}
+
 TEST(MemoryFileSystem, TruncatesAFile) {
     MemoryFileSystem files;
     files.put("/d/f", "abcdef");

@@ -3,13 +3,31 @@
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 
 #include "tests/support/temporary_directory.h"
+
+namespace {
+
+// What has been brought to the disk: 'f' for a file, 'd' for a directory.
+std::string synced;
+
+}  // namespace
+
+// In the place of the C library's.
+extern "C" int fsync(int descriptor) {
+    struct stat status {};
+    ::fstat(descriptor, &status);
+    synced += S_ISDIR(status.st_mode) ? 'd' : 'f';
+    return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
 
 namespace tidewatch::platform {
 namespace {
@@ -42,6 +60,18 @@ struct PosixFileSystemTest : testing::Test {
         std::ranges::sort(result);
         return result;
     }
+};
+
+// While it lives, new files lack these rights.
+class Umask final {
+public:
+    explicit Umask(mode_t mask) : before_(::umask(mask)) {}
+    Umask(const Umask&) = delete;
+    Umask& operator=(const Umask&) = delete;
+    ~Umask() { ::umask(before_); }
+
+private:
+    mode_t before_;
 };
 
 // While it lives, this process writes no file beyond `bytes`.
@@ -117,6 +147,14 @@ TEST_F(PosixFileSystemTest, ReplacesAFileWhateverItHeld) {
     EXPECT_EQ(files.readWhole(file).value(), "");
 }
 
+TEST_F(PosixFileSystemTest, TheFileAndThenItsDirectoryAreBroughtToTheDisk) {
+    synced.clear();
+    ASSERT_TRUE(files.replaceAtomically(file, "{}"));
+    EXPECT_EQ(synced, "fd");
+    ASSERT_FALSE(files.exportFile(file, "{}"));
+    EXPECT_EQ(synced, "fdfd");
+}
+
 TEST_F(PosixFileSystemTest, AReaderOfTheOldFileGoesOnReadingTheOldFile) {
     ASSERT_TRUE(files.replaceAtomically(file, "old"));
     std::ifstream reader(file);
@@ -184,6 +222,156 @@ TEST_F(PosixFileSystemTest, AMissingDirectoryIsAnError) {
     const auto outcome = files.replaceAtomically(directory.path() + "/none/today.json", "{}");
     ASSERT_FALSE(outcome);
     EXPECT_THAT(outcome.error().message, AllOf(HasSubstr("open "), HasSubstr(": No such file or directory")));
+}
+
+TEST_F(PosixFileSystemTest, TheUmaskChangesNothingOfWhatIsPrivate) {
+    for (const mode_t mask : {0000, 0777}) {
+        const Umask umask(mask);
+        const auto folder = directory.path() + "/folder-" + std::to_string(mask);
+        ASSERT_TRUE(files.createDirectories(folder));
+        ASSERT_TRUE(files.replaceAtomically(folder + "/f", "x"));
+        EXPECT_EQ(modeOf(folder), 0700u);
+        EXPECT_EQ(modeOf(folder + "/f"), 0600u);
+    }
+}
+
+TEST_F(PosixFileSystemTest, ALinkToWhatIsNotThereYetStaysAndItsTargetIsMade) {
+    fs::create_directory(directory.path() + "/elsewhere");
+    fs::create_symlink("elsewhere/real.json", file);
+    ASSERT_TRUE(files.replaceAtomically(file, "new"));
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.json").value(), "new");
+}
+
+TEST_F(PosixFileSystemTest, ALinkThatLeadsToItselfIsReplaced) {
+    fs::create_symlink("today.json", file);
+    ASSERT_TRUE(files.replaceAtomically(file, "new"));
+    EXPECT_FALSE(fs::is_symlink(file));
+    EXPECT_EQ(files.readWhole(file).value(), "new");
+}
+
+TEST_F(PosixFileSystemTest, TheRecordsDirectoryIsMadeWhenItIsGone) {
+    const auto data = directory.path() + "/data";
+    EXPECT_EQ(files.holdRecord(data), RecordHold::ours);
+    EXPECT_EQ(modeOf(data), 0700u);
+}
+
+TEST_F(PosixFileSystemTest, AFileIsSetAsideUnderItsNameAndTheDay) {
+    write(file, "garbage");
+    const auto kept = files.setAside(file, "damaged");
+    ASSERT_TRUE(kept && kept.value());
+    EXPECT_THAT(*kept.value(), testing::MatchesRegex(file + "\\.damaged-[0-9]{4}-[0-9]{2}-[0-9]{2}"));
+    EXPECT_EQ(files.readWhole(*kept.value()).value(), "garbage");
+    EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(PosixFileSystemTest, WhatWasSetAsideBeforeIsKept) {
+    write(file, "first");
+    const auto first = *files.setAside(file, "damaged").value();
+    write(file, "second");
+    const auto second = *files.setAside(file, "damaged").value();
+    write(file, "third");
+    const auto third = *files.setAside(file, "damaged").value();
+    EXPECT_EQ(second, first + "-2");
+    EXPECT_EQ(third, first + "-3");
+    EXPECT_EQ(files.readWhole(first).value(), "first");
+    EXPECT_EQ(files.readWhole(second).value(), "second");
+    EXPECT_EQ(files.readWhole(third).value(), "third");
+}
+
+TEST_F(PosixFileSystemTest, AMissingOrEmptyFileIsNotSetAside) {
+    EXPECT_EQ(files.setAside(file, "damaged").value(), std::nullopt);
+    write(file, "");
+    EXPECT_EQ(files.setAside(file, "damaged").value(), std::nullopt);
+    EXPECT_TRUE(fs::exists(file));
+}
+
+TEST_F(PosixFileSystemTest, OfALinkItsTargetIsSetAsideAndTheLinkStays) {
+    fs::create_directory(directory.path() + "/elsewhere");
+    write(directory.path() + "/elsewhere/real.json", "garbage");
+    fs::create_symlink("elsewhere/real.json", file);
+    const auto kept = *files.setAside(file, "damaged").value();
+    EXPECT_TRUE(kept.starts_with(directory.path() + "/elsewhere/real.json.damaged-")) << kept;
+    ASSERT_TRUE(files.replaceAtomically(file, "new"));
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.json").value(), "new");
+    EXPECT_EQ(files.readWhole(kept).value(), "garbage");
+}
+
+TEST_F(PosixFileSystemTest, AnExportKeepsTheModeOfTheFileThatIsThere) {
+    write(file, "old");
+    for (const mode_t mode : {0640, 0666, 0444}) {
+        ASSERT_EQ(::chmod(file.c_str(), mode), 0);
+        const Umask umask(0077);
+        EXPECT_FALSE(files.exportFile(file, "new"));
+        EXPECT_EQ(modeOf(file), mode);
+    }
+    EXPECT_EQ(files.readWhole(file).value(), "new");
+    EXPECT_THAT(names(), testing::ElementsAre("today.json"));
+}
+
+TEST_F(PosixFileSystemTest, ANewExportObeysTheUmask) {
+    for (const mode_t mask : {0022, 0007, 0077}) {
+        const Umask umask(mask);
+        const auto path = file + std::to_string(mask);
+        EXPECT_FALSE(files.exportFile(path, "new"));
+        EXPECT_EQ(modeOf(path), 0666u & ~mask);
+    }
+}
+
+TEST_F(PosixFileSystemTest, AnExportLeavesItsNeighboursAlone) {
+    write(file + ".tmp", "the user's own");
+    EXPECT_FALSE(files.exportFile(file, "new"));
+    EXPECT_EQ(files.readWhole(file + ".tmp").value(), "the user's own");
+    EXPECT_THAT(names(), testing::ElementsAre("today.json", "today.json.tmp"));
+}
+
+TEST_F(PosixFileSystemTest, AnExportFollowsALink) {
+    fs::create_directory(directory.path() + "/elsewhere");
+    write(directory.path() + "/elsewhere/real.csv", "old");
+    ASSERT_EQ(::chmod((directory.path() + "/elsewhere/real.csv").c_str(), 0644), 0);
+    fs::create_symlink("elsewhere/real.csv", file);
+    EXPECT_FALSE(files.exportFile(file, "new"));
+    EXPECT_TRUE(fs::is_symlink(file));
+    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.csv").value(), "new");
+    EXPECT_EQ(modeOf(directory.path() + "/elsewhere/real.csv"), 0644u);
+}
+
+TEST_F(PosixFileSystemTest, AnExportThatBreaksOffKeepsTheOldFileAndLeavesNothingBeside) {
+    write(file, "old");
+    std::optional<ExportFailure> failure;
+    {
+        const FileSizeLimit limit(4096);
+        failure = files.exportFile(file, std::string(100'000, 'x'));
+    }
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->fault, ExportFault::noSpace);
+    EXPECT_EQ(failure->message, "write " + file + ": File too large");
+    EXPECT_EQ(files.readWhole(file).value(), "old");
+    EXPECT_THAT(names(), testing::ElementsAre("today.json"));
+}
+
+TEST_F(PosixFileSystemTest, WhyAnExportFailsIsTold) {
+    const auto faultAt = [&](const std::string& path) { return files.exportFile(path, "x").value().fault; };
+    EXPECT_EQ(faultAt(directory.path() + "/none/x.csv"), ExportFault::folderMissing);
+    EXPECT_EQ(faultAt(directory.path()), ExportFault::notAFile);
+    EXPECT_EQ(faultAt("/dev/full"), ExportFault::notAFile);
+    EXPECT_EQ(faultAt(directory.path() + "/" + std::string(300, 'x')), ExportFault::nameTooLong);
+    EXPECT_THAT(names(), testing::IsEmpty());
+}
+
+TEST_F(PosixFileSystemTest, ANameOfTheGreatestLengthCanBeExported) {
+    const auto longest = directory.path() + "/" + std::string(255, 'x');
+    EXPECT_FALSE(files.exportFile(longest, "new"));
+    EXPECT_EQ(files.readWhole(longest).value(), "new");
+}
+
+TEST_F(PosixFileSystemTest, PathsNeedNotBeUtf8) {
+    const auto folder = directory.path() + "/caf\xE9";
+    ASSERT_TRUE(files.createDirectories(folder));
+    ASSERT_TRUE(files.replaceAtomically(folder + "/today.json", "{}"));
+    EXPECT_EQ(files.readWhole(folder + "/today.json").value(), "{}");
+    EXPECT_THAT(names(), testing::ElementsAre("caf\xE9"));
 }
 
 TEST_F(PosixFileSystemTest, WhatIsNoFileCannotBeRead) {

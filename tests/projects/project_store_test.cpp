@@ -307,6 +307,14 @@ TEST_F(ProjectStoreTest, EveryTruncationReadsAsNoProjectsAndIsReplacedByTheNextW
     }
 }
 
+TEST_F(ProjectStoreTest, ADamagedFileIsSetAsideByTheNextWrite) {
+    restartWith("garbage");
+    store->addProject("Corto");
+    EXPECT_EQ(world.files.content(world.projectsJson + ".damaged-2026-01-15"), "garbage");
+    store->addProject("Otro");
+    EXPECT_EQ(world.log.infos().size(), 1u);
+}
+
 TEST_F(ProjectStoreTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile) {
     const std::string whole = twoProjects;
     for (std::size_t at = 0; at < whole.size(); ++at) {

@@ -144,6 +144,12 @@ TEST_F(ProjectTimeStoreTest, WhatHasNotThreeLevelsIsReadAsNoData) {
     }
 }
 
+TEST_F(ProjectTimeStoreTest, ADamagedFileIsSetAsideByTheNextFlush) {
+    world.files.put(world.projectTimeJson, "garbage");
+    ProjectTimeStore(world.files, world.log, world.workspace).flush();
+    EXPECT_EQ(world.files.content(world.projectTimeJson + ".damaged-2026-01-15"), "garbage");
+}
+
 TEST_F(ProjectTimeStoreTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile) {
     const std::string whole = goodFile;
     for (std::size_t at = 0; at < whole.size(); ++at) {

@@ -72,7 +72,21 @@ TEST_F(ExportCommandsTest, ADayThatCannotBeWrittenIsTold) {
     machine_.files.failWrite(1);
     surfaces_.place(place);
     EXPECT_EQ(surfaces_.warnings(),
-              std::vector<std::string>{"No se pudo escribir el archivo: write: Input/output error"});
+              std::vector<std::string>{"No se pudo escribir el archivo: El disco dio un error."});
+}
+
+TEST_F(ExportCommandsTest, AFullDiskIsToldInPlainWords) {
+    ASSERT_TRUE(choose("Exportar día (CSV)…"));
+    machine_.files.setDisk(platform::MemoryFileSystem::Disk::full);
+    surfaces_.place(place);
+    EXPECT_EQ(surfaces_.warnings(),
+              std::vector<std::string>{"No se pudo escribir el archivo: No queda espacio en el disco."});
+}
+
+TEST_F(ExportCommandsTest, AnExportIsWrittenAsTheUsersFileAndTheRecordIsNot) {
+    ASSERT_TRUE(choose("Exportar día (CSV)…"));
+    surfaces_.place(place);
+    EXPECT_EQ(machine_.files.exports(), std::vector<std::string>{place});
 }
 
 TEST_F(ExportCommandsTest, AProjectsTimeIsWrittenBeforeTheQuestionAndNothingElse) {
@@ -104,7 +118,7 @@ TEST_F(ExportCommandsTest, AProjectThatCannotBeWrittenIsTold) {
     machine_.files.failWrite(1);
     surfaces_.place(place);
     EXPECT_EQ(surfaces_.warnings(),
-              std::vector<std::string>{"No se pudo escribir el archivo: write: Input/output error"});
+              std::vector<std::string>{"No se pudo escribir el archivo: El disco dio un error."});
 }
 
 TEST_F(ExportCommandsTest, AProjectThatIsGoneIsNotAskedFor) {

@@ -42,7 +42,7 @@ protected:
     Settings settings_{world_.preferences};
     DayRule dayRule_{world_.clock, settings_};
     DailyStore daily_{world_.files, world_.log, dayRule_};
-    GoalStore goals_{world_.files};
+    GoalStore goals_{world_.files, world_.log};
     std::optional<NotificationManager> manager_;
     const int goal_ = 6 * 3600;
 };

@@ -20,6 +20,8 @@ public:
     [[nodiscard]] bool generate(const std::string& path);
 
 private:
+    [[nodiscard]] bool failed(const std::string& reason);
+
     const ReportSources sources_;
     platform::FileSystem& files_;
     platform::Log& log_;

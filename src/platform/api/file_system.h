@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -7,7 +8,30 @@
 
 namespace tidewatch::platform {
 
-/// The user's files. Paths are absolute, with '/' between names. Safe from any thread.
+/// Who may write the files of the record.
+enum class RecordHold {
+    ours,      ///< this process, and no other can
+    anothers,  ///< another process, which has taken the directory over
+};
+
+/// Why a file of the user's could not be written, as far as a user can do something about it.
+enum class ExportFault {
+    noPermission,
+    readOnlyDisk,
+    noSpace,
+    folderMissing,
+    notAFile,  ///< something that is no file has the name
+    nameTooLong,
+    other,
+};
+
+struct ExportFailure {
+    ExportFault fault;
+    std::string message;  ///< for the log: the operation, the path and the system's words
+};
+
+/// The user's files. Paths are absolute, with '/' between names, and bytes: they need not be UTF-8. Safe from
+/// any thread.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -15,16 +39,33 @@ public:
     /// The current user's home directory, without a slash at its end.
     [[nodiscard]] virtual std::string homeDirectory() const = 0;
 
-    /// Makes the directory, for its owner only, and what is missing above it. One that exists is a success.
+    /// Makes the directory, for its owner only, and what is missing above it. One that exists is a success
+    /// and keeps its mode.
     virtual Outcome createDirectories(const std::string& path) = 0;
 
     /// The whole content of a file.
     [[nodiscard]] virtual Result<std::string> readWhole(const std::string& path) const = 0;
 
+    /// To be asked before a file in `directory`, the data directory, is written. Makes the directory again if
+    /// it is gone, with what keeps other instances out of it. If it is another process's by now, nothing in
+    /// it may be written; the log was told, once. Costs next to nothing as long as all is in place.
+    [[nodiscard]] virtual RecordHold holdRecord(const std::string& directory) = 0;
+
     /// Puts `content` in the place of the file's, or makes the file, readable by its owner only. After a
     /// success the new content is on the disk; after a failure, or a crash at any moment, the file holds
     /// what it held before. Leaves nothing beside the file when it fails.
     virtual Outcome replaceAtomically(const std::string& path, std::string_view content) = 0;
+
+    /// Gives the file a name that no other has: its own, ".`mark`-" and the day's date, and a number from 2
+    /// up if that is taken. Gives the new name; nothing if there is no file or nothing in it, which stays.
+    [[nodiscard]] virtual Result<std::optional<std::string>> setAside(const std::string& path,
+                                                                      std::string_view mark) = 0;
+
+    /// Puts `content` into a file of the user's choosing, whose neighbours and mode are the user's too: one
+    /// that exists keeps its mode, a new one gets what the user gives to new files. Whole or not at all, as
+    /// with replaceAtomically(). Gives nothing after a success.
+    [[nodiscard]] virtual std::optional<ExportFailure> exportFile(const std::string& path,
+                                                                  std::string_view content) = 0;
 };
 
 }  // namespace tidewatch::platform

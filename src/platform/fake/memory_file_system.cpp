@@ -11,14 +11,24 @@ std::string parentOf(const std::string& path) {
 
 Outcome MemoryFileSystem::createDirectories(const std::string& path) {
     const std::lock_guard lock(mutex_);
+    if (!makeDirectories(path)) return Error{"make directory " + path + ": Permission denied"};
+    return success();
+}
+
+bool MemoryFileSystem::makeDirectories(const std::string& path) {
     for (auto directory = path; !directory.empty(); directory = parentOf(directory)) {
-        if (unmakeable_.contains(directory)) return Error{"make directory " + path + ": Permission denied"};
-        if (files_.contains(directory)) return Error{"make directory " + path + ": Not a directory"};
+        if (unmakeable_.contains(directory) || files_.contains(directory)) return false;
     }
     for (auto directory = path; !directory.empty(); directory = parentOf(directory)) {
         directories_.insert(directory);
     }
-    return success();
+    return true;
+}
+
+RecordHold MemoryFileSystem::holdRecord(const std::string& directory) {
+    const std::lock_guard lock(mutex_);
+    static_cast<void>(makeDirectories(directory));
+    return hold_;
 }
 
 Result<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
@@ -31,6 +41,38 @@ Result<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
 
 Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
     const std::lock_guard lock(mutex_);
+    return write(path, content);
+}
+
+Result<std::optional<std::string>> MemoryFileSystem::setAside(const std::string& path,
+                                                              std::string_view mark) {
+    const std::lock_guard lock(mutex_);
+    auto file = files_.extract(path);
+    if (file.empty()) return std::optional<std::string>();
+    if (file.mapped().empty()) {
+        files_.insert(std::move(file));
+        return std::optional<std::string>();
+    }
+    const auto name = path + "." + std::string(mark) + "-" + day_;
+    auto free = name;
+    for (int number = 2; files_.contains(free); ++number) free = name + "-" + std::to_string(number);
+    file.key() = free;
+    files_.insert(std::move(file));
+    if (unreadable_.erase(path) > 0) unreadable_.insert(free);
+    return std::optional(free);
+}
+
+std::optional<ExportFailure> MemoryFileSystem::exportFile(const std::string& path, std::string_view content) {
+    const std::lock_guard lock(mutex_);
+    if (auto written = write(path, content); !written) {
+        return ExportFailure{disk_ == Disk::full ? ExportFault::noSpace : ExportFault::other,
+                             written.error().message};
+    }
+    exports_.push_back(path);
+    return std::nullopt;
+}
+
+Outcome MemoryFileSystem::write(const std::string& path, std::string_view content) {
     writes_.push_back(path);
     if (const auto error = fault(content)) return *error;
     if (!directories_.contains(parentOf(path))) return Error{"open " + path + ": No such file or directory"};
@@ -92,6 +134,28 @@ void MemoryFileSystem::makeUnmakeable(const std::string& directory) {
 void MemoryFileSystem::makeUnreadable(const std::string& path) {
     const std::lock_guard lock(mutex_);
     unreadable_.insert(path);
+}
+
+void MemoryFileSystem::removeDirectory(const std::string& path) {
+    const std::lock_guard lock(mutex_);
+    const auto isGone = [&](const std::string& name) { return name == path || name.starts_with(path + "/"); };
+    std::erase_if(files_, [&](const auto& file) { return isGone(file.first); });
+    std::erase_if(directories_, isGone);
+}
+
+void MemoryFileSystem::setHold(RecordHold hold) {
+    const std::lock_guard lock(mutex_);
+    hold_ = hold;
+}
+
+void MemoryFileSystem::setDay(const std::string& day) {
+    const std::lock_guard lock(mutex_);
+    day_ = day;
+}
+
+std::vector<std::string> MemoryFileSystem::exports() const {
+    const std::lock_guard lock(mutex_);
+    return exports_;
 }
 
 }  // namespace tidewatch::platform

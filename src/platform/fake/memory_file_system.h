@@ -19,7 +19,12 @@ public:
     [[nodiscard]] std::string homeDirectory() const override { return "/home/user"; }
     Outcome createDirectories(const std::string& path) override;
     [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
+    [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
     Outcome replaceAtomically(const std::string& path, std::string_view content) override;
+    [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
+                                                              std::string_view mark) override;
+    [[nodiscard]] std::optional<ExportFailure> exportFile(const std::string& path,
+                                                          std::string_view content) override;
 
     /// Puts a file there, past all faults, with the directories above it.
     void put(const std::string& path, std::string_view content);
@@ -48,8 +53,22 @@ public:
     /// The file is there but cannot be read.
     void makeUnreadable(const std::string& path);
 
+    /// Somebody removes a directory with all that is in it.
+    void removeDirectory(const std::string& path);
+
+    /// Who has the data directory from now on; this process at first.
+    void setHold(RecordHold hold);
+
+    /// The date in the names of files that are set aside, "2026-01-15" at first.
+    void setDay(const std::string& day);
+
+    /// The paths of the exports that succeeded.
+    [[nodiscard]] std::vector<std::string> exports() const;
+
 private:
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
+    [[nodiscard]] Outcome write(const std::string& path, std::string_view content);
+    [[nodiscard]] bool makeDirectories(const std::string& path);
 
     mutable std::mutex mutex_;
     std::map<std::string, std::string> files_;
@@ -57,6 +76,9 @@ private:
     std::set<std::string> unmakeable_;
     std::set<std::string> unreadable_;
     std::vector<std::string> writes_;
+    std::vector<std::string> exports_;
+    std::string day_ = "2026-01-15";
+    RecordHold hold_ = RecordHold::ours;
     std::size_t failingWrite_ = 0;
     Disk disk_ = Disk::roomy;
 };

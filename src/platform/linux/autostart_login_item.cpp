@@ -45,14 +45,15 @@ bool AutostartLoginItem::isEnabled() const {
 
 Outcome AutostartLoginItem::registerItem() {
     if (auto made = files_.createDirectories(directory_); !made) return made;
-    return files_.replaceAtomically(path_, fmt::format("[Desktop Entry]\n"
-                                                       "Type=Application\n"
-                                                       "Name=Tidewatch\n"
-                                                       "Comment=Marca tu tiempo.\n"
-                                                       "Exec={}\n"
-                                                       "Icon=com.brightlooms.tidewatch\n"
-                                                       "X-GNOME-Autostart-enabled=true\n",
-                                                       quotedForExec(program_)));
+    const auto failure = files_.exportFile(path_, fmt::format("[Desktop Entry]\n"
+                                                              "Type=Application\n"
+                                                              "Name=Tidewatch\n"
+                                                              "Comment=Marca tu tiempo.\n"
+                                                              "Exec={}\n"
+                                                              "Icon=com.brightlooms.tidewatch\n"
+                                                              "X-GNOME-Autostart-enabled=true\n",
+                                                              quotedForExec(program_)));
+    return failure ? Outcome(Error{failure->message}) : success();
 }
 
 Outcome AutostartLoginItem::unregisterItem() {

@@ -10,8 +10,12 @@ namespace tidewatch::platform {
 class FileDescriptor final {
 public:
     explicit FileDescriptor(int descriptor) : descriptor_(descriptor) {}
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
+    FileDescriptor(FileDescriptor&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept {
+        if (descriptor_ >= 0) ::close(descriptor_);
+        descriptor_ = std::exchange(other.descriptor_, -1);
+        return *this;
+    }
     ~FileDescriptor() {
         if (descriptor_ >= 0) ::close(descriptor_);
     }

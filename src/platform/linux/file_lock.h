@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/linux/file_descriptor.h"
+
 namespace tidewatch::platform {
 
 /// An advisory lock on a file, held until this object is destroyed or the process ends in any way.
@@ -9,17 +11,17 @@ class FileLock final {
 public:
     enum class State { held, heldByAnother, unavailable };
 
-    /// Makes the file at `path` if it is missing; its directory must exist.
+    /// Makes the file at `path`, for its owner only, if it is missing; its directory must exist.
     explicit FileLock(const std::string& path);
-    ~FileLock();
-    FileLock(const FileLock&) = delete;
-    FileLock& operator=(const FileLock&) = delete;
 
     [[nodiscard]] State state() const { return state_; }
 
+    /// Whether the file at `path` is the one that was locked. Another start would lock what lies there.
+    [[nodiscard]] bool isAt(const std::string& path) const;
+
 private:
-    int descriptor_;
-    State state_;
+    FileDescriptor file_;
+    State state_ = State::unavailable;
 };
 
 }  // namespace tidewatch::platform

@@ -1,37 +1,52 @@
 #pragma once
 
+#include <QObject>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/api/log.h"
 #include "platform/api/running_instance.h"
-#include "platform/linux/file_lock.h"
+#include "platform/linux/directory_lock.h"
+#include "platform/linux/reopen_socket.h"
 
-class QLocalServer;
+class QSocketNotifier;
 
 namespace tidewatch::platform {
 
 /// The one instance per data directory: a lock in it keeps others out, a local socket beside the lock takes
 /// their request to come to the front. Neither needs a session bus.
+///
+/// An instance that is just ending answers no more; a claim waits for it. One that runs answers at once.
 class LockedRunningInstance final : public RunningInstance {
 public:
-    /// `log` must outlive this object.
-    explicit LockedRunningInstance(Log& log);
+    /// How long a claim waits for an instance that does not answer to end.
+    static constexpr std::chrono::milliseconds usualPatience{10'000};
+
+    /// `lock` and `log` must outlive this object.
+    LockedRunningInstance(DirectoryLock& lock, Log& log, std::chrono::milliseconds patience = usualPatience);
     ~LockedRunningInstance() override;
 
     [[nodiscard]] InstanceClaim claim(const std::string& directory) override;
     void onReopen(std::function<void()> reopen) override { reopen_ = std::move(reopen); }
 
 private:
-    [[nodiscard]] bool askOtherToReopen(const std::string& directory) const;
-    void listen(const std::string& directory);
+    void listen();
+    void listenAgain();
+    void takeRequests();
     void answerRequests();
 
+    DirectoryLock& lock_;
     Log& log_;
+    const std::chrono::milliseconds patience_;
+    std::string directory_;
     std::function<void()> reopen_;
-    std::unique_ptr<FileLock> lock_;
-    std::unique_ptr<QLocalServer> server_;
+    std::unique_ptr<ReopenSocket> socket_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+    std::vector<FileDescriptor> requests_;  // not yet answered
+    QObject mainThread_;                    // jobs for it are posted here
 };
 
 }  // namespace tidewatch::platform

@@ -4,29 +4,46 @@
 
 namespace tidewatch::platform {
 
-/// Files of a POSIX system. Directories it makes are for the owner alone (0700), and so are files (0600).
+class DirectoryLock;
+
+/// Files of a POSIX system. Directories it makes are for the owner alone (0700), and so are files of the
+/// record (0600), whatever the umask.
 ///
-/// A file is replaced by writing its successor beside it under the same name with ".tmp" behind, bringing
-/// that to the disk, and renaming it. The directory itself is not brought to the disk: after a power failure
-/// the file is whole, but it may be the one before. The name is fixed, so that a process killed in between
-/// leaves one such file at most, which the next write replaces. A symbolic link is followed: what it points
-/// to is replaced. Messages of errors are the operation, the path and the system's words. Safe from any
-/// thread, as long as no two of them replace the same file at once.
+/// A file is replaced by writing its successor beside it, bringing that to the disk, renaming it, and
+/// bringing the directory to the disk. A symbolic link is followed: what it points to is replaced, or made.
+/// What is no file, such as a device, is never replaced. Messages of errors are the operation, the path and
+/// the system's words.
+///
+/// The successor of a file of the record has its name with ".tmp" behind: a process killed in between leaves
+/// one such file at most, which the next write replaces. That of an export has a name nobody can foresee,
+/// since its neighbours are not ours.
+///
+/// Safe from any thread, as long as no two of them replace the same file at once.
 class PosixFileSystem final : public FileSystem {
 public:
-    /// The home directory is $HOME, else what the user database holds.
-    PosixFileSystem();
+    /// The home directory is $HOME, else what the user database holds. `lock`, if there is one, keeps other
+    /// instances off the record and must outlive this object.
+    explicit PosixFileSystem(DirectoryLock* lock = nullptr);
 
     /// Another home directory, absolute.
-    explicit PosixFileSystem(std::string homeDirectory);
+    explicit PosixFileSystem(std::string homeDirectory, DirectoryLock* lock = nullptr);
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
     Outcome createDirectories(const std::string& path) override;
     [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
+    [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
     Outcome replaceAtomically(const std::string& path, std::string_view content) override;
+
+    /// Of a link, what it leads to is set aside, in its own directory.
+    [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
+                                                              std::string_view mark) override;
+
+    [[nodiscard]] std::optional<ExportFailure> exportFile(const std::string& path,
+                                                          std::string_view content) override;
 
 private:
     const std::string home_;
+    DirectoryLock* const lock_;
 };
 
 }  // namespace tidewatch::platform

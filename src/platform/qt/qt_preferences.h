@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSettings>
 #include <QVariantMap>
 #include <mutex>
 #include <optional>
@@ -9,12 +8,13 @@
 #include "platform/api/log.h"
 #include "platform/api/preference_value.h"
 #include "platform/api/preferences.h"
+#include "platform/qt/private_settings.h"
 
 namespace tidewatch::platform {
 
 /// Preferences in an INI file: `brightlooms/tidewatch.conf` under the user's configuration directory. What
 /// the file holds is text, so every value is read by the rules for texts. Values that are set within one turn
-/// of the main loop reach the disk together, at its end.
+/// of the main loop reach the disk together, at its end. The file is for its owner alone.
 ///
 /// What is there under the name of the file, or of its lock, and is no ordinary file of a sensible size is
 /// left alone: then values live in memory only, and the log says so once.
@@ -39,7 +39,7 @@ private:
     void set(std::string_view key, const QVariant& value);
 
     mutable std::mutex mutex_;
-    std::optional<QSettings> settings_;
+    std::optional<PrivateSettings> settings_;
     QVariantMap memory_;  // in the place of the file
 };
 

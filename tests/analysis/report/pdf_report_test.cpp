@@ -28,7 +28,7 @@ TEST_F(PdfReportTest, WritesAPdfWhereItIsTold) {
     const auto file = world_.files.content(path_).value_or("");
     EXPECT_TRUE(file.starts_with("%PDF-"));
     EXPECT_NE(file.find("%%EOF"), std::string::npos);
-    EXPECT_EQ(world_.files.writes(), std::vector<std::string>{path_});
+    EXPECT_EQ(world_.files.exports(), std::vector<std::string>{path_});
 }
 
 TEST_F(PdfReportTest, AFailureIsLoggedAndLeavesTheFileAsItWas) {

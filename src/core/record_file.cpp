@@ -1,0 +1,52 @@
+#include "core/record_file.h"
+
+#include "core/data_directory.h"
+
+namespace tidewatch {
+
+RecordFile::RecordFile(platform::FileSystem& files, platform::Log& log, std::string_view name,
+                       std::string_view failure)
+    : files_(files),
+      log_(log),
+      directory_(dataDirectory(files)),
+      path_(directory_ + "/" + std::string(name)),
+      failure_(failure) {}
+
+bool RecordFile::write(std::string_view content) {
+    if (files_.holdRecord(directory_) == platform::RecordHold::anothers) {
+        unread_ = Unread::anothers;
+        return false;
+    }
+    const auto written = replace(content);
+    if (!written && !failure_.empty()) log_.warning(failure_ + written.error().message);
+    return written.ok();
+}
+
+std::optional<std::string> RecordFile::readText() {
+    // Without the directory there is no file either, and the first write will say so.
+    static_cast<void>(files_.createDirectories(directory_));
+    auto text = files_.readWhole(path_);
+    return text ? std::optional(std::move(text).value()) : std::nullopt;
+}
+
+Outcome RecordFile::replace(std::string_view content) {
+    if (auto kept = setUnreadAside(); !kept) return kept;
+    return files_.replaceAtomically(path_, content);
+}
+
+Outcome RecordFile::setUnreadAside() {
+    if (unread_ == Unread::nothing) return success();
+    const bool damaged = unread_ == Unread::damaged;
+    const auto kept = files_.setAside(path_, damaged ? "damaged" : "other");
+    if (!kept) return kept.error();
+    unread_ = Unread::nothing;
+    if (const auto& name = kept.value()) {
+        log_.info(
+            "Tidewatch: " + path_ +
+            (damaged ? " could not be read; it is kept as " : " is of another instance; it is kept as ") +
+            *name);
+    }
+    return success();
+}
+
+}  // namespace tidewatch
