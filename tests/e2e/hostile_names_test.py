@@ -92,9 +92,7 @@ class HostileNames(unittest.TestCase):
         }
         cls.unnamed = [f"<img src='{host}/class.png'>", f"{host}/as-a-name"]
         cls.world = cls.enterClassContext(World("hostile-names", accessibility=True))
-        cls.world.home.write_settings(
-            sizeScale=0.5, windowOriginX=20, windowOriginY=20, activeProjectID=next(iter(cls.projects))
-        )
+        cls.world.home.write_settings(sizeScale=0.5, windowOriginX=20, windowOriginY=20)
         cls.write_record()
         cls.program = cls.world.start_program()
         cls.window = StatisticsWindow(cls.world, cls.program)
@@ -114,7 +112,7 @@ class HostileNames(unittest.TestCase):
                 {"id": key, "name": name, "colorHex": "#7BD88F", "archived": False}
                 for key, name in cls.projects.items()
             ],
-            "activeID": next(iter(cls.projects)),
+            "activeProjectID": next(iter(cls.projects)),
         }))
         home.write("project_time.json", json.dumps({day: {key: {"remote": 300} for key in cls.projects}}))
         folder = home.path / ".local/share/applications"
