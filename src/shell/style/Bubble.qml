@@ -14,11 +14,9 @@ Item {
     Accessible.ignored: true
 
     T.ToolTip {
-        id: bubble
-
         y: root.height + 6
-        implicitWidth: Math.min(root.mostWidth, words.implicitWidth + leftPadding + rightPadding)
-        implicitHeight: contentHeight + topPadding + bottomPadding
+        implicitWidth: Math.min(root.mostWidth, implicitContentWidth + leftPadding + rightPadding)
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
         // Between it and the edges of the window.
         margins: 8
         horizontalPadding: 10
@@ -28,8 +26,6 @@ Item {
         closePolicy: T.Popup.NoAutoClose
 
         contentItem: PlainText {
-            id: words
-
             text: root.text
             font: Style.sans(13, Style.Regular)
             color: Style.palette.primaryText
@@ -47,7 +43,7 @@ Item {
             Rectangle {
                 anchors.fill: parent
                 anchors.margins: 1
-                radius: parent.radius
+                radius: Style.measures.controlRadius
                 color: Style.palette.cardSubtle
             }
         }

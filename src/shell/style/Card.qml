@@ -35,7 +35,7 @@ T.Pane {
 
         Rectangle {
             anchors.fill: parent
-            radius: parent.radius
+            radius: Style.measures.cardRadius
             color: root.color
             border.width: 1
             border.color: Style.palette.stroke
