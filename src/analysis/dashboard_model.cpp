@@ -136,9 +136,13 @@ void DashboardModel::reload() {
 
 void DashboardModel::startLiveRefresh() {
     if (liveTimer_) return;
-    liveTimer_ = from_.mainLoop.repeat(refreshInterval, platform::TimerMode::common, [this] {
-        if (isSelectedToday()) reload();
-    });
+    liveTimer_ = from_.mainLoop.repeat(refreshInterval, platform::TimerMode::common, [this] { refresh(); });
+}
+
+void DashboardModel::refresh() {
+    const bool today = isSelectedToday();
+    if (std::exchange(wasSelectedToday_, today) != today) changed.emit(Field::isSelectedToday);
+    if (today) reload();
 }
 
 void DashboardModel::stopLiveRefresh() {

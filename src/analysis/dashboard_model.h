@@ -97,10 +97,12 @@ public:
         avg7Score,
         tierFilter,
         searchText,
+        isSelectedToday,
     };
 
     /// Announced after each assignment of a field, whether its value differs or not; a reload assigns from
-    /// allDayApps to avg7Score in this order.
+    /// allDayApps to avg7Score in this order. isSelectedToday is no field of its own: it is announced when
+    /// the live refresh finds that midnight has changed it.
     Signal<Field> changed;
 
     [[nodiscard]] DashboardTab tab() const { return tab_; }
@@ -146,7 +148,7 @@ public:
     /// Reads everything for the selected day anew.
     void reload();
 
-    /// Reloads every two seconds as long as the selected day is today.
+    /// Looks every two seconds whether the selected day is today, and reloads as long as it is.
     void startLiveRefresh();
     void stopLiveRefresh();
 
@@ -154,6 +156,7 @@ private:
     template <class Value>
     void assign(Value& field, Value value, Field which);
     void moveByDays(int count);
+    void refresh();
     [[nodiscard]] DayKey keyOf(Instant instant) const;
     [[nodiscard]] AppEntry entry(const AppSeconds& app) const;
     [[nodiscard]] std::vector<AppEntry> readApps(const DayKey& day) const;
@@ -166,6 +169,7 @@ private:
     std::shared_ptr<const platform::TimeZone> namingZone_;
     DashboardTab tab_ = DashboardTab::overview;
     Instant selectedDate_;
+    bool wasSelectedToday_ = true;  ///< when the live refresh last looked
     std::vector<AppEntry> allDayApps_;
     std::vector<HourSummary> hourSummaries_;
     std::vector<HourGroup> hourGroups_;

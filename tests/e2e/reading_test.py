@@ -99,6 +99,23 @@ class Reading(unittest.TestCase):
             )
             self.assertEqual(tuple(read.names("page tab")), TABS)
 
+    def test_a_tab_is_pressed_without_hands(self):
+        self.window.select(OVERVIEW)
+        for tab in (*TABS[1:], OVERVIEW):
+            self.window.wait_for_text("page tab", tab).act("Press")
+            self.window.tab(tab)
+
+    def test_a_day_that_cannot_be_gone_to_stays_away_when_it_is_pressed_without_hands(self):
+        self.window.select(OVERVIEW)
+        self.window.wait_for_text("push button", "Día siguiente").act("Press")
+        self.window.wait_for_text("push button", "Día anterior").act("Press")
+        self.window.wait_for_text("label", record.short_date(1))
+        following = self.window.wait_for(
+            lambda read: not read.find("push button", "Día siguiente")[0].description, "a day to go to"
+        ).find("push button", "Día siguiente")[0]
+        following.act("Press")
+        self.window.wait_for_text("label", record.short_date())
+
     def test_everything_that_can_be_worked_has_a_name(self):
         worked = {"push button", "page tab", "check box", "radio button", "spin box", "text", "list item", "scroll bar"}
         for tab in TABS:
@@ -283,6 +300,28 @@ class Reading(unittest.TestCase):
         stored = self.world.home.read("apps.json")[record.day_key()]
         self.assertEqual(stored, record.by_application(TODAY))
         self.assertGreaterEqual(self.world.home.read("today.json")[record.day_key()], record.total(TODAY))
+
+
+class Order(unittest.TestCase):
+    def test_the_rows_of_a_tier_are_read_as_they_stand_after_a_change_of_day(self):
+        today = {(9, 0): {record.EDITOR: 500, record.BROWSER: 90}}
+        yesterday = {(9, 0): {record.BROWSER: 500, record.EDITOR: 90}}
+        with World("reading-order", accessibility=True) as world:
+            world.home.write_settings(sizeScale=0.5, windowOriginX=20, windowOriginY=20)
+            record.write(world.home, today, yesterday)
+            window = StatisticsWindow(world, world.start_program())
+            window.open()
+            for button, cells in (("Día anterior", yesterday), ("hoy", today), ("Día anterior", yesterday)):
+                window.wait_for_text("push button", button).act("Press")
+                expected = [line(one, seconds) for one, seconds in record.by_application(cells).items()]
+
+                def as_expected(read):
+                    rows = read.find("list", "Productivo")[0].children
+                    return [(row.role, row.name) for row in rows] == expected
+
+                rows = window.wait_for(as_expected, f"the rows as they stand after {button}").find("list", "Productivo")[0]
+                places = [row.frame().y for row in rows.children]
+                self.assertEqual(places, sorted(places))
 
 
 class Empty(unittest.TestCase):

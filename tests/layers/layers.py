@@ -98,14 +98,26 @@ BANNED_CPP = [
     (r"\b(getenv|secure_getenv|setenv|putenv|qgetenv|qputenv|qEnvironmentVariable\w*)\b|\bQProcessEnvironment\b",
      "reads the environment"),
     (r"\bQProcess\b|\b(popen|posix_spawn|execv\w*|execl\w*|fork)\s*\(|\bstd::system\b", "starts a process"),
+    (r"\bQ(MessageBox|ToolTip|WhatsThis|TextEdit|TextBrowser|TextDocument)\b|\bset(Html|Markdown|WhatsThis)\b|"
+     r"\bQt::(RichText|MarkdownText|AutoText)\b|\bsetToolTip\s*\((?!plainToolTip\()",
+     "may take words for markup and fetch its pictures"),
 ]
 BANNED_QML = [
+    (r"\btextFormat\s*[:=](?!\s*Text(Edit)?\.PlainText\b)", "lets words be markup, which fetches pictures"),
     (r"\bnew\s+Date\b|\bDate\.now\b", "asks the time past platform::Clock"),
     (r"\bXMLHttpRequest\b", "reaches files and the network"),
     (r"\bQt\.(openUrlExternally)\b", "reaches the desktop"),
 ]
 QML_IMPORTS_ALLOWED = re.compile(r"Qt(Qml|Quick|Test)?(\..+)?$|Tidewatch(\.\w+)*$")
-QML_IMPORTS_BANNED = re.compile(r"Qt\.labs\.|QtCore$|Qt\.core|QtQuick\.LocalStorage|QtMultimedia|QtWebEngine")
+# Controls guess the format of their words; templates leave it to whoever draws them.
+QML_IMPORTS_BANNED = re.compile(
+    r"Qt\.labs\.|QtCore$|Qt\.core|QtQuick\.LocalStorage|QtQuick\.Controls|QtMultimedia|QtWebEngine"
+)
+# Left to themselves, these take for markup what looks like it.
+GUESSING_TEXTS = re.compile(r"(?<![\w.])(?:\w+\.)?(Text|TextEdit|TextArea|Label)\s*\{")
+PLAIN_TEXT = re.compile(r"\btextFormat:\s*Text(Edit)?\.PlainText\b")
+GUESSING_LABEL = re.compile(r"\bnew\s+QLabel\b|\bQLabel\s+\w+\s*[({;=]|\bmake_unique\s*<\s*QLabel\s*>")
+PLAIN_LABEL = re.compile(r"\bsetTextFormat\s*\(\s*Qt::PlainText\s*\)")
 
 CPP_SUFFIXES = {".h", ".cpp", ".hpp", ".cc"}
 INCLUDE = re.compile(r'^[ \t]*#[ \t]*include[ \t]*(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
@@ -204,13 +216,15 @@ def check_cpp(source_root, path, own_room):
         elif quoted and circle_room_of(header) != circle_room_of(path):
             neighbours.add(circle_room_of(header))
     if not ROOMS[own_room].machine:
-        violations += check_bans(path, blanked(source, keep_strings=False), BANNED_CPP)
+        words = blanked(source, keep_strings=False)
+        violations += check_bans(path, words, BANNED_CPP) + check_labels(path, words)
     return violations, neighbours
 
 
 def check_qml(source_root, path, own_room):
     source = (source_root / path).read_text(encoding="utf-8")
-    violations = check_bans(path, blanked(source, keep_strings=False), BANNED_QML)
+    words = blanked(source, keep_strings=False)
+    violations = check_bans(path, words, BANNED_QML) + check_texts(path, words)
     if "qt" not in ROOMS[own_room].libraries:
         violations.append(Violation(path, 1, f"{own_room} holds no views"))
     code = blanked(source, keep_strings=True)
@@ -229,6 +243,38 @@ def check_bans(path, code, bans):
         for match in re.finditer(pattern, code):
             found.append(Violation(path, line_of(code, match.start()), f"{match.group(0).strip()} {reason}"))
     return found
+
+
+def own_properties(code, opening):
+    """What stands between the brace at `opening` and its counterpart, without what stands in further braces."""
+    depth, own = 0, []
+    for letter in code[opening:]:
+        if letter == "}":
+            depth -= 1
+            if depth == 0:
+                break
+        if depth == 1:
+            own.append(letter)
+        if letter == "{":
+            depth += 1
+    return "".join(own)
+
+
+def check_texts(path, code):
+    """Every text of a view that does not say by itself that its words are words."""
+    return [
+        Violation(path, line_of(code, match.start()), f"{match.group(1)} may take words for markup and fetch its pictures")
+        for match in GUESSING_TEXTS.finditer(code)
+        if not PLAIN_TEXT.search(own_properties(code, match.end() - 1))
+    ]
+
+
+def check_labels(path, code):
+    """The last of the labels of a file that makes more of them than it tells that their words are words."""
+    labels = list(GUESSING_LABEL.finditer(code))
+    if len(labels) <= len(PLAIN_LABEL.findall(code)):
+        return []
+    return [Violation(path, line_of(code, labels[-1].start()), "QLabel may take words for markup and fetch its pictures")]
 
 
 def circle_in(graph):

@@ -205,6 +205,85 @@ class Views(Tree):
         self.assert_violation("core/Clock.qml:1: core holds no views")
 
 
+class PlainWords(Tree):
+    """Names come from outside: what is markup in them must stay words."""
+
+    def view(self, *lines):
+        self.write("shell/views/Clock.qml", *lines)
+
+    def assert_guesses(self, *lines, at=1, what="Text"):
+        self.view(*lines)
+        self.assert_violation(f"shell/views/Clock.qml:{at}: {what} may take words for markup and fetch its pictures")
+
+    def test_a_text_that_guesses_its_format(self):
+        self.assert_guesses("Item {", "    Text { text: name }", "}", at=2)
+
+    def test_the_other_types_that_guess(self):
+        for what in ("TextEdit", "TextArea", "Label"):
+            with self.subTest(what=what):
+                self.assert_guesses(f"{what} {{ text: name }}", what=what)
+
+    def test_a_text_by_a_name_of_its_import_guesses_too(self):
+        self.assert_guesses("Q.Text { text: name }")
+
+    def test_a_plain_text_around_or_inside_does_not_make_a_text_plain(self):
+        self.assert_guesses("Text {", "    Text { textFormat: Text.PlainText }", "}")
+        self.assert_guesses("Text {", "    textFormat: Text.PlainText", "    Text {}", "}", at=3)
+
+    def test_words_that_only_look_like_it_do_not_make_a_text_plain(self):
+        self.assert_guesses("Text { text: 'textFormat: Text.PlainText' } // textFormat: Text.PlainText")
+
+    def test_a_plain_text_is_allowed(self):
+        self.view("Text { property var a: { 1 } text: name; textFormat: Text.PlainText }")
+        self.assertEqual(self.violations(), [])
+
+    def test_our_own_components_are_allowed(self):
+        self.view("PlainText { text: name; elide: Text.ElideRight }")
+        self.assertEqual(self.violations(), [])
+
+    def test_any_other_format_is_found_even_on_our_own(self):
+        for format in ("Text.RichText", "Text.StyledText", "Text.MarkdownText", "Text.AutoText", "chosen"):
+            with self.subTest(format=format):
+                self.view(f"PlainText {{ textFormat: {format} }}")
+                self.assert_violation(
+                    "shell/views/Clock.qml:1: textFormat: lets words be markup, which fetches pictures"
+                )
+
+    def test_controls_that_guess_are_not_imported(self):
+        self.view("import QtQuick.Controls")
+        self.assert_violation("shell/views/Clock.qml:1: imports QtQuick.Controls")
+
+    def test_a_label_of_a_dialog_that_guesses_its_format(self):
+        for code in ("auto* label = new QLabel(words);", "QLabel label(words);", "auto l = std::make_unique<QLabel>(w);"):
+            with self.subTest(code=code):
+                self.write("shell/windows/a.cpp", code)
+                self.assert_violation(
+                    "shell/windows/a.cpp:1: QLabel may take words for markup and fetch its pictures"
+                )
+
+    def test_one_plain_label_does_not_answer_for_two(self):
+        self.write("shell/windows/a.cpp", "auto* a = new QLabel(w);", "a->setTextFormat(Qt::PlainText);",
+                   "auto* b = new QLabel(w);")
+        self.assert_violation("shell/windows/a.cpp:3: QLabel may take words for markup and fetch its pictures")
+
+    def test_a_plain_label_is_allowed(self):
+        self.write("shell/windows/a.cpp", "auto* a = new QLabel(w);", "a->setTextFormat(Qt::PlainText);")
+        self.assertEqual(self.violations(), [])
+
+    def test_what_guesses_and_cannot_be_told(self):
+        for code in ("QMessageBox box;", "QToolTip::showText(p, w);", "edit->setHtml(w);", "a->setToolTip(words);",
+                     "label->setTextFormat(Qt::AutoText);"):
+            with self.subTest(code=code):
+                self.write("shell/windows/a.cpp", code)
+                found = self.violations()
+                self.assertEqual(len(found), 1, found)
+                self.assertTrue(found[0].endswith("may take words for markup and fetch its pictures"), found)
+
+    def test_a_tool_tip_that_is_made_plain_is_allowed(self):
+        self.write("shell/windows/a.cpp", "icon->setToolTip(plainToolTip(words));")
+        self.assertEqual(self.violations(), [])
+
+
 class Circles(Tree):
     def test_a_circle_of_rooms_is_found(self):
         self.assertEqual(layers.circle_in({"a": {"b"}, "b": {"c"}, "c": {"a"}}), ["a", "b", "c", "a"])

@@ -29,16 +29,14 @@ RowLayout {
         radius: 3
         color: root.app.color
     }
-    Text {
+    NameText {
         Layout.fillWidth: true
         text: root.app.name
-        textFormat: Text.PlainText
-        elide: Text.ElideRight
         font: Style.sans(13, Style.Regular)
         color: Style.palette.primaryText
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         text: root.app.time
         font: Style.mono(12, Style.Regular)
         color: Style.palette.secondaryText

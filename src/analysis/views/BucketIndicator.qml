@@ -15,6 +15,7 @@ Item {
     Accessible.ignored: !root.bucket.filled
 
     Rectangle {
+        objectName: "track"
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
         width: 10
@@ -26,7 +27,6 @@ Item {
         objectName: "bar"
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 1
         visible: root.bucket.filled
         width: 8
         height: root.bucket.height

@@ -60,12 +60,10 @@ T.ItemDelegate {
             color: Style.palette.mute
             side: 20
         }
-        Text {
+        NameText {
             objectName: "name"
             Layout.fillWidth: true
             text: root.row.name
-            textFormat: Text.PlainText
-            elide: Text.ElideRight
             font: Style.sans(14, Style.Regular)
             color: Style.palette.primaryText
             Accessible.ignored: true
@@ -76,7 +74,7 @@ T.ItemDelegate {
             radius: 4
             color: root.row.color
         }
-        Text {
+        PlainText {
             objectName: "tier"
             Layout.preferredWidth: 104
             text: root.row.tier
@@ -85,7 +83,7 @@ T.ItemDelegate {
             color: Style.palette.secondaryText
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             objectName: "time"
             Layout.preferredWidth: 84
             horizontalAlignment: Text.AlignRight
@@ -94,7 +92,7 @@ T.ItemDelegate {
             color: Style.palette.primaryText
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             objectName: "share"
             Layout.preferredWidth: 48
             horizontalAlignment: Text.AlignRight

@@ -15,32 +15,36 @@ ScrollPane {
         width: parent.width
         spacing: Style.measures.wideSpacing
 
-        RowLayout {
+        Band {
             Layout.fillWidth: true
-            spacing: Style.measures.spacing
 
-            Repeater {
-                model: root.presenter.tiers
-                delegate: TierChip {
-                    required property tierSwitch row
+            RowLayout {
+                anchors.fill: parent
+                spacing: Style.measures.spacing
 
-                    objectName: row.id
-                    tier: row
-                    onToggled: root.presenter.toggleTier(row.id)
+                Repeater {
+                    model: root.presenter.tiers
+                    delegate: TierChip {
+                        required property tierSwitch row
+
+                        objectName: row.id
+                        tier: row
+                        onToggled: root.presenter.toggleTier(row.id)
+                    }
                 }
-            }
-            Item {
-                Layout.fillWidth: true
-            }
-            SearchField {
-                objectName: "search"
-                Layout.preferredWidth: 220
-                Layout.minimumWidth: 120
-                Layout.fillWidth: true
-                Layout.maximumWidth: 220
-                placeholder: root.presenter.searchPrompt
-                text: root.presenter.searchText
-                onEdited: text => root.presenter.searchText = text
+                Item {
+                    Layout.fillWidth: true
+                }
+                SearchField {
+                    objectName: "search"
+                    Layout.preferredWidth: 220
+                    Layout.minimumWidth: 120
+                    Layout.fillWidth: true
+                    Layout.maximumWidth: 220
+                    placeholder: root.presenter.searchPrompt
+                    text: root.presenter.searchText
+                    onEdited: text => root.presenter.searchText = text
+                }
             }
         }
         Card {
@@ -117,12 +121,16 @@ ScrollPane {
                 }
             }
         }
-        SpokenText {
+        Band {
             Layout.fillWidth: true
-            text: root.presenter.hint
-            elide: Text.ElideRight
-            font: Style.sans(12, Style.Regular)
-            color: Style.palette.secondaryText
+
+            SpokenText {
+                anchors.fill: parent
+                text: root.presenter.hint
+                elide: Text.ElideRight
+                font: Style.sans(12, Style.Regular)
+                color: Style.palette.secondaryText
+            }
         }
     }
 }

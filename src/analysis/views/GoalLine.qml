@@ -15,7 +15,7 @@ ColumnLayout {
         Layout.fillWidth: true
         spacing: Style.measures.spacing
 
-        Text {
+        PlainText {
             Layout.fillWidth: true
             text: root.goal.label
             elide: Text.ElideRight
@@ -23,19 +23,19 @@ ColumnLayout {
             color: Style.palette.primaryText
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             text: root.goal.figures
             font: Style.mono(13, Style.Regular)
             color: Style.palette.secondaryText
             Accessible.ignored: true
         }
-        Text {
+        PlainText {
             Layout.preferredWidth: 16
             horizontalAlignment: Text.AlignRight
             text: root.goal.mark
             // The monospaced family's own mark looks like a root.
             font: Style.sans(14, Style.Semibold)
-            color: Style.legible(Style.palette.tierProductive)
+            color: Style.legibleOn(Style.palette.textGround, Style.palette.tierProductive)
             Accessible.ignored: true
         }
     }

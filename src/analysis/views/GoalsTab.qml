@@ -112,12 +112,17 @@ ScrollPane {
                 }
             }
         }
-        TextButton {
-            objectName: "report"
+        Band {
             Layout.alignment: Qt.AlignLeft
-            symbol: "doc.richtext"
-            text: root.presenter.reportTitle
-            onClicked: root.presenter.exportReport()
+            horizontalPadding: 0
+            verticalPadding: 0
+
+            TextButton {
+                objectName: "report"
+                symbol: "doc.richtext"
+                text: root.presenter.reportTitle
+                onClicked: root.presenter.exportReport()
+            }
         }
     }
 }

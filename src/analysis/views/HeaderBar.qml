@@ -18,13 +18,13 @@ RowLayout {
             Accessible.role: Accessible.Heading
             Accessible.name: root.presenter.brand
 
-            Text {
+            PlainText {
                 text: root.presenter.brand
                 font: Style.tracked(Style.serif(22, Style.Medium), 4)
                 color: Style.palette.primaryText
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 text: "."
                 font: Style.tracked(Style.serif(22, Style.Medium), 4)
                 color: Style.palette.tierProductive

@@ -24,7 +24,7 @@ Card {
             Layout.maximumWidth: 100
             spacing: 10
 
-            Text {
+            PlainText {
                 text: root.row.hour
                 font: Style.mono(16, Style.Medium)
                 color: Style.palette.primaryText

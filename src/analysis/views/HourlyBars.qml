@@ -78,7 +78,7 @@ Card {
                         radius: 2
                         color: Style.palette.tierDistracting
                     }
-                    Text {
+                    PlainText {
                         id: label
 
                         anchors.bottom: parent.bottom

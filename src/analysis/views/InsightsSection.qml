@@ -13,19 +13,23 @@ ColumnLayout {
 
     spacing: Style.measures.wideSpacing
 
-    RowLayout {
+    Band {
         Layout.fillWidth: true
 
-        Heading {
-            Layout.fillWidth: true
-            text: root.presenter.title
-        }
-        SegmentedPicker {
-            objectName: "ranges"
-            labels: root.presenter.ranges
-            currentIndex: root.presenter.rangeIndex
-            accessibleName: "Rango"
-            onActivated: index => root.presenter.selectRange(index)
+        RowLayout {
+            anchors.fill: parent
+
+            Heading {
+                Layout.fillWidth: true
+                text: root.presenter.title
+            }
+            SegmentedPicker {
+                objectName: "ranges"
+                labels: root.presenter.ranges
+                currentIndex: root.presenter.rangeIndex
+                accessibleName: "Rango"
+                onActivated: index => root.presenter.selectRange(index)
+            }
         }
     }
     Card {
@@ -50,7 +54,7 @@ ColumnLayout {
                     text: root.presenter.sessionTitle
                 }
             }
-            Text {
+            PlainText {
                 Layout.fillWidth: true
                 visible: !root.presenter.hasSession
                 text: root.presenter.noSession
@@ -62,7 +66,7 @@ ColumnLayout {
                 visible: root.presenter.hasSession
                 spacing: Style.measures.spacing
 
-                Text {
+                PlainText {
                     objectName: "sessionLength"
                     Layout.rightMargin: 16
                     text: root.presenter.sessionLength
@@ -74,7 +78,7 @@ ColumnLayout {
                     side: 16
                     color: Style.palette.mute
                 }
-                Text {
+                PlainText {
                     objectName: "sessionDay"
                     Layout.rightMargin: 16
                     text: root.presenter.sessionDay
@@ -86,7 +90,7 @@ ColumnLayout {
                     side: 16
                     color: Style.palette.mute
                 }
-                Text {
+                PlainText {
                     objectName: "sessionTimes"
                     text: root.presenter.sessionTimes
                     font: Style.mono(13, Style.Regular)
@@ -129,7 +133,7 @@ ColumnLayout {
                             text: tile.row.title
                         }
                     }
-                    Text {
+                    PlainText {
                         Layout.fillWidth: true
                         Layout.topMargin: 4
                         text: tile.row.value
@@ -137,7 +141,7 @@ ColumnLayout {
                         font: Style.mono(24, Style.Light)
                         color: Style.palette.primaryText
                     }
-                    Text {
+                    PlainText {
                         Layout.fillWidth: true
                         text: tile.row.subtitle
                         elide: Text.ElideRight

@@ -39,14 +39,14 @@ Card {
                 anchors.centerIn: parent
                 spacing: 2
 
-                Text {
+                PlainText {
                     objectName: "score"
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: root.presenter.score
                     font: Style.mono(38, Style.Light)
                     color: Style.palette.primaryText
                 }
-                Text {
+                PlainText {
                     objectName: "total"
                     anchors.horizontalCenter: parent.horizontalCenter
                     text: root.presenter.total
@@ -55,7 +55,7 @@ Card {
                 }
             }
         }
-        Text {
+        PlainText {
             id: comparisonLine
 
             objectName: "comparison"
@@ -63,7 +63,7 @@ Card {
             anchors.bottom: parent.bottom
             text: root.presenter.comparison
             font: Style.mono(12, Style.Medium)
-            color: Style.legible(root.presenter.comparisonColor)
+            color: Style.legibleOn(Style.palette.textGround, root.presenter.comparisonColor)
         }
     }
 }

@@ -28,13 +28,11 @@ Card {
                 radius: 6
                 color: root.row.color
             }
-            Text {
+            NameText {
                 objectName: "title"
                 Layout.fillWidth: true
                 visible: root.row.tagged
                 text: root.row.title
-                textFormat: Text.PlainText
-                elide: Text.ElideRight
                 font: Style.sans(16, Style.Medium)
                 color: Style.palette.primaryText
                 Accessible.ignored: true
@@ -44,14 +42,14 @@ Card {
                 visible: !root.row.tagged
                 text: root.row.title
             }
-            Text {
+            PlainText {
                 objectName: "time"
                 text: root.row.time
                 font: Style.mono(20, Style.Light)
                 color: Style.palette.primaryText
                 Accessible.ignored: true
             }
-            Text {
+            PlainText {
                 objectName: "share"
                 Layout.preferredWidth: 48
                 horizontalAlignment: Text.AlignRight

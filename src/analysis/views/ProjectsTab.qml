@@ -33,13 +33,17 @@ ScrollPane {
                 Layout.fillWidth: true
             }
         }
-        SpokenText {
+        Band {
             Layout.fillWidth: true
             visible: !root.presenter.isEmpty
-            text: root.presenter.hint
-            wrapMode: Text.WordWrap
-            font: Style.sans(12, Style.Regular)
-            color: Style.palette.secondaryText
+
+            SpokenText {
+                anchors.fill: parent
+                text: root.presenter.hint
+                wrapMode: Text.WordWrap
+                font: Style.sans(12, Style.Regular)
+                color: Style.palette.secondaryText
+            }
         }
     }
 }

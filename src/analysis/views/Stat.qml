@@ -12,13 +12,13 @@ Column {
     Accessible.role: Accessible.StaticText
     Accessible.name: root.title + ": " + root.value
 
-    Text {
+    PlainText {
         text: root.title
         font: Style.sans(12, Style.Regular)
         color: Style.palette.secondaryText
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         text: root.value
         font: Style.mono(20, Style.Light)
         color: Style.palette.primaryText

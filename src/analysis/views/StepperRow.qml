@@ -14,7 +14,7 @@ RowLayout {
 
     spacing: 16
 
-    Text {
+    PlainText {
         Layout.fillWidth: true
         text: root.stepper.title
         elide: Text.ElideRight
@@ -22,7 +22,7 @@ RowLayout {
         color: Style.palette.primaryText
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         objectName: "value"
         Layout.preferredWidth: 54
         horizontalAlignment: Text.AlignRight

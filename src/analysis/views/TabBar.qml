@@ -45,11 +45,12 @@ Row {
             Accessible.name: text
             Accessible.selectable: true
             Accessible.selected: current
+            Accessible.onPressAction: root.activated(index)
             onClicked: root.activated(index)
             Keys.onLeftPressed: root.choose(index - 1)
             Keys.onRightPressed: root.choose(index + 1)
 
-            contentItem: Text {
+            contentItem: PlainText {
                 text: tab.text
                 verticalAlignment: Text.AlignVCenter
                 font: Style.sans(14, Style.Medium)

@@ -32,7 +32,7 @@ Card {
                 text: root.presenter.title.toUpperCase()
             }
         }
-        Text {
+        PlainText {
             objectName: "time"
             Layout.topMargin: 4
             Layout.bottomMargin: 12
@@ -45,7 +45,8 @@ Card {
             Layout.fillHeight: true
             visible: !root.presenter.isEmpty
 
-            ListView {
+            // Not the toolkit's list view: after a change its rows are read in the order in which they were made.
+            Flickable {
                 id: list
 
                 readonly property real rowHeight: 28
@@ -56,18 +57,30 @@ Card {
                 // Whole rows only.
                 height: parent.height - parent.height % rowHeight
                 clip: true
+                contentWidth: width
+                contentHeight: rows.height
                 interactive: contentHeight > height
-                snapMode: ListView.SnapToItem
                 boundsBehavior: Flickable.StopAtBounds
-                model: root.presenter.apps
+                onMovementEnded: contentY = Math.round(contentY / rowHeight) * rowHeight
+                onContentHeightChanged: returnToBounds()
                 Accessible.role: Accessible.List
                 Accessible.name: root.presenter.title
-                delegate: AppLine {
-                    required property appRow row
+
+                Column {
+                    id: rows
 
                     width: list.width
-                    height: list.rowHeight
-                    app: row
+
+                    Repeater {
+                        model: root.presenter.apps
+                        delegate: AppLine {
+                            required property appRow row
+
+                            width: list.width
+                            height: list.rowHeight
+                            app: row
+                        }
+                    }
                 }
 
                 T.ScrollBar.vertical: SlimScrollBar {

@@ -19,7 +19,7 @@ RowLayout {
         radius: 3
         color: root.time.color
     }
-    Text {
+    PlainText {
         Layout.fillWidth: true
         text: root.time.name
         elide: Text.ElideRight
@@ -27,7 +27,7 @@ RowLayout {
         color: Style.palette.secondaryText
         Accessible.ignored: true
     }
-    Text {
+    PlainText {
         text: root.time.time
         font: Style.mono(12, Style.Regular)
         color: Style.palette.primaryText

@@ -15,24 +15,27 @@ ScrollPane {
         width: parent.width
         spacing: 10
 
-        RowLayout {
+        Band {
             Layout.fillWidth: true
-            Layout.leftMargin: 20
-            Layout.rightMargin: 20
+            horizontalPadding: 20
             visible: !root.presenter.isEmpty
-            spacing: 28
 
-            Heading {
-                Layout.preferredWidth: 100
-                text: root.presenter.columns[0]
-            }
-            Heading {
-                Layout.preferredWidth: 176
-                text: root.presenter.columns[1]
-            }
-            Heading {
-                Layout.fillWidth: true
-                text: root.presenter.columns[2]
+            RowLayout {
+                anchors.fill: parent
+                spacing: 28
+
+                Heading {
+                    Layout.preferredWidth: 100
+                    text: root.presenter.columns[0]
+                }
+                Heading {
+                    Layout.preferredWidth: 176
+                    text: root.presenter.columns[1]
+                }
+                Heading {
+                    Layout.fillWidth: true
+                    text: root.presenter.columns[2]
+                }
             }
         }
         Repeater {

@@ -19,7 +19,7 @@ std::vector<AppRow> appRows(const std::vector<AppEntry>& apps) {
         AppRow row{.id = text(app.app.text()),
                    .iconName = icon.desktop,
                    .symbolName = icon.symbol,
-                   .name = text(app.name),
+                   .name = nameText(app.name),
                    .time = timeText(app.seconds),
                    .color = tierColor(app.tier)};
         row.spoken = row.name + ", " + row.time;

@@ -14,7 +14,7 @@ AppDetails details(const AppEntry& app, Seconds total) {
     AppDetails row{.id = text(app.app.text()),
                    .iconName = icon.desktop,
                    .symbolName = icon.symbol,
-                   .name = text(app.name),
+                   .name = nameText(app.name),
                    .category = text(rawValue(app.category)),
                    .tier = text(displayName(app.tier)),
                    .color = tierColor(app.tier),

@@ -10,6 +10,11 @@ namespace tidewatch {
 /// UTF-8 as the views take it.
 [[nodiscard]] QString text(std::string_view utf8);
 
+/// A name that others gave, which may be anything, as one line that can be seen: what would break it becomes
+/// a blank, of more than 200 user-perceived characters the first are left and an ellipsis, and a name with
+/// nothing to see is "Sin nombre". Costs no more for a longer one.
+[[nodiscard]] QString nameText(std::string_view utf8);
+
 /// "45s", "12m" or "2h 5m".
 [[nodiscard]] QString timeText(Seconds seconds);
 

@@ -7,8 +7,10 @@ namespace tidewatch {
 
 HeaderPresenter::HeaderPresenter(DashboardModel& model, const InsightsEngine& dates)
     : model_(model), dates_(dates), modelChanged_(model.changed.connect([this](DashboardModel::Field field) {
-          // The last assignment of a reload stands for all of it: midnight may have passed meanwhile.
-          if (field == DashboardModel::Field::selectedDate || field == DashboardModel::Field::avg7Score)
+          using Field = DashboardModel::Field;
+          // The last assignment of a reload stands for all of it: the window may come up again after
+          // midnight.
+          if (field == Field::selectedDate || field == Field::isSelectedToday || field == Field::avg7Score)
               update();
       })) {
     update();

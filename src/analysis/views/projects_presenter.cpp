@@ -14,7 +14,7 @@ QColor colorOf(const ProjectRow& row) {
 
 ProjectSheet sheet(const ProjectRow& row, Seconds totalDay) {
     ProjectSheet sheet{.id = text(row.id),
-                       .title = row.project ? text(row.project->name) : "SIN PROYECTO",
+                       .title = row.project ? nameText(row.project->name) : "SIN PROYECTO",
                        .tagged = row.project.has_value(),
                        .color = colorOf(row),
                        .note = row.project ? "" : "Tiempo activo sin etiquetar a ningún proyecto.",

@@ -27,8 +27,7 @@ BucketCell cell(const BucketSummary& bucket) {
     if (bucket.dominantTier() != Tier::uncategorized) color.setAlphaF(static_cast<float>(barOpacity));
     const QStringList spoken{clockText(bucket.hour, bucket.minute), timeText(bucket.seconds),
                              text(displayName(bucket.dominantTier()))};
-    return {true, std::max(fullHeight * std::min(bucket.fillRatio(), 1.0), leastHeight), color,
-            spoken.join(", ")};
+    return {true, std::max(fullHeight * bucket.fillRatio(), leastHeight), color, spoken.join(", ")};
 }
 
 QList<NamedTime> summary(const HourGroup& group) {
@@ -47,10 +46,10 @@ QList<AppRow> activities(const HourGroup& group) {
         rows.append({.id = text(activity.app.text()),
                      .iconName = icon.desktop,
                      .symbolName = icon.symbol,
-                     .name = text(activity.name),
+                     .name = nameText(activity.name),
                      .time = timeText(activity.seconds),
                      .color = tierColor(activity.tier),
-                     .spoken = text(activity.name) + ", " + timeText(activity.seconds)});
+                     .spoken = nameText(activity.name) + ", " + timeText(activity.seconds)});
     }
     return rows;
 }

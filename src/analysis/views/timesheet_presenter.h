@@ -22,7 +22,7 @@ class BucketCell final {
 
 public:
     bool filled = false;
-    double height = 0;  ///< of the bar, in points
+    double height = 0;  ///< of the bar, in points; beyond the cell where its ten minutes came twice
     QColor color;
     QString spoken;  ///< "9:10am, 9m, Productivo"; nothing while it is not filled
 

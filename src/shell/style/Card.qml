@@ -31,8 +31,14 @@ T.Pane {
 
     background: Rectangle {
         radius: Style.measures.cardRadius
-        color: root.color
-        border.width: 1
-        border.color: Style.palette.stroke
+        color: Style.palette.ground
+
+        Rectangle {
+            anchors.fill: parent
+            radius: Style.measures.cardRadius
+            color: root.color
+            border.width: 1
+            border.color: Style.palette.stroke
+        }
     }
 }

@@ -9,6 +9,8 @@ PressButton {
     property color color: Style.palette.strongMute
 
     function flip() {
+        if (!enabled)
+            return;
         toggle();
         toggled();
     }
@@ -39,7 +41,7 @@ PressButton {
             border.color: Style.palette.mute
         }
 
-        Text {
+        PlainText {
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
             font: Style.sans(13, Style.Medium)

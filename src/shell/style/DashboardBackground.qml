@@ -35,8 +35,6 @@ Rectangle {
         delegate: LiquidBackground {
             objectName: "liquid"
             anchors.fill: parent
-            // Bright enough to be seen moving, dark enough for small text on cards that hardly cover it.
-            opacity: 0.5
             time: root.time
             running: root.running
             intensity: Style.liquidDecorationIntensity

@@ -2,7 +2,7 @@ import QtQuick
 import Tidewatch.Style
 
 /*! The title of a card or a section. */
-Text {
+PlainText {
     font: Style.heading()
     color: Style.palette.strongMute
     elide: Text.ElideRight

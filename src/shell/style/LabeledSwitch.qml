@@ -20,6 +20,8 @@ Item {
         readonly property real gap: 16
 
         function flip() {
+            if (!enabled)
+                return;
             toggle();
             tell();
         }
@@ -51,7 +53,7 @@ Item {
             value: root.checked
         }
 
-        Text {
+        PlainText {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter

@@ -7,7 +7,7 @@ PressButton {
 
     horizontalPadding: 8
 
-    contentItem: Text {
+    contentItem: PlainText {
         text: root.text
         font: Style.sans(13, Style.Medium)
         verticalAlignment: Text.AlignVCenter

@@ -19,7 +19,11 @@ T.AbstractButton {
     // The toolkit does not tell it by itself.
     Accessible.description: enabled ? "" : "no disponible"
     Accessible.ignored: !visible
-    Accessible.onPressAction: clicked()
+    // By the bus a control can be pressed that the pointer and the keyboard cannot.
+    Accessible.onPressAction: {
+        if (enabled)
+            clicked();
+    }
 
     // The space bar alone comes with the template.
     Keys.onReturnPressed: clicked()

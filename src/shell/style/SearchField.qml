@@ -59,7 +59,7 @@ T.TextField {
         color: Style.palette.strongMute
     }
 
-    Text {
+    PlainText {
         anchors.fill: parent
         anchors.leftMargin: root.leftPadding
         anchors.rightMargin: root.rightPadding

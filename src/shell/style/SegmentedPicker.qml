@@ -82,7 +82,7 @@ Item {
                         root.activated(index);
                 }
 
-                contentItem: Text {
+                contentItem: PlainText {
                     text: segment.text
                     font: Style.sans(13, Style.Medium)
                     horizontalAlignment: Text.AlignHCenter

@@ -1,7 +1,8 @@
 import QtQuick
+import Tidewatch.Style
 
 /*! Words that assistive technology reads by themselves: a plain text is silent. */
-Text {
+PlainText {
     Accessible.role: Accessible.StaticText
     Accessible.name: text
     // What is hidden is told to assistive technology like what must be scrolled to.

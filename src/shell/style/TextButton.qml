@@ -34,7 +34,7 @@ PressButton {
             color: root.ink
         }
 
-        Text {
+        PlainText {
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
             font: Style.sans(14, root.primary ? Style.Semibold : Style.Medium)

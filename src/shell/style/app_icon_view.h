@@ -10,7 +10,7 @@
 namespace tidewatch {
 
 /// An application's icon, as high and wide as its `side`: the desktop's own, or a symbol of ours. Where the
-/// desktop has no icon of that name, the symbol of an application in general.
+/// desktop has no icon of that name, or one that must not be opened, the symbol of an application in general.
 class AppIconView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

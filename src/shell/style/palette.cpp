@@ -1,8 +1,23 @@
 #include "shell/style/palette.h"
 
+#include "shell/style/contrast.h"
 #include "shell/style/qt_color.h"
 
 namespace tidewatch {
+namespace {
+
+/// Nothing of the liquid behind the dashboard is brighter.
+constexpr Color brightestLiquid = Color::whiteLevel(0.8);
+
+/// Covers just so much of it that the quietest words of the theme can be read.
+constexpr double liquidCover = 0.75;
+
+QColor groundOf(const DashboardStyle& style) {
+    return toQColor(style.decoration == Decoration::liquid ? style.nsBackground.at(liquidCover)
+                                                           : Color::blackAt(0));
+}
+
+}  // namespace
 
 Palette::Palette(const DashboardStyle& style)
     : bg(toQColor(style.bg)),
@@ -20,7 +35,10 @@ Palette::Palette(const DashboardStyle& style)
       tierDistracting(toQColor(DashboardStyle::tierDistracting)),
       tierOther(toQColor(DashboardStyle::tierOther)),
       amber(toQColor(DashboardStyle::amber)),
-      onFill(toQColor(fathom::ink)) {
+      onFill(toQColor(fathom::ink)),
+      ground(groundOf(style)),
+      textGround(laidOver(
+          card, laidOver(ground, style.decoration == Decoration::liquid ? toQColor(brightestLiquid) : bg))) {
     for (const auto& piece : style.gamePieces) gamePieces.append(toQColor(piece));
 }
 

@@ -30,6 +30,8 @@ class Palette final {
     Q_PROPERTY(QColor tierOther MEMBER tierOther FINAL)
     Q_PROPERTY(QColor amber MEMBER amber FINAL)
     Q_PROPERTY(QColor onFill MEMBER onFill FINAL)
+    Q_PROPERTY(QColor ground MEMBER ground FINAL)
+    Q_PROPERTY(QColor textGround MEMBER textGround FINAL)
 
 public:
     Palette() = default;
@@ -51,7 +53,9 @@ public:
     QColor tierDistracting;
     QColor tierOther;
     QColor amber;
-    QColor onFill;  ///< of text and symbols on a fill of one of the tiers' colours
+    QColor onFill;      ///< of text and symbols on a fill of one of the tiers' colours
+    QColor ground;      ///< under cards and words where what lies behind them is lively; else transparent
+    QColor textGround;  ///< what text on a card stands on, opaque; the brightest there is of it
 
     bool operator==(const Palette&) const = default;
 };

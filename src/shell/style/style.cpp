@@ -86,14 +86,8 @@ QFont Style::tracked(const QFont& font, double spacing) const {
     return result;
 }
 
-QColor Style::legible(const QColor& color) const {
-    return legibleOn(textGround(), color);
-}
-
-QColor Style::textGround() const {
-    // Of the liquid, what shines through the cards where it is rather bright.
-    const auto behind = decoration_ == Liquid ? toQColor(Color::whiteLevel(0.24)) : palette_.bg;
-    return laidOver(palette_.card, behind);
+QColor Style::legibleOn(const QColor& ground, const QColor& color) const {
+    return tidewatch::legibleOn(ground, color);
 }
 
 void Style::wear(const DashboardStyle& style) {

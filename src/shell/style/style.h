@@ -55,15 +55,15 @@ public:
     /// `font` with so many pixels more between its letters.
     Q_INVOKABLE [[nodiscard]] QFont tracked(const QFont& font, double spacing) const;
 
-    /// `color` as text can wear it on this theme's cards: as it is where it is easy to read there, else as
-    /// much darker or lighter as it must be.
-    Q_INVOKABLE [[nodiscard]] QColor legible(const QColor& color) const;
+    /// `color` as text can wear it on `ground`: as it is where it is easy to read there, else as much darker
+    /// or lighter as it must be. It depends on nothing else, so that a view that gives it the palette's
+    /// ground is asked again when the theme changes.
+    Q_INVOKABLE [[nodiscard]] QColor legibleOn(const QColor& ground, const QColor& color) const;
 
 Q_SIGNALS:
     void themeChanged();
 
 private:
-    [[nodiscard]] QColor textGround() const;
     void wear(const DashboardStyle& style);
 
     Palette palette_;

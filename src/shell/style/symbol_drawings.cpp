@@ -67,12 +67,14 @@ QPainterPath hollowStar() {
     return fitted(outline(starBody(), 0.1));
 }
 
-QPainterPath appTile() {
-    constexpr double line = 0.09;
-    constexpr double radius = 0.26;
-    QPainterPath tile;
-    tile.addRoundedRect(QRectF(0.1, 0.1, 0.8, 0.8), radius, radius);
-    return outline(tile, line);
+QPainterPath appWindow() {
+    // What lies within an odd number of outlines is filled: the frame and the bar, but for the buttons.
+    QPainterPath window;
+    window.addRoundedRect(QRectF(0.05, 0.08, 0.9, 0.84), 0.17, 0.17);
+    window.addRoundedRect(QRectF(0.13, 0.36, 0.74, 0.48), 0.09, 0.09);
+    constexpr double button = 0.05;
+    for (const double x : {0.2, 0.34, 0.48}) window.addEllipse(QPointF(x, 0.22), button, button);
+    return window;
 }
 
 QPainterPath filledCircle() {

@@ -11,8 +11,8 @@ namespace tidewatch {
 [[nodiscard]] QPainterPath hollowStar();
 
 [[nodiscard]] QPainterPath filledCircle();
-/// The outline of an application that has no picture of its own.
-[[nodiscard]] QPainterPath appTile();
+/// A window with its bar and the three buttons in it: an application that has no picture of its own.
+[[nodiscard]] QPainterPath appWindow();
 
 /// A round bomb with a light on its body and a burning fuse.
 [[nodiscard]] QPainterPath bomb();

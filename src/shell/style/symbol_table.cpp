@@ -36,7 +36,7 @@ constexpr std::array table = {
     Row{u"magnifyingglass", U'\uE8B6'},
     Row{u"doc.richtext", U'\uE873'},
     // Figures of the day and of a range of days.
-    Row{u"app", appTile},
+    Row{u"app", appWindow},
     Row{u"gamecontroller.fill", U'\uEA28'},
     Row{u"flame.fill", U'\uEF55'},
     Row{u"calendar", U'\uEBCC'},

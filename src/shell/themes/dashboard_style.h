@@ -40,7 +40,7 @@ struct DashboardStyle {
     bool operator==(const DashboardStyle&) const = default;
 };
 
-/// Opacity of the moving background where it lies behind the dashboard.
+/// Strength of the colours of the moving background where it lies behind the dashboard.
 inline constexpr double liquidDecorationIntensity = 0.45;
 
 }  // namespace tidewatch

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/system_shades.h"
 #include "shell/themes/color.h"
 
 namespace tidewatch {
@@ -21,9 +22,9 @@ enum class SystemColor { primary, secondary, green, gray };
         case SystemColor::secondary:
             return dark ? Color::whiteAt(0.58) : Color::blackAt(0.55);
         case SystemColor::green:
-            return dark ? Color::hex6(0x30D158) : Color::hex6(0x28A745);
+            return Color::hex6(systemGreen);
         case SystemColor::gray:
-            return Color::hex6(0x8E8E93);
+            return Color::hex6(systemGray);
     }
     return {};
 }

@@ -34,6 +34,12 @@ FocusScope {
         running: !root.presenter.breakAlert.alertActive
     }
 
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        height: line.y
+        color: Style.palette.ground
+    }
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
@@ -54,6 +60,8 @@ FocusScope {
             onActivated: index => root.presenter.selectTab(index)
         }
         Rectangle {
+            id: line
+
             Layout.fillWidth: true
             Layout.preferredHeight: 1
             color: Style.palette.stroke

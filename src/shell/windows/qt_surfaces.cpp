@@ -35,7 +35,9 @@ QString text(const std::string& utf8) {
 }  // namespace
 
 QtSurfaces::QtSurfaces(const platform::Platform& platform, ThemeController& theme, ClockPresenter& clock)
-    : platform_(platform), theme_(theme), clock_(clock) {}
+    : platform_(platform), theme_(theme), clock_(clock) {
+    engine_.setNetworkAccessManagerFactory(&noNetwork_);
+}
 
 QtSurfaces::~QtSurfaces() = default;
 
@@ -90,6 +92,7 @@ void QtSurfaces::popUpMenu(const MenuRows& rows, platform::Point at) {
 
 void QtSurfaces::showHint(const std::string& hint) {
     auto* label = new QLabel(text(hint), nullptr, Qt::ToolTip);
+    label->setTextFormat(Qt::PlainText);
     label->setAttribute(Qt::WA_DeleteOnClose);
     label->setWordWrap(true);
     label->setFixedWidth(hintWidth);

@@ -11,6 +11,7 @@
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/views/clock_presenter.h"
+#include "shell/windows/no_network.h"
 #include "shell/windows/quick_panel_window.h"
 
 namespace tidewatch {
@@ -46,6 +47,7 @@ private:
     const platform::Platform& platform_;
     ThemeController& theme_;
     ClockPresenter& clock_;
+    NoNetwork noNetwork_;
     QQmlEngine engine_;
     QPointer<QuickPanelWindow> panel_;
     QPointer<QMenu> menu_;

@@ -18,6 +18,11 @@ constexpr std::array iconSizes = {16, 22, 24, 32, 48};
 /// A title comes every second, and asking whether there is a tray costs more than all else in that second.
 constexpr int titlesBetweenLooks = 4;
 
+/// The toolkit looks for markup in the first line alone, and the project's name may look like it.
+QString plainToolTip(const std::string& words) {
+    return QString::fromStdString("Tidewatch\n" + words);
+}
+
 }  // namespace
 
 TrayStatusItem::TrayStatusItem(const ThemeController& theme) : theme_(theme) {
@@ -69,7 +74,7 @@ void TrayStatusItem::drawIcon() {
     QIcon icon;
     for (const int size : iconSizes) icon.addPixmap(QPixmap::fromImage(statusImage(size, *title_)));
     icon_->setIcon(icon);
-    icon_->setToolTip(QString::fromStdString("Tidewatch · " + title_->text()));
+    icon_->setToolTip(plainToolTip(title_->text()));
     icon_->show();
 }
 

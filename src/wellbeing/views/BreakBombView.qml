@@ -108,20 +108,20 @@ FocusScope {
                 running: root.seen
             }
 
-            Text {
+            PlainText {
                 objectName: "headline"
                 width: parent.width
                 topPadding: 16
                 text: root.presenter.headline
                 font: Style.tracked(Style.serif(24, Style.Semibold), 3)
-                color: Style.legible(Style.palette.tierDistracting)
+                color: Style.legibleOn(Style.palette.textGround, Style.palette.tierDistracting)
                 horizontalAlignment: Text.AlignHCenter
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
                 Accessible.ignored: !visible
             }
 
-            Text {
+            PlainText {
                 objectName: "subline"
                 width: parent.width
                 topPadding: 6
@@ -147,15 +147,15 @@ FocusScope {
                     anchors.verticalCenter: parent.verticalCenter
                     name: "clock.badge.exclamationmark"
                     side: 18
-                    color: Style.legible(Style.palette.tierDistracting)
+                    color: Style.legibleOn(Style.palette.textGround, Style.palette.tierDistracting)
                 }
 
-                Text {
+                PlainText {
                     objectName: "sitting"
                     anchors.verticalCenter: parent.verticalCenter
                     text: root.presenter.sittingText
                     font: Style.mono(13, Style.Regular)
-                    color: Style.legible(Style.palette.tierDistracting)
+                    color: Style.legibleOn(Style.palette.textGround, Style.palette.tierDistracting)
                 }
             }
 

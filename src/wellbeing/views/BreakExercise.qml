@@ -28,7 +28,7 @@ Rectangle {
             anchors.centerIn: parent
             name: root.presenter.icon
             side: 56
-            color: Style.legible(root.accent)
+            color: Style.legibleOn(Style.palette.textGround, root.accent)
         }
     }
 
@@ -42,16 +42,16 @@ Rectangle {
         y: 20
         spacing: 8
 
-        Text {
+        PlainText {
             objectName: "title"
             width: parent.width
             text: root.presenter.title
             font: Style.serif(20, Style.Medium)
-            color: Style.legible(root.accent)
+            color: Style.legibleOn(Style.palette.textGround, root.accent)
             wrapMode: Text.Wrap
         }
 
-        Text {
+        PlainText {
             objectName: "instruction"
             width: parent.width
             text: root.presenter.instruction
@@ -61,12 +61,12 @@ Rectangle {
             wrapMode: Text.Wrap
         }
 
-        Text {
+        PlainText {
             objectName: "motivational"
             width: parent.width
             text: root.presenter.motivational
             font: Style.sans(13, Style.Medium)
-            color: Style.legible(root.accent)
+            color: Style.legibleOn(Style.palette.textGround, root.accent)
             wrapMode: Text.Wrap
         }
     }

@@ -83,9 +83,9 @@ def total(cells):
     return sum(by_application(cells).values())
 
 
-def write(home):
-    """Puts the record into a home, with the applications' desktop entries."""
-    days = {day_key(): TODAY, day_key(1): YESTERDAY}
+def write(home, today=None, yesterday=None):
+    """Puts the record, or these cells in the place of its own, into a home, with the applications' desktop entries."""
+    days = {day_key(): today or TODAY, day_key(1): yesterday or YESTERDAY}
     files = {
         "today.json": {day: total(cells) for day, cells in days.items()},
         "apps.json": {day: by_application(cells) for day, cells in days.items()},

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QAccessible>
 #include <QCoreApplication>
@@ -480,6 +481,19 @@ TEST_F(ComponentsTest, AnIconMayBeAVectorDrawing) {
     EXPECT_EQ(picture().pixelColor(45, 45), QColor(0, 255, 0));
 }
 
+TEST_F(ComponentsTest, AnIconThatIsNoPictureButAPipeHoldsNobodyUp) {
+    const QTemporaryDir folder;
+    const auto pipe = folder.filePath("icon.png");
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    show("AppIconView { side: 24 }");
+    auto& shown = *qobject_cast<AppIconView*>(view_.get());
+    for (const auto& name :
+         {pipe, "file://" + pipe, "../../../../../../.." + pipe, "../../../../../../.." + pipe.chopped(4)}) {
+        shown.setIconName(name);
+        EXPECT_FALSE(shown.showsIcon()) << name.toStdString();
+    }
+}
+
 TEST_F(ComponentsTest, AnIconThatIsNotThereIsTheSymbolOfAnApplication) {
     show("AppIconView { side: 24; color: 'blue' }");
     auto& shown = *qobject_cast<AppIconView*>(view_.get());
@@ -502,6 +516,38 @@ TEST_F(ComponentsTest, BehindTheDashboardLiesWhatTheThemeSays) {
     EXPECT_TRUE(shown("scanlines"));
     theme_.switchTo("liquid");
     EXPECT_TRUE(shown("liquid"));
+}
+
+TEST_F(ComponentsTest, TheLiquidBehindTheDashboardHasItsToldStrengthAndNothingDimsIt) {
+    theme_.switchTo("liquid");
+    show("DashboardBackground { width: 200; height: 100 }");
+    for (const QQuickItem* shown = item("liquid"); shown != nullptr; shown = shown->parentItem()) {
+        EXPECT_EQ(shown->opacity(), 1);
+    }
+    EXPECT_EQ(item("liquid")->property("intensity").toReal(), 0.45);
+}
+
+TEST_F(ComponentsTest, WhatIsDisabledSaysSoAndCannotBePressedByTheBus) {
+    show(R"(Item {
+        property int told: 0
+        Column {
+            IconButton { objectName: "icon"; symbol: "plus"; accessibleName: "Más"; enabled: false; onClicked: ++told }
+            LinkButton { objectName: "link"; text: "hoy"; enabled: false; onClicked: ++told }
+            TextButton { objectName: "words"; text: "Generar"; enabled: false; onClicked: ++told }
+            Chip { objectName: "chip"; text: "Neutral"; enabled: false; onToggled: ++told }
+        }
+    })");
+    for (const auto* name : {"icon", "link", "words", "chip"}) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(accessible(the(name)).text(QAccessible::Description), "no disponible");
+        act(the(name), QAccessibleActionInterface::pressAction());
+        the(name).setEnabled(true);
+        EXPECT_EQ(accessible(the(name)).text(QAccessible::Description), "");
+    }
+    EXPECT_EQ(count("told"), 0);
+    for (const auto* name : {"icon", "link", "words", "chip"})
+        act(the(name), QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(count("told"), 4);
 }
 
 TEST_F(ComponentsTest, TheGroundMovesOnlyInItsThemeAndWhileItIsWorthIt) {

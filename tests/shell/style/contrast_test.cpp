@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/style/liquid_painter.h"
 #include "shell/style/style.h"
 #include "shell/style/style_scene.h"
 
@@ -40,21 +41,72 @@ TEST(Contrast, AGreyInTheMiddleGetsWhatHelps) {
 }
 
 TEST(Contrast, EveryTierIsLegibleOnTheCardsOfEveryTheme) {
-    StyleScene scene;
-    scene.show("Item {}");
-    auto& style = *Style::of(scene.engine_);
-    for (const auto& theme : scene.themes_.themes()) {
+    for (const auto& theme : ThemeRegistry().themes()) {
         SCOPED_TRACE(theme.id);
-        scene.theme_.switchTo(theme.id);
-        const auto card = laidOver(style.palette().card, style.palette().bg);
-        for (const auto& color : {style.palette().tierProductive, style.palette().tierNeutral,
-                                  style.palette().tierDistracting, style.palette().amber}) {
-            EXPECT_GE(contrast(style.legible(color), card), leastContrast);
+        const Palette palette(theme.dashboard);
+        // What lies behind the cards may be anything between the plain ground and the brightest.
+        for (const auto& card :
+             {palette.textGround, laidOver(palette.card, laidOver(palette.ground, palette.bg))}) {
+            for (const auto& color :
+                 {palette.tierProductive, palette.tierNeutral, palette.tierDistracting, palette.amber}) {
+                EXPECT_GE(contrast(legibleOn(palette.textGround, color), card), leastContrast);
+            }
+            for (const auto& color : {palette.primaryText, palette.strongMute}) {
+                EXPECT_GE(contrast(laidOver(color, card), card), leastContrast);
+            }
         }
-        for (const auto& color : {style.palette().primaryText, style.palette().strongMute}) {
-            EXPECT_GE(contrast(laidOver(color, card), card), leastContrast);
+        EXPECT_GE(contrast(palette.onFill, palette.tierProductive), leastContrast);
+    }
+}
+
+/// The brightest that the dashboard's liquid ever is, at its told intensity over the dashboard's ground.
+QColor brightestLiquid(const Palette& palette) {
+    const LiquidPainter liquid({{150, 110}, {1360, 1000}, liquidDecorationIntensity, Ground::translucent});
+    QColor brightest = Qt::black;
+    // After so many seconds it begins anew.
+    for (int second = 0; second < 126; ++second) {
+        const auto picture = liquid.paint(liquidAngles(second));
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const auto seen = laidOver(picture.pixelColor(x, y), palette.bg);
+                if (contrast(seen, Qt::black) > contrast(brightest, Qt::black)) brightest = seen;
+            }
         }
-        EXPECT_GE(contrast(style.palette().onFill, style.palette().tierProductive), leastContrast);
+    }
+    return brightest;
+}
+
+TEST(Contrast, EveryWordIsLegibleWhereTheLiquidIsBrightest) {
+    const Palette palette(ThemeRegistry().theme("liquid").dashboard);
+    const auto brightest = brightestLiquid(palette);
+    EXPECT_LT(contrast(palette.primaryText, brightest), leastContrast)
+        << "the cards need no ground of their own";
+    const auto between = laidOver(palette.ground, brightest);
+    const auto card = laidOver(palette.card, between);
+    const auto chip = laidOver(palette.cardSubtle, between);
+    for (const auto& ground : {between, card}) {
+        for (const auto& color :
+             {palette.primaryText, palette.strongMute, palette.secondaryText, palette.mute}) {
+            EXPECT_GE(contrast(laidOver(color, ground), ground), leastContrast);
+        }
+    }
+    for (const auto& color : {palette.primaryText, palette.strongMute}) {
+        EXPECT_GE(contrast(laidOver(color, chip), chip), leastContrast);
+    }
+    EXPECT_LE(contrast(card, Qt::black), contrast(palette.textGround, Qt::black));
+}
+
+TEST(Contrast, AColourThatAViewMakesLegibleFollowsTheTheme) {
+    StyleScene scene;
+    scene.show(
+        "Item { property color green: Style.legibleOn(Style.palette.textGround, "
+        "Style.palette.tierProductive) }");
+    auto& style = *Style::of(scene.engine_);
+    for (const auto* id : {"editorial", "ochre", "editorial"}) {
+        scene.theme_.switchTo(id);
+        const auto& palette = style.palette();
+        EXPECT_EQ(scene.seen("green").value<QColor>(), legibleOn(palette.textGround, palette.tierProductive))
+            << id;
     }
 }
 

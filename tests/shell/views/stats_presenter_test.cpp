@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QSignalSpy>
 
 #include "shell/views/stats_scene.h"
@@ -364,6 +366,86 @@ TEST_F(StatsPresenterTest, TheHeadStepsThroughTheDaysButNotIntoTheFuture) {
     EXPECT_EQ(header.date(), "mié 14 ene");
     header.today();
     EXPECT_EQ(header.date(), "jue 15 ene");
+}
+
+TEST_F(StatsPresenterTest, TheHeadLetsForwardWhenMidnightPassesWithTheWindowOpen) {
+    machine_.clock.advance(hours(15) - seconds(3));
+    appear();
+    auto& header = *presenter_.header();
+    const QSignalSpy changed(&header, &HeaderPresenter::dateChanged);
+    machine_.mainLoop.runFor(seconds(2));
+    EXPECT_FALSE(header.canGoForward());
+    machine_.mainLoop.runFor(seconds(2));
+    EXPECT_TRUE(header.canGoForward());
+    EXPECT_EQ(header.date(), "jue 15 ene");
+    machine_.mainLoop.runFor(seconds(10));
+    EXPECT_EQ(changed.count(), 1);
+    header.nextDay();
+    EXPECT_EQ(header.date(), "vie 16 ene");
+    EXPECT_FALSE(header.canGoForward());
+}
+
+TEST_F(StatsPresenterTest, TheHeadKeepsFromTomorrowWhenTheClockIsSetBackToTheDayOnShow) {
+    appear();
+    auto& header = *presenter_.header();
+    header.previousDay();
+    EXPECT_TRUE(header.canGoForward());
+    machine_.clock.setNow(machine_.clock.now() - hours(24));
+    machine_.mainLoop.runFor(seconds(2));
+    EXPECT_EQ(header.date(), "mié 14 ene");
+    EXPECT_FALSE(header.canGoForward());
+}
+
+TEST_F(StatsPresenterTest, TheHeadIsRightAgainWhenTheWindowComesUpAfterMidnight) {
+    appear();
+    presenter_.disappear();
+    machine_.clock.advance(hours(24));
+    appear();
+    EXPECT_EQ(presenter_.header()->date(), "jue 15 ene");
+    EXPECT_TRUE(presenter_.header()->canGoForward());
+}
+
+TEST_F(StatsPresenterTest, ABarGrowsBeyondTheCellWhereTenMinutesHoldMore) {
+    book("code", today(), 9, 0, 1200);
+    book("code", today(), 9, 10, 600);
+    book("code", today(), 9, 20, 1);
+    showTab(timesheetTab);
+    const auto hour =
+        presenter_.timesheet()->hours()->index(0).data(RowListModel::rowRole).value<HourSheet>();
+    EXPECT_DOUBLE_EQ(hour.buckets.at(0).height, 40);
+    EXPECT_DOUBLE_EQ(hour.buckets.at(1).height, 20);
+    EXPECT_DOUBLE_EQ(hour.buckets.at(2).height, 2);
+}
+
+// Names that others gave.
+
+TEST_F(StatsPresenterTest, AProjectWithoutANameIsARowThatCanBeRead) {
+    bookProject(services_.projects.addProject("").id, "code", today(), 60);
+    services_.days.set(Seconds(60), today());
+    showTab(projectsTab);
+    const auto project = test::probe(*presenter_.projects())["rows"].toArray().at(0).toObject();
+    EXPECT_EQ(project["title"].toString(), "Sin nombre");
+    EXPECT_TRUE(project["tagged"].toBool());
+    EXPECT_EQ(project["spoken"].toString(), "Sin nombre, 1m, 100%");
+}
+
+TEST_F(StatsPresenterTest, ALongNameOfManyLinesIsOneShortLineInEveryTab) {
+    const std::string name = "uno\ndos" + std::string(50'000, 'a');
+    const auto shown = "uno dos" + QString(193, 'a') + "…";
+    machine_.workspace.registerApplication(AppId("endless"), {name, "", {"IDE"}});
+    book("endless", today(), 9, 0, 60);
+    bookProject(services_.projects.addProject(name).id, "endless", today(), 60);
+    for (const auto& [tab, presenter] :
+         std::initializer_list<std::pair<int, QObject*>>{{overviewTab, presenter_.overview()->productive()},
+                                                         {detailsTab, presenter_.details()},
+                                                         {timesheetTab, presenter_.timesheet()},
+                                                         {projectsTab, presenter_.projects()}}) {
+        showTab(tab);
+        const auto all = QJsonDocument(test::probe(*presenter)).toJson();
+        EXPECT_TRUE(all.contains(shown.toUtf8())) << tab;
+        EXPECT_FALSE(all.contains(QByteArray(201, 'a'))) << tab;
+        EXPECT_FALSE(all.contains("uno\\n")) << tab;
+    }
 }
 
 TEST_F(StatsPresenterTest, TheTabsAreThoseThatExist) {

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include "shell/style/contrast.h"
+#include "shell/style/style.h"
 #include "shell/views/stats_scene.h"
 
 namespace tidewatch {
@@ -14,6 +16,7 @@ using std::chrono::seconds;
 constexpr int goalsTab = 1;
 constexpr int detailsTab = 2;
 constexpr int timesheetTab = 3;
+constexpr int projectsTab = 4;
 
 struct StatsViewTest : testing::Test, StatsScene {
     StatsViewTest() {
@@ -52,6 +55,24 @@ struct StatsViewTest : testing::Test, StatsScene {
     }
 
     [[nodiscard]] QString textOf(const char* name) const { return item(name)->property("text").toString(); }
+
+    /// As the views have colours: in 256 steps a component.
+    [[nodiscard]] QString colorOf(const char* name) const {
+        return item(name)->property("color").value<QColor>().name();
+    }
+    [[nodiscard]] QString legible(const QColor& color) {
+        return legibleOn(Style::of(engine_)->palette().textGround, color).name();
+    }
+
+    /// The first text of the view with these words; nothing if there is none.
+    [[nodiscard]] QQuickItem* showing(const QString& words) const {
+        QList<QQuickItem*> shown;
+        collect(*view_, shown);
+        for (auto* found : shown) {
+            if (found->inherits("QQuickText") && found->property("text").toString() == words) return found;
+        }
+        return nullptr;
+    }
 
     /// Every visible item below `root`, with everything around it visible too.
     static void collect(QQuickItem& root, QList<QQuickItem*>& found) {
@@ -296,7 +317,169 @@ TEST_F(StatsViewTest, AThemeSwitchRedressesTheOpenWindow) {
     EXPECT_GT(picture().pixelColor(4, 4).lightness(), dark.lightness() + 100);
 }
 
+TEST_F(StatsViewTest, TheComparisonOfAPastDayIsLegibleInAThemeThatIsPutOnLater) {
+    show();
+    settle();
+    click("previousDay");
+    const auto dark = colorOf("comparison");
+    EXPECT_EQ(dark, legible(presenter_.overview()->comparisonColor()));
+    theme_.switchTo("editorial");
+    settle();
+    EXPECT_NE(colorOf("comparison"), dark);
+    EXPECT_EQ(colorOf("comparison"), legible(presenter_.overview()->comparisonColor()));
+}
+
+TEST_F(StatsViewTest, ABreakAlertIsLegibleInAThemeThatIsPutOnWhileItStands) {
+    show();
+    settle();
+    for (int second = 0; second < 7200; ++second) services_.breakReminder.tickActiveSecond(Seconds(7200));
+    settle();
+    const auto dark = colorOf("headline");
+    theme_.switchTo("editorial");
+    settle();
+    const auto& palette = Style::of(engine_)->palette();
+    EXPECT_NE(colorOf("headline"), dark);
+    EXPECT_EQ(colorOf("headline"), legible(palette.tierDistracting));
+    EXPECT_EQ(colorOf("sitting"), legible(palette.tierDistracting));
+    EXPECT_EQ(colorOf("title"), legible(palette.tierProductive));
+}
+
+// Figures.
+
+TEST_F(StatsViewTest, ABarOfTenMinutesStandsOnTheFootOfItsCell) {
+    showTab(timesheetTab);
+    const auto* track = item("track");
+    const auto* bar = item("bar");
+    ASSERT_TRUE(track && bar);
+    EXPECT_EQ(bar->y() + bar->height(), track->y() + track->height());
+}
+
+// Names that others gave.
+
+TEST_F(StatsViewTest, ALongNameIsOneLineAndToldInFullUnderThePointer) {
+    const std::string name = "Un nombre que no cabe " + std::string(50'000, 'a') + "\nsegunda línea";
+    bookProject(services_.projects.addProject(name).id, "code", today(), 9000);
+    machine_.mainLoop.runFor(seconds(2));
+    showTab(projectsTab);
+    const auto words = "Un nombre que no cabe " + QString(178, 'a') + "…";
+    auto* title = showing(words);
+    ASSERT_NE(title, nullptr);
+    EXPECT_EQ(title->property("lineCount").toInt(), 1);
+    EXPECT_TRUE(title->property("truncated").toBool());
+    EXPECT_EQ(item("bubble"), nullptr);
+    QTest::mouseMove(&window_, middle(*title));
+    settle();
+    ASSERT_NE(item("bubble"), nullptr);
+    EXPECT_EQ(item("bubble")->property("text").toString(), words);
+    QTest::mouseMove(&window_, {4, 4});
+    settle();
+    EXPECT_EQ(item("bubble"), nullptr);
+}
+
+TEST_F(StatsViewTest, ANameThatFitsNeedsNoBubble) {
+    showTab(projectsTab);
+    auto* title = showing("Sitio web");
+    ASSERT_NE(title, nullptr);
+    QTest::mouseMove(&window_, middle(*title));
+    settle();
+    EXPECT_EQ(item("bubble"), nullptr);
+}
+
+TEST_F(StatsViewTest, ANameWrittenFromTheRightStandsBesideItsIcon) {
+    const QString name = "שלום עולם";
+    bookProject(services_.projects.addProject(name.toStdString()).id, "code", today(), 9000);
+    machine_.workspace.registerApplication(AppId("hebrew"), {name.toStdString(), "", {"IDE"}});
+    book("hebrew", today(), 9, 0, 30000);
+    machine_.mainLoop.runFor(seconds(2));
+    for (const int tab : {0, detailsTab, timesheetTab, projectsTab}) {
+        SCOPED_TRACE(tab);
+        showTab(tab);
+        auto* shown = showing(name);
+        ASSERT_NE(shown, nullptr);
+        EXPECT_EQ(shown->property("effectiveHorizontalAlignment").toInt(), Qt::AlignLeft);
+    }
+}
+
+TEST_F(StatsViewTest, AnEmptyProjectNameIsARowInThePlaceOfTheOthers) {
+    bookProject(services_.projects.addProject("").id, "code", today(), 9000);
+    machine_.mainLoop.runFor(seconds(2));
+    showTab(projectsTab);
+    auto* title = showing("Sin nombre");
+    ASSERT_NE(title, nullptr);
+    EXPECT_GT(title->width(), 100);
+    EXPECT_GT(contrast(title->property("color").value<QColor>(), Style::of(engine_)->palette().textGround),
+              leastContrast);
+}
+
+TEST_F(StatsViewTest, WhatLooksLikeMarkupIsShownAsItIsWritten) {
+    const std::string name = "<b>Negrita</b> <img src='http://127.0.0.1:9/x.png'>";
+    bookProject(services_.projects.addProject(name).id, "code", today(), 9000);
+    machine_.workspace.registerApplication(AppId("markup"), {name, "http://127.0.0.1:9/y.png", {"IDE"}});
+    book("markup", today(), 9, 0, 30000);
+    machine_.mainLoop.runFor(seconds(2));
+    for (const int tab : {0, detailsTab, timesheetTab, projectsTab}) {
+        SCOPED_TRACE(tab);
+        showTab(tab);
+        EXPECT_NE(showing(QString::fromStdString(name)), nullptr);
+        QList<QQuickItem*> shown;
+        collect(*view_, shown);
+        for (const auto* found : shown) {
+            if (!found->inherits("QQuickText")) continue;
+            EXPECT_EQ(found->property("textFormat").toInt(), Qt::PlainText)
+                << qPrintable(found->property("text").toString());
+        }
+    }
+}
+
 // For those who listen.
+
+TEST_F(StatsViewTest, ATabIsPressedByTheBus) {
+    show();
+    settle();
+    auto* tab = QAccessible::queryAccessibleInterface(item("tabs")->childItems().at(timesheetTab));
+    ASSERT_TRUE(tab != nullptr && tab->actionInterface() != nullptr);
+    ASSERT_TRUE(tab->actionInterface()->actionNames().contains(QAccessibleActionInterface::pressAction()));
+    tab->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    settle();
+    EXPECT_EQ(presenter_.tabIndex(), timesheetTab);
+}
+
+TEST_F(StatsViewTest, ADayThatCannotBeGoneToSaysSoAndIsNotGoneTo) {
+    show();
+    settle();
+    auto* next = QAccessible::queryAccessibleInterface(item("nextDay"));
+    EXPECT_EQ(next->text(QAccessible::Description), "no disponible");
+    click("previousDay");
+    EXPECT_EQ(next->text(QAccessible::Description), "");
+}
+
+TEST_F(StatsViewTest, TheRowsOfATierAreReadInTheOrderOfTheScreenAfterAChangeOfDay) {
+    // The same applications on both days, in another order.
+    const auto yesterday = services_.days.dayKey(machine_.clock.now() - std::chrono::hours(24));
+    book("org.libreoffice.writer", yesterday, 9, 0, 90000);
+    book("firefox", yesterday, 9, 0, 60000);
+    show();
+    settle();
+    for (const auto* way : {"previousDay", "today"}) {
+        click(way);
+        auto* list = QAccessible::queryAccessibleInterface(item("apps"));
+        ASSERT_NE(list, nullptr);
+        QStringList read;
+        QList<int> places;
+        for (int child = 0; child < list->childCount(); ++child) {
+            read.append(list->child(child)->text(QAccessible::Name));
+            places.append(list->child(child)->rect().top());
+        }
+        const auto* rows = presenter_.overview()->productive()->apps();
+        QStringList shown;
+        for (int row = 0; row < rows->rowCount(); ++row) {
+            shown.append(rows->index(row).data(RowListModel::rowRole).value<AppRow>().spoken);
+        }
+        EXPECT_EQ(read, shown) << way;
+        EXPECT_TRUE(std::is_sorted(places.begin(), places.end())) << way;
+        EXPECT_GT(read.size(), 3);
+    }
+}
 
 TEST_F(StatsViewTest, ChartsAreSentences) {
     show();
