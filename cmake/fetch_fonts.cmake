@@ -7,9 +7,12 @@ set(PACKAGES
 
 # Package, file in it, name here, SHA-256. One row a cut that is in use; each costs memory while the program runs.
 set(FILES
+    "fraunces|400Regular/Fraunces_400Regular.ttf|Fraunces-Regular.ttf|9cede435056e96eb39ac587d57cc9509484d7fa18fbb0532f149f183af13b14d"
     "fraunces|500Medium/Fraunces_500Medium.ttf|Fraunces-Medium.ttf|e88255a4ef9763c2ece20de3cd3ee241065f18a19a791d4d5c0289a4fbda1a0e"
+    "fraunces|600SemiBold/Fraunces_600SemiBold.ttf|Fraunces-SemiBold.ttf|9f03c0fe70d1670d22f392a138ac02eceedc5eee5f1cd8d7486ba2aed843b8aa"
     "ibm-plex-mono|300Light/IBMPlexMono_300Light.ttf|IBMPlexMono-Light.ttf|9c829b8f32b94999060e0ba9d2299ed1d9637702318346f0c194fb9843038fd8"
-    "ibm-plex-mono|400Regular/IBMPlexMono_400Regular.ttf|IBMPlexMono-Regular.ttf|ab08018ccd276b79fb2c636bb95b9c543598f9d50505fe92506fcb4dae7810cd")
+    "ibm-plex-mono|400Regular/IBMPlexMono_400Regular.ttf|IBMPlexMono-Regular.ttf|ab08018ccd276b79fb2c636bb95b9c543598f9d50505fe92506fcb4dae7810cd"
+    "ibm-plex-mono|500Medium/IBMPlexMono_500Medium.ttf|IBMPlexMono-Medium.ttf|8ae925744d53758b67a77ea35c2fc46d7b688c7d8c04da3b579902bed0ca0e17")
 
 set(SECONDS 60)
 

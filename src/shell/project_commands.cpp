@@ -13,7 +13,7 @@ void ProjectCommands::switchProject(std::optional<Uuid> id) {
 void ProjectCommands::newProject() {
     const TextPrompt prompt{
         .title = "Nuevo proyecto",
-        .text = "Nombre del proyecto:",
+        .text = {"Nombre del proyecto:"},
         .accept = "Crear",
         .placeholder = "p.ej. LMN Juvenil",
         .initial = "",
@@ -30,7 +30,7 @@ void ProjectCommands::renameProject(const Uuid& id) {
     if (!project) return;
     const TextPrompt prompt{
         .title = "Renombrar proyecto",
-        .text = "Nuevo nombre para \"" + project->name + "\":",
+        .text = {"Nuevo nombre para \"", project->name, "\":"},
         .accept = "Cambiar",
         .placeholder = "",
         .initial = project->name,
@@ -55,7 +55,7 @@ void ProjectCommands::deleteProject(const Uuid& id) {
     const auto project = projects_.project(id);
     if (!project) return;
     const Confirmation question{
-        .title = "Borrar \"" + project->name + "\"",
+        .title = {"Borrar \"", project->name, "\""},
         .text =
             "Esto elimina el proyecto y su tiempo asociado del historial. Esta acción no se puede deshacer.",
         .accept = "Borrar",

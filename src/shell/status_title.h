@@ -18,7 +18,7 @@ struct StatusTitle {
     };
 
     std::string figure;   ///< the day's productivity, or a dash
-    std::string project;  ///< the active project's name as shortened for the item; empty without one
+    std::string project;  ///< the active project's name, one short line; empty without one
     Mood mood = Mood::none;
 
     /// The whole text: the figure, and the project after a dot.
@@ -27,7 +27,7 @@ struct StatusTitle {
     bool operator==(const StatusTitle&) const = default;
 };
 
-/// Names of 13 characters or more are shortened to their first 11 and an ellipsis.
+/// Names of 13 characters or more, as a reader counts them, are shortened to their first 11 and an ellipsis.
 [[nodiscard]] StatusTitle statusTitle(const ProductivityScore& today, const std::optional<Project>& active);
 
 }  // namespace tidewatch

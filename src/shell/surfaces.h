@@ -59,10 +59,20 @@ public:
     virtual void popUpMenu(const MenuRows& rows) = 0;
 };
 
+/// A sentence around a name that the user once gave. The name may be of any length: whoever shows the
+/// sentence cuts the name to its place, and nothing else.
+struct NamingText {
+    std::string before;
+    std::string name{};
+    std::string after{};
+
+    [[nodiscard]] std::string whole() const { return before + name + after; }
+};
+
 /// A question that is answered by a line of text.
 struct TextPrompt {
     std::string title;
-    std::string text;
+    NamingText text;
     std::string accept;       ///< what the button that acts says
     std::string placeholder;  ///< shown while nothing is typed
     std::string initial;      ///< what the field holds at first
@@ -71,7 +81,7 @@ struct TextPrompt {
 
 /// A question that is answered by yes or no.
 struct Confirmation {
-    std::string title;
+    NamingText title;
     std::string text;
     std::string accept;  ///< what the button that acts says
 };

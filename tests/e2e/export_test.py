@@ -1,5 +1,6 @@
 """The day and a project as files, through the real dialog."""
 
+import json
 import subprocess
 import time
 import unittest
@@ -12,6 +13,7 @@ from harness.waiting import stays, wait_until
 from harness.world import World
 
 HEADER = "bundle_id,app_name,category,tier,seconds,hms,percent\n"
+FAILED = "No se pudo escribir el archivo"
 PROJECT = "0A0B0C0D-0000-4000-8000-000000000001"
 PROJECTS = '{"projects": [{"id": "%s", "name": "Corto", "colorHex": "#7BD88F", "archived": false}]}' % PROJECT
 
@@ -90,7 +92,7 @@ class Day(unittest.TestCase):
             exported_day(world, menu)
             documents.rmdir()
             world.hands.key("Return")
-            dialog(world, "No se pudo escribir el archivo")
+            dialog(world, FAILED)
             world.screenshot("alert")
             world.hands.key("Return")
             stays(world.program.is_running, "the program", 0.5)
@@ -114,14 +116,78 @@ def popups(world):
     ]
 
 
+def asked_for_report(world, _=None):
+    world.start_program(wait_for_clock=False).wait()
+    window = wait_until(world.statistics, "the statistics window")
+    wait_until(lambda: world.screen.active_window() == window.id, "the focus")
+    # The last thing of the tab of goals is the button that asks for the report.
+    world.hands.key("ctrl+2")
+    time.sleep(0.5)
+    world.hands.key("shift+Tab", "Return")
+    return dialog(world, "Guardar reporte")
+
+
+def export_project(world, menu):
+    menu.open_from_tray()
+    world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Right")
+    wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
+    world.hands.key("Down", "Down", "Down", "Return")
+    return dialog(world, "Exportar proyecto")
+
+
+def written(world):
+    return {path for path in world.home.path.rglob("*") if path.suffix in (".csv", ".pdf")}
+
+
+class Cancelled(unittest.TestCase):
+    def test_each_export_writes_nothing_and_says_nothing(self):
+        with running("cancelled") as (world, menu):
+            monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
+            for ask in (exported_day, export_project, asked_for_report):
+                window = ask(world, menu)
+                world.hands.key("alt+F4" if ask is export_project else "Escape")
+                wait_until(lambda: world.screen.window(title=window.title) is None, "the dialog to go")
+                stays(lambda: world.screen.window(title=FAILED) is None, "no message", 0.5)
+            self.assertEqual(written(world), set())
+            self.assertNotIn("ShowItems", monitor.log())
+            self.assertEqual(world.opened(), [])
+
+
+class Names(unittest.TestCase):
+    """A project's file has the project's name, whatever letters that has."""
+
+    def export(self, name, project):
+        with running(f"name-{name}") as (world, menu):
+            projects = {"projects": [{"id": PROJECT, "name": project, "colorHex": "#7BD88F", "archived": False}]}
+            world.stop_program(world.program)
+            world.home.write("projects.json", json.dumps(projects))
+            world.start_program()
+            export_project(world, menu)
+            world.screenshot("dialog")
+            world.hands.key("Return")
+            wait_until(lambda: written(world), "the file")
+            wait_until(lambda: world.screen.window(title="Exportar proyecto") is None, "the dialog to go")
+            (path,) = written(world)
+            self.assertTrue(path.read_text(encoding="utf-8").endswith("# total,,,,,3600,01:00:00\n"))
+            return path
+
+    def test_quotes_slashes_and_line_breaks(self):
+        path = self.export("quotes", 'Pantalla 27" / "el\nbueno"')
+        self.assertEqual(path.name, 'tidewatch-Pantalla 27" - "el\nbueno".csv')
+
+    def test_two_hundred_letters_of_two_bytes(self):
+        path = self.export("long", "ñ" * 200)
+        self.assertEqual(path.name, f"tidewatch-{'ñ' * 120}.csv")
+
+    def test_a_leading_dot_and_other_scripts(self):
+        path = self.export("scripts", ".映画 שלום 👨\u200d👩\u200d👧")
+        self.assertEqual(path.name, "tidewatch-.映画 שלום 👨\u200d👩\u200d👧.csv")
+
+
 class Project(unittest.TestCase):
     def test_its_whole_history_is_written(self):
         with running("project") as (world, menu):
-            menu.open_from_tray()
-            world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Right")
-            wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
-            world.hands.key("Down", "Down", "Down", "Return")
-            dialog(world, "Exportar proyecto")
+            export_project(world, menu)
             world.hands.key("Return")
             path = world.home.path / "tidewatch-Corto.csv"
             wait_until(path.exists, "the file")
@@ -138,14 +204,7 @@ class Report(unittest.TestCase):
     def test_the_month_is_written_as_a_page_and_shown_in_the_file_manager(self):
         with running("report") as (world, _):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
-            world.start_program(wait_for_clock=False).wait()
-            window = wait_until(world.statistics, "the statistics window")
-            wait_until(lambda: world.screen.active_window() == window.id, "the focus")
-            # The last thing of the tab of goals is the button that asks for the report.
-            world.hands.key("ctrl+2")
-            time.sleep(0.5)
-            world.hands.key("shift+Tab", "Return")
-            dialog(world, "Guardar reporte")
+            asked_for_report(world)
             world.hands.key("Return")
             path = world.home.path / "fathom-reporte.pdf"
             wait_until(path.exists, "the page")

@@ -1,5 +1,6 @@
 """The menu opens by real clicks, and its commands take effect."""
 
+import json
 import time
 import unittest
 from contextlib import contextmanager
@@ -11,7 +12,7 @@ from harness.menu import Menu
 from harness.moments import Lapse, Moment
 from harness.screen import difference
 from harness.waiting import stays, wait_until
-from harness.world import World, sleep_until
+from harness.world import HEIGHT, WIDTH, World, sleep_until
 
 
 @contextmanager
@@ -71,6 +72,75 @@ class Opening(unittest.TestCase):
             Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
 
 
+class Keys(unittest.TestCase):
+    def test_they_choose_their_row_while_a_menu_within_the_menu_is_open(self):
+        with running("inner-keys") as (world, menu):
+            for key, happened in (
+                ("ctrl+h", lambda: world.clock() is None),
+                ("ctrl+e", world.statistics),
+                ("ctrl+q", lambda: not world.program.is_running()),
+            ):
+                menu.open_from_tray()
+                world.hands.key("Down", "Right")
+                wait_until(lambda: len(menu.popups()) == 2, "the submenu")
+                world.hands.key(key)
+                wait_until(happened, key)
+                wait_until(lambda: not menu.popups(), "the menu to close")
+            self.assertEqual(world.program.wait(), 0)
+
+
+class Names(unittest.TestCase):
+    """Projects of a file that was written by hand."""
+
+    LONG = "Larga " * 8000
+
+    def test_none_without_end_with_line_breaks_and_right_to_left_are_rows_of_one_line(self):
+        names = ("", self.LONG, "Uno\nDos\n" * 20, "שלום עולם " * 30, "👨\u200d👩\u200d👧\u200d👦" * 40, "Corto")
+        projects = [
+            {"id": f"0A0B0C0D-0000-4000-8000-00000000000{number}", "name": name, "colorHex": "#7BD88F", "archived": False}
+            for number, name in enumerate(names)
+        ]
+        with running("names") as (world, menu):
+            world.stop_program(world.program)
+            active = projects[1]["id"]
+            world.home.write("projects.json", json.dumps({"projects": projects, "activeProjectID": active}))
+            world.program = world.start_program()
+            menu.open_from_tray()
+            world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right")
+            wait_until(lambda: len(menu.popups()) == 2, "the submenu")
+            time.sleep(0.5)
+            world.screenshot("projects")
+            projects_menu = menu.popups()[1].frame
+            self.assertLess(projects_menu.width, 450)
+            self.assertLess(projects_menu.height, 330)
+            # The first project has no name; its menu renames it, and so it is a row.
+            world.hands.key("Down", "Right", "Down", "Return")
+            dialog = wait_until(lambda: world.screen.window(title="Renombrar proyecto"), "the dialog")
+            wait_until(lambda: world.screen.active_window() == dialog.id, "the focus")
+            world.hands.type("Ahora")
+            world.screenshot("rename")
+            world.hands.key("Return")
+            wait_until(lambda: world.home.read("projects.json")["projects"][0]["name"] == "Ahora", "the new name")
+            self.delete_the_second(world, menu)
+            wait_until(lambda: len(world.home.read("projects.json")["projects"]) == len(names) - 1, "one project less")
+
+    def delete_the_second(self, world, menu):
+        menu.open_from_tray()
+        world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Down", "Right")
+        wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
+        world.hands.key("Up", "Return")
+        dialog = wait_until(lambda: self.question(world), "the question")
+        wait_until(lambda: world.screen.active_window() == dialog.id, "the focus")
+        world.screenshot("delete")
+        self.assertLess(dialog.frame.width, 450)
+        self.assertLess(dialog.frame.height, 260)
+        world.hands.key("Return")
+
+    @staticmethod
+    def question(world):
+        return next((window for window in world.screen.windows() if window.title.startswith("Borrar \"Larga")), None)
+
+
 class Choices(unittest.TestCase):
     def test_every_theme_takes_effect(self):
         with running("themes") as (world, menu):
@@ -112,6 +182,17 @@ class Choices(unittest.TestCase):
             menu.open_from_tray()
             menu.choose(rows.SIZE, rows.SIZES.index(0.1))
             wait_until(lambda: world.clock().frame.width == 22, "the smallest clock")
+
+    def test_a_size_out_of_all_reason_ends_at_the_edge_of_the_screen(self):
+        for scale in ("50", "1e300", "inf", "nan"):
+            with running(f"size-{scale}", sizeScale=scale, windowOriginX=0, windowOriginY=0) as (world, _):
+                frame = world.clock().frame
+                self.assertLessEqual((frame.width, frame.height), (WIDTH, HEIGHT))
+                if scale == "50":
+                    world.screenshot("panel")
+                    self.assertEqual(frame.width, WIDTH)
+                self.assertLess(world.program.memory_kilobytes(), 300_000)
+                world.stop_program(world.program)
 
     def test_an_idleness_threshold_is_stored(self):
         with running("idle") as (world, menu):

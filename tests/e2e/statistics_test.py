@@ -88,6 +88,21 @@ class Place(unittest.TestCase):
             world.start_program(wait_for_clock=False).wait()
             wait_until(lambda: self.outer(world, world.statistics()) == expected, "the old size and place")
 
+    def test_maximised_or_full_screen_it_comes_back_to_its_size_when_it_is_shown_again(self):
+        with running("maximised") as (world, _):
+            expected = (MARGIN // 2, MARGIN // 2, WIDTH - MARGIN, HEIGHT - MARGIN)
+            world.start_program(wait_for_clock=False).wait()
+            window = opened(world)
+            wait_until(lambda: self.outer(world, world.statistics()) == expected, "its size")
+            maximised = ("_NET_WM_STATE_MAXIMIZED_VERT", "_NET_WM_STATE_MAXIMIZED_HORZ")
+            for states in (maximised, ("_NET_WM_STATE_FULLSCREEN",)):
+                world.screen.add_states(window.id, *states)
+                wait_until(lambda: world.statistics().frame.width == WIDTH, f"{states}")
+                world.start_program(wait_for_clock=False).wait()
+                wait_until(lambda: self.outer(world, world.statistics()) == expected, f"its size after {states}")
+                stays(lambda: self.outer(world, world.statistics()) == expected, "its size", 1)
+                self.assertFalse(world.screen.states(window.id) & set(states))
+
     def test_it_gets_no_smaller_than_its_least_size(self):
         with running("least") as (world, _):
             world.start_program(wait_for_clock=False).wait()

@@ -16,6 +16,7 @@ from pathlib import Path
 LIBRARIES = {
     "fmt": r"fmt/.*",
     "simdjson": r"simdjson\.h",
+    "utf8proc": r"utf8proc\.h",
     "qt": r"Q(t\w*|[A-Z]\w*)(/.*)?|q[a-z]+\.h|qt\w+\.h",
     "xcb": r"xcb/.*|X11/.*",
     "system": r"(sys|linux|netinet|arpa|net|asm)/.*|"
@@ -57,7 +58,7 @@ DOMAIN = ("core", "classification", "projects", "analysis", "wellbeing", "claude
 def rooms():
     """The plan: each room with what it may know. A room always knows itself."""
     plan = {
-        "base": room(libraries="fmt"),
+        "base": room(libraries="fmt utf8proc"),
         "platform/api": room("base"),
         "platform/fake": room("base platform/api", "fmt simdjson"),
         "platform/linux": room("base platform/api", "fmt qt xcb system", machine=True),

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "core/data_directory.h"
 #include "shell/shell_world.h"
 
 namespace tidewatch {
@@ -31,7 +32,7 @@ protected:
     static std::vector<std::string> titles(const MenuRows& rows) {
         std::vector<std::string> result;
         for (const auto& row : rows)
-            result.push_back((row.checked ? "✓" : "") + (row.isSeparator() ? "-" : row.title));
+            result.push_back((row.checked ? "✓" : "") + (row.separates ? "-" : row.title));
         return result;
     }
 
@@ -50,6 +51,18 @@ TEST_F(ProjectMenuTest, ProjectsInTheOrderOfCreationWithTheActiveOneChecked) {
     EXPECT_EQ(titles(rowsAt({"Proyecto", "Uno"})), (Titles{"Activar", "-", "Renombrar…", "Cambiar color",
                                                            "Exportar CSV…", "-", "Archivar", "Borrar…"}));
     EXPECT_EQ(titles(rowsAt({"Proyecto", "Dos"}))[0], "✓Activo");
+}
+
+TEST_F(ProjectMenuTest, AProjectWithoutANameIsARowAsAnyOther) {
+    machine_.files.put(dataDirectory(machine_.files) + "/projects.json",
+                       R"({"projects": [{"id": "0A0B0C0D-0000-4000-8000-000000000001", "name": "",)"
+                       R"( "colorHex": "#7BD88F", "archived": false}]})");
+    launch();
+    const auto rows = rowsAt({"Proyecto"});
+    ASSERT_EQ(rows.size(), 5U);
+    EXPECT_FALSE(rows[2].separates);
+    EXPECT_TRUE(rows[2].isEnabled());
+    EXPECT_EQ(titles(rows[2].children)[0], "Activar");
 }
 
 TEST_F(ProjectMenuTest, ArchivedProjectsHaveASubmenuThatRestoresThem) {
@@ -82,7 +95,7 @@ TEST_F(ProjectMenuTest, ActivatingAndDeactivating) {
 TEST_F(ProjectMenuTest, ANewProjectIsTrimmedAndBecomesActiveAtOnce) {
     ASSERT_TRUE(choose("Nuevo proyecto…"));
     EXPECT_EQ(surfaces_.prompt().title, "Nuevo proyecto");
-    EXPECT_EQ(surfaces_.prompt().text, "Nombre del proyecto:");
+    EXPECT_EQ(surfaces_.prompt().text.whole(), "Nombre del proyecto:");
     EXPECT_EQ(surfaces_.prompt().accept, "Crear");
     EXPECT_EQ(surfaces_.prompt().placeholder, "p.ej. LMN Juvenil");
     surfaces_.answer("  Corto \n");
@@ -100,7 +113,7 @@ TEST_F(ProjectMenuTest, RenamingStartsFromTheNameAndABlankNameDoesNotRename) {
     projects().addProject("Uno");
     ASSERT_TRUE(choose("Renombrar…"));
     EXPECT_EQ(surfaces_.prompt().title, "Renombrar proyecto");
-    EXPECT_EQ(surfaces_.prompt().text, "Nuevo nombre para \"Uno\":");
+    EXPECT_EQ(surfaces_.prompt().text.whole(), "Nuevo nombre para \"Uno\":");
     EXPECT_EQ(surfaces_.prompt().accept, "Cambiar");
     EXPECT_EQ(surfaces_.prompt().initial, "Uno");
     surfaces_.answer("   ");
@@ -112,7 +125,7 @@ TEST_F(ProjectMenuTest, RenamingStartsFromTheNameAndABlankNameDoesNotRename) {
 TEST_F(ProjectMenuTest, DeletingAsksWithTheExactWords) {
     projects().addProject("Uno");
     ASSERT_TRUE(choose("Borrar…"));
-    EXPECT_EQ(surfaces_.question().title, "Borrar \"Uno\"");
+    EXPECT_EQ(surfaces_.question().title.whole(), "Borrar \"Uno\"");
     EXPECT_EQ(
         surfaces_.question().text,
         "Esto elimina el proyecto y su tiempo asociado del historial. Esta acción no se puede deshacer.");

@@ -23,7 +23,7 @@ protected:
 
     static std::vector<std::string> titles(const MenuRows& rows) {
         std::vector<std::string> titles;
-        for (const auto& each : rows) titles.push_back(each.isSeparator() ? "-" : each.title);
+        for (const auto& each : rows) titles.push_back(each.separates ? "-" : each.title);
         return titles;
     }
 
@@ -92,13 +92,13 @@ TEST_F(StatusMenuTest, TellsWhatTheDayWasWorth) {
     EXPECT_EQ(rows[5].title, "Productivo: 1m 30s");
     EXPECT_EQ(rows[6].title, "Neutral: 1m 1s");
     EXPECT_EQ(rows[7].title, "Distrayendo: 30s");
-    EXPECT_TRUE(rows[8].isSeparator());
+    EXPECT_TRUE(rows[8].separates);
 }
 
 TEST_F(StatusMenuTest, UncategorisedTimeHasARowFromAMinuteOn) {
     launch();
     runFor(59s);
-    EXPECT_TRUE(menu()[8].isSeparator());
+    EXPECT_TRUE(menu()[8].separates);
     runFor(1s);
     EXPECT_EQ(menu()[8].title, "Sin categorizar: 1m 0s");
 }

@@ -39,6 +39,26 @@ TEST(StatusTitle, CharactersAreCountedNotBytes) {
     EXPECT_EQ(statusTitle({}, named("áéíóúñáéíóúñá")).project, "áéíóúñáéíóú…");
 }
 
+TEST(StatusTitle, ACharacterIsWhatAReaderTakesForOne) {
+    const std::string family = "👨‍👩‍👧‍👦";
+    const std::string flag = "🇲🇽";
+    const std::string accented = "e\u0301";
+    std::string eleven;
+    for (int i = 0; i < 4; ++i) eleven += family + flag;
+    eleven += accented + accented + accented;
+    EXPECT_EQ(statusTitle({}, named(eleven + family)).project, eleven + family);
+    EXPECT_EQ(statusTitle({}, named(eleven + family + "x")).project, eleven + "…");
+}
+
+TEST(StatusTitle, ANameWithLineBreaksIsOneLine) {
+    EXPECT_EQ(statusTitle({}, named("Corto\r\n de\u2028ayer")).project, "Corto de ay…");
+    EXPECT_EQ(statusTitle({}, named("Uno\nDos")).text(), "— · Uno Dos");
+}
+
+TEST(StatusTitle, ANameOf50000LettersIsShort) {
+    EXPECT_EQ(statusTitle({}, named(std::string(50'000, 'x'))).project, "xxxxxxxxxxx…");
+}
+
 TEST(StatusTitle, AScoreOfExactly0Point3IsMiddlingAndOfExactly0Point6Good) {
     EXPECT_EQ(statusTitle(score(29, 71), std::nullopt).mood, StatusTitle::Mood::low);
     EXPECT_EQ(statusTitle(score(30, 70), std::nullopt).mood, StatusTitle::Mood::middling);

@@ -6,7 +6,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QRawFont>
 #include <QString>
 #include <algorithm>
 #include <cmath>
@@ -37,51 +36,26 @@ QFont toPageFont(const FontSpec& spec) {
     return font;
 }
 
-// A piece of a line in one font, drawn in one go; lengths in dots.
+// A piece of a line that is drawn in one go; lengths in dots.
 struct Run {
     QString text;
-    QFont font;
     double x = 0;  // from the line's start
 };
 
 struct LaidOutLine {
+    QFont font;
     std::vector<Run> runs;
     double width = 0;
 };
 
-bool hasGlyph(const QFont& font, QChar character) {
-    return QRawFont::fromFont(font).supportsCharacter(character);
-}
-
-// Symbols come from a family that draws them well: in the monospaced one a check mark looks like a root.
-QFont symbolFont(QChar symbol, const QFont& font) {
-    for (const auto* family : {"Inter", "DejaVu Sans"}) {
-        auto other = font;
-        other.setFamilies({QString(family)});
-        if (hasGlyph(other, symbol)) return other;
-    }
-    return font;
-}
-
-bool isSymbol(QChar character) {
-    return character == u'★' || character == u'✓';
-}
-
 // The toolkit's own letter spacing depends on the resolution of the screen, so tracked letters are placed one
 // by one.
 LaidOutLine layOut(const QString& text, const QFont& font, double tracking) {
-    LaidOutLine line;
-    for (qsizetype begin = 0; begin < text.size();) {
-        const auto endOfRun = [&] {
-            auto end = begin + 1;
-            while (end < text.size() && tracking == 0 && isSymbol(text[end]) == isSymbol(text[begin])) ++end;
-            return end;
-        };
-        const auto end = endOfRun();
-        const auto own = isSymbol(text[begin]) ? symbolFont(text[begin], font) : font;
-        const auto& run = line.runs.emplace_back(Run{text.mid(begin, end - begin), own, line.width});
-        line.width += QFontMetricsF(own).horizontalAdvance(run.text) + tracking;
-        begin = end;
+    LaidOutLine line{font, {}, 0};
+    const auto letters = tracking == 0 ? std::max<qsizetype>(text.size(), 1) : 1;
+    for (qsizetype begin = 0; begin < text.size(); begin += letters) {
+        const auto& run = line.runs.emplace_back(Run{text.mid(begin, letters), line.width});
+        line.width += QFontMetricsF(font).horizontalAdvance(run.text) + tracking;
     }
     line.width = std::max(0.0, line.width - tracking);
     return line;
@@ -126,8 +100,8 @@ private:
         const double free = text.width * dotsAPoint - line.width;
         const double left = text.x * dotsAPoint + (text.alignment == PageText::Alignment::right ? free : 0);
         painter_.setPen(toQColor(text.color));
+        painter_.setFont(line.font);
         for (const auto& run : line.runs) {
-            painter_.setFont(run.font);
             painter_.drawText(QPointF(left + run.x, text.baseline * dotsAPoint), run.text);
         }
     }

@@ -59,7 +59,13 @@ struct Line {
 struct Metric {
     const char* label;
     std::string value;
+    const char* symbol = "";  // before the value
 };
+
+// The monospaced family has a check mark and no star.
+constexpr FontSpec starFont(double size) {
+    return fathom::sans(size, FontWeight::light);
+}
 
 // Goes down the page.
 class PageWriter final {
@@ -98,9 +104,10 @@ public:
         const auto font = fathom::mono(20, FontWeight::light);
         double x = pageLeft;
         for (const auto& stat : stats) {
-            const double width = std::max(widthOf(label(stat)), widthOf({stat.value, font}));
-            putStat(stat, font, x, std::ceil(width));
-            x += std::ceil(width) + spacing;
+            const double width = std::ceil(
+                std::max(widthOf(label(stat)), widthOfSymbol(stat, font) + widthOf({stat.value, font})));
+            putStat(stat, font, x, width);
+            x += width + spacing;
         }
         advance(statHeight(font.size));
     }
@@ -174,6 +181,12 @@ private:
         return textWidth_(text.text, text.font, text.tracking);
     }
 
+    // With the blank after it, which in a monospaced family is as wide as a digit.
+    [[nodiscard]] double widthOfSymbol(const Metric& metric, const FontSpec& valueFont) const {
+        const double width = widthOf({metric.symbol, starFont(valueFont.size)});
+        return width > 0 ? width + widthOf({"0", valueFont}) : 0;
+    }
+
     void putAt(Line text, double x, double baseline, double width, PageText::Alignment alignment) {
         page_.texts.push_back(
             {std::move(text.text), text.font, text.color, text.tracking, x, baseline, width, alignment});
@@ -194,7 +207,13 @@ private:
     void putStat(const Metric& metric, const FontSpec& valueFont, double x, double width) {
         put(label(metric), x, width);
         const double valueBaseline = y_ + lineHeight(labelSize) + belowLabel + ascent(valueFont.size);
-        putAt({metric.value, valueFont}, x, valueBaseline, width, PageText::Alignment::left);
+        const double symbolWidth = widthOfSymbol(metric, valueFont);
+        if (symbolWidth > 0) {
+            const Line symbol{metric.symbol, starFont(valueFont.size)};
+            putAt(symbol, x, valueBaseline, widthOf(symbol), PageText::Alignment::left);
+        }
+        putAt({metric.value, valueFont}, x + symbolWidth, valueBaseline, width - symbolWidth,
+              PageText::Alignment::left);
     }
 
     void putName(std::string name) {
@@ -232,7 +251,7 @@ ReportPage layOutReport(const ReportData& data, const TextWidth& textWidth) {
     writer.writeRule();
     writer.writeSectionTitle("CUMPLIMIENTO DE METAS");
     writer.writeGoals(data.goals);
-    writer.writeStats({{"ESTRELLAS DEL MES", fmt::format("★ {}", data.starsMonth)},
+    writer.writeStats({{"ESTRELLAS DEL MES", std::to_string(data.starsMonth), "★"},
                        {"RACHA", fmt::format("{} días", data.streak)}});
     writer.writeRule();
     writer.writeSectionTitle("APLICACIONES MÁS USADAS");

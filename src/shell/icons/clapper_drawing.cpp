@@ -7,12 +7,24 @@ namespace tidewatch {
 
 namespace {
 
+/// Where the toolkit joins or strokes paths it makes polygons of their curves, fine enough for lengths of
+/// many pixels but not for these; so it is given paths so much larger.
+constexpr double fineness = 64;
+
+QPainterPath enlarged(const QPainterPath& path) {
+    return QTransform::fromScale(fineness, fineness).map(path);
+}
+
+QPainterPath reduced(const QPainterPath& path) {
+    return QTransform::fromScale(1 / fineness, 1 / fineness).map(path);
+}
+
 QPainterPath line(const QPainterPath& path, double width) {
     QPainterPathStroker stroker;
-    stroker.setWidth(width);
+    stroker.setWidth(width * fineness);
     stroker.setCapStyle(Qt::RoundCap);
     stroker.setJoinStyle(Qt::RoundJoin);
-    return stroker.createStroke(path).simplified();
+    return reduced(stroker.createStroke(enlarged(path)).simplified());
 }
 
 QPainterPath roundedRectangle(const QRectF& rectangle, double corner) {
@@ -32,6 +44,10 @@ QPainterPath hands(const QRectF& slate) {
 }
 
 }  // namespace
+
+QPainterPath ClapperDrawing::whole() const {
+    return reduced(enlarged(slate) + enlarged(bar) + enlarged(hands) + enlarged(dot));
+}
 
 ClapperDrawing drawClapper(const ClapperMeasures& measures) {
     QPainterPath dot;

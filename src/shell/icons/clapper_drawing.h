@@ -14,7 +14,7 @@ struct ClapperDrawing {
     QPainterPath hands;
     QPainterPath dot;
 
-    [[nodiscard]] QPainterPath whole() const { return slate + bar + hands + dot; }
+    [[nodiscard]] QPainterPath whole() const;
 };
 
 /// What the figure is drawn from; lengths in the units of the drawing.

@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <array>
 
+#include "shell/windows/fitting_text.h"
 #include "shell/windows/menu_style.h"
 
 namespace tidewatch {
@@ -17,9 +18,12 @@ QKeySequence shortcut(char keyEquivalent) {
                         static_cast<Qt::Key>(QChar::fromLatin1(keyEquivalent).toUpper().unicode()));
 }
 
+/// The widest title that a menu has room for, in pixels.
+constexpr double titleWidth = 320;
+
 /// A title as the menu wants it: an ampersand that is meant is written twice.
-QString title(const std::string& text) {
-    return QString::fromStdString(text).replace('&', "&&");
+QString rowTitle(const std::string& text, const QFont& font) {
+    return fittingLine(text, font, titleWidth).replace('&', "&&");
 }
 
 /// A round dot of one colour, with a check mark on it where the row is checked: the icon takes the place that
@@ -43,27 +47,38 @@ QIcon swatch(const RgbColor& color, bool checked) {
     return dot;
 }
 
-void addRow(QMenu& menu, const MenuRow& row, const QString& style);
+}  // namespace
 
-void addRows(QMenu& menu, const MenuRows& rows, const QString& style) {
-    menu.setStyleSheet(style);
-    // Without a compositor the corners that the style rounds off would be black.
-    for (const auto& row : rows) addRow(menu, row, style);
+MenuView::MenuView(const MenuRows& rows, const DashboardStyle& style) : MenuView(nullptr) {
+    setAttribute(Qt::WA_DeleteOnClose);
+    setStyleSheet(menuStyleSheet(style));
+    addRows(rows);
 }
 
-void addRow(QMenu& menu, const MenuRow& row, const QString& style) {
-    if (row.isSeparator()) {
-        menu.addSeparator();
-        return;
+MenuView::MenuView(QWidget* parent) : QMenu(parent) {}
+
+void MenuView::addRows(const MenuRows& rows) {
+    // The titles are measured in the font that the style sheet gives.
+    ensurePolished();
+    for (const auto& row : rows) {
+        if (row.separates) {
+            addSeparator();
+        } else {
+            addRow(row);
+        }
     }
+}
+
+void MenuView::addRow(const MenuRow& row) {
     QAction* action = nullptr;
     if (row.children.empty()) {
-        action = menu.addAction(title(row.title));
+        action = addAction(rowTitle(row.title, font()));
         if (row.action) QObject::connect(action, &QAction::triggered, action, row.action);
     } else {
-        auto* submenu = menu.addMenu(title(row.title));
-        addRows(*submenu, row.children, style);
-        action = submenu->menuAction();
+        auto* submenu = new MenuView(this);
+        submenu->setTitle(rowTitle(row.title, font()));
+        submenu->addRows(row.children);
+        action = addMenu(submenu);
     }
     if (row.swatch) action->setIcon(swatch(*row.swatch, row.checked));
     action->setEnabled(row.isEnabled());
@@ -72,21 +87,21 @@ void addRow(QMenu& menu, const MenuRow& row, const QString& style) {
     if (row.keyEquivalent) action->setShortcut(shortcut(*row.keyEquivalent));
 }
 
-}  // namespace
-
-MenuView::MenuView(const MenuRows& rows, const DashboardStyle& style) {
-    setAttribute(Qt::WA_DeleteOnClose);
-    addRows(*this, rows, menuStyleSheet(style));
-}
-
 void MenuView::keyPressEvent(QKeyEvent* event) {
-    auto* action = actionFor(*event);
+    auto& whole = outermost();
+    auto* action = whole.actionFor(*event);
     if (action == nullptr) {
         QMenu::keyPressEvent(event);
         return;
     }
-    close();
+    whole.close();
     action->trigger();
+}
+
+MenuView& MenuView::outermost() {
+    auto* menu = this;
+    while (auto* above = dynamic_cast<MenuView*>(menu->parentWidget())) menu = above;
+    return *menu;
 }
 
 QAction* MenuView::actionFor(const QKeyEvent& event) const {

@@ -7,9 +7,9 @@
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
+#include "platform/api/log.h"
 #include "platform/api/window_manager.h"
 #include "platform/api/workspace.h"
 #include "shell/style/fonts.h"
@@ -46,8 +46,11 @@ void QtSurfaces::registerFonts() {
 }
 
 std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
+    auto view = makeView("ContentView", clock_);
+    // Without it the clock is blank, and time is counted all the same.
+    if (!view) view = std::make_unique<QQuickItem>();
     QuickPanelWindow::Content content{
-        .item = makeView("ContentView", clock_),
+        .item = std::move(view),
         .cornerRadius =
             [this](PanelSize panel) {
                 const auto& theme = theme_.active();
@@ -68,15 +71,21 @@ std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
 std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject& presenter) {
     QQmlComponent component(&engine_);
     component.setData("import Tidewatch.Shell\n" + name + " {}", QUrl());
-    if (!component.isReady()) throw std::runtime_error(component.errorString().toStdString());
+    if (!component.isReady()) return brokenView(name, component.errorString());
     // The engine knows the style module from the import on.
     Style::of(engine_)->follow(theme_);
     const QVariantMap properties{{"presenter", QVariant::fromValue(&presenter)}};
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
     auto* item = qobject_cast<QQuickItem*>(object.get());
-    if (item == nullptr) throw std::runtime_error(component.errorString().toStdString());
+    if (item == nullptr) return brokenView(name, component.errorString());
     static_cast<void>(object.release());
     return std::unique_ptr<QQuickItem>(item);
+}
+
+std::unique_ptr<QQuickItem> QtSurfaces::brokenView(const QByteArray& name, const QString& errors) {
+    platform_.log.warning("Tidewatch: failed to make the view " + name.toStdString() + ": " +
+                          errors.simplified().toStdString());
+    return nullptr;
 }
 
 void QtSurfaces::forgetViews() {
@@ -109,13 +118,13 @@ void QtSurfaces::showHint(const std::string& hint) {
 }
 
 void QtSurfaces::warn(const std::string& title, const std::string& message) {
-    auto* dialog = new QuestionDialog(text(title), text(message), theme_.active().dashboard);
+    auto* dialog = new QuestionDialog({title}, {message}, theme_.active().dashboard);
     dialog->addButtons("OK", QuestionDialog::Cancel::absent);
     dialog->present();
 }
 
 void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) {
-    auto* dialog = new QuestionDialog(text(prompt.title), text(prompt.text), theme_.active().dashboard);
+    auto* dialog = new QuestionDialog({prompt.title}, prompt.text, theme_.active().dashboard);
     auto* field = dialog->addField(prompt.fieldWidth, text(prompt.placeholder), text(prompt.initial));
     dialog->addButtons(text(prompt.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, field,
@@ -124,7 +133,7 @@ void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> 
 }
 
 void QtSurfaces::confirm(const Confirmation& question, std::function<void()> accepted) {
-    auto* dialog = new QuestionDialog(text(question.title), text(question.text), theme_.active().dashboard);
+    auto* dialog = new QuestionDialog(question.title, {question.text}, theme_.active().dashboard);
     dialog->addButtons(text(question.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, dialog, accepted);
     dialog->present();

@@ -30,14 +30,15 @@ public:
     void popUpMenu(const MenuRows& rows, platform::Point at) override;
     void showHint(const std::string& text) override;
 
-    /// Makes a view of the module of the shell anew; `presenter` must outlive it. Throws std::runtime_error
-    /// if the module has no such view.
+    /// Makes a view of the module of the shell anew; `presenter` must outlive it. A view that cannot be made
+    /// is a fault of the program that no user can mend: a line in the log, and nothing.
     [[nodiscard]] std::unique_ptr<QQuickItem> makeView(const QByteArray& name, QObject& presenter);
 
     /// Frees what is kept for views that may never be made again.
     void forgetViews();
 
 private:
+    [[nodiscard]] std::unique_ptr<QQuickItem> brokenView(const QByteArray& name, const QString& errors);
     void warn(const std::string& title, const std::string& text) override;
     void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) override;
     void confirm(const Confirmation& question, std::function<void()> accepted) override;

@@ -1,6 +1,7 @@
 #include "shell/windows/question_dialog.h"
 
 #include <QCursor>
+#include <QFontMetricsF>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,7 +9,9 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <limits>
 
+#include "shell/windows/fitting_text.h"
 #include "shell/windows/menu_style.h"
 
 namespace tidewatch {
@@ -18,30 +21,49 @@ namespace {
 constexpr int textWidth = 320;
 constexpr int margin = 24;
 
+/// The text on lines of `textWidth`: its name on the line on which it begins, and no word wider than a line.
+QString fitted(const NamingText& text, const QFont& font) {
+    const QFontMetricsF metrics(font);
+    const auto before = QString::fromStdString(text.before);
+    const auto after = QString::fromStdString(text.after);
+    const double free = textWidth - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after);
+    if (!text.name.empty()) return before + fittingLine(text.name, font, free) + after;
+    auto words = (before + after).split(u' ');
+    for (auto& word : words) word = metrics.elidedText(word, Qt::ElideMiddle, textWidth);
+    return words.join(u' ');
+}
+
 }  // namespace
 
-QuestionDialog::QuestionDialog(const QString& title, const QString& text, const DashboardStyle& style)
+QuestionDialog::QuestionDialog(const NamingText& title, const NamingText& text, const DashboardStyle& style)
     : rows_(new QVBoxLayout(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(true);
-    setWindowTitle(title);
-    setAccessibleDescription(text);
     setStyleSheet(dialogStyleSheet(style));
     rows_->setContentsMargins(margin, margin, margin, margin);
     rows_->setSpacing(12);
     rows_->setSizeConstraint(QLayout::SetFixedSize);
-    for (const auto& [name, words] : {std::pair("title", title), std::pair("text", text)}) {
-        auto* label = new QLabel(words);
-        label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
-        label->setWordWrap(true);
-        label->setFixedWidth(textWidth);
-        rows_->addWidget(label);
-    }
+    setWindowTitle(addText("title", title)->text());
+    setAccessibleDescription(addText("text", text)->text());
+}
+
+QLabel* QuestionDialog::addText(const char* name, const NamingText& text) {
+    auto* label = new QLabel(this);
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setFixedWidth(textWidth);
+    label->ensurePolished();
+    label->setText(fitted(text, label->font()));
+    rows_->addWidget(label);
+    return label;
 }
 
 QLineEdit* QuestionDialog::addField(double width, const QString& placeholder, const QString& initial) {
-    auto* field = new QLineEdit(initial);
+    auto* field = new QLineEdit;
+    // The toolkit's own limit would cut the name that is only to be confirmed.
+    field->setMaxLength(std::numeric_limits<int>::max());
+    field->setText(initial);
     field->setPlaceholderText(placeholder);
     field->setFixedWidth(static_cast<int>(width));
     field->setAccessibleName(windowTitle());

@@ -2,18 +2,21 @@
 
 #include <QDialog>
 
+#include "shell/surfaces.h"
 #include "shell/themes/dashboard_style.h"
 
+class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 
 namespace tidewatch {
 
 /// A small question in the colours of the active theme: a title, a text, perhaps a field, the button that
-/// acts and perhaps one that does not. Deletes itself when it is answered.
+/// acts and perhaps one that does not. A name in its title or text takes one line, cut where it is longer.
+/// Deletes itself when it is answered.
 class QuestionDialog final : public QDialog {
 public:
-    QuestionDialog(const QString& title, const QString& text, const DashboardStyle& style);
+    QuestionDialog(const NamingText& title, const NamingText& text, const DashboardStyle& style);
 
     /// `width` in points. The field has the focus; the dialog owns it.
     QLineEdit* addField(double width, const QString& placeholder, const QString& initial);
@@ -27,6 +30,8 @@ public:
     void present();
 
 private:
+    QLabel* addText(const char* name, const NamingText& text);
+
     QVBoxLayout* rows_;
 };
 

@@ -1,8 +1,11 @@
 #include "shell/windows/quick_panel_window.h"
 
 #include <QBitmap>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -27,10 +30,21 @@ QRegion roundedRegion(const QSize& size, double radius) {
     return QRegion(bitmap);
 }
 
+/// `size`, made smaller in its proportions where no screen is large enough to show it: pixels that nobody
+/// sees cost memory all the same.
+PanelSize withinScreens(const PanelSize& size) {
+    QSizeF most;
+    for (const auto* screen : QGuiApplication::screens()) most = most.expandedTo(screen->size());
+    if (most.isEmpty()) return size;
+    if (!std::isfinite(size.width) || !std::isfinite(size.height)) return {most.width(), most.height()};
+    const double factor = std::min({1.0, most.width() / size.width, most.height() / size.height});
+    return {size.width * factor, size.height * factor};
+}
+
 }  // namespace
 
 QuickPanelWindow::QuickPanelWindow(platform::WindowManager& manager, Content content, PanelSize size)
-    : manager_(manager), content_(std::move(content)), panel_(size), shadow_(contentItem()) {
+    : manager_(manager), content_(std::move(content)), panel_(withinScreens(size)), shadow_(contentItem()) {
     setTitle("Tidewatch");
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
     setColor(Qt::transparent);
@@ -65,7 +79,8 @@ void QuickPanelWindow::setOrigin(platform::Point origin) {
     setPosition(qRound(origin.x - margin_), qRound(origin.y - margin_));
 }
 
-void QuickPanelWindow::resize(PanelSize size) {
+void QuickPanelWindow::resize(PanelSize wanted) {
+    const auto size = withinScreens(wanted);
     growth_.stop();
     if (!isVisible()) {
         panel_ = size;

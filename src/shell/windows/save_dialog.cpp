@@ -3,18 +3,23 @@
 #include <QAbstractItemView>
 #include <QChildEvent>
 #include <QCompleter>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFont>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
 #include <QLocale>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTreeView>
 #include <QWindow>
 #include <utility>
 
+#include "shell/windows/file_name.h"
+#include "shell/windows/fitting_text.h"
 #include "shell/windows/menu_style.h"
 
 namespace tidewatch {
@@ -24,6 +29,7 @@ namespace {
 constexpr QSize dialogSize(780, 480);
 constexpr int placesWidth = 150;
 constexpr int leastColumnWidth = 90;
+constexpr int questionWidth = 360;
 
 /// How a kind of file is told apart.
 struct FileType {
@@ -99,12 +105,69 @@ void placeAbove(QFileDialog& dialog, QWindow* window) {
     dialog.windowHandle()->setTransientParent(window);
 }
 
+/// The toolkit's dialog reads a double quote in the name field as the end of one name among several. In this
+/// one what stands there is one name, and the file gets that name, letter by letter.
+class SaveDialog final : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+    /// Null where the desktop's own dialog is used.
+    [[nodiscard]] QLineEdit* nameField() const { return findChild<QLineEdit*>("fileNameEdit"); }
+
+    void propose(const QString& name) {
+        if (auto* field = nameField()) {
+            field->setText(name);
+        } else {
+            selectFile(name);
+        }
+    }
+
+protected:
+    void accept() override {
+        auto* field = nameField();
+        if (field == nullptr) {
+            QFileDialog::accept();
+            return;
+        }
+        if (field->text().isEmpty()) return;
+        const auto place = placeOf(field->text());
+        if (QFileInfo(place).isDir()) {
+            setDirectory(place);
+            field->clear();
+            return;
+        }
+        const auto path = withExtension(place);
+        if (QFileInfo::exists(path) && !mayReplace(path)) return;
+        Q_EMIT fileSelected(path);
+        QDialog::accept();
+    }
+
+private:
+    [[nodiscard]] QString placeOf(const QString& text) const {
+        const bool inHome = text == u"~" || text.startsWith(u"~/");
+        return QDir::cleanPath(inHome ? QDir::homePath() + text.mid(1) : directory().absoluteFilePath(text));
+    }
+
+    [[nodiscard]] QString withExtension(const QString& path) const {
+        const QString extension = u'.' + defaultSuffix();
+        return path.endsWith(extension, Qt::CaseInsensitive) ? path : path + extension;
+    }
+
+    bool mayReplace(const QString& path) {
+        const auto question =
+            QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
+                .arg(fittingLine(QFileInfo(path).fileName().toStdString(), font(), questionWidth));
+        return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                                    QMessageBox::No) == QMessageBox::Yes;
+    }
+};
+
 }  // namespace
 
 QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder, const DashboardStyle& style,
                                std::function<void(const QString& path)> accepted) {
     const auto type = fileType(request.kind);
-    auto* dialog = new QFileDialog(nullptr, QString::fromStdString(request.title), folder, type.filter);
+    auto* dialog = new SaveDialog(nullptr, QString::fromStdString(request.title), folder, type.filter);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
@@ -114,7 +177,7 @@ QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder
     wearInside(*dialog, style);
     new QuestionTailor(*dialog, style);
     dialog->resize(dialogSize);
-    dialog->selectFile(QString::fromStdString(request.proposedName));
+    dialog->propose(QString::fromStdString(writableFileName(request.proposedName)));
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, std::move(accepted));
     placeAbove(*dialog, QGuiApplication::focusWindow());
     dialog->setModal(true);

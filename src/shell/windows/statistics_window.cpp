@@ -60,13 +60,18 @@ QuickStatisticsWindow::~QuickStatisticsWindow() = default;
 
 void QuickStatisticsWindow::showWindow() {
     if (!window_) {
-        window_ = std::make_unique<Frame>([this] { close(); });
-        window_->create();
+        auto window = std::make_unique<Frame>([this] { close(); });
+        window->create();
         // While the view is being made, the desktop has time to answer.
-        platform_.windowManager.requestFrame(window_->winId());
-        window_->setView(content_.makeView());
+        platform_.windowManager.requestFrame(window->winId());
+        auto view = content_.makeView();
+        if (!view) return;
+        window->setView(std::move(view));
+        window_ = std::move(window);
     }
     wearTheme();
+    // A window manager takes no size for a window that it keeps as large as the screen.
+    if (window_->isVisible()) window_->showNormal();
     place();
     window_->showNormal();
     window_->raise();

@@ -19,9 +19,10 @@ class QuickStatisticsWindow final : public StatisticsWindow {
 public:
     /// What the window asks of the view that it shows.
     struct Content {
-        std::function<std::unique_ptr<QQuickItem>()> makeView;  ///< at each opening; fills the window
-        std::function<void()> disappeared;                      ///< the window was closed
-        std::function<void()> viewDestroyed;                    ///< some time after that
+        /// At each opening; fills the window. Without a view there is no window.
+        std::function<std::unique_ptr<QQuickItem>()> makeView;
+        std::function<void()> disappeared;    ///< the window was closed
+        std::function<void()> viewDestroyed;  ///< some time after that
     };
 
     /// `platform` and what it refers to, `theme` and `broadcaster` must outlive this object.

@@ -127,6 +127,27 @@ class ReportPdfWithBrandFontsTest(ReportPdfTest):
 
     fonts = FONTS
 
+    def cuts(self, case):
+        """The cuts in the file, without the mark of a font of which only some letters are in it."""
+        rows = output_of("pdffonts", self.path(case, ".pdf")).splitlines()[2:]
+        return {row.split()[0].split("+")[-1] for row in rows}
+
+    def test_every_text_is_drawn_in_the_cut_that_is_told(self):
+        if not list(Path(FONTS).glob("*.ttf")):
+            self.skipTest("the brand's typefaces could not be had")
+        always = {
+            "Fraunces-Regular",  # the name, the title
+            "Fraunces-Medium",  # labels and headings
+            "IBMPlexMono-Light",  # large figures
+            "IBMPlexMono-Regular",  # small ones, the foot
+            "IBMPlexMono-Medium",  # the period, the check marks
+            "Inter-Regular",  # names
+            "Inter-Light",  # the star
+        }
+        for case in CASES:
+            with self.subTest(case=case):
+                self.assertEqual(self.cuts(case), always)
+
 
 if __name__ == "__main__":
     unittest.main()

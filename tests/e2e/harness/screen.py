@@ -142,12 +142,21 @@ class Screen:
 
     def select_desktop(self, number):
         """Only for tests: asks the window manager, as a pager does."""
+        self._ask_window_manager(self._root, "_NET_CURRENT_DESKTOP", [number, X.CurrentTime, 0, 0, 0])
+
+    def add_states(self, window_id, *names):
+        """Only for tests: asks the window manager, as the buttons of a frame do ("_NET_WM_STATE_FULLSCREEN"); two at
+        most."""
+        add, from_a_pager = 1, 2
+        atoms = [self._display.intern_atom(name) for name in names]
+        window = self._display.create_resource_object("window", window_id)
+        self._ask_window_manager(window, "_NET_WM_STATE", [add, *(atoms + [0])[:2], from_a_pager, 0])
+
+    def _ask_window_manager(self, window, message_type, numbers):
         from Xlib.protocol import event
 
         message = event.ClientMessage(
-            window=self._root,
-            client_type=self._display.intern_atom("_NET_CURRENT_DESKTOP"),
-            data=(32, [number, X.CurrentTime, 0, 0, 0]),
+            window=window, client_type=self._display.intern_atom(message_type), data=(32, numbers)
         )
         self._root.send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
         self._display.flush()

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -25,7 +27,9 @@ protected:
                                     [this](const QString& path) { answers_.push_back(path.toStdString()); });
     }
 
-    void type(const QString& name) const { dialog_->findChild<QLineEdit*>("fileNameEdit")->setText(name); }
+    [[nodiscard]] QLineEdit& nameField() const { return *dialog_->findChild<QLineEdit*>("fileNameEdit"); }
+
+    void type(const QString& name) const { nameField().setText(name); }
 
     void press(QDialogButtonBox::StandardButton button) const {
         QTest::mouseClick(dialog_->findChild<QDialogButtonBox*>("buttonBox")->button(button), Qt::LeftButton);
@@ -74,6 +78,107 @@ TEST_F(SaveDialogTest, ANameWithoutAnExtensionGetsTheKindsOwn) {
     type("enero");
     press(QDialogButtonBox::Save);
     EXPECT_EQ(answers_, Answers{folder_.path() + "/enero.pdf"});
+}
+
+TEST_F(SaveDialogTest, AnyProposedNameIsShownAndGivenLetterByLetter) {
+    for (const std::string name : {
+             "tidewatch-Pantalla 27\".csv",
+             "tidewatch-\"Corto\".csv",
+             "tidewatch-\"a\" \"b\".csv",
+             "tidewatch-A-B.csv",
+             "tidewatch-.oculto.csv",
+             "tidewatch-...csv",
+             "tidewatch-..csv",
+             ".csv",
+             "~corto.csv",
+             "tidewatch-Uno\nDos\r\n.csv",
+             "tidewatch-\u2028.csv",
+             "tidewatch-ñandú e\u0301 映画 👨‍👩‍👧‍👦.csv",
+             "tidewatch-\u202Eשלום.csv",
+             "tidewatch- a\\b:c*d?e|f<g>h$i%20.csv",
+         }) {
+        present({"Exportar proyecto", name, SaveKind::csv});
+        EXPECT_EQ(nameField().text().toStdString(), name);
+        press(QDialogButtonBox::Save);
+        EXPECT_EQ(answers_, Answers{folder_.path() + "/" + name});
+        EXPECT_TRUE(isGone());
+        answers_.clear();
+    }
+}
+
+TEST_F(SaveDialogTest, AProposedNameThatIsTooLongIsShortenedSoThatTheFileCanBeWritten) {
+    std::string letters;
+    for (int i = 0; i < 200; ++i) letters += "ñ";
+    for (const std::string& name : {letters, std::string(50'000, 'x')}) {
+        present({"Exportar proyecto", "tidewatch-" + name + ".csv", SaveKind::csv});
+        press(QDialogButtonBox::Save);
+        ASSERT_EQ(answers_.size(), 1U);
+        EXPECT_TRUE(answers_[0].starts_with(folder_.path() + "/tidewatch-" + name.substr(0, 200)));
+        EXPECT_TRUE(answers_[0].ends_with(".csv"));
+        QFile file(QString::fromStdString(answers_[0]));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << answers_[0].size();
+        EXPECT_TRUE(isGone());
+        answers_.clear();
+    }
+}
+
+TEST_F(SaveDialogTest, ATypedNameWithQuotesIsOneName) {
+    present(csv_);
+    type("el \"bueno\"");
+    press(QDialogButtonBox::Save);
+    EXPECT_EQ(answers_, Answers{folder_.path() + "/el \"bueno\".csv"});
+}
+
+TEST_F(SaveDialogTest, ATypedNameWithADotGetsItsExtensionAndOneThatHasItKeepsIt) {
+    for (const auto& [typed, file] : {std::pair("v1.2", "v1.2.csv"), std::pair("v1.CSV", "v1.CSV")}) {
+        present(csv_);
+        type(typed);
+        press(QDialogButtonBox::Save);
+        EXPECT_EQ(answers_, Answers{folder_.path() + "/" + file});
+        EXPECT_TRUE(isGone());
+        answers_.clear();
+    }
+}
+
+TEST_F(SaveDialogTest, ATypedFolderIsEntered) {
+    QDir(QString::fromStdString(folder_.path())).mkdir("años \"80\"");
+    present(csv_);
+    type("años \"80\"");
+    press(QDialogButtonBox::Save);
+    EXPECT_EQ(answers_, Answers{});
+    EXPECT_TRUE(dialog_->isVisible());
+    EXPECT_EQ(dialog_->directory().path().toStdString(), folder_.path() + "/años \"80\"");
+    type("mine");
+    press(QDialogButtonBox::Save);
+    EXPECT_EQ(answers_, Answers{folder_.path() + "/años \"80\"/mine.csv"});
+}
+
+TEST_F(SaveDialogTest, ATypedPathIsTakenAsItIs) {
+    present(csv_);
+    type(QString::fromStdString(folder_.path() + "/sub/../mine"));
+    press(QDialogButtonBox::Save);
+    EXPECT_EQ(answers_, Answers{folder_.path() + "/mine.csv"});
+    EXPECT_TRUE(isGone());
+    present(csv_);
+    type("~/mine");
+    press(QDialogButtonBox::Save);
+    EXPECT_EQ(answers_.back(), QDir::homePath().toStdString() + "/mine.csv");
+}
+
+TEST_F(SaveDialogTest, TheReturnKeyInTheFieldSaves) {
+    present({"Exportar proyecto", "tidewatch-27\".csv", SaveKind::csv});
+    QTest::keyClick(&nameField(), Qt::Key_Return);
+    EXPECT_EQ(answers_, Answers{folder_.path() + "/tidewatch-27\".csv"});
+}
+
+TEST_F(SaveDialogTest, AFileWithQuotesThatIsThereIsAskedAboutToo) {
+    folder_.write("27\".csv", "old");
+    present({"Exportar proyecto", "27\".csv", SaveKind::csv});
+    answerNextQuestion(QMessageBox::No);
+    press(QDialogButtonBox::Save);
+    EXPECT_EQ(answers_, Answers{});
+    EXPECT_TRUE(dialog_->isVisible());
+    dialog_->reject();
 }
 
 TEST_F(SaveDialogTest, CancellingGivesNothing) {

@@ -96,6 +96,31 @@ TEST_F(StatisticsWindowTest, EachShowingCentresActivatesAndAnnouncesIt) {
     EXPECT_EQ(viewsMade_, 1);
 }
 
+TEST_F(StatisticsWindowTest, OneThatFillsTheScreenComesBackToItsOwnSize) {
+    window_.showWindow();
+    for (const auto state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+        shown()->setWindowStates(state);
+        window_.showWindow();
+        EXPECT_EQ(shown()->windowStates(), Qt::WindowNoState);
+        EXPECT_EQ(shown()->geometry(), QRect(280, 55, 1360, 1000));
+    }
+}
+
+TEST_F(StatisticsWindowTest, WithoutAViewThereIsNoWindowAndNothingElseHappens) {
+    QuickStatisticsWindow broken(machine_.platform, theme_, broadcaster_,
+                                 {.makeView = [] { return std::unique_ptr<QQuickItem>(); },
+                                  .disappeared = [this] { ++disappeared_; },
+                                  .viewDestroyed = [this] { ++destroyed_; }});
+    broken.showWindow();
+    EXPECT_FALSE(broken.isVisible());
+    EXPECT_EQ(shown(), nullptr);
+    EXPECT_EQ(announced_, 0);
+    theme_.switchTo("hacker");
+    broken.toggleWindow();
+    broken.close();
+    EXPECT_EQ(disappeared_, 0);
+}
+
 TEST_F(StatisticsWindowTest, IsOnTheScreenWhenItIsAnnounced) {
     bool visible = false;
     const auto watching =

@@ -1,0 +1,32 @@
+#include "shell/windows/file_name.h"
+
+#include <string>
+
+#include "base/characters.h"
+
+namespace tidewatch {
+
+namespace {
+
+constexpr std::size_t mostBytes = 255;
+constexpr std::size_t longestExtension = 8;
+
+/// From the last dot on; empty where what follows it is too long to be one.
+std::string_view extensionOf(std::string_view name) {
+    const auto dot = name.rfind('.');
+    if (dot == std::string_view::npos || name.size() - dot > longestExtension) return {};
+    return name.substr(dot);
+}
+
+}  // namespace
+
+std::string writableFileName(std::string_view name) {
+    std::string writable(name);
+    std::erase(writable, '\0');
+    if (writable.size() <= mostBytes) return writable;
+    const std::string extension(extensionOf(writable));
+    const auto stem = std::string_view(writable).substr(0, writable.size() - extension.size());
+    return std::string(charactersWithin(mostBytes - extension.size(), stem)) + extension;
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,23 @@
+#include "shell/windows/fitting_text.h"
+
+#include <QFontMetricsF>
+
+#include "base/characters.h"
+
+namespace tidewatch {
+
+namespace {
+
+/// More bytes than any line shows. The toolkit measures all of a text before it cuts it.
+constexpr std::size_t mostBytes = 4096;
+
+}  // namespace
+
+QString fittingLine(std::string_view text, const QFont& font, double width) {
+    const auto head = charactersWithin(mostBytes, text);
+    auto line = QString::fromStdString(onOneLine(head));
+    if (head.size() < text.size()) line += u'…';
+    return QFontMetricsF(font).elidedText(line, Qt::ElideRight, width);
+}
+
+}  // namespace tidewatch
