@@ -53,13 +53,13 @@ struct NativePlatform::Parts {
     SessionBus sessionBus{environment.sessionBusAddress()};
     X11Connection idleConnection;
     X11InputActivity inputActivity{idleConnection};
-    DesktopWorkspace workspace{AppId(ownIdentifier)};
+    DesktopWorkspace workspace{AppId(ownIdentifier), sessionBus, environment.inherited()};
     QtScreens screens;
     X11WindowManager windowManager;
     AutostartLoginItem loginItem{files, configDirectory(),
                                  QCoreApplication::applicationFilePath().toStdString()};
     LockedRunningInstance runningInstance{recordLock, log};
-    LinuxProcessEndings endings;
+    LinuxProcessEndings endings{[this] { preferences.sync(); }};
     SystemRandomness randomness;
     DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;

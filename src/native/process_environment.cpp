@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "platform/linux/bus_guard.h"
+#include "platform/linux/guarded_file.h"
 #include "platform/linux/session_probes.h"
 #include "platform/linux/stderr_log.h"
 #include "platform/linux/x11_connection.h"
@@ -21,8 +22,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int keptAllocations = 256 * 1024;  // bytes
-constexpr auto sessionPatience = 300ms;
+constexpr int keptAllocations = 256 * 1024;        // bytes
+constexpr std::size_t longestAnnouncement = 4096;  // bytes
+constexpr auto sessionPatience = 1s;
 
 /// Toolkit variables that are the user's own affair: how large, how it is typed and read aloud.
 constexpr std::array<std::string_view, 11> harmlessVariables = {
@@ -86,9 +88,10 @@ bool inputMethodAnswers() {
     const QDir announcements(configuration + "/ibus/bus");
     constexpr std::string_view key = "IBUS_ADDRESS=";
     for (const auto& name : announcements.entryList(QDir::Files)) {
-        QFile file(announcements.filePath(name));
-        if (!file.open(QIODevice::ReadOnly)) continue;
-        for (const auto& line : file.read(4096).split('\n')) {
+        const auto announced =
+            readRegularFile(announcements.filePath(name).toStdString(), longestAnnouncement);
+        if (!announced) continue;
+        for (const auto& line : QByteArray::fromStdString(announced.value()).split('\n')) {
             const auto text = line.trimmed().toStdString();
             if (text.starts_with(key) && !busAnswers(text.substr(key.size()), sessionPatience)) return false;
         }
@@ -109,12 +112,13 @@ struct ProcessEnvironment::Parts {
     BusGuard guard;
 };
 
-ProcessEnvironment::ProcessEnvironment() : parts_(std::make_unique<Parts>()) {
+ProcessEnvironment::ProcessEnvironment() {
     // The texts of a long record go through memory at every write. Above this size an allocation is the
     // kernel's own, and is gone when it is freed; left to itself, the allocator would keep the largest one
     // for ever.
     mallopt(M_MMAP_THRESHOLD, keptAllocations);
     mallopt(M_TRIM_THRESHOLD, keptAllocations);
+    parts_ = std::make_unique<Parts>();
 
     dropWhatChoosesCode(parts_->inherited);
     qputenv("QT_QPA_PLATFORM", "xcb");

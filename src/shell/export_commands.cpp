@@ -3,6 +3,8 @@
 #include <string_view>
 #include <utility>
 
+#include "shell/reveal_file.h"
+
 namespace tidewatch {
 namespace {
 
@@ -68,8 +70,12 @@ void ExportCommands::exportReport() {
         .kind = SaveKind::pdf,
     };
     to_.dialogs.chooseSaveLocation(request, [this](const std::string& path) {
-        static_cast<void>(to_.generateReport(path));
-        static_cast<void>(to_.workspace.reveal(path));
+        if (to_.generateReport(path)) {
+            revealFile(to_.workspace, to_.dialogs, path, "No se pudo mostrar el reporte");
+        } else {
+            // A report that could not be written is only logged; its place is shown all the same.
+            to_.workspace.reveal(path, [](const Outcome&) {});
+        }
     });
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "shell/reveal_file.h"
+
 namespace tidewatch {
 
 StatusCommands::StatusCommands(Targets targets) : to_(std::move(targets)) {}
@@ -48,9 +50,8 @@ void StatusCommands::showStats() {
 
 void StatusCommands::revealData() {
     writeDay();
-    if (const auto shown = to_.workspace.reveal(to_.services.days.dataFilePath()); !shown) {
-        to_.dialogs.warn("No se pudo mostrar el archivo de datos", shown.error().message);
-    }
+    revealFile(to_.workspace, to_.dialogs, to_.services.days.dataFilePath(),
+               "No se pudo mostrar el archivo de datos");
 }
 
 void StatusCommands::toggleLoginItem() {

@@ -117,7 +117,8 @@ TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
             return std::nullopt;
         }
         [[nodiscard]] std::string documentsDirectory() const override { return {}; }
-        Outcome reveal(const std::string&) override { return success(); }
+        [[nodiscard]] std::uint64_t registryRevision() const override { return 0; }
+        void reveal(const std::string&, std::function<void(const Outcome&)>) override {}
     } workspace;
     Settings settings(world.preferences);
     const DayRule dayRule(world.clock, settings);

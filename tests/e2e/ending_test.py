@@ -31,10 +31,23 @@ class Ending(unittest.TestCase):
     def test_the_loss_of_the_x_server_writes_the_day(self):
         lost = [r"X11 connection|XIO|xcb|display|X server|I/O error|IO error"]
         with World("ending-server", expected_warnings=lost) as world:
+            world.home.write_settings(
+                **{"gate.initialized": "true", "gate.ready": "false", "gate.workSeconds": 5, "gate.lockedUntil": 0}
+            )
             program = world.start_program()
             sleep_until(program.began.latest + 4)
             lost = Moment.of(lambda: (world.server.kill(), program.wait()))
             Lapse.between(program.began, lost).assert_counted(world.home.day_seconds())
+            # What is set on the way out has no other moment to reach the disk.
+            self.assertGreater(int(world.home.setting("gate.workSeconds")), 5)
+
+    def test_without_an_x_server_it_says_so_and_ends(self):
+        with World("ending-displayless", expected_warnings=["no X server answers"]) as world:
+            world.env["DISPLAY"] = f":{int(world.display[1:]) + 1000}"
+            program = world.start_program(wait_for_clock=False)
+            self.assertEqual(program.wait(30), 1)
+            self.assertEqual(len(program.log().splitlines()), 1, program.log())
+            self.assertFalse(world.home.data.exists())
 
     def test_the_clock_is_gone_at_once(self):
         with World("ending-quick") as world:

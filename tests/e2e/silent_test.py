@@ -117,6 +117,17 @@ class Silent(unittest.TestCase):
                 finally:
                     os.kill(bus, signal.SIGCONT)
 
+    def test_a_window_manager_that_is_stopped(self):
+        with World("silent-manager") as world:
+            program = self.start(world)
+            world.window_manager.send(signal.SIGSTOP)
+            try:
+                # The second start has the first one open the statistics window.
+                self.assertEqual(world.start_program(wait_for_clock=False).wait(SOON), 0)
+                self.assert_counts_and_ends(world, program)
+            finally:
+                world.window_manager.send(signal.SIGCONT)
+
     def test_a_session_manager_and_an_input_method_that_say_nothing(self):
         with World("silent-others") as world:
             manager = SilentBus(world.folder / "ice")

@@ -142,5 +142,16 @@ TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) 
     EXPECT_TRUE(surfaces_.warnings().empty());
 }
 
+TEST_F(ExportCommandsTest, AReportThatIsWrittenButCannotBeShownIsTold) {
+    reportsSucceed_ = true;
+    machine_.workspace.setRevealOutcome(Error{"no file manager"});
+    program_->exports.exportReport();
+    surfaces_.place("/home/user/enero.pdf");
+    EXPECT_EQ(
+        surfaces_.warnings(),
+        std::vector<std::string>{"No se pudo mostrar el reporte: No respondió ningún gestor de archivos. "
+                                 "El archivo está aquí:\n/home/user/enero.pdf"});
+}
+
 }  // namespace
 }  // namespace tidewatch

@@ -60,7 +60,7 @@ ShellWorld::Program::Program(ShellWorld& world)
           .generateReport =
               [&world](const std::string& path) {
                   world.reports_.push_back(path);
-                  return false;
+                  return world.reportsSucceed_;
               },
       }),
       delegate({

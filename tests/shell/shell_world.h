@@ -192,6 +192,7 @@ protected:
     platform::FakeMachine machine_;
     FakeSurfaces surfaces_;
     FakeStatisticsWindow statistics_;
+    bool reportsSucceed_ = false;
     std::vector<std::string> reports_;  ///< where the report of the month was to be written
     bool terminated_ = false;
 

@@ -74,8 +74,11 @@ TEST_F(StatusCommandsTest, RevealDataWritesTheDayAndShowsItsFile) {
 TEST_F(StatusCommandsTest, AFileThatCannotBeShownIsTold) {
     machine_.workspace.setRevealOutcome(Error{"no file manager"});
     ASSERT_TRUE(choose("Revelar archivo de datos"));
-    EXPECT_EQ(surfaces_.warnings(),
-              std::vector<std::string>{"No se pudo mostrar el archivo de datos: no file manager"});
+    EXPECT_EQ(
+        surfaces_.warnings(),
+        std::vector<std::string>{"No se pudo mostrar el archivo de datos: No respondió ningún gestor de "
+                                 "archivos. El archivo está aquí:\n" +
+                                 program_->services.days.dataFilePath()});
 }
 
 TEST_F(StatusCommandsTest, ToggleLoginItemRegistersAndUnregisters) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,8 +38,9 @@ public:
     /// Where the desktop keeps the user's documents, absolute; the home directory if it has no such folder.
     [[nodiscard]] virtual std::string documentsDirectory() const = 0;
 
-    /// Shows the file at the absolute `path` in the desktop's file manager.
-    virtual Outcome reveal(const std::string& path) = 0;
+    /// Shows the file at the absolute `path` in the desktop's file manager, and in nothing else. Returns at
+    /// once; `done` is told later what came of it.
+    virtual void reveal(const std::string& path, std::function<void(const Outcome&)> done) = 0;
 };
 
 }  // namespace tidewatch::platform

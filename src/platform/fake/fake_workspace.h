@@ -20,9 +20,9 @@ public:
     }
     [[nodiscard]] std::uint64_t registryRevision() const override { return revision_; }
     [[nodiscard]] std::string documentsDirectory() const override { return "/home/user/Documentos"; }
-    Outcome reveal(const std::string& path) override {
+    void reveal(const std::string& path, std::function<void(const Outcome&)> done) override {
         revealed_.push_back(path);
-        return revealOutcome_;
+        done(revealOutcome_);
     }
 
     void setFrontmost(std::optional<AppId> app) { front_ = std::move(app); }

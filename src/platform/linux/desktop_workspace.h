@@ -1,7 +1,11 @@
 #pragma once
 
+#include <QObject>
+#include <QProcessEnvironment>
+
 #include "platform/api/workspace.h"
 #include "platform/linux/desktop_entries.h"
+#include "platform/linux/session_bus.h"
 #include "platform/linux/x11_active_application.h"
 #include "platform/linux/x11_connection.h"
 
@@ -11,7 +15,8 @@ namespace tidewatch::platform {
 class DesktopWorkspace final : public Workspace {
 public:
     /// `own` is the identifier of this program's own windows.
-    explicit DesktopWorkspace(AppId own);
+    /// `bus` must outlive this object; `inherited` are the variables for programs that it starts.
+    DesktopWorkspace(AppId own, SessionBus& bus, QProcessEnvironment inherited);
 
     [[nodiscard]] std::optional<AppId> frontmostApplication() const override;
 
@@ -21,11 +26,17 @@ public:
 
     [[nodiscard]] std::string documentsDirectory() const override;
 
-    /// Through the file manager that answers on the session bus; else the folder is opened. Asks without
-    /// waiting: only what fails at once is told.
-    Outcome reveal(const std::string& path) override;
+    /// Through the file manager that answers on the session bus; else the folder is opened, if it is a file
+    /// manager that is registered for folders.
+    void reveal(const std::string& path, std::function<void(const Outcome&)> done) override;
 
 private:
+    [[nodiscard]] Outcome openFolderOf(const QString& file) const;
+    [[nodiscard]] bool foldersOpenInFileManager() const;
+
+    SessionBus& bus_;
+    const QProcessEnvironment inherited_;
+    QObject pendingCalls_;  // owns what waits for an answer
     X11Connection connection_;
     mutable DesktopEntries entries_;
     mutable X11ActiveApplication active_;

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <QGuiApplication>
+#include <QSessionManager>
 #include <QSocketNotifier>
 #include <cstdint>
 #include <cstdlib>
@@ -40,7 +41,7 @@ void exiting() {
 
 }  // namespace
 
-LinuxProcessEndings::LinuxProcessEndings() {
+LinuxProcessEndings::LinuxProcessEndings(std::function<void()> atTheEnd) : atTheEnd_(std::move(atTheEnd)) {
     displayLost() = nullptr;
 }
 
@@ -68,11 +69,19 @@ void LinuxProcessEndings::onAsked(std::function<void()> asked) {
 void LinuxProcessEndings::onSessionEnding(std::function<void()> saving) {
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp,
-        [saving = std::move(saving)](QSessionManager&) { saving(); }, Qt::DirectConnection);
+        [saving = std::move(saving)](QSessionManager& manager) {
+            // What starts with the session is the user's choice in the menu, and its one entry.
+            manager.setRestartHint(QSessionManager::RestartNever);
+            saving();
+        },
+        Qt::DirectConnection);
 }
 
 void LinuxProcessEndings::onDisplayLost(std::function<void()> lost) {
-    displayLost() = std::move(lost);
+    displayLost() = lost ? [this, lost = std::move(lost)] {
+        lost();
+        atTheEnd_();
+    } : std::function<void()>();
     // The toolkit answers the loss of its connection by calling exit(), deep inside its event loop.
     // Registered this late, the handler runs before what `lost` stands on is taken down.
     if (displayLost()) std::atexit(exiting);

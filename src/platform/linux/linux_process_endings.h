@@ -12,7 +12,9 @@ namespace tidewatch::platform {
 /// One instance in a process.
 class LinuxProcessEndings final : public ProcessEndings {
 public:
-    LinuxProcessEndings();
+    /// `atTheEnd` is called after what onDisplayLost() was given: the last moment to bring something to the
+    /// disk.
+    explicit LinuxProcessEndings(std::function<void()> atTheEnd);
     ~LinuxProcessEndings() override;
     LinuxProcessEndings(const LinuxProcessEndings&) = delete;
     LinuxProcessEndings& operator=(const LinuxProcessEndings&) = delete;
@@ -22,6 +24,7 @@ public:
     void onDisplayLost(std::function<void()> lost) override;
 
 private:
+    const std::function<void()> atTheEnd_;
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

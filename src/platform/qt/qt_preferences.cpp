@@ -71,6 +71,11 @@ void QtPreferences::remove(std::string_view key) {
     }
 }
 
+void QtPreferences::sync() {
+    const std::lock_guard lock(mutex_);
+    if (settings_) settings_->sync();
+}
+
 PreferenceValue QtPreferences::value(std::string_view key) const {
     const std::lock_guard lock(mutex_);
     const auto value = settings_ ? settings_->value(name(key)) : memory_.value(name(key));

@@ -34,6 +34,9 @@ public:
     void setText(std::string_view key, std::string_view value) override;
     void remove(std::string_view key) override;
 
+    /// Brings what was set to the disk now; for when the main loop will not turn again.
+    void sync();
+
 private:
     [[nodiscard]] PreferenceValue value(std::string_view key) const;
     void set(std::string_view key, const QVariant& value);

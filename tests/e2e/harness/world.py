@@ -58,7 +58,7 @@ class World:
             self._start_server()
             if self._wants_session_bus:
                 self.start_session_bus()
-            self.start("openbox", "--sm-disable")
+            self.window_manager = self.start("openbox", "--sm-disable")
             wait_until(self.screen.has_window_manager, "the window manager")
             if self._wants_accessibility:
                 self._start_accessibility()
@@ -206,10 +206,10 @@ class World:
 
     # The program
 
-    def start_program(self, wait_for_clock=True, environment=None):
+    def start_program(self, wait_for_clock=True, environment=None, arguments=()):
         """Starts another instance of the program, by default until its clock is on the screen."""
         number = len(self.programs) + 1
-        process = Process([PROGRAM], {**self.env, **(environment or {})}, self.folder / f"program-{number}.log")
+        process = Process([PROGRAM, *arguments], {**self.env, **(environment or {})}, self.folder / f"program-{number}.log")
         self._processes.append(process)
         self.programs.append(process)
         if wait_for_clock:
