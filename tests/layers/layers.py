@@ -99,7 +99,7 @@ BANNED_CPP = [
     (r"\b(getenv|secure_getenv|setenv|putenv|qgetenv|qputenv|qEnvironmentVariable\w*)\b|\bQProcessEnvironment\b",
      "reads the environment"),
     (r"\bQProcess\b|\b(popen|posix_spawn|execv\w*|execl\w*|fork)\s*\(|\bstd::system\b", "starts a process"),
-    (r"\bQ(MessageBox|ToolTip|WhatsThis|TextEdit|TextBrowser|TextDocument)\b|\bset(Html|Markdown|WhatsThis)\b|"
+    (r"\bQMessageBox::(about|critical|information|question|warning)\s*\(|\bQ(ToolTip|WhatsThis|TextEdit|TextBrowser|TextDocument)\b|\bset(Html|Markdown|WhatsThis)\b|"
      r"\bQt::(RichText|MarkdownText|AutoText)\b|\bsetToolTip\s*\((?!plainToolTip\()",
      "may take words for markup and fetch its pictures"),
 ]
@@ -117,7 +117,10 @@ QML_IMPORTS_BANNED = re.compile(
 # Left to themselves, these take for markup what looks like it.
 GUESSING_TEXTS = re.compile(r"(?<![\w.])(?:\w+\.)?(Text|TextEdit|TextArea|Label)\s*\{")
 PLAIN_TEXT = re.compile(r"\btextFormat:\s*Text(Edit)?\.PlainText\b")
-GUESSING_LABEL = re.compile(r"\bnew\s+QLabel\b|\bQLabel\s+\w+\s*[({;=]|\bmake_unique\s*<\s*QLabel\s*>")
+GUESSING_LABEL = re.compile(
+    r"\bnew\s+(?P<new>QLabel|QMessageBox)\b|\b(?P<own>QLabel|QMessageBox)\s+\w+\s*[({;=]|"
+    r"\bmake_unique\s*<\s*(?P<unique>QLabel|QMessageBox)\s*>"
+)
 PLAIN_LABEL = re.compile(r"\bsetTextFormat\s*\(\s*Qt::PlainText\s*\)")
 
 CPP_SUFFIXES = {".h", ".cpp", ".hpp", ".cc"}
@@ -271,11 +274,13 @@ def check_texts(path, code):
 
 
 def check_labels(path, code):
-    """The last of the labels of a file that makes more of them than it tells that their words are words."""
+    """The last label or question of a file that makes more of them than it tells that their words are words."""
     labels = list(GUESSING_LABEL.finditer(code))
     if len(labels) <= len(PLAIN_LABEL.findall(code)):
         return []
-    return [Violation(path, line_of(code, labels[-1].start()), "QLabel may take words for markup and fetch its pictures")]
+    last = labels[-1]
+    what = last["new"] or last["own"] or last["unique"]
+    return [Violation(path, line_of(code, last.start()), f"{what} may take words for markup and fetch its pictures")]
 
 
 def circle_in(graph):

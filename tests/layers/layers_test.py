@@ -261,6 +261,15 @@ class PlainWords(Tree):
                     "shell/windows/a.cpp:1: QLabel may take words for markup and fetch its pictures"
                 )
 
+    def test_a_question_that_guesses_its_format(self):
+        self.write("shell/windows/a.cpp", "QMessageBox box(this);")
+        self.assert_violation("shell/windows/a.cpp:1: QMessageBox may take words for markup and fetch its pictures")
+
+    def test_a_plain_question_is_allowed(self):
+        self.write("shell/windows/a.cpp", "#include <QMessageBox>", "QMessageBox box(this);",
+                   "box.setTextFormat(Qt::PlainText);", "return box.exec() == QMessageBox::Yes;")
+        self.assertEqual(self.violations(), [])
+
     def test_one_plain_label_does_not_answer_for_two(self):
         self.write("shell/windows/a.cpp", "auto* a = new QLabel(w);", "a->setTextFormat(Qt::PlainText);",
                    "auto* b = new QLabel(w);")
@@ -271,7 +280,7 @@ class PlainWords(Tree):
         self.assertEqual(self.violations(), [])
 
     def test_what_guesses_and_cannot_be_told(self):
-        for code in ("QMessageBox box;", "QToolTip::showText(p, w);", "edit->setHtml(w);", "a->setToolTip(words);",
+        for code in ("QMessageBox::warning(this, t, w);", "QToolTip::showText(p, w);", "edit->setHtml(w);", "a->setToolTip(words);",
                      "label->setTextFormat(Qt::AutoText);"):
             with self.subTest(code=code):
                 self.write("shell/windows/a.cpp", code)

@@ -157,8 +157,11 @@ private:
         const auto question =
             QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
                 .arg(fittingLine(QFileInfo(path).fileName().toStdString(), font(), questionWidth));
-        return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
-                                    QMessageBox::No) == QMessageBox::Yes;
+        QMessageBox box(QMessageBox::Warning, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                        this);
+        box.setTextFormat(Qt::PlainText);
+        box.setDefaultButton(QMessageBox::No);
+        return box.exec() == QMessageBox::Yes;
     }
 };
 
