@@ -75,7 +75,7 @@ TEST_F(ApplicationIconTest, ADrawingThatBringsItsPicturesIsShown) {
         written("icon.svg",
                 R"(<svg xmlns="http://www.w3.org/2000/svg" xmlns:xlink="http://www.w3.org/1999/xlink"
                               width="16" height="16"><rect id="a" width="16" height="16" fill="#00ff00"/>
-                              <image width="1" height="1" xlink:href="data:image/png;base64,"/>
+                              <image width="1" height="1" xlink:href="data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+M9QDwADhgGAWjR9awAAAABJRU5ErkJggg=="/>
                               <use xlink:href="#a"/></svg>)");
     EXPECT_FALSE(applicationIcon(path).isNull());
 }
