@@ -2,6 +2,7 @@
 
 import json
 import os
+import time
 import unittest
 
 from harness import worked_days as record
@@ -44,6 +45,7 @@ class Hostile(unittest.TestCase):
             before = world.home.day_seconds()
             program = world.start_program()
             world.open_terminal("pipe")
+            time.sleep(5)  # some ticks in front of it
             window = StatisticsWindow(world, program)
             window.open()
             window.tab(OVERVIEW)
