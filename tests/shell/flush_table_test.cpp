@@ -39,7 +39,7 @@ public:
 
     [[nodiscard]] Services& services() { return program_->services; }
     [[nodiscard]] AppDelegate& delegate() { return program_->delegate; }
-    [[nodiscard]] const platform::Platform& platform() const { return machine_.platform; }
+    using ShellWorld::platform;
     void clickStatusItem() { surfaces_.statusItem().click(StatusItem::Click::left); }
     void clickPanel() {
         surfaces_.panel().gestures().mouseDown({1, 1});
