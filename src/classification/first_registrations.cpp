@@ -6,7 +6,6 @@
 #include <string_view>
 #include <utility>
 
-#include "core/data_directory.h"
 #include "core/json_document.h"
 #include "core/json_writer.h"
 
@@ -41,7 +40,7 @@ std::optional<FirstRegistrations::Words> readWords(json::element value) {
     return words;
 }
 
-std::optional<Registrations> read(std::string text) {
+std::optional<Registrations> readRegistrations(std::string text) {
     const auto document = JsonDocument::parse(std::move(text));
     json::object object;
     if (!document || document->root().get_object().get(object) != simdjson::SUCCESS) return std::nullopt;
@@ -57,10 +56,8 @@ std::optional<Registrations> read(std::string text) {
 }  // namespace
 
 FirstRegistrations::FirstRegistrations(platform::FileSystem& files, platform::Log& log)
-    : files_(files), log_(log), filePath_(dataDirectory(files) + "/registered.json") {
-    if (auto text = files_.readWhole(filePath_)) {
-        words_ = read(std::move(text).value()).value_or(Registrations());
-    }
+    : file_(files, log, "registered.json", "Tidewatch: failed to write registered.json: ") {
+    if (auto registrations = file_.read(readRegistrations)) words_ = std::move(*registrations);
 }
 
 const FirstRegistrations::Words* FirstRegistrations::find(const AppId& app) const {
@@ -74,9 +71,7 @@ void FirstRegistrations::remember(const AppId& app, Words words) {
 }
 
 void FirstRegistrations::flush() {
-    if (!std::exchange(changed_, false)) return;
-    const auto outcome = files_.replaceAtomically(filePath_, written(words_));
-    if (!outcome) log_.warning("Tidewatch: failed to write registered.json: " + outcome.error().message);
+    if (std::exchange(changed_, false)) file_.write(written(words_));
 }
 
 }  // namespace tidewatch

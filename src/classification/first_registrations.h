@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/named_string.h"
+#include "core/record_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -18,8 +19,8 @@ class FirstRegistrations final {
 public:
     using Words = std::vector<std::string>;
 
-    /// Reads the file; one that is missing or cannot be read to the last value is empty. Both must outlive
-    /// it.
+    /// Reads the file; one that is missing or cannot be read to the last value is empty, and is set aside
+    /// before the first write. Both must outlive it.
     FirstRegistrations(platform::FileSystem& files, platform::Log& log);
 
     /// Null for an application not remembered. Valid until the next call of remember().
@@ -33,9 +34,7 @@ public:
     void flush();
 
 private:
-    platform::FileSystem& files_;
-    platform::Log& log_;
-    const std::string filePath_;
+    RecordFile file_;
     std::map<AppId, Words> words_;
     bool changed_ = false;
 };

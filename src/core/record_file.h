@@ -14,8 +14,8 @@ namespace tidewatch {
 ///
 /// Nothing that was not read is ever written over. A file that was there and could not be read, or was of
 /// another shape, is set aside before the first write, under its name with ".damaged-" and the day behind,
-/// and so, with ".other-", is what another process wrote while it had the directory; a line in the log tells
-/// it. Not safe from several threads; any one will do.
+/// and so, with ".other-", is what another process wrote while it had the directory; a line in the log says
+/// so. Not safe from several threads; any one will do.
 class RecordFile final {
 public:
     /// `failure` stands in the log before the reason why a write failed; without it such a failure is silent.

@@ -57,7 +57,7 @@ void TimerEngine::resetToday() {
 void TimerEngine::tick() {
     const auto before = std::tuple(liveSeconds_, todaySeconds_, status_);
 
-    if (const auto day = stores_.daily.dayKey(clock_.now()); day != currentDay_) moveToDay(day);
+    checkDay();
 
     const bool idle =
         idleMonitor_.secondsSinceLastInput() >= static_cast<double>(settings_.idleThresholdSeconds());
@@ -73,9 +73,15 @@ void TimerEngine::tick() {
         writeDay();
         flushStores();
         ticksSinceFlush_ = 0;
+        // The disk takes its time, and whoever comes after this tick goes by the clock.
+        checkDay();
     }
 
     if (before != std::tuple(liveSeconds_, todaySeconds_, status_)) changed.emit();
+}
+
+void TimerEngine::checkDay() {
+    if (const auto day = stores_.daily.dayKey(clock_.now()); day != currentDay_) moveToDay(day);
 }
 
 // The new day's counter is reloaded, not zeroed: it may be a day that already has time.

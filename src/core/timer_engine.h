@@ -68,6 +68,7 @@ public:
 
 private:
     void tick();
+    void checkDay();
     void moveToDay(const DayKey& day);
     void bookSecond();
     void bookToGames();

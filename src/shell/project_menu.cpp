@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "base/lower_case.h"
 #include "projects/project_color_palette.h"
 
 namespace tidewatch {
@@ -15,8 +16,7 @@ constexpr std::array<std::string_view, 8> colorTitles = {"Verde",  "Azul", "Ámb
                                                          "Morado", "Teal", "Naranja", "Rosa"};
 
 bool sameColor(std::string_view one, std::string_view other) {
-    const auto first = parseColorHex(one);
-    return first && first == parseColorHex(other);
+    return lowerCased(one) == lowerCased(other);
 }
 
 MenuRow colorMenu(const Project& project, ProjectCommands& commands) {

@@ -171,6 +171,22 @@ TEST_F(FirstRegistrationsTest, AnythingOfAnotherShapeReadsAsEmptyAndIsReplaced) 
     }
 }
 
+TEST_F(FirstRegistrationsTest, WhatCannotBeReadIsKeptBeforeItIsReplaced) {
+    world.files.put(registeredJson, R"({"chess":["Office"],})");
+    restart();
+    meetBoth();
+    store->flushRegistered();
+    EXPECT_EQ(world.files.content(registeredJson + ".damaged-2026-01-15"), R"({"chess":["Office"],})");
+    EXPECT_EQ(onDisk(), bothOnDisk);
+}
+
+TEST_F(FirstRegistrationsTest, NothingIsWrittenIntoAnotherInstancesDirectory) {
+    meetBoth();
+    world.files.setHold(platform::RecordHold::anothers);
+    store->flushRegistered();
+    EXPECT_THAT(world.files.writes(), IsEmpty());
+}
+
 TEST_F(FirstRegistrationsTest, WordsThatSayNothingAnyMoreGiveWayToTheDesktop) {
     world.files.put(registeredJson, R"({"chess":["X-Whatever"]})");
     restart();

@@ -139,6 +139,22 @@ TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
                 ElementsAre(AppSeconds{AppId("app2"), Seconds(1)}));
 }
 
+TEST_F(TimerEngineTest, MidnightDuringASlowFlushIsSeenBeforeTheTickIsOver) {
+    struct SlowDisk final : ProjectTimeListener {
+        platform::FakeClock& clock;
+        explicit SlowDisk(platform::FakeClock& theClock) : clock(theClock) {}
+        void bookSecond(const DayKey&) override {}
+        void flush() override { clock.setNow(sys_days(2026y / 1 / 16)); }
+    } disk(world.clock);
+    setTimeOfDay(24h - 31s);
+    auto& engine = start({nullptr, nullptr, &disk});
+    tick(29);
+    EXPECT_EQ(engine.todaySeconds(), Seconds(29));
+    tick();
+    EXPECT_EQ(engine.todaySeconds(), Seconds(0));
+    EXPECT_EQ(stored(today), Seconds(30));
+}
+
 TEST_F(TimerEngineTest, TheListenersAreToldInTheOrderOfTheTick) {
     Listeners listeners;
     start(listeners.all());

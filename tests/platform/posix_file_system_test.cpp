@@ -225,7 +225,7 @@ TEST_F(PosixFileSystemTest, AMissingDirectoryIsAnError) {
 }
 
 TEST_F(PosixFileSystemTest, TheUmaskChangesNothingOfWhatIsPrivate) {
-    for (const mode_t mask : {0000, 0777}) {
+    for (const mode_t mask : {0000U, 0777U}) {
         const Umask umask(mask);
         const auto folder = directory.path() + "/folder-" + std::to_string(mask);
         ASSERT_TRUE(files.createDirectories(folder));
@@ -300,7 +300,7 @@ TEST_F(PosixFileSystemTest, OfALinkItsTargetIsSetAsideAndTheLinkStays) {
 
 TEST_F(PosixFileSystemTest, AnExportKeepsTheModeOfTheFileThatIsThere) {
     write(file, "old");
-    for (const mode_t mode : {0640, 0666, 0444}) {
+    for (const mode_t mode : {0640U, 0666U, 0444U}) {
         ASSERT_EQ(::chmod(file.c_str(), mode), 0);
         const Umask umask(0077);
         EXPECT_FALSE(files.exportFile(file, "new"));
@@ -311,7 +311,7 @@ TEST_F(PosixFileSystemTest, AnExportKeepsTheModeOfTheFileThatIsThere) {
 }
 
 TEST_F(PosixFileSystemTest, ANewExportObeysTheUmask) {
-    for (const mode_t mask : {0022, 0007, 0077}) {
+    for (const mode_t mask : {0022U, 0007U, 0077U}) {
         const Umask umask(mask);
         const auto path = file + std::to_string(mask);
         EXPECT_FALSE(files.exportFile(path, "new"));

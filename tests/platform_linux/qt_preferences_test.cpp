@@ -4,6 +4,7 @@
 
 #include <sys/stat.h>
 
+#include <QCoreApplication>
 #include <filesystem>
 #include <memory>
 
@@ -74,6 +75,20 @@ TEST_F(QtPreferencesTest, AKeyWithASlashOrADotIsOneKey) {
     preferences().setInteger("gate.workSeconds", 7);
     startAgain();
     EXPECT_EQ(preferences().integer("gate.workSeconds"), 7);
+}
+
+TEST_F(QtPreferencesTest, ANamedPipeThatTakesItsPlaceMeanwhileStopsNeitherTheWritingNorTheEnd) {
+    const auto path = config_.path() + "/" + file;
+    preferences().setInteger("dayStartHour", 4);
+    preferences().sync();
+    ASSERT_TRUE(std::filesystem::remove(path));
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    preferences().setInteger("dayStartHour", 5);
+    QCoreApplication::processEvents();
+    preferences().sync();
+    EXPECT_EQ(preferences().integer("dayStartHour"), 5);
+    startAgain();
+    EXPECT_TRUE(std::filesystem::is_fifo(path));
 }
 
 class QtPreferencesWithoutAFileTest : public QtPreferencesTest {

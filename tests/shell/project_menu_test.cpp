@@ -84,6 +84,12 @@ TEST_F(ProjectMenuTest, ColoursInThePalettesOrderWithTheProjectsOwnCheckedInEith
     EXPECT_EQ(projects().project(id)->colorHex, "#D88FB7");
 }
 
+TEST_F(ProjectMenuTest, AColourWithoutItsHashSignIsNoneOfTheMenus) {
+    const auto id = projects().addProject("Uno").id;
+    projects().setColor("7BD88F", id);
+    for (const auto& row : rowsAt({"Proyecto", "Uno", "Cambiar color"})) EXPECT_FALSE(row.checked) << row.title;
+}
+
 TEST_F(ProjectMenuTest, ActivatingAndDeactivating) {
     const auto id = projects().addProject("Uno").id;
     ASSERT_TRUE(choose("Activar"));

@@ -181,7 +181,7 @@ void BusRelay::passGreeting() {
 void BusRelay::passOut(std::string_view bytes) {
     const auto message = BusMessage::read(bytes);
     if (!message || !message->wantsReply) {
-        // A bus that reads nothing is not told what is only news.
+        // Signals for a bus that reads nothing would only pile up.
         if (!message || message->type != BusMessage::Type::signal || !health_.isSilent()) toBus_ += bytes;
         return;
     }
@@ -222,9 +222,10 @@ void BusRelay::giveUp(std::uint32_t serial, Call& call) {
 }
 
 void BusRelay::endClient() {
+    // Also for one that was gone already: its last words may have begun a greeting.
+    greetingDeadline_.reset();
     if (std::exchange(clientGone_, true)) return;
     ::shutdown(client_.get(), SHUT_RDWR);
-    greetingDeadline_.reset();
 }
 
 }  // namespace tidewatch::platform

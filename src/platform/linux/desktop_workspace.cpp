@@ -43,6 +43,10 @@ std::optional<ApplicationInfo> DesktopWorkspace::applicationInfo(const AppId& ap
 }
 
 std::string DesktopWorkspace::documentsDirectory() const {
+    // The toolkit would wait for ever for a named pipe in the place of the file that names the user's folders.
+    const QFileInfo folders(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                            "/user-dirs.dirs");
+    if (folders.exists() && !folders.isFile()) return QDir::homePath().toStdString();
     const auto documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const bool exists = !documents.isEmpty() && QFileInfo(documents).isDir();
     return (exists ? documents : QDir::homePath()).toStdString();

@@ -94,7 +94,7 @@ Result<std::string> readRegularFile(const std::string& path, std::size_t maximal
     const auto announced = static_cast<std::size_t>(status.st_size);
     if (announced > maximalSize) return tooLarge(path, maximalSize);
 
-    // Room for the end of the file to be seen, and for what parsers want to lie behind a text.
+    // Room for the end of the file to be seen, and for the padding that parsers read past the end.
     constexpr std::size_t slack = 64;
     std::string content(announced + slack, '\0');
     std::size_t length = 0;

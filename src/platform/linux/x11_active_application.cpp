@@ -39,7 +39,9 @@ X11ActiveApplication::~X11ActiveApplication() = default;
 std::optional<AppId> X11ActiveApplication::current() {
     takeEvents();
     if (!connection_.alive()) return std::nullopt;
-    if (stale_) lookAgain();
+    // What changes during a look calls for another one.
+    constexpr int mostLooks = 3;
+    for (int looks = 0; stale_ && looks < mostLooks; ++looks) lookAgain();
     return application_;
 }
 

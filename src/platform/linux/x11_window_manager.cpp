@@ -22,7 +22,7 @@ constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
 /// Whoever asks in the name of the user, as a taskbar does, is not kept from taking the focus.
 constexpr std::uint32_t actsForTheUser = 2;
 
-/// What a desktop that is well needs far less than, and nobody notices.
+/// Far more than a healthy desktop needs, and too short to be noticed.
 constexpr auto framePatience = std::chrono::milliseconds(10);
 
 xcb_window_t xWindow(WindowHandle window) {

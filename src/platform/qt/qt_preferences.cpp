@@ -1,6 +1,5 @@
 #include "platform/qt/qt_preferences.h"
 
-#include <QFileInfo>
 #include <QVariant>
 
 namespace tidewatch::platform {
@@ -11,23 +10,22 @@ QString name(std::string_view key) {
     return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
 }
 
-// Whether the toolkit can open what has this name, or make it. It would wait for ever for a named pipe.
-bool canBeOpened(const QString& path) {
-    constexpr qint64 maximalSize = 1024 * 1024;
-    const QFileInfo info(path);
-    return !info.exists() || (info.isFile() && info.size() <= maximalSize);
-}
-
 }  // namespace
 
 QtPreferences::QtPreferences(const std::string& configDirectory, Log& log) {
     const auto path = QString::fromStdString(configDirectory) + "/brightlooms/tidewatch.conf";
-    if (canBeOpened(path) && canBeOpened(path + ".lock")) {
-        settings_.emplace(path, QSettings::NativeFormat);
+    if (PrivateSettings::canBeOpened(path)) {
+        settings_ = std::make_unique<PrivateSettings>(path);
     } else {
         log.warning("Tidewatch: " + path.toStdString() +
                     " is no ordinary file: the settings start from their defaults and are not kept");
     }
+}
+
+QtPreferences::~QtPreferences() {
+    // The toolkit's destructor would open the file once more.
+    const bool closes = !settings_ || PrivateSettings::canBeOpened(settings_->fileName());
+    if (!closes) static_cast<void>(settings_.release());
 }
 
 bool QtPreferences::contains(std::string_view key) const {

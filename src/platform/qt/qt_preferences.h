@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QVariantMap>
+#include <memory>
 #include <mutex>
-#include <optional>
 #include <string>
 
 #include "platform/api/log.h"
@@ -22,6 +22,7 @@ class QtPreferences final : public Preferences {
 public:
     /// `configDirectory` is the user's, absolute.
     QtPreferences(const std::string& configDirectory, Log& log);
+    ~QtPreferences() override;
 
     [[nodiscard]] bool contains(std::string_view key) const override;
     [[nodiscard]] bool boolean(std::string_view key) const override;
@@ -42,7 +43,7 @@ private:
     void set(std::string_view key, const QVariant& value);
 
     mutable std::mutex mutex_;
-    std::optional<PrivateSettings> settings_;
+    std::unique_ptr<PrivateSettings> settings_;
     QVariantMap memory_;  // in the place of the file
 };
 
