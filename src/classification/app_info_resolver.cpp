@@ -1,7 +1,5 @@
 #include "classification/app_info_resolver.h"
 
-#include <utility>
-
 #include "core/identifiers.h"
 
 namespace tidewatch {
@@ -14,21 +12,17 @@ AppInfo builtInGames() {
 }  // namespace
 
 const AppInfo& AppInfoResolver::info(const AppId& app) const {
-    const auto [answer, isNew] = answers_.try_emplace(app);
-    auto& [info, unknownAt] = answer->second;
-    if (isNew || (unknownAt && *unknownAt != workspace_.registryRevision())) answer->second = lookUp(app);
-    return info;
+    if (const auto known = known_.find(app); known != known_.end()) return known->second;
+    return known_.emplace(app, lookUp(app)).first->second;
 }
 
-AppInfoResolver::Answer AppInfoResolver::lookUp(const AppId& app) const {
-    if (app.text() == gamesApplicationId) return {builtInGames(), std::nullopt};
-    // Before the question: what changes in between is then asked for again.
-    const auto revision = workspace_.registryRevision();
+AppInfo AppInfoResolver::lookUp(const AppId& app) const {
+    if (app.text() == gamesApplicationId) return builtInGames();
     const auto registered = workspace_.applicationInfo(app);
-    if (!registered) return {{app.text(), std::nullopt}, revision};
+    if (!registered) return {app.text(), std::nullopt};
     AppInfo info{registered->name, std::nullopt};
     if (!registered->icon.empty()) info.icon = AppIcon{AppIcon::Source::desktop, registered->icon, ""};
-    return {std::move(info), std::nullopt};
+    return info;
 }
 
 }  // namespace tidewatch

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -29,27 +28,22 @@ struct AppInfo {
     bool operator==(const AppInfo&) const = default;
 };
 
-/// Turns identifiers into what the user sees. An application that was found is not looked up again in the
-/// life of this object; one that was not found is, once the desktop may have it. Main thread only.
+/// Turns identifiers into what the user sees. Each application is looked up once in the life of this object,
+/// so one that is installed later keeps the bare identifier as its name. Main thread only.
 class AppInfoResolver final {
 public:
     /// `workspace` must outlive it.
     explicit AppInfoResolver(const platform::Workspace& workspace) : workspace_(workspace) {}
 
-    /// An application that the desktop does not know goes by its identifier and has no icon. Valid as long as
-    /// the resolver; what it says changes when an application that was unknown has been installed.
+    /// An application that the desktop does not know goes by its identifier and has no icon. Valid as long
+    /// as the resolver.
     [[nodiscard]] const AppInfo& info(const AppId& app) const;
 
 private:
-    struct Answer {
-        AppInfo info;
-        std::optional<std::uint64_t> unknownAt;  ///< revision of the registry that did not have it
-    };
-
-    [[nodiscard]] Answer lookUp(const AppId& app) const;
+    [[nodiscard]] AppInfo lookUp(const AppId& app) const;
 
     const platform::Workspace& workspace_;
-    mutable std::unordered_map<AppId, Answer> answers_;
+    mutable std::unordered_map<AppId, AppInfo> known_;
 };
 
 }  // namespace tidewatch

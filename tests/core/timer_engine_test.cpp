@@ -595,8 +595,9 @@ TEST_F(TimerEngineTest, ItCanBeEndedByWhoeverListensToIt) {
 using TimerEngineDeathTest = TimerEngineTest;
 
 TEST_F(TimerEngineDeathTest, AnOverflowOfTheDayEndsTheProcess) {
-    world.files.put(world.todayJson, R"({"2026-01-15":9223372036854775807})");
     start();
+    rooms->daily.set(Seconds(std::numeric_limits<std::int64_t>::max()), tomorrow);
+    world.clock.setNow(sys_days(2026y / 1 / 16));
     EXPECT_DEATH(tick(), "overflow");
 }
 

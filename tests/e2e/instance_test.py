@@ -60,7 +60,7 @@ class Restart(unittest.TestCase):
             (first + second).assert_counted(world.home.application_seconds("WorkTerm"), before=4000)
 
     def test_a_garbled_record_is_an_empty_one(self):
-        with World("garbled") as world:
+        with World("garbled", expected_warnings=["could not be read; it is kept as"]) as world:
             world.home.write("today.json", '{"2020-02-03": 77,')
             world.home.write("apps.json", "[1, 2]")
             program = world.start_program()
@@ -68,6 +68,9 @@ class Restart(unittest.TestCase):
             world.stop_program(program)
             self.assertEqual(list(world.home.read("today.json")), [today()])
             self.assertEqual(world.home.read("apps.json"), {})
+            for name, content in (("today.json", '{"2020-02-03": 77,'), ("apps.json", "[1, 2]")):
+                kept = list(world.home.data.glob(f"{name}.damaged-*"))
+                self.assertEqual([file.read_text(encoding="utf-8") for file in kept], [content])
 
     def test_the_record_is_the_users_alone(self):
         with World("modes") as world:

@@ -11,6 +11,7 @@ from harness.home import today
 from harness.menu import Menu
 from harness.moments import Lapse, Moment
 from harness.screen import difference
+from harness.services import register_folder_opener
 from harness.waiting import stays, wait_until
 from harness.world import HEIGHT, WIDTH, World, sleep_until
 
@@ -262,6 +263,7 @@ class Commands(unittest.TestCase):
 
     def test_the_data_file_is_written_and_shown_in_the_file_manager(self):
         with running("reveal") as (world, menu):
+            register_folder_opener(world, "System;FileManager;")
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             wait_until(monitor.log, "the monitor to listen")
             menu.open_from_tray()

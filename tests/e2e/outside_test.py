@@ -60,7 +60,7 @@ class Hostile(unittest.TestCase):
 
 
 class Coming(unittest.TestCase):
-    def test_an_application_that_is_installed_gets_its_name_and_its_category_keeps_when_it_goes(self):
+    def test_an_application_that_is_installed_gets_its_category_and_keeps_it_when_it_goes(self):
         with World("outside-coming", accessibility=True) as world:
             world.home.write_settings(sizeScale=0.5, windowOriginX=20, windowOriginY=20)
             record.write(world.home)
@@ -75,12 +75,20 @@ class Coming(unittest.TestCase):
             fresh = entry.with_suffix(".new")
             fresh.write_text("[Desktop Entry]\nName=Misterio\nExec=true\nCategories=Game;\n", encoding="utf-8")
             fresh.rename(entry)
-            window.wait_for(lambda read: "Misterio, Distrayendo, Juegos, 42s, 2%" in rows(read), "the new name")
+            # Its name stays what it was told as, until the next start.
+            window.wait_for(lambda read: "mystery, Distrayendo, Juegos, 42s, 2%" in rows(read), "the new category")
             world.screenshot("installed")
             kept = world.home.data / "registered.json"
             wait_until(kept.exists, "what was registered on the disk")
             self.assertEqual(json.loads(kept.read_text(encoding="utf-8")), {"mystery": ["Game"]})
             self.assertEqual(kept.stat().st_mode & 0o777, 0o600)
+            world.stop_program(program)
+
+            program = world.start_program()
+            window = StatisticsWindow(world, program)
+            window.open()
+            window.select(DETAILS)
+            window.wait_for(lambda read: "Misterio, Distrayendo, Juegos, 42s, 2%" in rows(read), "the new name")
             world.stop_program(program)
 
             entry.unlink()

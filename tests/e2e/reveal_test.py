@@ -3,23 +3,9 @@
 import unittest
 
 from harness.menu import REVEAL, Menu
-from harness.services import FileManager
+from harness.services import FileManager, register_folder_opener
 from harness.waiting import stays, wait_until
 from harness.world import World
-
-LISTS = ".config/mimeapps.list"
-
-
-def register(world, categories):
-    """Makes one application the one that opens folders."""
-    applications = world.home.path / ".local/share/applications"
-    applications.mkdir(parents=True)
-    entry = f"[Desktop Entry]\nType=Application\nName=Opener\nExec=true\nCategories={categories}\n"
-    (applications / "com.example.Opener.desktop").write_text(entry, encoding="utf-8")
-    choice = world.home.path / LISTS
-    choice.parent.mkdir(parents=True, exist_ok=True)
-    choice.write_text("[Default Applications]\ninode/directory=com.example.Opener.desktop;\n", encoding="utf-8")
-
 
 class Reveal(unittest.TestCase):
     def world(self, name):
@@ -56,7 +42,7 @@ class Reveal(unittest.TestCase):
 
     def test_one_that_is_registered_for_folders_is_opened(self):
         world = self.world("registered")
-        register(world, "System;FileManager;")
+        register_folder_opener(world, "System;FileManager;")
         dialogs = self.reveal(world)
         wait_until(world.opened, "the folder")
         self.assertEqual(world.opened(), [f"file://{world.home.data}"])
@@ -64,7 +50,7 @@ class Reveal(unittest.TestCase):
 
     def test_a_web_browser_for_folders_is_not(self):
         world = self.world("browser")
-        register(world, "Network;WebBrowser;")
+        register_folder_opener(world, "Network;WebBrowser;")
         self.assert_alert(world, self.reveal(world))
 
     def test_without_any_an_alert_says_where_the_file_is(self):

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "platform/api/process_memory.h"
-#include "platform/api/window_manager.h"
 #include "shell/statistics_frame.h"
 #include "shell/style/qt_color.h"
 
@@ -70,9 +69,10 @@ void QuickStatisticsWindow::showWindow() {
         window_ = std::move(window);
     }
     wearTheme();
+    const auto target = placement();
     // A window manager takes no size for a window that it keeps as large as the screen.
     if (window_->isVisible()) window_->showNormal();
-    place();
+    window_->setGeometry(target);
     window_->showNormal();
     window_->raise();
     window_->requestActivate();
@@ -101,14 +101,18 @@ void QuickStatisticsWindow::wearTheme() {
                                                                 : platform::FrameShade::light);
 }
 
-void QuickStatisticsWindow::place() {
+QRect QuickStatisticsWindow::placement() {
     const auto frame = statisticsFrame(platform_.screens);
-    const auto margins = platform_.windowManager.frameMargins(window_->winId());
+    // A window that fills the screen has another frame until the window manager has taken it back.
+    const auto filling = Qt::WindowMaximized | Qt::WindowFullScreen;
+    if ((window_->windowStates() & filling) == 0 || !margins_) {
+        margins_ = platform_.windowManager.frameMargins(window_->winId());
+    }
+    const auto& margins = *margins_;
     const double ratio = window_->devicePixelRatio();
-    window_->setGeometry(QRectF(frame.x, frame.y, frame.width, frame.height)
-                             .adjusted(margins.left / ratio, margins.top / ratio, -margins.right / ratio,
-                                       -margins.bottom / ratio)
-                             .toRect());
+    return QRectF(frame.x, frame.y, frame.width, frame.height)
+        .adjusted(margins.left / ratio, margins.top / ratio, -margins.right / ratio, -margins.bottom / ratio)
+        .toRect();
 }
 
 void QuickStatisticsWindow::destroyRetired() {

@@ -5,9 +5,11 @@
 #include <QQuickWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "core/broadcaster.h"
 #include "platform/api/platform.h"
+#include "platform/api/window_manager.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 
@@ -38,7 +40,8 @@ private:
     class Frame;
 
     void wearTheme();
-    void place();
+    /// Where the window belongs, without its frame.
+    [[nodiscard]] QRect placement();
     void destroyRetired();
 
     const platform::Platform& platform_;
@@ -47,6 +50,7 @@ private:
     Content content_;
     Connection themeChanges_;
     std::unique_ptr<Frame> window_;
+    std::optional<platform::FrameMargins> margins_;  ///< of the window at its own size, once known
     /// Closed, often by its own view, which must have returned from that before it goes.
     std::unique_ptr<Frame> retired_;
     QObject retirement_;

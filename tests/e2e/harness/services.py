@@ -93,3 +93,14 @@ class FileManager(Service):
 
     def called(self, method, arguments):
         self.shown += arguments[0]
+
+
+def register_folder_opener(world, categories):
+    """Makes one application the one that opens folders."""
+    applications = world.home.path / ".local/share/applications"
+    applications.mkdir(parents=True, exist_ok=True)
+    entry = f"[Desktop Entry]\nType=Application\nName=Opener\nExec=true\nCategories={categories}\n"
+    (applications / "com.example.Opener.desktop").write_text(entry, encoding="utf-8")
+    choice = world.home.path / ".config/mimeapps.list"
+    choice.parent.mkdir(parents=True, exist_ok=True)
+    choice.write_text("[Default Applications]\ninode/directory=com.example.Opener.desktop;\n", encoding="utf-8")
