@@ -83,5 +83,22 @@ TEST(MemoryFileSystem, TruncatesAFile) {
     EXPECT_EQ(files.content("/d/f"), "ab");
 }
 
+TEST(MemoryFileSystem, TellsAFileFromTheOneThatReplacedIt) {
+    MemoryFileSystem files;
+    files.put("/home/user/a", "12345");
+    const auto first = files.inspect("/home/user/a").value();
+    EXPECT_EQ(first.kind, FileKind::file);
+    EXPECT_EQ(first.size, 5u);
+    EXPECT_EQ(files.inspect("/home/user/a").value(), first);
+    files.touch("/home/user/a");
+    const auto touched = files.inspect("/home/user/a").value();
+    EXPECT_EQ(touched.identity, first.identity);
+    EXPECT_NE(touched.modified, first.modified);
+    files.put("/home/user/a", "12345");
+    EXPECT_NE(files.inspect("/home/user/a").value().identity, first.identity);
+    EXPECT_EQ(files.inspect("/home/user").value().kind, FileKind::directory);
+    EXPECT_FALSE(files.inspect("/home/user/b"));
+}
+
 }  // namespace
 }  // namespace tidewatch::platform

@@ -1,5 +1,6 @@
 #include "platform/linux/posix_file_system.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -129,6 +130,33 @@ TEST_F(PosixFileSystemTest, AFileInTheDirectorysPlaceIsAnError) {
     const auto outcome = files.createDirectories(directory.path() + "/taken/deeper");
     ASSERT_FALSE(outcome);
     EXPECT_THAT(outcome.error().message, AllOf(HasSubstr("make directory"), HasSubstr("/taken")));
+}
+
+TEST_F(PosixFileSystemTest, AFileIsToldFromTheOneThatReplacedIt) {
+    write(file, "12345");
+    const timespec times[] = {{0, 0}, {1'768'467'600, 123'456'789}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+    const auto before = files.inspect(file).value();
+    EXPECT_EQ(before.kind, FileKind::file);
+    EXPECT_EQ(before.size, 5u);
+    EXPECT_EQ(before.modified.time_since_epoch(), std::chrono::nanoseconds(1'768'467'600'123'456'789));
+    EXPECT_EQ(files.inspect(file).value(), before);
+    ASSERT_TRUE(files.replaceAtomically(file, "12345"));
+    ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
+    const auto after = files.inspect(file).value();
+    EXPECT_EQ(after.modified, before.modified);
+    EXPECT_NE(after.identity, before.identity);
+}
+
+TEST_F(PosixFileSystemTest, ALinkIsInspectedAsWhatItLeadsTo) {
+    write(directory.path() + "/elsewhere", "12345");
+    fs::create_symlink(directory.path() + "/elsewhere", file);
+    EXPECT_EQ(files.inspect(file).value(), files.inspect(directory.path() + "/elsewhere").value());
+    EXPECT_EQ(files.inspect(directory.path()).value().kind, FileKind::directory);
+    ASSERT_EQ(::mkfifo((directory.path() + "/pipe").c_str(), 0600), 0);
+    EXPECT_EQ(files.inspect(directory.path() + "/pipe").value().kind, FileKind::other);
+    fs::remove(directory.path() + "/elsewhere");
+    EXPECT_EQ(files.inspect(file).error().message, "inspect " + file + ": No such file or directory");
 }
 
 TEST_F(PosixFileSystemTest, ANewFileIsForItsOwnerAlone) {

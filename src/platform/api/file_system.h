@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +32,29 @@ struct ExportFailure {
     std::string message;  ///< for the log: the operation, the path and the system's words
 };
 
+enum class FileKind {
+    file,  ///< a regular one
+    directory,
+    other,  ///< a pipe, a socket, a device
+};
+
+/// What tells one file from another without reading it.
+struct FileInfo {
+    /// The same as long as the file exists, whatever its name; another one after it was replaced.
+    struct Identity {
+        std::uint64_t device = 0;
+        std::uint64_t inode = 0;
+        bool operator==(const Identity&) const = default;
+    };
+
+    FileKind kind = FileKind::file;
+    std::uint64_t size = 0;  ///< bytes
+    std::chrono::sys_time<std::chrono::nanoseconds>
+        modified;  ///< of the content, as fine as the disk keeps it
+    Identity identity;
+    bool operator==(const FileInfo&) const = default;
+};
+
 /// The user's files. Paths are absolute, with '/' between names, and bytes: they need not be UTF-8. Safe from
 /// any thread.
 class FileSystem {
@@ -45,6 +70,9 @@ public:
 
     /// The whole content of a file.
     [[nodiscard]] virtual Result<std::string> readWhole(const std::string& path) const = 0;
+
+    /// What is found under the path; a symbolic link is followed, and one that leads nowhere is an error.
+    [[nodiscard]] virtual Result<FileInfo> inspect(const std::string& path) const = 0;
 
     /// To be asked before a file in `directory`, the data directory, is written. Makes the directory again if
     /// it is gone, with what keeps other instances out of it. If it is another process's by now, nothing in

@@ -36,7 +36,22 @@ Result<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
     const auto file = files_.find(path);
     if (file == files_.end()) return Error{"open " + path + ": No such file or directory"};
     if (unreadable_.contains(path)) return Error{"open " + path + ": Permission denied"};
-    return file->second;
+    return file->second.content;
+}
+
+Result<FileInfo> MemoryFileSystem::inspect(const std::string& path) const {
+    const std::lock_guard lock(mutex_);
+    FileInfo info;
+    if (directories_.contains(path)) {
+        info.kind = FileKind::directory;
+        return info;
+    }
+    const auto file = files_.find(path);
+    if (file == files_.end()) return Error{"inspect " + path + ": No such file or directory"};
+    info.size = file->second.content.size();
+    info.modified += std::chrono::nanoseconds(file->second.modified);
+    info.identity.inode = file->second.inode;
+    return info;
 }
 
 Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
@@ -49,7 +64,7 @@ Result<std::optional<std::string>> MemoryFileSystem::setAside(const std::string&
     const std::lock_guard lock(mutex_);
     auto file = files_.extract(path);
     if (file.empty()) return std::optional<std::string>();
-    if (file.mapped().empty()) {
+    if (file.mapped().content.empty()) {
         files_.insert(std::move(file));
         return std::optional<std::string>();
     }
@@ -77,8 +92,13 @@ Outcome MemoryFileSystem::write(const std::string& path, std::string_view conten
     if (const auto error = fault(content)) return *error;
     if (!directories_.contains(parentOf(path))) return Error{"open " + path + ": No such file or directory"};
     if (directories_.contains(path)) return Error{"rename " + path + ": Is a directory"};
-    files_[path] = content;
+    replace(path, content);
     return success();
+}
+
+void MemoryFileSystem::replace(const std::string& path, std::string_view content) {
+    ++changes_;
+    files_[path] = {std::string(content), changes_, changes_};
 }
 
 std::optional<Error> MemoryFileSystem::fault(std::string_view content) {
@@ -92,18 +112,25 @@ void MemoryFileSystem::put(const std::string& path, std::string_view content) {
     for (auto directory = parentOf(path); !directory.empty(); directory = parentOf(directory)) {
         directories_.insert(directory);
     }
-    files_[path] = content;
+    replace(path, content);
+}
+
+void MemoryFileSystem::touch(const std::string& path) {
+    const std::lock_guard lock(mutex_);
+    files_.at(path).modified = ++changes_;
 }
 
 void MemoryFileSystem::truncate(const std::string& path, std::size_t length) {
     const std::lock_guard lock(mutex_);
-    files_.at(path).resize(length);
+    auto& file = files_.at(path);
+    file.content.resize(length);
+    file.modified = ++changes_;
 }
 
 std::optional<std::string> MemoryFileSystem::content(const std::string& path) const {
     const std::lock_guard lock(mutex_);
     const auto file = files_.find(path);
-    return file == files_.end() ? std::nullopt : std::optional(file->second);
+    return file == files_.end() ? std::nullopt : std::optional(file->second.content);
 }
 
 bool MemoryFileSystem::hasDirectory(const std::string& path) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -19,6 +20,7 @@ public:
     [[nodiscard]] std::string homeDirectory() const override { return "/home/user"; }
     Outcome createDirectories(const std::string& path) override;
     [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
+    [[nodiscard]] Result<FileInfo> inspect(const std::string& path) const override;
     [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
     Outcome replaceAtomically(const std::string& path, std::string_view content) override;
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
@@ -26,8 +28,12 @@ public:
     [[nodiscard]] std::optional<ExportFailure> exportFile(const std::string& path,
                                                           std::string_view content) override;
 
-    /// Puts a file there, past all faults, with the directories above it.
+    /// Puts a file there, past all faults, with the directories above it. It is another file than the one
+    /// that was there.
     void put(const std::string& path, std::string_view content);
+
+    /// Somebody gives a file that exists another time, and leaves what it holds.
+    void touch(const std::string& path);
 
     /// Cuts a file that exists down to its first `length` bytes.
     void truncate(const std::string& path, std::size_t length);
@@ -66,12 +72,20 @@ public:
     [[nodiscard]] std::vector<std::string> exports() const;
 
 private:
+    struct File {
+        std::string content;
+        std::uint64_t inode;
+        std::uint64_t modified;  // in changes of any file since the first one
+    };
+
+    void replace(const std::string& path, std::string_view content);
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
     [[nodiscard]] Outcome write(const std::string& path, std::string_view content);
     [[nodiscard]] bool makeDirectories(const std::string& path);
 
     mutable std::mutex mutex_;
-    std::map<std::string, std::string> files_;
+    std::map<std::string, File> files_;
+    std::uint64_t changes_ = 0;
     std::set<std::string> directories_;
     std::set<std::string> unmakeable_;
     std::set<std::string> unreadable_;

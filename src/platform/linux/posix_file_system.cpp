@@ -47,6 +47,11 @@ mode_t modeAt(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 ? status.st_mode : 0;
 }
 
+FileKind kindOf(mode_t mode) {
+    if (S_ISREG(mode)) return FileKind::file;
+    return S_ISDIR(mode) ? FileKind::directory : FileKind::other;
+}
+
 // What is replaced without asking what it is: with the right to, also a device.
 bool isDevice(mode_t mode) {
     return S_ISCHR(mode) || S_ISBLK(mode);
@@ -124,6 +129,19 @@ Outcome PosixFileSystem::createDirectories(const std::string& path) {
 Result<std::string> PosixFileSystem::readWhole(const std::string& path) const {
     // A record is as long as its years: there is no size that it must not have.
     return readRegularFile(path, anySize);
+}
+
+Result<FileInfo> PosixFileSystem::inspect(const std::string& path) const {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return systemError("inspect", path);
+    const auto sinceEpoch =
+        std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+    return FileInfo{
+        .kind = kindOf(status.st_mode),
+        .size = static_cast<std::uint64_t>(status.st_size),
+        .modified = std::chrono::sys_time<std::chrono::nanoseconds>(sinceEpoch),
+        .identity = {.device = status.st_dev, .inode = status.st_ino},
+    };
 }
 
 RecordHold PosixFileSystem::holdRecord(const std::string& directory) {

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
     Outcome createDirectories(const std::string& path) override;
     [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
+    [[nodiscard]] Result<FileInfo> inspect(const std::string& path) const override;
     [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
     Outcome replaceAtomically(const std::string& path, std::string_view content) override;
 
