@@ -109,6 +109,9 @@ class World:
         self._screen = Screen(self.display)
         self.hands = Hands(self.env)
         self.hands.move(self._size[0] // 2, self._size[1] // 2)
+        # With the first synthetic key the server announces a keyboard, whereupon a window manager lets go of its keys
+        # for a moment and grabs them anew; so that comes before there is one.
+        self.hands.key("shift")
         root_colour = Process(
             ["xsetroot", "-solid", "#%02x%02x%02x" % BACKGROUND], self.env, self.folder / "xsetroot.log"
         )
