@@ -24,7 +24,7 @@
 #include "platform/fake/fake_randomness.h"
 #include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_preferences.h"
-#include "platform/linux/posix_file_system.h"
+#include "platform/posix/posix_file_system.h"
 #include "projects/active_project_booking.h"
 #include "projects/project_store.h"
 #include "projects/project_time_store.h"

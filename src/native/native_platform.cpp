@@ -4,24 +4,24 @@
 #include <QStandardPaths>
 
 #include "native/process_environment.h"
-#include "platform/linux/autostart_login_item.h"
-#include "platform/linux/desktop_notifications.h"
-#include "platform/linux/desktop_workspace.h"
-#include "platform/linux/directory_lock.h"
-#include "platform/linux/linux_process_endings.h"
+#include "platform/freedesktop/autostart_login_item.h"
+#include "platform/freedesktop/desktop_notifications.h"
+#include "platform/freedesktop/session_bus.h"
 #include "platform/linux/linux_process_memory.h"
-#include "platform/linux/locked_running_instance.h"
-#include "platform/linux/posix_file_system.h"
-#include "platform/linux/private_directory.h"
-#include "platform/linux/session_bus.h"
-#include "platform/linux/stderr_log.h"
-#include "platform/linux/system_randomness.h"
-#include "platform/linux/x11_input_activity.h"
-#include "platform/linux/x11_window_manager.h"
+#include "platform/posix/directory_lock.h"
+#include "platform/posix/locked_running_instance.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/posix_process_endings.h"
+#include "platform/posix/private_directory.h"
+#include "platform/posix/stderr_log.h"
+#include "platform/posix/system_randomness.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_screens.h"
+#include "platform/x11/desktop_workspace.h"
+#include "platform/x11/x11_input_activity.h"
+#include "platform/x11/x11_window_manager.h"
 
 namespace tidewatch::platform {
 
@@ -59,7 +59,7 @@ struct NativePlatform::Parts {
     AutostartLoginItem loginItem{files, configDirectory(),
                                  QCoreApplication::applicationFilePath().toStdString()};
     LockedRunningInstance runningInstance{recordLock, log};
-    LinuxProcessEndings endings{[this] { preferences.sync(); }};
+    PosixProcessEndings endings{[this] { preferences.sync(); }};
     SystemRandomness randomness;
     DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;

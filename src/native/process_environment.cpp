@@ -10,11 +10,11 @@
 #include <chrono>
 #include <string_view>
 
-#include "platform/linux/bus_guard.h"
-#include "platform/linux/guarded_file.h"
-#include "platform/linux/session_probes.h"
-#include "platform/linux/stderr_log.h"
-#include "platform/linux/x11_connection.h"
+#include "platform/freedesktop/bus_guard.h"
+#include "platform/freedesktop/session_probes.h"
+#include "platform/posix/guarded_file.h"
+#include "platform/posix/stderr_log.h"
+#include "platform/x11/x11_connection.h"
 
 namespace tidewatch::platform {
 

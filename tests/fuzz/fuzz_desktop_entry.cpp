@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/linux/desktop_entry.h"
+#include "platform/freedesktop/desktop_entry.h"
 #include "tests/fuzz/fuzz_target.h"
 
 namespace tidewatch::fuzz {

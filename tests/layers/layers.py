@@ -61,9 +61,14 @@ def rooms():
         "base": room(libraries="fmt utf8proc"),
         "platform/api": room("base"),
         "platform/fake": room("base platform/api", "fmt simdjson"),
-        "platform/linux": room("base platform/api", "fmt qt xcb system", machine=True),
-        "platform/qt": room("base platform/api", "fmt qt xcb system", machine=True),
-        "native": room("base platform/api platform/linux platform/qt", "qt system", machine=True),
+        "platform/posix": room("base platform/api", "fmt qt system", machine=True),
+        "platform/linux": room("base platform/api platform/posix", "fmt system", machine=True),
+        "platform/freedesktop": room("base platform/api platform/posix", "fmt qt system", machine=True),
+        "platform/x11": room("base platform/api platform/posix platform/linux platform/freedesktop",
+                             "fmt qt xcb system", machine=True),
+        "platform/qt": room("base platform/api", "fmt qt system", machine=True),
+        "native": room("base platform/api platform/posix platform/linux platform/freedesktop platform/x11 platform/qt",
+                       "qt system", machine=True),
         "main.cpp": room("platform/api native shell", "qt"),
     }
     below = "base platform/api"

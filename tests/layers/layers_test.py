@@ -36,7 +36,7 @@ class Includes(Tree):
         self.write("platform/api/clock.h", '#include "base/signal.h"')
         self.write("core/daily_store.h", '#include "platform/api/clock.h"', "#include <simdjson.h>")
         self.write("core/daily_store.cpp", '#include "core/daily_store.h"')
-        self.write("platform/linux/x11_clock.cpp", '#include "platform/api/clock.h"', "#include <xcb/xcb.h>",
+        self.write("platform/x11/x11_clock.cpp", '#include "platform/api/clock.h"', "#include <xcb/xcb.h>",
                    "#include <QTimer>", "#include <sys/stat.h>")
         self.write("shell/composition.cpp", '#include "core/daily_store.h"', "#include <QQuickView>")
         self.write("main.cpp", '#include "shell/composition.h"')
@@ -81,6 +81,18 @@ class Includes(Tree):
         self.write("core/a.h")
         self.write("platform/linux/b.cpp", '#include "core/a.h"')
         self.assert_violation('platform/linux/b.cpp:1: platform/linux must not know core ("core/a.h")')
+
+    def test_the_folders_of_the_platform_must_not_know_one_further_from_the_kernel(self):
+        self.write("platform/x11/a.h")
+        self.write("platform/freedesktop/b.h", '#include "platform/x11/a.h"')
+        self.write("platform/posix/c.h", '#include "platform/freedesktop/b.h"')
+        self.assertEqual(self.violations(), [
+            'platform/freedesktop/b.h:1: platform/freedesktop must not know platform/x11 ("platform/x11/a.h")',
+            'platform/posix/c.h:1: platform/posix must not know platform/freedesktop ("platform/freedesktop/b.h")'])
+
+    def test_only_one_folder_of_the_platform_knows_the_display_server(self):
+        self.write("platform/freedesktop/a.cpp", "#include <xcb/xcb.h>")
+        self.assert_violation("platform/freedesktop/a.cpp:1: platform/freedesktop must not know xcb (<xcb/xcb.h>)")
 
     def test_the_shell_must_not_know_the_native_platform(self):
         self.write("platform/linux/b.h")

@@ -3,7 +3,7 @@
 #include <sstream>
 #include <utility>
 
-#include "platform/linux/guarded_file.h"
+#include "platform/posix/guarded_file.h"
 
 namespace tidewatch::platform {
 

@@ -1,0 +1,64 @@
+#include "platform/freedesktop/autostart_login_item.h"
+
+#include <fmt/format.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <sstream>
+
+namespace tidewatch::platform {
+
+namespace {
+
+/// A program path as the Exec key wants it: in double quotes, what is special there escaped. The entry
+/// itself takes a backslash away, so each one is written twice.
+std::string quotedForExec(const std::string& path) {
+    std::string quoted = "\"";
+    for (const char c : path) {
+        if (c == '"' || c == '`' || c == '$') quoted += "\\\\";
+        if (c == '\\') quoted += "\\\\\\";
+        if (c == '%') quoted += '%';
+        quoted += c;
+    }
+    return quoted + '"';
+}
+
+}  // namespace
+
+AutostartLoginItem::AutostartLoginItem(FileSystem& files, const std::string& configDirectory,
+                                       std::string program)
+    : files_(files),
+      directory_(configDirectory + "/autostart"),
+      path_(directory_ + "/com.brightlooms.tidewatch.desktop"),
+      program_(std::move(program)) {}
+
+bool AutostartLoginItem::isEnabled() const {
+    const auto entry = files_.readWhole(path_);
+    if (!entry) return false;
+    std::istringstream lines(entry.value());
+    for (std::string line; std::getline(lines, line);) {
+        if (line == "Hidden=true" || line == "X-GNOME-Autostart-enabled=false") return false;
+    }
+    return true;
+}
+
+Outcome AutostartLoginItem::registerItem() {
+    if (auto made = files_.createDirectories(directory_); !made) return made;
+    const auto failure = files_.exportFile(path_, fmt::format("[Desktop Entry]\n"
+                                                              "Type=Application\n"
+                                                              "Name=Tidewatch\n"
+                                                              "Comment=Marca tu tiempo.\n"
+                                                              "Exec={}\n"
+                                                              "Icon=com.brightlooms.tidewatch\n"
+                                                              "X-GNOME-Autostart-enabled=true\n",
+                                                              quotedForExec(program_)));
+    return failure ? Outcome(Error{failure->message}) : success();
+}
+
+Outcome AutostartLoginItem::unregisterItem() {
+    if (std::remove(path_.c_str()) == 0 || errno == ENOENT) return success();
+    return Error{fmt::format("{}: {}", path_, std::strerror(errno))};
+}
+
+}  // namespace tidewatch::platform

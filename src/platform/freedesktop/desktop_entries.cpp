@@ -1,0 +1,137 @@
+#include "platform/freedesktop/desktop_entries.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+#include <utility>
+
+#include "platform/freedesktop/desktop_entry.h"
+#include "platform/posix/guarded_file.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::chrono::seconds betweenLooks(2);
+constexpr std::chrono::minutes betweenGrowths(1);
+
+std::string environment(const char* name, const std::string& otherwise) {
+    const char* value = std::getenv(name);
+    return value != nullptr && *value != '\0' ? value : otherwise;
+}
+
+// The files that an id can stand for: a dash in it stands for itself or for a step into a folder.
+class EntrySearch final {
+public:
+    // The text of the entry, nothing if there is none to be read.
+    std::optional<std::string> find(const std::string& folder, const std::string& id, int depth = 0) {
+        // An id is what a window says of itself: with links that lead back, a long one would have no end of
+        // ways.
+        constexpr int maximalTries = 200;
+        if (++tries_ > maximalTries) return std::nullopt;
+        if (auto text = readRegularFile(folder + "/" + id + ".desktop", maximalDesktopEntrySize)) {
+            return std::move(text).value();
+        }
+        if (depth == maximalDesktopEntryDepth) return std::nullopt;
+        for (auto dash = id.find('-'); dash != std::string::npos; dash = id.find('-', dash + 1)) {
+            if (++tries_ > maximalTries) return std::nullopt;
+            const auto name = id.substr(0, dash);
+            std::error_code error;
+            if (name.empty() || name == "." || name == ".." ||
+                !fs::is_directory(folder + "/" + name, error)) {
+                continue;
+            }
+            if (auto below = find(folder + "/" + name, id.substr(dash + 1), depth + 1)) return below;
+        }
+        return std::nullopt;
+    }
+
+private:
+    int tries_ = 0;
+};
+
+}  // namespace
+
+DesktopEntries::DesktopEntries(std::vector<std::string> folders, Now now)
+    : folders_(std::move(folders)), now_(std::move(now)), lastLook_(now_()), lastGrowth_(lastLook_) {
+    startReading();
+}
+
+DesktopEntries::~DesktopEntries() {
+    stop_ = true;
+    if (reading_.valid()) reading_.wait();
+}
+
+std::vector<std::string> DesktopEntries::standardFolders() {
+    std::vector<std::string> folders{environment("XDG_DATA_HOME", environment("HOME", "") + "/.local/share") +
+                                     "/applications"};
+    std::istringstream shared(environment("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
+    for (std::string folder; std::getline(shared, folder, ':');) {
+        if (!folder.empty()) folders.push_back(folder + "/applications");
+    }
+    return folders;
+}
+
+std::optional<std::string> DesktopEntries::idForWindow(std::string_view instance,
+                                                       std::string_view windowClass) {
+    takeWhatWasRead();
+    auto id = index_.idForWindow(instance, windowClass);
+    if (!id) lookAtFolders();
+    return id;
+}
+
+bool DesktopEntries::isReading() {
+    takeWhatWasRead();
+    return reading_.valid();
+}
+
+void DesktopEntries::waitUntilRead() {
+    if (reading_.valid()) reading_.wait();
+    takeWhatWasRead();
+}
+
+std::uint64_t DesktopEntries::revision() {
+    const auto now = now_();
+    if (now - lastLook_ >= betweenLooks) {
+        lastLook_ = now;
+        takeWhatWasRead();
+        lookAtFolders();
+        if (now - lastGrowth_ >= betweenGrowths) {
+            lastGrowth_ = now;
+            ++revision_;
+        }
+    }
+    return revision_;
+}
+
+std::optional<ApplicationInfo> DesktopEntries::info(const std::string& id, std::string_view locale) const {
+    if (id.find_first_of(std::string_view("/\0", 2)) != std::string::npos) return std::nullopt;
+    for (const auto& folder : folders_) {
+        const auto text = EntrySearch().find(folder, id);
+        if (!text) continue;
+        auto info = readDesktopEntry(*text, locale);
+        if (info && info->name.empty()) info->name = id;
+        return info;
+    }
+    return std::nullopt;
+}
+
+void DesktopEntries::lookAtFolders() {
+    if (reading_.valid() || index_.isCurrent()) return;
+    ++revision_;
+    startReading();
+}
+
+void DesktopEntries::startReading() {
+    reading_ = std::async(std::launch::async, [this] { return DesktopEntryIndex(folders_, stop_); });
+}
+
+void DesktopEntries::takeWhatWasRead() {
+    if (!reading_.valid() || reading_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return;
+    index_ = reading_.get();
+    ++revision_;
+}
+
+}  // namespace tidewatch::platform

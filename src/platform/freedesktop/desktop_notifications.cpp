@@ -1,0 +1,78 @@
+#include "platform/freedesktop/desktop_notifications.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QString>
+#include <QVariantMap>
+#include <utility>
+
+namespace tidewatch::platform {
+namespace {
+
+constexpr char service[] = "org.freedesktop.Notifications";
+constexpr char path[] = "/org/freedesktop/Notifications";
+
+constexpr char applicationName[] = "Tidewatch";
+constexpr char desktopFileId[] = "com.brightlooms.tidewatch";
+constexpr char soundName[] = "message-new-instant";
+
+constexpr uint replacesNone = 0;
+constexpr int expiresAsTheServiceLikes = -1;
+
+// The body of a desktop notification is markup.
+QDBusMessage notifyCall(const UserNotification& notification) {
+    auto call = QDBusMessage::createMethodCall(service, path, service, "Notify");
+    const QVariantMap hints{{"desktop-entry", desktopFileId}, {"sound-name", soundName}};
+    call << QString(applicationName) << replacesNone << QString(desktopFileId)
+         << QString::fromStdString(notification.title)
+         << QString::fromStdString(notification.body).toHtmlEscaped() << QStringList() << hints
+         << expiresAsTheServiceLikes;
+    return call;
+}
+
+Outcome outcomeOf(const QDBusPendingCall& call) {
+    const QDBusPendingReply<uint> reply = call;
+    if (!reply.isError()) return success();
+    return Error{(reply.error().name() + ": " + reply.error().message()).toStdString()};
+}
+
+}  // namespace
+
+DesktopNotifications::DesktopNotifications(SessionBus& bus, Log& log, std::chrono::milliseconds timeOut)
+    : bus_(bus), log_(log), timeOut_(timeOut) {}
+
+void DesktopNotifications::requestAuthorization(std::function<void(AuthorizationAnswer)> answered) {
+    QMetaObject::invokeMethod(
+        &pendingCalls_, [answered = std::move(answered)] { answered({.granted = true, .error = {}}); },
+        Qt::QueuedConnection);
+}
+
+void DesktopNotifications::deliver(const UserNotification& notification,
+                                   std::function<void(Outcome)> delivered) {
+    const auto bus = bus_.connection();
+    const auto call =
+        bus.isConnected()
+            ? bus.asyncCall(notifyCall(notification), static_cast<int>(timeOut_.count()))
+            : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, "there is no session bus"));
+    auto* watcher = new QDBusPendingCallWatcher(call, &pendingCalls_);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                     [watcher, delivered = std::move(delivered)] {
+                         watcher->deleteLater();
+                         delivered(outcomeOf(*watcher));
+                     });
+}
+
+void DesktopNotifications::deliverOlder(const UserNotification& notification) {
+    if (showOlder_) {
+        showOlder_(notification);
+    } else {
+        log_.warning("no service to show a notification: " + notification.title);
+    }
+}
+
+void DesktopNotifications::setOlderService(std::function<void(const UserNotification&)> show) {
+    showOlder_ = std::move(show);
+}
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,67 @@
+#include "platform/freedesktop/session_probes.h"
+
+#include <fmt/format.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <optional>
+
+#include "platform/freedesktop/bus_address.h"
+#include "platform/posix/file_descriptor.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+/// The first message on a session manager's connection, of either side: "my numbers have the low byte first".
+constexpr std::string_view byteOrder{"\0\1\0\0\0\0\0\0", 8};
+
+/// Whether the socket takes a connection at once and says anything to `greeting`.
+bool answers(const std::optional<LocalSocket>& where, std::string_view greeting,
+             std::chrono::milliseconds patience) {
+    if (!where) return false;
+    const FileDescriptor connection(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (::connect(connection.get(), reinterpret_cast<const sockaddr*>(&where->name), where->size) != 0)
+        return false;
+    if (::send(connection.get(), greeting.data(), greeting.size(), MSG_NOSIGNAL) < 0) return false;
+    pollfd answer{connection.get(), POLLIN, 0};
+    char first = 0;
+    return ::poll(&answer, 1, static_cast<int>(patience.count())) == 1 &&
+           ::recv(connection.get(), &first, 1, 0) == 1;
+}
+
+/// Of "local/host:@/tmp/.ICE-unix/1", "unix/host:/tmp/.ICE-unix/1"; what leads to another machine is nothing.
+std::optional<LocalSocket> socketOfManager(std::string_view manager) {
+    const auto colon = manager.find(':');
+    if (colon == std::string_view::npos) return std::nullopt;
+    if (!manager.starts_with("local/") && !manager.starts_with("unix/")) return std::nullopt;
+    const auto place = manager.substr(colon + 1);
+    if (place.starts_with('@')) return socketOfBus(fmt::format("unix:abstract={}", place.substr(1)));
+    return socketOfBus(fmt::format("unix:path={}", place));
+}
+
+}  // namespace
+
+std::string answeringSessionManagers(std::string_view managers, std::chrono::milliseconds patience) {
+    std::string answering;
+    while (!managers.empty()) {
+        const auto end = std::min(managers.find(','), managers.size());
+        const auto manager = managers.substr(0, end);
+        if (answers(socketOfManager(manager), byteOrder, patience)) {
+            if (!answering.empty()) answering += ',';
+            answering += manager;
+        }
+        managers.remove_prefix(std::min(end + 1, managers.size()));
+    }
+    return answering;
+}
+
+bool busAnswers(const std::string& address, std::chrono::milliseconds patience) {
+    // Names the ways to prove who one is.
+    constexpr std::string_view greeting{"\0AUTH\r\n", 7};
+    return answers(socketOfBus(address), greeting, patience);
+}
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,80 @@
+#include "platform/posix/file_replacement.h"
+
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "platform/posix/file_descriptor.h"
+#include "platform/posix/system_words.h"
+
+namespace tidewatch::platform {
+namespace {
+
+bool writeAll(int descriptor, std::string_view content) {
+    while (!content.empty()) {
+        const auto written = ::write(descriptor, content.data(), content.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written < 0) return false;
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+std::optional<std::string> linkTarget(const std::string& path) {
+    std::array<char, PATH_MAX> buffer{};
+    const auto length = ::readlink(path.c_str(), buffer.data(), buffer.size());
+    if (length <= 0) return std::nullopt;
+    const std::string target(buffer.data(), static_cast<std::size_t>(length));
+    return target.starts_with('/') ? target : path.substr(0, path.rfind('/') + 1) + target;
+}
+
+void syncDirectoryOf(const std::string& path) {
+    const auto directory = path.substr(0, path.rfind('/') + 1);
+    const FileDescriptor open(::open(directory.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (open.isOpen()) static_cast<void>(::fsync(open.get()));
+}
+
+}  // namespace
+
+std::string ReplacementFailure::message() const {
+    return fmt::format("{} {}: {}", step, path, systemWords(code));
+}
+
+std::string followedLinks(const std::string& path) {
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
+    if (real) return real.get();
+    constexpr int mostLinks = 40;
+    auto place = path;
+    for (int links = 0; links < mostLinks; ++links) {
+        auto next = linkTarget(place);
+        if (!next) return place;
+        place = *std::move(next);
+    }
+    return path;
+}
+
+std::optional<ReplacementFailure> replaceWith(int descriptor, const std::string& successor,
+                                              const std::string& target, std::string_view content) {
+    FileDescriptor file(descriptor);
+    const auto failed = [&](std::string_view step) {
+        const int code = errno;
+        ::unlink(successor.c_str());
+        return ReplacementFailure{step, successor, code};
+    };
+    if (!writeAll(file.get(), content)) return failed("write");
+    if (::fsync(file.get()) != 0) return failed("sync");
+    if (!file.close()) return failed("close");
+    if (std::rename(successor.c_str(), target.c_str()) != 0) return failed("rename");
+    syncDirectoryOf(target);
+    return std::nullopt;
+}
+
+}  // namespace tidewatch::platform

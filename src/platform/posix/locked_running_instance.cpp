@@ -1,0 +1,94 @@
+#include "platform/posix/locked_running_instance.h"
+
+#include <fmt/format.h>
+#include <unistd.h>
+
+#include <QMetaObject>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <algorithm>
+#include <thread>
+#include <utility>
+
+namespace tidewatch::platform {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr milliseconds pauseBetweenTries(50);
+constexpr milliseconds timeToEnd(20);
+
+}  // namespace
+
+LockedRunningInstance::LockedRunningInstance(DirectoryLock& lock, Log& log, milliseconds patience)
+    : lock_(lock), log_(log), patience_(patience) {}
+
+LockedRunningInstance::~LockedRunningInstance() {
+    lock_.lookAfter({}, {});
+    if (socket_ && lock_.isHeld()) ::unlink(ReopenSocket::pathIn(directory_).c_str());
+}
+
+InstanceClaim LockedRunningInstance::claim(const std::string& directory) {
+    directory_ = directory;
+    for (const auto end = Clock::now() + patience_;;) {
+        switch (lock_.take(directory)) {
+            case FileLock::State::held:
+                listen();
+                return InstanceClaim::first;
+            case FileLock::State::unavailable:
+                log_.warning(fmt::format(
+                    "Tidewatch: no lock could be made in {}; a second instance would not be noticed",
+                    directory));
+                return InstanceClaim::first;
+            case FileLock::State::heldByAnother:
+                break;
+        }
+        const auto left = std::chrono::duration_cast<milliseconds>(end - Clock::now());
+        if (ReopenSocket::askIn(directory, std::max(left, milliseconds()))) return InstanceClaim::handedOver;
+        if (Clock::now() >= end) return InstanceClaim::denied;
+        std::this_thread::sleep_for(pauseBetweenTries);
+    }
+}
+
+void LockedRunningInstance::listen() {
+    auto socket = ReopenSocket::listenIn(directory_);
+    if (!socket) {
+        lock_.lookAfter({}, {});
+        log_.warning("Tidewatch: a second start cannot be answered: " + socket.error().message);
+        return;
+    }
+    notifier_.reset();
+    socket_ = std::move(socket).value();
+    notifier_ = std::make_unique<QSocketNotifier>(socket_->descriptor(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [this] { takeRequests(); });
+    lock_.lookAfter(ReopenSocket::pathIn(directory_), [this] {
+        QMetaObject::invokeMethod(
+            &mainThread_, [this] { listenAgain(); }, Qt::QueuedConnection);
+    });
+}
+
+void LockedRunningInstance::listenAgain() {
+    // Several writes may have asked for it before it could be done.
+    const bool isBack = ::access(ReopenSocket::pathIn(directory_).c_str(), F_OK) == 0;
+    if (!isBack && lock_.isHeld()) listen();
+}
+
+void LockedRunningInstance::takeRequests() {
+    for (auto request = socket_->nextRequest(); request.isOpen(); request = socket_->nextRequest()) {
+        requests_.push_back(std::move(request));
+    }
+    // If this process has been asked to end as well, it will not come to the answer.
+    QTimer::singleShot(timeToEnd, &mainThread_, [this] { answerRequests(); });
+}
+
+void LockedRunningInstance::answerRequests() {
+    for (const auto& request : std::exchange(requests_, {})) {
+        ReopenSocket::answer(request);
+        if (reopen_) reopen_();
+    }
+}
+
+}  // namespace tidewatch::platform

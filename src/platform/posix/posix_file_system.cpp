@@ -1,0 +1,200 @@
+#include "platform/posix/posix_file_system.h"
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <optional>
+#include <utility>
+
+#include "platform/posix/directory_lock.h"
+#include "platform/posix/file_descriptor.h"
+#include "platform/posix/file_replacement.h"
+#include "platform/posix/guarded_file.h"
+#include "platform/posix/private_directory.h"
+#include "platform/posix/system_error_text.h"
+
+namespace tidewatch::platform {
+namespace {
+
+constexpr mode_t recordMode = 0600;
+constexpr mode_t newFileMode = 0666;  // less the umask
+constexpr int newFileFlags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+
+std::string userHomeDirectory() {
+    std::string home;
+    if (const char* variable = std::getenv("HOME"); variable && *variable == '/') {
+        home = variable;
+    } else if (const passwd* user = ::getpwuid(::getuid()); user && user->pw_dir) {
+        home = user->pw_dir;
+    }
+    while (home.ends_with('/')) home.pop_back();
+    return home;
+}
+
+// The mode of what has the name, 0 if nothing has.
+mode_t modeAt(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0 ? status.st_mode : 0;
+}
+
+FileKind kindOf(mode_t mode) {
+    if (S_ISREG(mode)) return FileKind::file;
+    return S_ISDIR(mode) ? FileKind::directory : FileKind::other;
+}
+
+// What is replaced without asking what it is: with the right to, also a device.
+bool isDevice(mode_t mode) {
+    return S_ISCHR(mode) || S_ISBLK(mode);
+}
+
+std::string today() {
+    const auto now = std::time(nullptr);
+    std::tm day{};
+    ::localtime_r(&now, &day);
+    return fmt::format("{:04}-{:02}-{:02}", day.tm_year + 1900, day.tm_mon + 1, day.tm_mday);
+}
+
+// False, with EEXIST, if something has the name.
+bool renameToFree(const std::string& from, const std::string& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return true;
+    if (errno != EINVAL) return false;
+    // Some file systems cannot look and rename at once.
+    struct stat status {};
+    if (::lstat(to.c_str(), &status) == 0) {
+        errno = EEXIST;
+        return false;
+    }
+    return std::rename(from.c_str(), to.c_str()) == 0;
+}
+
+ExportFault faultOf(int code) {
+    struct Row {
+        int code;
+        ExportFault fault;
+    };
+    constexpr std::array rows{
+        Row{EACCES, ExportFault::noPermission},  Row{EPERM, ExportFault::noPermission},
+        Row{EROFS, ExportFault::readOnlyDisk},   Row{ENOSPC, ExportFault::noSpace},
+        Row{EDQUOT, ExportFault::noSpace},       Row{EFBIG, ExportFault::noSpace},
+        Row{ENOENT, ExportFault::folderMissing}, Row{ENOTDIR, ExportFault::folderMissing},
+        Row{EISDIR, ExportFault::notAFile},      Row{ENAMETOOLONG, ExportFault::nameTooLong},
+    };
+    const auto* row = std::ranges::find(rows, code, &Row::code);
+    return row == rows.end() ? ExportFault::other : row->fault;
+}
+
+ExportFailure exportFailure(const ReplacementFailure& failure) {
+    return {faultOf(failure.code), failure.message()};
+}
+
+struct NewFile {
+    int descriptor;
+    std::string path;
+};
+
+// A new file in the directory of `target`, hidden, under a name that nobody can foresee.
+NewFile makeHiddenNeighbour(const std::string& target, mode_t mode) {
+    const auto directory = target.substr(0, target.rfind('/') + 1);
+    NewFile file{-1, {}};
+    do {
+        std::uint64_t random = 0;
+        static_cast<void>(::getrandom(&random, sizeof random, 0));
+        file.path = fmt::format("{}.tidewatch-{:016x}", directory, random);
+        file.descriptor = ::open(file.path.c_str(), newFileFlags, mode);
+    } while (file.descriptor < 0 && errno == EEXIST);
+    return file;
+}
+
+}  // namespace
+
+PosixFileSystem::PosixFileSystem(DirectoryLock* lock) : PosixFileSystem(userHomeDirectory(), lock) {}
+
+PosixFileSystem::PosixFileSystem(std::string homeDirectory, DirectoryLock* lock)
+    : home_(std::move(homeDirectory)), lock_(lock) {}
+
+Outcome PosixFileSystem::createDirectories(const std::string& path) {
+    return makePrivateDirectories(path);
+}
+
+Result<std::string> PosixFileSystem::readWhole(const std::string& path) const {
+    // A record is as long as its years: there is no size that it must not have.
+    return readRegularFile(path, anySize);
+}
+
+Result<FileInfo> PosixFileSystem::inspect(const std::string& path) const {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return systemError("inspect", path);
+    const auto sinceEpoch =
+        std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
+    return FileInfo{
+        .kind = kindOf(status.st_mode),
+        .size = static_cast<std::uint64_t>(status.st_size),
+        .modified = std::chrono::sys_time<std::chrono::nanoseconds>(sinceEpoch),
+        .identity = {.device = status.st_dev, .inode = status.st_ino},
+    };
+}
+
+RecordHold PosixFileSystem::holdRecord(const std::string& directory) {
+    if (lock_) return lock_->ensure();
+    // What cannot be made shows in the write that follows.
+    if (modeAt(directory) == 0) static_cast<void>(createDirectories(directory));
+    return RecordHold::ours;
+}
+
+Outcome PosixFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
+    const auto target = followedLinks(path);
+    if (isDevice(modeAt(target))) return Error{"replace " + target + ": a device"};
+    const auto successor = target + ".tmp";
+    // What a killed writer left may be anything by now; a new file is nobody else's.
+    ::unlink(successor.c_str());
+    const int descriptor = ::open(successor.c_str(), newFileFlags, recordMode);
+    if (descriptor < 0) return systemError("open", successor);
+    static_cast<void>(::fchmod(descriptor, recordMode));  // The umask may have taken the owner's own rights.
+    if (const auto failure = replaceWith(descriptor, successor, target, content)) {
+        return Error{failure->message()};
+    }
+    return success();
+}
+
+Result<std::optional<std::string>> PosixFileSystem::setAside(const std::string& path, std::string_view mark) {
+    const auto place = followedLinks(path);
+    struct stat status {};
+    const bool isThere = ::lstat(place.c_str(), &status) == 0;
+    if (!isThere || isDevice(status.st_mode) || (S_ISREG(status.st_mode) && status.st_size == 0)) {
+        return std::optional<std::string>();
+    }
+    const auto name = fmt::format("{}.{}-{}", place, mark, today());
+    auto free = name;
+    for (int number = 2; !renameToFree(place, free); ++number) {
+        if (errno != EEXIST) return systemError("rename", place);
+        free = fmt::format("{}-{}", name, number);
+    }
+    return std::optional(free);
+}
+
+std::optional<ExportFailure> PosixFileSystem::exportFile(const std::string& path, std::string_view content) {
+    const auto target = followedLinks(path);
+    const auto before = modeAt(target);
+    if (before != 0 && !S_ISREG(before)) {
+        return ExportFailure{ExportFault::notAFile, "replace " + target + ": not a regular file"};
+    }
+    const auto successor = makeHiddenNeighbour(target, before == 0 ? newFileMode : recordMode);
+    if (successor.descriptor < 0) return exportFailure({"open", target, errno});
+    if (before != 0) static_cast<void>(::fchmod(successor.descriptor, before & 07777));
+    auto failure = replaceWith(successor.descriptor, successor.path, target, content);
+    if (!failure) return std::nullopt;
+    failure->path = target;  // The user's word for it; the other name is gone.
+    return exportFailure(*failure);
+}
+
+}  // namespace tidewatch::platform

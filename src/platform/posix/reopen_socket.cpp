@@ -1,0 +1,92 @@
+#include "platform/posix/reopen_socket.h"
+
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+
+#include "platform/posix/system_words.h"
+
+namespace tidewatch::platform {
+namespace {
+
+constexpr std::string_view name = "reopen.socket";
+constexpr std::string_view acknowledgement = "ok";
+constexpr int mostWaiting = 16;
+
+int newSocket() {
+    return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+// The address of the socket in a directory. Of one whose name is too long the open directory is named, as
+// the kernel shows it to this process; the address is good as long as this object.
+class Address final {
+public:
+    explicit Address(const std::string& directory) : directory_(-1) {
+        address_.sun_family = AF_UNIX;
+        if (put(ReopenSocket::pathIn(directory))) return;
+        directory_ = FileDescriptor(::open(directory.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        put(fmt::format("/proc/self/fd/{}/{}", directory_.get(), name));
+    }
+
+    [[nodiscard]] const sockaddr* get() const { return reinterpret_cast<const sockaddr*>(&address_); }
+    [[nodiscard]] static socklen_t size() { return sizeof(sockaddr_un); }
+
+private:
+    bool put(const std::string& path) {
+        if (path.size() >= sizeof address_.sun_path) return false;
+        std::ranges::copy(path, address_.sun_path);
+        return true;
+    }
+
+    FileDescriptor directory_;
+    sockaddr_un address_{};
+};
+
+}  // namespace
+
+std::string ReopenSocket::pathIn(const std::string& directory) {
+    return fmt::format("{}/{}", directory, name);
+}
+
+Result<std::unique_ptr<ReopenSocket>> ReopenSocket::listenIn(const std::string& directory) {
+    auto socket = std::make_unique<ReopenSocket>(newSocket());
+    const int descriptor = socket->descriptor();
+    // Whoever left a socket here is gone: the lock is ours.
+    ::unlink(pathIn(directory).c_str());
+    const Address address(directory);
+    ::fchmod(descriptor, 0600);
+    if (::bind(descriptor, address.get(), Address::size()) != 0 || ::listen(descriptor, mostWaiting) != 0) {
+        return Error{systemWords(errno)};
+    }
+    return socket;
+}
+
+FileDescriptor ReopenSocket::nextRequest() const {
+    return FileDescriptor(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+}
+
+void ReopenSocket::answer(const FileDescriptor& request) {
+    // Whoever does not wait for the answer is none the worse for it.
+    static_cast<void>(::send(request.get(), acknowledgement.data(), acknowledgement.size(), MSG_NOSIGNAL));
+}
+
+bool ReopenSocket::askIn(const std::string& directory, std::chrono::milliseconds patience) {
+    const FileDescriptor socket(newSocket());
+    const Address address(directory);
+    if (::connect(socket.get(), address.get(), Address::size()) != 0) return false;
+    pollfd answer{socket.get(), POLLIN, 0};
+    if (::poll(&answer, 1, static_cast<int>(patience.count())) <= 0) return false;
+    std::array<char, acknowledgement.size()> said{};
+    return ::recv(socket.get(), said.data(), said.size(), 0) > 0;
+}
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,100 @@
+#include "platform/x11/desktop_workspace.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDir>
+#include <QFileInfo>
+#include <QLocale>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+#include <algorithm>
+#include <utility>
+
+#include "platform/freedesktop/folder_handlers.h"
+#include "platform/posix/guarded_file.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+constexpr char fileManager[] = "org.freedesktop.FileManager1";
+constexpr char fileManagerPath[] = "/org/freedesktop/FileManager1";
+constexpr char fileManagerCategory[] = "FileManager";
+constexpr int fileManagerPatience = 10'000;       // milliseconds: it may have to be started first
+constexpr std::size_t longestList = 1024 * 1024;  // bytes
+
+}  // namespace
+
+DesktopWorkspace::DesktopWorkspace(AppId own, SessionBus& bus, QProcessEnvironment inherited)
+    : bus_(bus),
+      inherited_(std::move(inherited)),
+      entries_(DesktopEntries::standardFolders()),
+      active_(connection_, entries_, std::move(own)) {}
+
+std::optional<AppId> DesktopWorkspace::frontmostApplication() const {
+    return active_.current();
+}
+
+std::optional<ApplicationInfo> DesktopWorkspace::applicationInfo(const AppId& app) const {
+    return entries_.info(app.text(), QLocale::system().name().toStdString());
+}
+
+std::string DesktopWorkspace::documentsDirectory() const {
+    // The toolkit would wait for ever for a named pipe in the place of the file that names the user's
+    // folders.
+    const QFileInfo folders(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+                            "/user-dirs.dirs");
+    if (folders.exists() && !folders.isFile()) return QDir::homePath().toStdString();
+    const auto documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const bool exists = !documents.isEmpty() && QFileInfo(documents).isDir();
+    return (exists ? documents : QDir::homePath()).toStdString();
+}
+
+void DesktopWorkspace::reveal(const std::string& path, std::function<void(const Outcome&)> done) {
+    const auto file = QString::fromStdString(path);
+    auto message = QDBusMessage::createMethodCall(fileManager, fileManagerPath, fileManager, "ShowItems");
+    message << QStringList{QUrl::fromLocalFile(file).toString()} << QString();
+    const auto bus = bus_.connection();
+    const auto call =
+        bus.isConnected()
+            ? bus.asyncCall(message, fileManagerPatience)
+            : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, "no session bus"));
+    auto* watcher = new QDBusPendingCallWatcher(call, &pendingCalls_);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
+                     [this, watcher, file, done = std::move(done)] {
+                         watcher->deleteLater();
+                         done(watcher->isError() ? openFolderOf(file) : success());
+                     });
+}
+
+Outcome DesktopWorkspace::openFolderOf(const QString& file) const {
+    if (!foldersOpenInFileManager()) return Error{"no file manager is registered for folders"};
+    QProcess opener;
+    opener.setProgram("xdg-open");
+    opener.setArguments({QUrl::fromLocalFile(QFileInfo(file).absolutePath()).toString()});
+    opener.setProcessEnvironment(inherited_);
+    opener.setStandardOutputFile(QProcess::nullDevice());
+    opener.setStandardErrorFile(QProcess::nullDevice());
+    return opener.startDetached() ? success() : Error{"xdg-open could not be started"};
+}
+
+/// A desktop without a file manager opens folders in whatever shows files of any kind, a web browser above
+/// all.
+bool DesktopWorkspace::foldersOpenInFileManager() const {
+    for (const auto& list : standardRegistrationLists()) {
+        const auto text = readRegularFile(list, longestList);
+        if (!text) continue;
+        for (const auto& id : folderHandlers(text.value())) {
+            if (const auto handler = applicationInfo(AppId(id))) {
+                return std::ranges::find(handler->categories, fileManagerCategory) !=
+                       handler->categories.end();
+            }
+        }
+    }
+    return false;
+}
+
+}  // namespace tidewatch::platform

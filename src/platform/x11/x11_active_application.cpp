@@ -1,0 +1,131 @@
+#include "platform/x11/x11_active_application.h"
+
+#include <unistd.h>
+#include <xcb/res.h>
+
+#include <QSocketNotifier>
+#include <utility>
+
+#include "platform/linux/process_identity.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+constexpr std::uint32_t nothing = 0;
+constexpr std::uint32_t itsProperties = XCB_EVENT_MASK_PROPERTY_CHANGE;
+constexpr std::uint32_t itsPropertiesAndEnd =
+    XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+
+}  // namespace
+
+X11ActiveApplication::X11ActiveApplication(const X11Connection& connection, DesktopEntries& entries,
+                                           AppId own)
+    : connection_(connection),
+      entries_(entries),
+      own_(std::move(own)),
+      activeWindowAtom_(connection.atom("_NET_ACTIVE_WINDOW")),
+      applicationIdAtom_(connection.atom("_GTK_APPLICATION_ID")),
+      canAskForProcess_(connection.hasExtension(&xcb_res_id)) {
+    if (!connection_.alive()) return;
+    setWatched(connection_.root(), itsProperties);
+    notifier_ =
+        std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { takeEvents(); });
+}
+
+X11ActiveApplication::~X11ActiveApplication() = default;
+
+std::optional<AppId> X11ActiveApplication::current() {
+    takeEvents();
+    if (!connection_.alive()) return std::nullopt;
+    // What changes during a look calls for another one.
+    constexpr int mostLooks = 3;
+    for (int looks = 0; stale_ && looks < mostLooks; ++looks) lookAgain();
+    return application_;
+}
+
+void X11ActiveApplication::lookAgain() {
+    stale_ = false;
+    window_ = connection_.cardinal(connection_.root(), activeWindowAtom_).value_or(XCB_WINDOW_NONE);
+    if (window_ == XCB_WINDOW_NONE) return;
+    setWatched(window_, itsPropertiesAndEnd);
+    application_ = identify(window_);
+    // What came along with the answers no longer wakes the notifier.
+    takeEvents();
+}
+
+void X11ActiveApplication::takeEvents() {
+    while (const auto event = connection_.pollEvent()) {
+        if (changesTheAnswer(*event)) forget();
+    }
+    if (!connection_.alive() && notifier_) notifier_->setEnabled(false);
+}
+
+bool X11ActiveApplication::changesTheAnswer(const xcb_generic_event_t& event) const {
+    switch (event.response_type & 0x7f) {
+        case XCB_DESTROY_NOTIFY:
+            return reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_;
+        case XCB_PROPERTY_NOTIFY: {
+            const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+            if (change.window == connection_.root()) return change.atom == activeWindowAtom_;
+            return change.window == window_ &&
+                   (change.atom == XCB_ATOM_WM_CLASS || change.atom == applicationIdAtom_);
+        }
+        default:
+            return false;
+    }
+}
+
+/// A window that is no longer in front must not go on reporting: nobody may ask for hours.
+void X11ActiveApplication::forget() {
+    stale_ = true;
+    application_.reset();
+    if (window_ != XCB_WINDOW_NONE) setWatched(std::exchange(window_, XCB_WINDOW_NONE), nothing);
+}
+
+void X11ActiveApplication::setWatched(xcb_window_t window, std::uint32_t events) {
+    xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
+    xcb_flush(connection_.get());
+}
+
+std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
+    const auto owner = process(window);
+    if (owner == getpid()) return own_;
+    if (const auto ids = connection_.texts(window, applicationIdAtom_);
+        !ids.empty() && !ids.front().empty()) {
+        return AppId(ids.front());
+    }
+    if (owner) {
+        if (auto id = sandboxedApplication(*owner)) return AppId(std::move(*id));
+    }
+    const auto names = connection_.texts(window, XCB_ATOM_WM_CLASS);
+    const std::string instance = names.empty() ? "" : names[0];
+    const std::string windowClass = names.size() < 2 ? "" : names[1];
+    if (auto id = entries_.idForWindow(instance, windowClass)) return AppId(std::move(*id));
+    // Better no application for a moment than the time of one under two names.
+    stale_ = entries_.isReading();
+    if (stale_) return std::nullopt;
+    const auto& name = windowClass.empty() ? instance : windowClass;
+    return name.empty() ? std::nullopt : std::optional(AppId(name));
+}
+
+std::optional<pid_t> X11ActiveApplication::process(xcb_window_t window) const {
+    if (!canAskForProcess_) return std::nullopt;
+    // The server knows the process at the other end of the connection; what a window says of itself may be a
+    // number that means something inside a sandbox only.
+    const xcb_res_client_id_spec_t spec{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+    const auto cookie = xcb_res_query_client_ids(connection_.get(), 1, &spec);
+    const XcbReply<xcb_res_query_client_ids_reply_t> reply(
+        xcb_res_query_client_ids_reply(connection_.get(), cookie, nullptr));
+    if (!reply) return std::nullopt;
+    for (auto ids = xcb_res_query_client_ids_ids_iterator(reply.get()); ids.rem > 0;
+         xcb_res_client_id_value_next(&ids)) {
+        if (xcb_res_client_id_value_value_length(ids.data) > 0) {
+            return static_cast<pid_t>(*xcb_res_client_id_value_value(ids.data));
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace tidewatch::platform

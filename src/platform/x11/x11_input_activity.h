@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/api/input_activity.h"
+#include "platform/x11/x11_connection.h"
+
+namespace tidewatch::platform {
+
+/// Idleness as the X server's screen-saver extension counts it: right to some milliseconds, about ten
+/// microseconds a question.
+class X11InputActivity final : public InputActivity {
+public:
+    /// `connection` must outlive this object.
+    explicit X11InputActivity(const X11Connection& connection);
+
+    [[nodiscard]] std::optional<double> secondsSinceLastInput() const override;
+    [[nodiscard]] InputCoverage coverage() const override { return coverage_; }
+
+private:
+    const X11Connection& connection_;
+    InputCoverage coverage_;
+};
+
+}  // namespace tidewatch::platform

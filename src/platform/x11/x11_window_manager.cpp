@@ -1,0 +1,206 @@
+#include "platform/x11/x11_window_manager.h"
+
+#include <fmt/format.h>
+#include <poll.h>
+#include <xcb/shape.h>
+#include <xcb/xfixes.h>
+
+#include <QSocketNotifier>
+#include <QTimer>
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <string_view>
+#include <utility>
+
+namespace tidewatch::platform {
+
+namespace {
+
+constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
+
+/// Whoever asks in the name of the user, as a taskbar does, is not kept from taking the focus.
+constexpr std::uint32_t actsForTheUser = 2;
+
+/// Far more than a healthy desktop needs, and too short to be noticed.
+constexpr auto framePatience = std::chrono::milliseconds(10);
+
+xcb_window_t xWindow(WindowHandle window) {
+    return static_cast<xcb_window_t>(window);
+}
+
+}  // namespace
+
+X11WindowManager::X11WindowManager()
+    : compositorSelection_(connection_.atom(fmt::format("_NET_WM_CM_S{}", connection_.screenNumber()))),
+      desktopAtom_(connection_.atom("_NET_WM_DESKTOP")),
+      stateAtom_(connection_.atom("_NET_WM_STATE")),
+      skipTaskbarAtom_(connection_.atom("_NET_WM_STATE_SKIP_TASKBAR")),
+      skipPagerAtom_(connection_.atom("_NET_WM_STATE_SKIP_PAGER")),
+      shadowAtom_(connection_.atom("_COMPTON_SHADOW")),
+      supportedAtom_(connection_.atom("_NET_SUPPORTED")),
+      frameExtentsAtom_(connection_.atom("_NET_FRAME_EXTENTS")),
+      requestFrameExtentsAtom_(connection_.atom("_NET_REQUEST_FRAME_EXTENTS")),
+      activeWindowAtom_(connection_.atom("_NET_ACTIVE_WINDOW")),
+      themeVariantAtom_(connection_.atom("_GTK_THEME_VARIANT")),
+      utf8Atom_(connection_.atom("UTF8_STRING")) {
+    if (!connection_.alive()) return;
+    watchCompositor();
+    updateCompositing();
+    notifier_ =
+        std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { readEvents(); });
+}
+
+X11WindowManager::~X11WindowManager() = default;
+
+void X11WindowManager::prepareFloating(WindowHandle window) {
+    if (!connection_.alive()) return;
+    setCardinal(xWindow(window), desktopAtom_, everyDesktop);
+    setCardinal(xWindow(window), shadowAtom_, 0);
+    keepOutOfTaskbar(xWindow(window));
+    waitForServer();
+}
+
+Connection X11WindowManager::onCompositingChanged(std::function<void()> changed) {
+    return compositingChanged_.connect(std::move(changed));
+}
+
+void X11WindowManager::setInputRegion(WindowHandle window, Rectangle region) {
+    if (!connection_.hasExtension(&xcb_shape_id)) return;
+    const xcb_rectangle_t rectangle{static_cast<std::int16_t>(region.x), static_cast<std::int16_t>(region.y),
+                                    static_cast<std::uint16_t>(region.width),
+                                    static_cast<std::uint16_t>(region.height)};
+    xcb_shape_rectangles(connection_.get(), XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+                         xWindow(window), 0, 0, 1, &rectangle);
+    xcb_flush(connection_.get());
+}
+
+Connection X11WindowManager::onCovered(WindowHandle window, std::function<void(bool covered)> changed) {
+    auto& signal = covered_[xWindow(window)];
+    if (!signal) signal = std::make_unique<Signal<bool>>();
+    if (connection_.alive()) {
+        setWatched(xWindow(window), XCB_EVENT_MASK_VISIBILITY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    }
+    return signal->connect(std::move(changed));
+}
+
+void X11WindowManager::requestFrame(WindowHandle window) {
+    if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return;
+    setWatched(xWindow(window), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    sendToRoot(xWindow(window), requestFrameExtentsAtom_, {});
+    xcb_flush(connection_.get());
+}
+
+FrameMargins X11WindowManager::frameMargins(WindowHandle window) {
+    if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return {};
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + framePatience;
+    auto extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
+    // Anything that comes from the server may be word that the property is there now.
+    for (auto now = Clock::now(); extents.empty() && now < end; now = Clock::now()) {
+        pollfd server{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
+        ::poll(&server, 1, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(end - now).count()));
+        extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
+    }
+    waitForServer();
+    if (extents.size() < 4) return {};
+    const auto side = [&](std::size_t index) { return static_cast<int>(extents[index]); };
+    return {.left = side(0), .right = side(1), .top = side(2), .bottom = side(3)};
+}
+
+void X11WindowManager::setFrameShade(WindowHandle window, FrameShade shade) {
+    if (!connection_.alive()) return;
+    const std::string_view variant = shade == FrameShade::dark ? "dark" : "light";
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, xWindow(window), themeVariantAtom_,
+                        utf8Atom_, 8, static_cast<std::uint32_t>(variant.size()), variant.data());
+    waitForServer();
+}
+
+void X11WindowManager::activate(WindowHandle window) {
+    if (!connection_.alive()) return;
+    sendToRoot(xWindow(window), activeWindowAtom_, {actsForTheUser, XCB_CURRENT_TIME});
+    xcb_flush(connection_.get());
+}
+
+void X11WindowManager::watchCompositor() {
+    if (!connection_.hasExtension(&xcb_xfixes_id)) return;
+    selectionEvent_ =
+        xcb_get_extension_data(connection_.get(), &xcb_xfixes_id)->first_event + XCB_XFIXES_SELECTION_NOTIFY;
+    const XcbReply<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
+        connection_.get(), xcb_xfixes_query_version(connection_.get(), 1, 0), nullptr));
+    xcb_xfixes_select_selection_input(connection_.get(), connection_.root(), compositorSelection_,
+                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    xcb_flush(connection_.get());
+}
+
+void X11WindowManager::readEvents() {
+    while (const auto event = connection_.pollEvent()) {
+        const auto type = event->response_type & 0x7f;
+        if (type == selectionEvent_) {
+            updateCompositing();
+        } else if (type == XCB_VISIBILITY_NOTIFY) {
+            const auto& change = *reinterpret_cast<const xcb_visibility_notify_event_t*>(event.get());
+            if (const auto found = covered_.find(change.window); found != covered_.end()) {
+                found->second->emit(change.state == XCB_VISIBILITY_FULLY_OBSCURED);
+            }
+        } else if (type == XCB_DESTROY_NOTIFY) {
+            covered_.erase(reinterpret_cast<const xcb_destroy_notify_event_t*>(event.get())->window);
+        }
+    }
+    if (!connection_.alive()) notifier_->setEnabled(false);
+}
+
+void X11WindowManager::setWatched(xcb_window_t window, std::uint32_t events) {
+    xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
+    xcb_flush(connection_.get());
+}
+
+void X11WindowManager::updateCompositing() {
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
+        connection_.get(), xcb_get_selection_owner(connection_.get(), compositorSelection_), nullptr));
+    const bool compositing = reply && reply->owner != XCB_WINDOW_NONE;
+    if (std::exchange(compositing_, compositing) != compositing) compositingChanged_.emit();
+}
+
+void X11WindowManager::keepOutOfTaskbar(xcb_window_t window) {
+    // The toolkit adds its own states to these when it shows the window.
+    const std::array states = {skipTaskbarAtom_, skipPagerAtom_};
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, stateAtom_, XCB_ATOM_ATOM, 32,
+                        states.size(), states.data());
+}
+
+void X11WindowManager::waitForServer() {
+    // The server must have seen what was sent before the toolkit's connection goes on.
+    const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
+        xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
+    // Events that came along with the answer no longer wake the notifier.
+    QTimer::singleShot(0, notifier_.get(), [this] { readEvents(); });
+}
+
+bool X11WindowManager::supports(xcb_atom_t feature) const {
+    const auto supported = connection_.cardinals(connection_.root(), supportedAtom_);
+    return std::ranges::find(supported, feature) != supported.end();
+}
+
+void X11WindowManager::sendToRoot(xcb_window_t window, xcb_atom_t message,
+                                  std::array<std::uint32_t, 5> data) {
+    xcb_client_message_event_t event{};
+    event.response_type = XCB_CLIENT_MESSAGE;
+    event.format = 32;
+    event.window = window;
+    event.type = message;
+    std::ranges::copy(data, std::begin(event.data.data32));
+    xcb_send_event(connection_.get(), 0, connection_.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char*>(&event));
+}
+
+void X11WindowManager::setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value) {
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, property, XCB_ATOM_CARDINAL, 32, 1,
+                        &value);
+}
+
+}  // namespace tidewatch::platform

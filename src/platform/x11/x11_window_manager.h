@@ -1,0 +1,61 @@
+#pragma once
+
+#include <array>
+#include <map>
+#include <memory>
+
+#include "platform/api/window_manager.h"
+#include "platform/x11/x11_connection.h"
+
+class QSocketNotifier;
+
+namespace tidewatch::platform {
+
+/// What the X server and an EWMH window manager offer about windows beyond the toolkit.
+class X11WindowManager final : public WindowManager {
+public:
+    X11WindowManager();
+    ~X11WindowManager() override;
+
+    void prepareFloating(WindowHandle window) override;
+    [[nodiscard]] bool isCompositing() const override { return compositing_; }
+    Connection onCompositingChanged(std::function<void()> changed) override;
+    void setInputRegion(WindowHandle window, Rectangle region) override;
+    Connection onCovered(WindowHandle window, std::function<void(bool covered)> changed) override;
+    void requestFrame(WindowHandle window) override;
+    [[nodiscard]] FrameMargins frameMargins(WindowHandle window) override;
+    void setFrameShade(WindowHandle window, FrameShade shade) override;
+    void activate(WindowHandle window) override;
+
+private:
+    void watchCompositor();
+    void readEvents();
+    void setWatched(xcb_window_t window, std::uint32_t events);
+    void updateCompositing();
+    void keepOutOfTaskbar(xcb_window_t window);
+    void waitForServer();
+    [[nodiscard]] bool supports(xcb_atom_t feature) const;
+    void sendToRoot(xcb_window_t window, xcb_atom_t message, std::array<std::uint32_t, 5> data);
+    void setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value);
+
+    X11Connection connection_;
+    xcb_atom_t compositorSelection_;
+    xcb_atom_t desktopAtom_;
+    xcb_atom_t stateAtom_;
+    xcb_atom_t skipTaskbarAtom_;
+    xcb_atom_t skipPagerAtom_;
+    xcb_atom_t shadowAtom_;
+    xcb_atom_t supportedAtom_;
+    xcb_atom_t frameExtentsAtom_;
+    xcb_atom_t requestFrameExtentsAtom_;
+    xcb_atom_t activeWindowAtom_;
+    xcb_atom_t themeVariantAtom_;
+    xcb_atom_t utf8Atom_;
+    int selectionEvent_ = -1;
+    bool compositing_ = false;
+    Signal<> compositingChanged_;
+    std::map<xcb_window_t, std::unique_ptr<Signal<bool>>> covered_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+}  // namespace tidewatch::platform

@@ -1,0 +1,173 @@
+#include "platform/posix/locked_running_instance.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <atomic>
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <thread>
+
+#include "platform/fake/fake_log.h"
+#include "support/temporary_directory.h"
+
+namespace tidewatch::platform {
+namespace {
+
+using namespace std::chrono_literals;
+
+// A start of the program as far as it matters here: the lock and who asks for it.
+struct Start {
+    explicit Start(Log& log, std::chrono::milliseconds patience = LockedRunningInstance::usualPatience)
+        : lock(log), instance(lock, log, patience) {}
+
+    DirectoryLock lock;
+    LockedRunningInstance instance;
+};
+
+class LockedRunningInstanceTest : public testing::Test {
+protected:
+    InstanceClaim claimFromAnotherThread(const std::string& directory) {
+        auto claim = InstanceClaim::first;
+        std::atomic<bool> done = false;
+        std::thread other([&] {
+            Start second(log_);
+            claim = second.instance.claim(directory);
+            done = true;
+        });
+        while (!done) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        other.join();
+        return claim;
+    }
+    InstanceClaim claimFromAnotherThread() { return claimFromAnotherThread(directory_.path()); }
+
+    int argc_ = 0;
+    QCoreApplication application_{argc_, nullptr};
+    test::TemporaryDirectory directory_;
+    FakeLog log_{[](const std::string& complaint) { ADD_FAILURE() << complaint; }};
+};
+
+TEST_F(LockedRunningInstanceTest, TheFirstStartHasTheDirectoryToItself) {
+    Start first(log_);
+    EXPECT_EQ(first.instance.claim(directory_.path()), InstanceClaim::first);
+}
+
+TEST_F(LockedRunningInstanceTest, ASecondStartAsksTheFirstToReopen) {
+    Start first(log_);
+    int reopened = 0;
+    first.instance.onReopen([&] { ++reopened; });
+    ASSERT_EQ(first.instance.claim(directory_.path()), InstanceClaim::first);
+    EXPECT_EQ(claimFromAnotherThread(), InstanceClaim::handedOver);
+    EXPECT_EQ(reopened, 1);
+}
+
+TEST_F(LockedRunningInstanceTest, AStartAfterTheEndOfTheFirstIsTheFirst) {
+    auto first = std::make_unique<Start>(log_);
+    ASSERT_EQ(first->instance.claim(directory_.path()), InstanceClaim::first);
+    first.reset();
+    EXPECT_FALSE(directory_.exists("reopen.socket"));
+    Start next(log_);
+    EXPECT_EQ(next.instance.claim(directory_.path()), InstanceClaim::first);
+}
+
+TEST_F(LockedRunningInstanceTest, ALockWithoutAnAnswerIsDeniedInTheEnd) {
+    FileLock held(directory_.path() + "/lock");
+    Start second(log_, 200ms);
+    EXPECT_EQ(second.instance.claim(directory_.path()), InstanceClaim::denied);
+}
+
+TEST_F(LockedRunningInstanceTest, AnInstanceThatHoldsTheLockAndIsStuckIsDeniedInTheEnd) {
+    FileLock held(directory_.path() + "/lock");
+    const auto listening = ReopenSocket::listenIn(directory_.path());
+    ASSERT_TRUE(listening);
+    Start second(log_, 200ms);
+    EXPECT_EQ(second.instance.claim(directory_.path()), InstanceClaim::denied);
+}
+
+TEST_F(LockedRunningInstanceTest, AStartWaitsForAnInstanceThatIsJustEnding) {
+    auto lock = std::make_unique<FileLock>(directory_.path() + "/lock");
+    std::thread ending([&] {
+        std::this_thread::sleep_for(200ms);
+        lock.reset();
+    });
+    Start next(log_, 60s);
+    EXPECT_EQ(next.instance.claim(directory_.path()), InstanceClaim::first);
+    ending.join();
+}
+
+TEST_F(LockedRunningInstanceTest, AnInstanceThatEndsWhileItIsAskedIsWaitedForToo) {
+    auto lock = std::make_unique<FileLock>(directory_.path() + "/lock");
+    auto socket = std::move(ReopenSocket::listenIn(directory_.path())).value();
+    std::thread ending([&] {
+        std::this_thread::sleep_for(200ms);
+        socket.reset();
+        lock.reset();
+    });
+    Start next(log_, 60s);
+    EXPECT_EQ(next.instance.claim(directory_.path()), InstanceClaim::first);
+    ending.join();
+}
+
+TEST_F(LockedRunningInstanceTest, AnInstanceThatEndsInTheMomentOfTheQuestionDoesNotAnswer) {
+    auto first = std::make_unique<Start>(log_);
+    ASSERT_EQ(first->instance.claim(directory_.path()), InstanceClaim::first);
+    bool answered = true;
+    std::thread asking([&] { answered = ReopenSocket::askIn(directory_.path(), 60s); });
+    // One turn of the loop, as the last one that a program comes to.
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    first.reset();
+    asking.join();
+    EXPECT_FALSE(answered);
+}
+
+TEST_F(LockedRunningInstanceTest, WithoutADirectoryTheProgramStartsAndSaysSo) {
+    log_.expectWarning("no lock could be made");
+    Start start(log_);
+    EXPECT_EQ(start.instance.claim(directory_.path() + "/missing"), InstanceClaim::first);
+}
+
+TEST_F(LockedRunningInstanceTest, ADirectoryWithANameLongerThanASocketsMayBeIsNoHindrance) {
+    auto deep = directory_.path();
+    while (deep.size() < 300) deep += "/a-folder-with-a-rather-long-name";
+    std::filesystem::create_directories(deep);
+    Start first(log_);
+    int reopened = 0;
+    first.instance.onReopen([&] { ++reopened; });
+    ASSERT_EQ(first.instance.claim(deep), InstanceClaim::first);
+    EXPECT_EQ(claimFromAnotherThread(deep), InstanceClaim::handedOver);
+    EXPECT_EQ(reopened, 1);
+    EXPECT_TRUE(std::filesystem::is_socket(deep + "/reopen.socket"));
+}
+
+TEST_F(LockedRunningInstanceTest, ADirectoryWhoseNameIsNotUtf8IsNoHindrance) {
+    const auto folder = directory_.path() + "/caf\xE9";
+    std::filesystem::create_directory(folder);
+    Start first(log_);
+    ASSERT_EQ(first.instance.claim(folder), InstanceClaim::first);
+    EXPECT_EQ(claimFromAnotherThread(folder), InstanceClaim::handedOver);
+    EXPECT_TRUE(directory_.exists("caf\xE9/reopen.socket"));
+}
+
+TEST_F(LockedRunningInstanceTest, TheSocketIsMadeAgainWhenItsDirectoryWasRemoved) {
+    const auto folder = directory_.path() + "/data";
+    std::filesystem::create_directory(folder);
+    Start first(log_);
+    ASSERT_EQ(first.instance.claim(folder), InstanceClaim::first);
+    std::filesystem::remove_all(folder);
+    // As a write does it, on a thread of its own.
+    std::thread([&] { EXPECT_EQ(first.lock.ensure(), RecordHold::ours); }).join();
+    EXPECT_EQ(claimFromAnotherThread(folder), InstanceClaim::handedOver);
+}
+
+TEST_F(LockedRunningInstanceTest, WhereNoSocketCanBeMadeTheProgramStartsAndSaysSoOnce) {
+    std::filesystem::create_directories(directory_.path() + "/reopen.socket/in-the-way");
+    log_.expectWarning("a second start cannot be answered: Address already in use");
+    Start first(log_);
+    EXPECT_EQ(first.instance.claim(directory_.path()), InstanceClaim::first);
+    EXPECT_EQ(first.lock.ensure(), RecordHold::ours);
+    QCoreApplication::processEvents();
+}
+
+}  // namespace
+}  // namespace tidewatch::platform
