@@ -2,14 +2,13 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
 
-#include "core/gentle_growth.h"
+#include "core/column.h"
 
 namespace tidewatch {
 
 /// A sequence of 64-bit integers in four bytes each as long as they lie between 0 and 2^31 - 1, as seconds
-/// booked by a clock do; others take twelve.
+/// booked by a clock do; others take twelve. Copies share what neither has changed, as with Column.
 class CounterColumn final {
 public:
     [[nodiscard]] std::size_t size() const { return narrow_.size(); }
@@ -20,31 +19,29 @@ public:
     }
 
     void set(std::size_t index, std::int64_t value) {
-        auto& cell = narrow_[index];
+        const auto cell = narrow_[index];
         if ((cell & wideMark) != 0) {
-            wide_[cell & ~wideMark] = value;
+            wide_.set(cell & ~wideMark, value);
         } else {
-            cell = cellFor(value);
+            narrow_.set(index, cellFor(value));
         }
     }
 
-    void insert(std::size_t index, std::int64_t value) { insertGently(narrow_, index, cellFor(value)); }
+    void insert(std::size_t index, std::int64_t value) { narrow_.insert(index, cellFor(value)); }
 
-    void append(std::int64_t value) { narrow_.push_back(cellFor(value)); }
-
-    void trim() { trimGently(narrow_); }
+    void append(std::int64_t value) { narrow_.append(cellFor(value)); }
 
 private:
     static constexpr std::uint32_t wideMark = 0x8000'0000;
 
     std::uint32_t cellFor(std::int64_t value) {
         if (value >= 0 && value < wideMark) return static_cast<std::uint32_t>(value);
-        wide_.push_back(value);
+        wide_.append(value);
         return static_cast<std::uint32_t>(wide_.size() - 1) | wideMark;
     }
 
-    std::vector<std::uint32_t> narrow_;
-    std::vector<std::int64_t> wide_;
+    Column<std::uint32_t> narrow_;
+    Column<std::int64_t> wide_;
 };
 
 }  // namespace tidewatch

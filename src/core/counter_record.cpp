@@ -4,7 +4,6 @@
 #include <numeric>
 #include <utility>
 
-#include "core/gentle_growth.h"
 #include "core/utf8.h"
 
 namespace tidewatch {
@@ -14,12 +13,15 @@ Seconds CounterRecord::seconds(Path path) const {
     return leaf ? seconds(*leaf) : Seconds();
 }
 
-void CounterRecord::set(Path path, Seconds seconds) {
-    counters_.set(makeLeaf(path), seconds.count());
+bool CounterRecord::set(Path path, Seconds seconds) {
+    const auto [leaf, isNew] = makeLeaf(path);
+    if (!isNew && this->seconds(leaf) == seconds) return false;
+    counters_.set(leaf, seconds.count());
+    return true;
 }
 
 void CounterRecord::add(Path path, Seconds amount) {
-    const auto leaf = makeLeaf(path);
+    const auto leaf = makeLeaf(path).index;
     counters_.set(leaf, (seconds(leaf) + amount).count());
 }
 
@@ -32,7 +34,7 @@ std::optional<CounterRecord::Index> CounterRecord::find(std::size_t level, Range
 
 void CounterRecord::appendBranch(std::size_t level, std::string_view text) {
     append(level, text);
-    levels_[level].firstChildren.push_back(size(level + 1));
+    levels_[level].firstChildren.append(size(level + 1));
 }
 
 void CounterRecord::appendLeaf(std::string_view text, Seconds seconds) {
@@ -41,17 +43,10 @@ void CounterRecord::appendLeaf(std::string_view text, Seconds seconds) {
 }
 
 void CounterRecord::settle() {
-    if (!inOrder_) {
-        CounterRecord ordered(depth());
-        copyInOrder(0, top(), ordered);
-        *this = std::move(ordered);
-    }
-    for (auto& level : levels_) {
-        trimGently(level.texts);
-        trimGently(level.firstChildren);
-    }
-    counters_.trim();
-    keys_.trim();
+    if (inOrder_) return;
+    CounterRecord ordered(depth());
+    copyInOrder(0, top(), ordered);
+    *this = std::move(ordered);
 }
 
 CounterRecord::Place CounterRecord::search(std::size_t level, Range siblings, std::string_view wanted) const {
@@ -84,7 +79,7 @@ std::optional<CounterRecord::Index> CounterRecord::findLeaf(Path path) const {
     return node;
 }
 
-CounterRecord::Index CounterRecord::makeLeaf(Path path) {
+CounterRecord::Leaf CounterRecord::makeLeaf(Path path) {
     auto siblings = top();
     Index parent = 0;
     for (std::size_t level = 0;; ++level) {
@@ -92,12 +87,9 @@ CounterRecord::Index CounterRecord::makeLeaf(Path path) {
         const auto place = search(level, siblings, valid.text());
         if (!place.found) {
             insert(level, place.index, valid.text());
-            if (level > 0) {
-                auto& first = levels_[level - 1].firstChildren;
-                for (std::size_t i = parent + 1; i < first.size(); ++i) ++first[i];
-            }
+            if (level > 0) levels_[level - 1].firstChildren.changeFrom(parent + 1, [](Index& i) { ++i; });
         }
-        if (level == lastLevel()) return place.index;
+        if (level == lastLevel()) return {place.index, !place.found};
         parent = place.index;
         siblings = children(level, parent);
     }
@@ -106,11 +98,11 @@ CounterRecord::Index CounterRecord::makeLeaf(Path path) {
 void CounterRecord::insert(std::size_t level, Index index, std::string_view text) {
     auto& [texts, firstChildren] = levels_[level];
     const bool atEnd = index == texts.size();
-    insertGently(texts, index, keepText(level, text));
+    texts.insert(index, keepText(level, text));
     if (level == lastLevel()) {
         counters_.insert(index, 0);
     } else {
-        insertGently(firstChildren, index, atEnd ? size(level + 1) : firstChildren[index]);
+        firstChildren.insert(index, atEnd ? size(level + 1) : firstChildren[index]);
     }
 }
 
@@ -120,7 +112,7 @@ void CounterRecord::append(std::size_t level, std::string_view newText) {
     const auto firstSibling = level == 0 ? 0 : levels_[level - 1].firstChildren.back();
     auto& texts = levels_[level].texts;
     if (texts.size() > firstSibling && textOf(texts.back()) >= textOf(id)) inOrder_ = false;
-    texts.push_back(id);
+    texts.append(id);
 }
 
 std::uint32_t CounterRecord::keepText(std::size_t level, std::string_view text) {

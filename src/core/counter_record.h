@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/seconds.h"
+#include "core/column.h"
 #include "core/counter_column.h"
 #include "core/name_table.h"
 #include "core/text_pool.h"
@@ -25,8 +26,11 @@ namespace tidewatch {
 /// Looking a path up costs the logarithm of the siblings, and nothing for the last one, which a clock that
 /// goes forward always means. A new path costs what lies behind it, thus next to nothing at the end.
 ///
+/// A copy costs next to nothing and shares all that neither of the two has changed since; what is changed
+/// then is copied in pieces of some kilobytes.
+///
 /// Texts that are not valid UTF-8 are taken as their repaired form (see utf8.h), so that what is kept can
-/// always be written and read back. Not safe from several threads.
+/// always be written and read back. Not safe from several threads; copies may be used on others.
 class CounterRecord final {
 public:
     using Index = std::uint32_t;
@@ -47,8 +51,9 @@ public:
     /// The counter at `path`, 0 if there is none; makes no node.
     [[nodiscard]] Seconds seconds(Path path) const;
 
-    /// Replaces the counter at `path`, or makes it and what is missing above it.
-    void set(Path path, Seconds seconds);
+    /// Replaces the counter at `path`, or makes it and what is missing above it. Whether that changed
+    /// anything.
+    bool set(Path path, Seconds seconds);
 
     /// Adds to the counter at `path`; one that is missing counts as 0. An overflow ends the process.
     void add(Path path, Seconds seconds);
@@ -85,14 +90,14 @@ public:
     void appendBranch(std::size_t level, std::string_view text);
     void appendLeaf(std::string_view text, Seconds seconds);
 
-    /// Brings appended nodes into order and gives memory back. Of siblings with the same text the one
+    /// Brings appended nodes into order. Of siblings with the same text the one
     /// appended last stays, with its own children only.
     void settle();
 
 private:
     struct Level {
-        std::vector<std::uint32_t> texts;  // in keys_ on the first level, in names_ below it
-        std::vector<Index> firstChildren;  // empty on the last level
+        Column<std::uint32_t> texts;  // in keys_ on the first level, in names_ below it
+        Column<Index> firstChildren;  // empty on the last level
     };
     struct Place {
         Index index;
@@ -105,7 +110,12 @@ private:
     }
     [[nodiscard]] Place search(std::size_t level, Range siblings, std::string_view text) const;
     [[nodiscard]] std::optional<Index> findLeaf(Path path) const;
-    Index makeLeaf(Path path);
+    struct Leaf {
+        Index index;
+        bool isNew;
+    };
+
+    Leaf makeLeaf(Path path);
     void insert(std::size_t level, Index index, std::string_view text);
     void append(std::size_t level, std::string_view text);
     std::uint32_t keepText(std::size_t level, std::string_view text);

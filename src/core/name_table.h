@@ -9,33 +9,48 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/copy_on_write.h"
+
 namespace tidewatch {
 
-/// Texts that recur many times, each kept once and known by a small number from 0 on.
+/// Texts that recur many times, each kept once and known by a small number from 0 on. Copies share the texts;
+/// not safe from several threads, but copies may be used on others.
 class NameTable final {
 public:
-    NameTable() = default;
-    NameTable(const NameTable& other) {
-        for (const auto name : other.names_) intern(name);
-    }
-    NameTable(NameTable&&) = default;
-    NameTable& operator=(const NameTable& other) { return *this = NameTable(other); }
-    NameTable& operator=(NameTable&&) = default;
-
     std::uint32_t intern(std::string_view name) {
         // The same few names come again and again while a record is read: a guess spares most look-ups.
         auto& guess = guesses_[guessFor(name)];
-        if (guess >= names_.size() || names_[guess] != name) guess = lookUp(name);
+        if (guess >= size() || (*this)[guess] != name) guess = lookUp(name);
         return guess;
     }
 
-    /// Valid as long as the table.
-    [[nodiscard]] std::string_view operator[](std::uint32_t id) const { return names_[id]; }
+    /// Valid until the next name is interned.
+    [[nodiscard]] std::string_view operator[](std::uint32_t id) const { return names_->inOrder[id]; }
 
-    [[nodiscard]] std::uint32_t size() const { return static_cast<std::uint32_t>(names_.size()); }
+    [[nodiscard]] std::uint32_t size() const { return static_cast<std::uint32_t>(names_->inOrder.size()); }
 
 private:
     static constexpr std::size_t guessCount = 256;
+
+    struct Names {
+        Names() = default;
+        Names(const Names& other) {
+            for (const auto name : other.inOrder) add(name);
+        }
+        Names& operator=(const Names&) = delete;
+
+        std::uint32_t add(std::string_view name) {
+            const auto id = static_cast<std::uint32_t>(inOrder.size());
+            inOrder.push_back(texts.emplace_back(name));
+            ids.emplace(inOrder.back(), id);
+            return id;
+        }
+
+        // The views and the map's keys point into the deque, whose elements never move.
+        std::deque<std::string> texts;
+        std::vector<std::string_view> inOrder;
+        std::unordered_map<std::string_view, std::uint32_t> ids;
+    };
 
     static std::size_t guessFor(std::string_view name) {
         const auto fromEnd = [&](std::size_t i) {
@@ -45,17 +60,11 @@ private:
     }
 
     std::uint32_t lookUp(std::string_view name) {
-        if (const auto known = ids_.find(name); known != ids_.end()) return known->second;
-        const auto id = static_cast<std::uint32_t>(names_.size());
-        names_.push_back(texts_.emplace_back(name));
-        ids_.emplace(names_.back(), id);
-        return id;
+        const auto known = names_->ids.find(name);
+        return known != names_->ids.end() ? known->second : names_.edit().add(name);
     }
 
-    // The names and the map's keys point into the deque, whose elements never move.
-    std::deque<std::string> texts_;
-    std::vector<std::string_view> names_;
-    std::unordered_map<std::string_view, std::uint32_t> ids_;
+    CopyOnWrite<Names> names_;
     std::array<std::uint32_t, guessCount> guesses_{};
 };
 

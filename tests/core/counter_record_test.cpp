@@ -118,6 +118,29 @@ TEST_P(CounterRecordOfDepth, AppendedOutOfOrderAndTwiceItSettles) {
     EXPECT_EQ(modelOf(*record), model);
 }
 
+TEST_P(CounterRecordOfDepth, ACopyStaysAsItWasWhateverIsBookedAfterIt) {
+    CounterRecord record(GetParam());
+    Model model;
+    const auto book = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            Words path{"key" + std::to_string(random() % 9000)};
+            while (path.size() < GetParam()) path.push_back("app" + std::to_string(random() % 3000));
+            record.add(views(path), Seconds(1));
+            ++model[path];
+        }
+    };
+    book(9000);  // several chunks of every column
+    const auto early = record;
+    const auto earlyModel = model;
+    book(2000);
+    const auto late = record;
+    const auto lateModel = model;
+    book(500);
+    EXPECT_EQ(modelOf(early), earlyModel);
+    EXPECT_EQ(modelOf(late), lateModel);
+    EXPECT_EQ(modelOf(record), model);
+}
+
 INSTANTIATE_TEST_SUITE_P(CounterRecord, CounterRecordOfDepth, testing::Values(1, 2, 3));
 
 TEST(CounterRecord, TextsThatAreNotUtf8AreTakenAsTheirRepairedForm) {
@@ -139,6 +162,15 @@ TEST(CounterRecord, CountersLeaveAndReenterTheRangeOfAClock) {
         record.set(path, Seconds(value));
         EXPECT_EQ(record.seconds(path), Seconds(value));
     }
+}
+
+TEST(CounterRecord, SettingTellsWhetherAnythingChanged) {
+    CounterRecord record(2);
+    const std::vector<std::string_view> path{"a", "b"};
+    EXPECT_TRUE(record.set(path, Seconds(0))) << "there was no such counter";
+    EXPECT_FALSE(record.set(path, Seconds(0)));
+    EXPECT_TRUE(record.set(path, Seconds(5)));
+    EXPECT_FALSE(record.set(path, Seconds(5)));
 }
 
 TEST(CounterRecordDeathTest, AnOverflowEndsTheProcessWithAMessage) {
