@@ -3,15 +3,22 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Gui Qml Quick)
 # tidewatch_qml_module(<room> <uri> SOURCES <file>... [VIEWS <file.qml>...] [IMPORTS <uri>...] [KNOWS <target>...])
 #
 # A room with a QML module of that uri: its types come from the headers among SOURCES, its views from VIEWS and
-# are compiled ahead of time. IMPORTS names the modules that its types build on. Gives two targets: the static
+# are compiled ahead of time. Both may lie in sub-folders; to QML the module is one folder, so that its views see one
+# another without an import. IMPORTS names the modules that its types build on. Gives two targets: the static
 # library `tidewatch_<room>`, for code that uses the types, and `tidewatch_<room>_module`, for programs whose
 # views import the module; those need no file beside them.
 function(tidewatch_qml_module room uri)
     cmake_parse_arguments(ARG "" "" "SOURCES;VIEWS;IMPORTS;KNOWS" ${ARGN})
     set(target tidewatch_${room})
     string(REPLACE "." "/" path ${uri})
+    set(views)
+    foreach(view ${ARG_VIEWS})
+        get_filename_component(name ${view} NAME)
+        set_source_files_properties(${view} PROPERTIES QT_RESOURCE_ALIAS ${name})
+        list(APPEND views ${name})
+    endforeach()
     qt_add_library(${target} STATIC)
-    set_target_properties(${target} PROPERTIES AUTOMOC ON TIDEWATCH_VIEWS "${ARG_VIEWS}")
+    set_target_properties(${target} PROPERTIES AUTOMOC ON TIDEWATCH_VIEWS "${views}")
     qt_add_qml_module(${target}
         URI ${uri}
         VERSION 1.0
@@ -21,11 +28,20 @@ function(tidewatch_qml_module room uri)
         QML_FILES ${ARG_VIEWS}
         OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path})
     target_link_libraries(${target} PUBLIC ${ARG_KNOWS} Qt6::Gui Qt6::Qml Qt6::Quick PRIVATE tidewatch_options)
-    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    _tidewatch_find_registered_headers(${target} ${ARG_SOURCES})
     _tidewatch_hush_generated_sources(${target})
 
     add_library(${target}_module INTERFACE)
     target_link_libraries(${target}_module INTERFACE ${target} ${target}plugin)
+endfunction()
+
+# The registration of the types, which the toolkit writes, includes each header by its bare name.
+function(_tidewatch_find_registered_headers target)
+    foreach(source ${ARGN})
+        get_filename_component(folder ${source} DIRECTORY)
+        target_include_directories(${target} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    endforeach()
 endfunction()
 
 # What the toolkit's compilers write does not keep to our warnings.

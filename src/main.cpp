@@ -2,7 +2,7 @@
 
 #include "native/native_platform.h"
 #include "native/process_environment.h"
-#include "shell/application.h"
+#include "app/application.h"
 
 // Nothing is read from the command line: the toolkit would take orders from it, too.
 int main(int, char* arguments[]) {

@@ -69,22 +69,26 @@ def rooms():
         "platform/qt": room("base platform/api", "fmt qt system", machine=True),
         "native": room("base platform/api platform/posix platform/linux platform/freedesktop platform/x11 platform/qt",
                        "qt system", machine=True),
-        "main.cpp": room("platform/api native shell", "qt"),
+        "main.cpp": room("platform/api native app", "qt"),
+        "shell/themes": room("base platform/api core"),
+        "ui": room("base platform/api shell/themes", "fmt qt"),
     }
     below = "base platform/api"
-    every_domain_room = ""
+    domain, domain_views = "", ""
     for name in DOMAIN:
         plan[name] = room(below, "fmt simdjson")
-        plan[f"{name}/views"] = room(f"{below} shell/style shell/themes {name}", "fmt qt")
+        plan[f"{name}/views"] = room(f"{below} {name} shell/themes ui", "fmt qt")
         below += f" {name}"
-        every_domain_room += f" {name} {name}/views"
+        domain += f" {name}"
+        domain_views += f" {name}/views"
     plan["analysis/report"] = plan["analysis/views"]
-    every_domain_room += " analysis/report"
-    plan["shell/themes"] = room("base platform/api core")
-    plan["shell/style"] = room("base platform/api shell/themes", "fmt qt")
-    shell = f"base platform/api platform/qt shell/themes shell/style {every_domain_room}"
-    plan["shell"] = room(f"{shell} shell/views", "fmt qt")
-    plan["shell/views"] = room(f"{shell} shell", "fmt qt")
+    toolkit_free = f"base platform/api shell/themes {domain}"
+    plan["shell"] = room(toolkit_free, "fmt")
+    plan["shell/icons"] = room("base shell shell/themes", "qt")
+    plan["shell/views"] = room(f"{toolkit_free} {domain_views} shell ui", "fmt qt")
+    plan["shell/windows"] = room("base platform/api core shell shell/icons shell/themes shell/views ui", "fmt qt")
+    plan["app"] = room(
+        f"{toolkit_free} {domain_views} analysis/report shell shell/icons shell/views shell/windows ui", "fmt qt")
     return plan
 
 
@@ -167,12 +171,6 @@ def room_of(path):
     return best
 
 
-def circle_room_of(path):
-    """The room as far as circles go: the shell and its own views make one another and count as one."""
-    own_room = room_of(path)
-    return "shell" if own_room == "shell/views" else own_room
-
-
 def line_of(source, position):
     return source.count("\n", 0, position) + 1
 
@@ -222,8 +220,8 @@ def check_cpp(source_root, path, own_room):
         objection = objection_to_include(source_root, own_room, header, quoted)
         if objection:
             violations.append(Violation(path, line_of(code, match.start()), objection))
-        elif quoted and circle_room_of(header) != circle_room_of(path):
-            neighbours.add(circle_room_of(header))
+        elif quoted and room_of(header) != own_room:
+            neighbours.add(room_of(header))
     if not ROOMS[own_room].machine:
         words = blanked(source, keep_strings=False)
         violations += check_bans(path, words, BANNED_CPP) + check_labels(path, words)
@@ -329,7 +327,7 @@ def check_tree(source_root):
         else:
             found, neighbours = check_cpp(source_root, path, own_room)
             violations += found
-            graph.setdefault(circle_room_of(path), set()).update(neighbours)
+            graph.setdefault(own_room, set()).update(neighbours)
     circle = circle_in(graph)
     if circle:
         violations.append(Violation(".", 0, "rooms in a circle: " + " -> ".join(circle)))

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/shell_world.h"
+#include "app/shell_world.h"
 
 namespace tidewatch {
 namespace {

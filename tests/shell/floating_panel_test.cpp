@@ -4,7 +4,7 @@
 
 #include "platform/fake/fake_screens.h"
 #include "platform/fake/memory_preferences.h"
-#include "shell/shell_world.h"
+#include "app/shell_world.h"
 
 namespace tidewatch {
 namespace {

@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "core/data_directory.h"
-#include "shell/shell_world.h"
+#include "app/shell_world.h"
 
 namespace tidewatch {
 namespace {

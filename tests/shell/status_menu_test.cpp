@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "shell/shell_world.h"
+#include "app/shell_world.h"
 
 namespace tidewatch {
 namespace {

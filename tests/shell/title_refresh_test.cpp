@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/shell_world.h"
+#include "app/shell_world.h"
 
 namespace tidewatch {
 namespace {

@@ -11,8 +11,8 @@
 #include <cmath>
 #include <vector>
 
-#include "shell/style/fonts.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/fonts.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

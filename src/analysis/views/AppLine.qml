@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! An application with its icon and its time in one line. */
 RowLayout {

@@ -1,6 +1,6 @@
 import QtQuick
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! How full ten minutes were, and of what. */
 Item {

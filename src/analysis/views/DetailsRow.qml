@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! An application of the table. The right button, the menu key and Return ask for its menu. */
 T.ItemDelegate {

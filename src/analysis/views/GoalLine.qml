@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! How far a goal is reached: its name, its figures and a bar. */
 ColumnLayout {

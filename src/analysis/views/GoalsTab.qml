@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! Stars, progress, and the goals themselves. */
 ScrollPane {

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! The brand, and the day on show with the ways to another one. */
 RowLayout {

@@ -1,6 +1,6 @@
 import QtQuick
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! The day's one large figure in its ring, and how it compares. */
 Card {

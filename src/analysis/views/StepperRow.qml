@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! A goal, its value, and the way to less and more of it. */
 RowLayout {

@@ -1,6 +1,6 @@
 import QtQuick
 import Tidewatch.Analysis
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! Lets a tier into the table, or keeps it out. */
 Chip {

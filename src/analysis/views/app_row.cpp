@@ -1,6 +1,6 @@
 #include "analysis/views/app_row.h"
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
 
 namespace tidewatch {

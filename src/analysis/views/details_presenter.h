@@ -7,7 +7,7 @@
 #include <QStringList>
 #include <functional>
 
-#include "analysis/views/row_list.h"
+#include "ui/models/row_list.h"
 #include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 #include "analysis/views/goal_steps.h"
 #include "base/duration_format.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/qt_color.h"
 #include "shell/themes/dashboard_style.h"
 
 namespace tidewatch {

@@ -9,7 +9,7 @@
 #include "analysis/goal_evaluator.h"
 #include "analysis/goal_store.h"
 #include "analysis/reward_engine.h"
-#include "analysis/views/row_list.h"
+#include "ui/models/row_list.h"
 #include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {

@@ -1,6 +1,6 @@
 #include "analysis/views/header_presenter.h"
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 #include "shell/themes/fathom.h"
 
 namespace tidewatch {

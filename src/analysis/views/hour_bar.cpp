@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "analysis/insights_engine.h"
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {

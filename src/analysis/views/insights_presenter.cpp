@@ -3,7 +3,7 @@
 #include <chrono>
 #include <cmath>
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "analysis/insights_engine.h"
-#include "analysis/views/row_list.h"
+#include "ui/models/row_list.h"
 #include "platform/api/main_loop.h"
 
 namespace tidewatch {

@@ -2,9 +2,9 @@
 
 #include <fmt/format.h>
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 

@@ -1,6 +1,6 @@
 #include "analysis/views/projects_presenter.h"
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
 
 namespace tidewatch {

@@ -5,7 +5,7 @@
 #include <QObject>
 
 #include "analysis/views/app_row.h"
-#include "analysis/views/row_list.h"
+#include "ui/models/row_list.h"
 #include "analysis/views/tab_presenter.h"
 #include "core/daily_store.h"
 #include "projects/project_store.h"

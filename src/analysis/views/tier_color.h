@@ -3,7 +3,7 @@
 #include <QColor>
 
 #include "classification/tier.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/qt_color.h"
 #include "shell/themes/ochre_palette.h"
 
 namespace tidewatch {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
 
 namespace tidewatch {

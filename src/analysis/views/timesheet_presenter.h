@@ -6,7 +6,7 @@
 #include <QStringList>
 
 #include "analysis/views/app_row.h"
-#include "analysis/views/row_list.h"
+#include "ui/models/row_list.h"
 #include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {

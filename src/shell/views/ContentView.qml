@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Tidewatch.Shell
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! The floating clock. Draws at the theme's own size and fits itself into whatever size it is given. */
 Item {

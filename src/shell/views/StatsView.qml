@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Shell
-import Tidewatch.Style
+import Tidewatch.Ui
 import Tidewatch.Wellbeing
 
 /*! All of the statistics window: its head, its tabs, and the one on show. */

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "base/duration_format.h"
-#include "shell/style/fonts.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/fonts.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

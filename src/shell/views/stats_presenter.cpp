@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "analysis/views/display_text.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 

@@ -18,7 +18,7 @@
 #include "base/signal.h"
 #include "platform/api/platform.h"
 #include "shell/services.h"
-#include "shell/style/wall_time.h"
+#include "ui/backgrounds/wall_time.h"
 #include "wellbeing/views/break_presenter.h"
 
 namespace tidewatch {

@@ -6,7 +6,7 @@
 
 #include "platform/api/process_memory.h"
 #include "shell/statistics_frame.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 

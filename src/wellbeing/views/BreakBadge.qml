@@ -1,5 +1,5 @@
 import QtQuick
-import Tidewatch.Style
+import Tidewatch.Ui
 
 /*! The bomb that rocks on its disc, with a ring that goes out from it again and again. */
 Item {

@@ -1,5 +1,5 @@
 import QtQuick
-import Tidewatch.Style
+import Tidewatch.Ui
 import Tidewatch.Wellbeing
 
 /*!

@@ -9,7 +9,7 @@
 
 #include "analysis/report/page_painter.h"
 #include "analysis/report/report_page.h"
-#include "shell/style/fonts.h"
+#include "ui/style/fonts.h"
 #include "tests/analysis/report/report_cases.h"
 
 namespace {

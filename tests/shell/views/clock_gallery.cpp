@@ -9,10 +9,10 @@
 #include <cstdio>
 
 #include "core/size_option.h"
-#include "shell/style/decorations.h"
-#include "shell/style/fonts.h"
-#include "shell/style/liquid_background.h"
-#include "shell/style/qt_color.h"
+#include "ui/backgrounds/decorations.h"
+#include "ui/style/fonts.h"
+#include "ui/backgrounds/liquid_background.h"
+#include "ui/style/qt_color.h"
 #include "shell/views/clock_scene.h"
 
 namespace tidewatch {

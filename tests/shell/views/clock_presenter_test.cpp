@@ -4,7 +4,7 @@
 
 #include <QSignalSpy>
 
-#include "shell/style/qt_color.h"
+#include "ui/style/qt_color.h"
 #include "shell/views/clock_scene.h"
 
 namespace tidewatch {

@@ -5,7 +5,7 @@
 #include <QVariantMap>
 #include <utility>
 
-#include "shell/style/style.h"
+#include "ui/style/style.h"
 
 namespace tidewatch {
 

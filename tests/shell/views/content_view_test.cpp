@@ -4,11 +4,11 @@
 #include <QFontMetricsF>
 
 #include "core/size_option.h"
-#include "shell/style/liquid_background.h"
-#include "shell/style/qt_color.h"
-#include "shell/style/symbol.h"
-#include "shell/style/symbol_row.h"
-#include "shell/style/tabular_text.h"
+#include "ui/backgrounds/liquid_background.h"
+#include "ui/style/qt_color.h"
+#include "ui/symbols/symbol.h"
+#include "ui/symbols/symbol_row.h"
+#include "ui/texts/tabular_text.h"
 #include "shell/views/clock_scene.h"
 
 namespace tidewatch {

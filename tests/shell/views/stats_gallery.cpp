@@ -5,7 +5,7 @@
 #include <QGuiApplication>
 #include <cstdio>
 
-#include "shell/style/fonts.h"
+#include "ui/style/fonts.h"
 #include "shell/views/stats_scene.h"
 
 namespace tidewatch {

@@ -8,7 +8,7 @@
 #include <random>
 
 #include "base/calendar_day.h"
-#include "shell/style/style.h"
+#include "ui/style/style.h"
 
 namespace tidewatch {
 namespace {

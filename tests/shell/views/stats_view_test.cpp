@@ -4,8 +4,8 @@
 #include <QCoreApplication>
 #include <QTest>
 
-#include "shell/style/contrast.h"
-#include "shell/style/style.h"
+#include "ui/style/contrast.h"
+#include "ui/style/style.h"
 #include "shell/views/stats_scene.h"
 
 namespace tidewatch {

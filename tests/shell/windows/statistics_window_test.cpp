@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "core/settings.h"
-#include "shell/style/qt_color.h"
+#include "ui/style/qt_color.h"
 #include "shell/themes/theme_registry.h"
 #include "tests/support/fake_world.h"
 

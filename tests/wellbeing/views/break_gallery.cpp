@@ -5,7 +5,7 @@
 #include <QtTest/QTest>
 #include <cstdio>
 
-#include "shell/style/fonts.h"
+#include "ui/style/fonts.h"
 #include "wellbeing/views/break_scene.h"
 
 namespace tidewatch {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/day_rule.h"
-#include "shell/style/style_scene.h"
+#include "ui/ui_scene.h"
 #include "tests/support/fake_world.h"
 #include "wellbeing/break_reminder.h"
 #include "wellbeing/recording_notifier.h"
@@ -28,7 +28,7 @@ public:
 };
 
 /// The alert's view over a window with a button and a pane that scrolls, in any theme.
-class BreakScene : public BreakWorld, public StyleScene {
+class BreakScene : public BreakWorld, public UiScene {
 public:
     /// Makes the window anew.
     void showWindow(QSize size = {900, 620});

@@ -1,0 +1,76 @@
+#include "app/application.h"
+
+#include <QIcon>
+#include <QQuickWindow>
+#include <QTimer>
+#include <chrono>
+
+#include "core/data_directory.h"
+#include "platform/api/file_system.h"
+#include "platform/api/log.h"
+#include "platform/api/process_endings.h"
+#include "platform/api/process_memory.h"
+#include "platform/api/running_instance.h"
+#include "app/composition.h"
+#include "shell/icons/fathom_icons.h"
+
+namespace tidewatch {
+
+namespace {
+
+constexpr std::chrono::seconds settlingTime(4);
+
+int& prepared(int& argumentCount) {
+    // Without a GPU the software scene graph needs half the memory and a third of the time.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    QCoreApplication::setOrganizationName("brightlooms");
+    QCoreApplication::setApplicationName("tidewatch");
+    QGuiApplication::setDesktopFileName("com.brightlooms.tidewatch");
+    return argumentCount;
+}
+
+QIcon programIcon() {
+    QIcon icon;
+    for (const int size : {16, 32, 48}) icon.addPixmap(QPixmap::fromImage(fathom::appIcon(size)));
+    return icon;
+}
+
+}  // namespace
+
+Application::Application(char* programPath)
+    : arguments_{programPath, nullptr}, toolkit_(prepared(argumentCount_), arguments_.data()) {
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setWindowIcon(programIcon());
+    if (toolkitWords_.load()) QCoreApplication::installTranslator(&toolkitWords_);
+}
+
+int Application::run(const platform::Platform& platform) {
+    const auto directory = dataDirectory(platform.files);
+    if (const auto made = platform.files.createDirectories(directory); !made) {
+        platform.log.warning("Tidewatch: " + made.error().message);
+    }
+    switch (platform.runningInstance.claim(directory)) {
+        case platform::InstanceClaim::first:
+            break;
+        case platform::InstanceClaim::handedOver:
+            return EXIT_SUCCESS;
+        case platform::InstanceClaim::denied:
+            platform.log.warning("Tidewatch: another instance holds " + directory + " and does not answer");
+            return EXIT_FAILURE;
+    }
+    platform.endings.onAsked([] { QCoreApplication::quit(); });
+    Composition composition(platform, [] { QCoreApplication::quit(); });
+    auto& delegate = composition.delegate();
+    delegate.applicationDidFinishLaunching();
+    platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
+    platform.endings.onSessionEnding([&] { delegate.flushAllStores(); });
+    platform.endings.onDisplayLost([&] { delegate.applicationWillTerminate(); });
+    // Most of what the start ran never runs again.
+    QTimer::singleShot(settlingTime, &toolkit_, [&] { platform.memory.giveBackUnused(); });
+    const int code = QApplication::exec();
+    delegate.applicationWillTerminate();
+    platform.endings.onDisplayLost(nullptr);
+    return code;
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,51 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tidewatch.Ui
+
+/*! Words that come up below what they belong to when it has been pointed at for a moment, over all else. */
+Item {
+    id: root
+
+    property string text
+
+    readonly property real mostWidth: 420
+
+    anchors.fill: parent
+    Accessible.ignored: true
+
+    T.ToolTip {
+        y: root.height + 6
+        implicitWidth: Math.min(root.mostWidth, implicitContentWidth + leftPadding + rightPadding)
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
+        // Between it and the edges of the window.
+        margins: 8
+        horizontalPadding: 10
+        verticalPadding: 7
+        delay: 500
+        visible: true
+        closePolicy: T.Popup.NoAutoClose
+
+        contentItem: PlainText {
+            text: root.text
+            font: Style.sans(13, Style.Regular)
+            color: Style.palette.primaryText
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+
+        background: Rectangle {
+            radius: Style.measures.controlRadius
+            // The cards of some themes let through what lies behind them.
+            color: Style.palette.windowBackground
+            border.width: 1
+            border.color: Style.palette.mute
+
+            Rectangle {
+                anchors.fill: parent
+                anchors.margins: 1
+                radius: Style.measures.controlRadius
+                color: Style.palette.cardSubtle
+            }
+        }
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import Tidewatch.Ui
+
+/*! A button with words, and with a symbol before them if it is given one. */
+PressButton {
+    id: root
+
+    property string symbol
+
+    /*! The one that the view is about. */
+    property bool primary: false
+
+    readonly property color ink: {
+        if (primary)
+            return Style.palette.onFill;
+        return enabled ? Style.palette.primaryText : Style.palette.muteSoft;
+    }
+
+    implicitWidth: implicitContentWidth + 36
+    implicitHeight: 36
+    // A wider button has its words in the middle.
+    horizontalPadding: Math.round((width - implicitContentWidth) / 2)
+    cornerRadius: Style.measures.chipRadius
+    opacity: primary && !enabled ? 0.45 : 1
+
+    contentItem: Row {
+        spacing: Style.measures.spacing
+
+        Symbol {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: root.symbol !== ""
+            name: root.symbol
+            side: 18
+            color: root.ink
+        }
+
+        PlainText {
+            anchors.verticalCenter: parent.verticalCenter
+            text: root.text
+            font: Style.sans(14, root.primary ? Style.Semibold : Style.Medium)
+            color: root.ink
+            Accessible.ignored: true
+        }
+    }
+
+    background: Rectangle {
+        readonly property color fill: Style.palette.tierProductive
+
+        radius: root.cornerRadius
+        color: {
+            if (root.primary)
+                return root.hovered || root.down ? Qt.darker(fill, root.down ? 1.15 : 1.06) : fill;
+            return root.enabled && (root.hovered || root.down) ? Style.palette.cardSubtle : "transparent";
+        }
+        border.width: root.primary ? 0 : 1
+        border.color: root.down ? Style.palette.mute : Style.palette.stroke
+    }
+}

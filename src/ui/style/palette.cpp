@@ -1,0 +1,45 @@
+#include "ui/style/palette.h"
+
+#include "ui/style/contrast.h"
+#include "ui/style/qt_color.h"
+
+namespace tidewatch {
+namespace {
+
+/// Nothing of the liquid behind the dashboard is brighter.
+constexpr Color brightestLiquid = Color::whiteLevel(0.8);
+
+/// Covers just so much of it that the quietest words of the theme can be read.
+constexpr double liquidCover = 0.75;
+
+QColor groundOf(const DashboardStyle& style) {
+    return toQColor(style.decoration == Decoration::liquid ? style.nsBackground.at(liquidCover)
+                                                           : Color::blackAt(0));
+}
+
+}  // namespace
+
+Palette::Palette(const DashboardStyle& style)
+    : bg(toQColor(style.bg)),
+      card(toQColor(style.card)),
+      cardSubtle(toQColor(style.cardSubtle)),
+      stroke(toQColor(style.stroke)),
+      strongMute(toQColor(style.strongMute)),
+      mute(toQColor(style.mute)),
+      muteSoft(toQColor(style.muteSoft)),
+      primaryText(toQColor(style.primaryText)),
+      secondaryText(toQColor(style.secondaryText)),
+      windowBackground(toQColor(style.nsBackground)),
+      tierProductive(toQColor(DashboardStyle::tierProductive)),
+      tierNeutral(toQColor(DashboardStyle::tierNeutral)),
+      tierDistracting(toQColor(DashboardStyle::tierDistracting)),
+      tierOther(toQColor(DashboardStyle::tierOther)),
+      amber(toQColor(DashboardStyle::amber)),
+      onFill(toQColor(fathom::ink)),
+      ground(groundOf(style)),
+      textGround(laidOver(
+          card, laidOver(ground, style.decoration == Decoration::liquid ? toQColor(brightestLiquid) : bg))) {
+    for (const auto& piece : style.gamePieces) gamePieces.append(toQColor(piece));
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,151 @@
+#include "ui/texts/tabular_text.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QQuickWindow>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "ui/backgrounds/pixel_picture.h"
+
+namespace tidewatch {
+namespace {
+
+/// Letters below this size, in pixels of the screen, lose half of their colour to the smoothing of edges.
+/// They are drawn twice, which gives it back without making them bolder.
+constexpr double faintSize = 12;
+
+/// How far below the letters the layers of the shade lie, in the font's pixels.
+constexpr std::array shadeDrops = {0.3, 0.6, 0.9, 1.2};
+
+}  // namespace
+
+TabularText::TabularText(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    setAntialiasing(true);
+}
+
+void TabularText::setText(const QString& text) {
+    if (text == text_) return;
+    text_ = text;
+    layOutAgain();
+    Q_EMIT textChanged();
+}
+
+void TabularText::setFont(const QFont& font) {
+    if (font == font_) return;
+    font_ = font;
+    layOutAgain();
+    Q_EMIT layoutChanged();
+}
+
+void TabularText::setColor(const QColor& color) {
+    if (color == color_) return;
+    color_ = color;
+    update();
+    Q_EMIT colorChanged();
+}
+
+void TabularText::setEqualDigits(bool equal) {
+    if (equal == equalDigits()) return;
+    options_.digits = equal ? Digits::monospaced : Digits::proportional;
+    layOutAgain();
+    Q_EMIT layoutChanged();
+}
+
+void TabularText::setWordGap(double gap) {
+    if (gap == options_.wordGap) return;
+    options_.wordGap = gap;
+    layOutAgain();
+    Q_EMIT layoutChanged();
+}
+
+void TabularText::setMaximumWidth(double width) {
+    if (width == options_.maximumWidth) return;
+    options_.maximumWidth = width;
+    layOutAgain();
+    Q_EMIT layoutChanged();
+}
+
+void TabularText::setUnit(double unit) {
+    if (unit == unit_) return;
+    unit_ = unit;
+    layOutAgain();
+    Q_EMIT layoutChanged();
+}
+
+void TabularText::setShade(const QColor& shade) {
+    if (shade == shade_) return;
+    shade_ = shade;
+    update();
+    Q_EMIT colorChanged();
+}
+
+double TabularText::screenPixel() const {
+    return 1 / (window() != nullptr ? window()->effectiveDevicePixelRatio() : 1.0);
+}
+
+void TabularText::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) layOutAgain();
+}
+
+void TabularText::componentComplete() {
+    QQuickPaintedItem::componentComplete();
+    layOutAgain();
+}
+
+void TabularText::layOutAgain() {
+    // While a view is being made, the font may not be there yet: the desktop's would be loaded for nothing.
+    if (!isComponentComplete()) return;
+    auto options = options_;
+    options.screenPixel = screenPixel() / unit_;
+    line_ = layOutTabular(text_, font_, options);
+    const double scale = unit_ * line_.shrink;
+    const QFontMetricsF metrics(font_);
+    // Room on both sides for letters that reach out of their own width.
+    const double overhang =
+        text_.isEmpty()
+            ? 0
+            : std::max({0.0, -metrics.leftBearing(text_.front()), -metrics.rightBearing(text_.back())});
+    const QSizeF exact((line_.width + 2 * overhang) * scale, metrics.height() * scale);
+    setImplicitSize(exact.width(), exact.height());
+    // The picture is of whole pixels; the layout goes by what the line takes.
+    setPictureSize(*this, exact);
+}
+
+void TabularText::geometryChange(const QRectF& to, const QRectF& from) {
+    QQuickPaintedItem::geometryChange(to, from);
+    setPictureSize(*this, {implicitWidth(), implicitHeight()});
+}
+
+void TabularText::paint(QPainter* painter) {
+    const double scale = unit_ * line_.shrink;
+    const double pixel = screenPixel();
+    // Of two pixels equally near the upper one: lines of letters look centred a little above their middle.
+    const auto onPixel = [pixel](double length) { return std::floor(length / pixel + 0.4) * pixel; };
+    const QFontMetricsF metrics(font_);
+    painter->translate(onPixel((width() - line_.width * scale) / 2), onPixel(metrics.ascent() * scale));
+    painter->scale(scale, scale);
+    painter->setFont(font_);
+    if (shade_.alpha() > 0) drawShade(*painter);
+    drawLetters(*painter, color_);
+    if (metrics.ascent() * scale / pixel < faintSize) drawLetters(*painter, color_);
+}
+
+void TabularText::drawShade(QPainter& painter) const {
+    QColor layer = shade_;
+    layer.setAlphaF(shade_.alphaF() / static_cast<float>(shadeDrops.size()));
+    for (const double drop : shadeDrops) {
+        painter.translate(0, drop);
+        drawLetters(painter, layer);
+        painter.translate(0, -drop);
+    }
+}
+
+void TabularText::drawLetters(QPainter& painter, const QColor& color) const {
+    painter.setPen(color);
+    for (const auto& run : line_.runs) painter.drawText(QPointF(run.x, 0), run.text);
+}
+
+}  // namespace tidewatch
