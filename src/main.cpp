@@ -1,8 +1,8 @@
 #include <cstdlib>
 
+#include "app/application.h"
 #include "native/native_platform.h"
 #include "native/process_environment.h"
-#include "app/application.h"
 
 // Nothing is read from the command line: the toolkit would take orders from it, too.
 int main(int, char* arguments[]) {

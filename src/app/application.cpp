@@ -5,13 +5,13 @@
 #include <QTimer>
 #include <chrono>
 
+#include "app/composition.h"
 #include "core/data_directory.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/process_endings.h"
 #include "platform/api/process_memory.h"
 #include "platform/api/running_instance.h"
-#include "app/composition.h"
 #include "shell/icons/fathom_icons.h"
 
 namespace tidewatch {

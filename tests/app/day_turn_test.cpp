@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
-#include "platform/qt/qt_main_loop.h"
 #include "app/shell_world.h"
+#include "platform/qt/qt_main_loop.h"
 
 namespace tidewatch {
 namespace {

@@ -84,7 +84,7 @@ def rooms():
     plan["analysis/report"] = plan["analysis/views"]
     toolkit_free = f"base platform/api shell/themes {domain}"
     plan["shell"] = room(toolkit_free, "fmt")
-    plan["shell/icons"] = room("base shell shell/themes", "qt")
+    plan["shell/icons"] = room("base shell shell/themes ui", "qt")
     plan["shell/views"] = room(f"{toolkit_free} {domain_views} shell ui", "fmt qt")
     plan["shell/windows"] = room("base platform/api core shell shell/icons shell/themes shell/views ui", "fmt qt")
     plan["app"] = room(

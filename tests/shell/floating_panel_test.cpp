@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "app/shell_world.h"
 #include "platform/fake/fake_screens.h"
 #include "platform/fake/memory_preferences.h"
-#include "app/shell_world.h"
 
 namespace tidewatch {
 namespace {

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "core/data_directory.h"
 #include "app/shell_world.h"
+#include "core/data_directory.h"
 
 namespace tidewatch {
 namespace {
@@ -87,7 +87,8 @@ TEST_F(ProjectMenuTest, ColoursInThePalettesOrderWithTheProjectsOwnCheckedInEith
 TEST_F(ProjectMenuTest, AColourWithoutItsHashSignIsNoneOfTheMenus) {
     const auto id = projects().addProject("Uno").id;
     projects().setColor("7BD88F", id);
-    for (const auto& row : rowsAt({"Proyecto", "Uno", "Cambiar color"})) EXPECT_FALSE(row.checked) << row.title;
+    for (const auto& row : rowsAt({"Proyecto", "Uno", "Cambiar color"}))
+        EXPECT_FALSE(row.checked) << row.title;
 }
 
 TEST_F(ProjectMenuTest, ActivatingAndDeactivating) {

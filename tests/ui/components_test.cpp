@@ -10,10 +10,10 @@
 #include <cmath>
 
 #include "platform/fake/fake_clock.h"
-#include "ui/symbols/app_icon_view.h"
 #include "ui/backgrounds/liquid_background.h"
-#include "ui/ui_scene.h"
 #include "ui/backgrounds/wall_time.h"
+#include "ui/symbols/app_icon_view.h"
+#include "ui/ui_scene.h"
 
 namespace tidewatch {
 namespace {

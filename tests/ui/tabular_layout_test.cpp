@@ -5,8 +5,8 @@
 #include <QFontMetricsF>
 #include <cmath>
 
-#include "ui/style/fonts.h"
 #include "shell/themes/builtin_themes.h"
+#include "ui/style/fonts.h"
 
 namespace tidewatch {
 namespace {

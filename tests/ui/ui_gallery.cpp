@@ -5,10 +5,10 @@
 #include <cstdio>
 
 #include "platform/fake/fake_clock.h"
-#include "ui/style/fonts.h"
-#include "ui/ui_scene.h"
-#include "ui/symbols/symbol_table.h"
 #include "ui/backgrounds/wall_time.h"
+#include "ui/style/fonts.h"
+#include "ui/symbols/symbol_table.h"
+#include "ui/ui_scene.h"
 
 namespace tidewatch {
 namespace {

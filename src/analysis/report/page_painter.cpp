@@ -13,6 +13,7 @@
 
 #include "ui/style/fonts.h"
 #include "ui/style/qt_color.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 namespace {
@@ -21,9 +22,9 @@ namespace {
 constexpr int dotsAPoint = 20;
 constexpr int pointsAnInch = 72;
 
-QString toText(std::string_view utf8) {
+QString lineText(std::string_view utf8) {
     // What comes from elsewhere may hold line ends, which a line cannot.
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).simplified();
+    return text(utf8).simplified();
 }
 
 // In dots.
@@ -65,7 +66,7 @@ LaidOutLine layOut(const PageText& text) {
     const auto font = toPageFont(text.font);
     const double tracking = text.tracking * dotsAPoint;
     const double column = text.width * dotsAPoint;
-    const auto whole = toText(text.text);
+    const auto whole = lineText(text.text);
     auto line = layOut(whole, font, tracking);
     if (line.width <= column) return line;
     return layOut(QFontMetricsF(font).elidedText(whole, Qt::ElideRight, column), font, tracking);
@@ -116,7 +117,7 @@ QByteArray toPdf(const ReportPage& page) {
     QBuffer buffer(&file);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setTitle(toText(page.title));
+    writer.setTitle(lineText(page.title));
     writer.setCreator("Fathom");
     writer.setPageSize(QPageSize(QSizeF(ReportPage::width, ReportPage::height), QPageSize::Point));
     writer.setPageMargins(QMarginsF());
@@ -129,7 +130,7 @@ QByteArray toPdf(const ReportPage& page) {
 
 TextWidth pageTextWidth() {
     return [](std::string_view text, const FontSpec& spec, double tracking) {
-        return layOut(toText(text), toPageFont(spec), tracking * dotsAPoint).width / dotsAPoint;
+        return layOut(lineText(text), toPageFont(spec), tracking * dotsAPoint).width / dotsAPoint;
     };
 }
 

@@ -107,48 +107,9 @@ ColumnLayout {
 
         Repeater {
             model: root.presenter.tiles
-            delegate: Card {
-                id: tile
-
-                required property insightTile row
-
+            delegate: StatTile {
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
-                spoken: row.title + ": " + row.value + ", " + row.subtitle
-
-                ColumnLayout {
-                    anchors.fill: parent
-                    spacing: 4
-
-                    RowLayout {
-                        spacing: Style.measures.spacing
-
-                        Symbol {
-                            name: tile.row.symbol
-                            side: 14
-                            color: Style.palette.mute
-                        }
-                        Heading {
-                            Layout.fillWidth: true
-                            text: tile.row.title
-                        }
-                    }
-                    PlainText {
-                        Layout.fillWidth: true
-                        Layout.topMargin: 4
-                        text: tile.row.value
-                        elide: Text.ElideRight
-                        font: Style.mono(24, Style.Light)
-                        color: Style.palette.primaryText
-                    }
-                    PlainText {
-                        Layout.fillWidth: true
-                        text: tile.row.subtitle
-                        elide: Text.ElideRight
-                        font: Style.sans(12, Style.Regular)
-                        color: Style.palette.secondaryText
-                    }
-                }
             }
         }
     }

@@ -1,13 +1,13 @@
 #include "analysis/views/app_row.h"
 
-#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 
 IconNames iconNames(const std::optional<AppIcon>& icon) {
     if (!icon) return {};
-    const auto name = QString::fromStdString(icon->name);
+    const auto name = text(icon->name);
     return icon->source == AppIcon::Source::desktop ? IconNames{name, {}} : IconNames{{}, name};
 }
 

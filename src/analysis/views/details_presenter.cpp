@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "analysis/views/app_row.h"
-#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {
@@ -28,7 +28,7 @@ AppDetails details(const AppEntry& app, Seconds total) {
 }  // namespace
 
 DetailsPresenter::DetailsPresenter(DashboardModel& model, OpenMenu openMenu)
-    : TabPresenter(model),
+    : DashboardTabPresenter(model),
       openMenu_(std::move(openMenu)),
       filtersChanged_(model.changed.connect([this](DashboardModel::Field field) {
           if (field == DashboardModel::Field::searchText) Q_EMIT searchTextChanged();

@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <functional>
 
+#include "analysis/views/dashboard_tab_presenter.h"
 #include "ui/models/row_list.h"
-#include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {
 
@@ -63,7 +63,7 @@ public:
 };
 
 /// The table of the day's applications, with its filters. Main thread only.
-class DetailsPresenter final : public tidewatch::TabPresenter {
+class DetailsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/texts/display_text.h"
 #include "analysis/views/goal_steps.h"
 #include "base/duration_format.h"
-#include "ui/style/qt_color.h"
 #include "shell/themes/dashboard_style.h"
+#include "ui/style/qt_color.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {
@@ -52,7 +52,7 @@ std::vector<GoalStepper> stepperRows(const GoalSettings& settings) {
 }  // namespace
 
 GoalsPresenter::GoalsPresenter(DashboardModel& model, const Sources& from, std::function<void()> exportReport)
-    : TabPresenter(model),
+    : DashboardTabPresenter(model),
       from_(from),
       exportReport_(std::move(exportReport)),
       goalsChanged_(from_.goals.changed.connect([this] {

@@ -9,8 +9,8 @@
 #include "analysis/goal_evaluator.h"
 #include "analysis/goal_store.h"
 #include "analysis/reward_engine.h"
+#include "analysis/views/dashboard_tab_presenter.h"
 #include "ui/models/row_list.h"
-#include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {
 
@@ -67,7 +67,7 @@ public:
 };
 
 /// Stars, progress, and what the goals are. Main thread only.
-class GoalsPresenter final : public tidewatch::TabPresenter {
+class GoalsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

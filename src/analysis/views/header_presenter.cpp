@@ -1,7 +1,7 @@
 #include "analysis/views/header_presenter.h"
 
-#include "ui/texts/display_text.h"
 #include "shell/themes/fathom.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 

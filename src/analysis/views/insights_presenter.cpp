@@ -80,7 +80,7 @@ void InsightsPresenter::compute() {
     tiles_.setRows(makeTiles());
 }
 
-std::vector<InsightTile> InsightsPresenter::makeTiles() const {
+std::vector<StatTile> InsightsPresenter::makeTiles() const {
     const auto& found = insights_;
     const bool hasBestDay = found.bestDayKey && found.bestDaySeconds > Seconds();
     const auto constancy = QString::number(found.activeDays);

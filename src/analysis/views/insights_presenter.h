@@ -6,30 +6,11 @@
 #include <memory>
 
 #include "analysis/insights_engine.h"
-#include "ui/models/row_list.h"
 #include "platform/api/main_loop.h"
+#include "ui/models/row_list.h"
+#include "ui/models/stat_tile.h"
 
 namespace tidewatch {
-
-/// One figure of the look back.
-class InsightTile final {
-    Q_GADGET
-    QML_VALUE_TYPE(insightTile)
-    Q_PROPERTY(QString id MEMBER id FINAL)
-    Q_PROPERTY(QString symbol MEMBER symbol FINAL)
-    Q_PROPERTY(QString title MEMBER title FINAL)
-    Q_PROPERTY(QString value MEMBER value FINAL)
-    Q_PROPERTY(QString subtitle MEMBER subtitle FINAL)
-
-public:
-    QString id;
-    QString symbol;
-    QString title;
-    QString value;
-    QString subtitle;
-
-    bool operator==(const InsightTile&) const = default;
-};
 
 /// The look back over a range of days, computed anew every eight seconds while it is on show. Main thread
 /// only.
@@ -81,7 +62,7 @@ Q_SIGNALS:
 
 private:
     void compute();
-    [[nodiscard]] std::vector<InsightTile> makeTiles() const;
+    [[nodiscard]] std::vector<StatTile> makeTiles() const;
     [[nodiscard]] QString peakSubtitle() const;
     [[nodiscard]] QString totalSubtitle() const;
     [[nodiscard]] QString dateOf(const std::optional<DayKey>& day) const;
@@ -90,7 +71,7 @@ private:
     platform::MainLoop& mainLoop_;
     InsightsRange range_ = InsightsRange::week;
     Insights insights_;
-    RowList<InsightTile> tiles_;
+    RowList<StatTile> tiles_;
     std::unique_ptr<platform::RepeatingTimer> timer_;
 };
 

@@ -2,9 +2,9 @@
 
 #include <fmt/format.h>
 
-#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
 #include "ui/style/qt_color.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 
@@ -22,7 +22,7 @@ void TierColumnPresenter::update(const DashboardModel& model) {
     Q_EMIT changed();
 }
 
-OverviewPresenter::OverviewPresenter(DashboardModel& model) : TabPresenter(model) {
+OverviewPresenter::OverviewPresenter(DashboardModel& model) : DashboardTabPresenter(model) {
     updateScore();
 }
 

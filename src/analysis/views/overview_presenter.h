@@ -5,9 +5,9 @@
 #include <QObject>
 
 #include "analysis/views/app_row.h"
+#include "analysis/views/dashboard_tab_presenter.h"
 #include "analysis/views/hour_bar.h"
 #include "ui/models/row_list.h"
-#include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {
 
@@ -45,7 +45,7 @@ private:
 };
 
 /// The day at a glance. Main thread only.
-class OverviewPresenter final : public tidewatch::TabPresenter {
+class OverviewPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

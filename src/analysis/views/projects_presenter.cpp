@@ -1,7 +1,7 @@
 #include "analysis/views/projects_presenter.h"
 
-#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {
@@ -30,7 +30,7 @@ ProjectSheet sheet(const ProjectRow& row, Seconds totalDay) {
 
 ProjectsPresenter::ProjectsPresenter(DashboardModel& model, const ProjectStore& projects,
                                      const DailyStore& days)
-    : TabPresenter(model), projects_(projects), days_(days) {}
+    : DashboardTabPresenter(model), projects_(projects), days_(days) {}
 
 void ProjectsPresenter::update() {
     const auto totalDay = days_.seconds(model().selectedDayKey());

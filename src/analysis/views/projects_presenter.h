@@ -5,10 +5,10 @@
 #include <QObject>
 
 #include "analysis/views/app_row.h"
-#include "ui/models/row_list.h"
-#include "analysis/views/tab_presenter.h"
+#include "analysis/views/dashboard_tab_presenter.h"
 #include "core/daily_store.h"
 #include "projects/project_store.h"
+#include "ui/models/row_list.h"
 
 namespace tidewatch {
 
@@ -43,7 +43,7 @@ public:
 };
 
 /// Where the day's time went by project. Main thread only.
-class ProjectsPresenter final : public tidewatch::TabPresenter {
+class ProjectsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")

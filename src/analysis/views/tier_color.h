@@ -3,8 +3,8 @@
 #include <QColor>
 
 #include "classification/tier.h"
-#include "ui/style/qt_color.h"
 #include "shell/themes/ochre_palette.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "ui/texts/display_text.h"
 #include "analysis/views/tier_color.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {

@@ -6,8 +6,8 @@
 #include <QStringList>
 
 #include "analysis/views/app_row.h"
+#include "analysis/views/dashboard_tab_presenter.h"
 #include "ui/models/row_list.h"
-#include "analysis/views/tab_presenter.h"
 
 namespace tidewatch {
 
@@ -70,7 +70,7 @@ public:
 };
 
 /// The day hour by hour. Main thread only.
-class TimesheetPresenter final : public tidewatch::TabPresenter {
+class TimesheetPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
@@ -80,7 +80,7 @@ class TimesheetPresenter final : public tidewatch::TabPresenter {
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT FINAL)
 
 public:
-    using TabPresenter::TabPresenter;
+    using DashboardTabPresenter::DashboardTabPresenter;
 
     [[nodiscard]] QStringList columns() const { return {"HORA", "SUMARIO", "ACTIVIDADES"}; }
     [[nodiscard]] RowListModel* hours() { return &hours_; }

@@ -6,6 +6,7 @@
 
 #include "shell/icons/fathom_icons.h"
 #include "shell/themes/fathom.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 
@@ -30,8 +31,7 @@ const QColor halo(0, 0, 0, 120);
 
 /// The outline of a text of this height of capitals, its width at most `width`, standing on the origin.
 QPainterPath textPath(const QString& text, double capHeight, double width) {
-    QFont font(
-        QString::fromUtf8(fathom::sansFamily.data(), static_cast<qsizetype>(fathom::sansFamily.size())));
+    QFont font(tidewatch::text(fathom::sansFamily));
     font.setPixelSize(100);
     font.setWeight(QFont::Bold);
     QPainterPath path;
@@ -72,7 +72,7 @@ QImage statusImage(int pixels, const StatusTitle& title) {
     const double capHeight = unit * 7.6;
     auto figure = title.mood == StatusTitle::Mood::none
                       ? dashPath(capHeight)
-                      : textPath(QString::fromStdString(title.figure), capHeight, pixels - 1.0);
+                      : textPath(text(title.figure), capHeight, pixels - 1.0);
     const auto bounds = figure.boundingRect();
     figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 1.2);
     fillWithHalo(painter, figure, moodColour(title.mood), unit);

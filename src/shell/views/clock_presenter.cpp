@@ -6,6 +6,7 @@
 #include "base/duration_format.h"
 #include "ui/style/fonts.h"
 #include "ui/style/qt_color.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 namespace {
@@ -15,7 +16,7 @@ constexpr double filledStarOpacity = 0.7;
 constexpr double emptyStarOpacity = 0.22;
 
 QString clockText(Seconds duration) {
-    return QString::fromStdString(hms(duration));
+    return text(hms(duration));
 }
 
 }  // namespace
@@ -37,7 +38,7 @@ PanelBackgroundItem::Kind ClockPresenter::background() const {
 }
 
 QString ClockPresenter::label() const {
-    return QString::fromStdString(active().label.value_or("")).toUpper();
+    return text(active().label.value_or("")).toUpper();
 }
 
 QFont ClockPresenter::labelFont() const {

@@ -10,9 +10,9 @@
 #include "base/signal.h"
 #include "core/timer_engine.h"
 #include "platform/api/clock.h"
+#include "shell/themes/theme_controller.h"
 #include "ui/backgrounds/panel_background.h"
 #include "ui/backgrounds/wall_time.h"
-#include "shell/themes/theme_controller.h"
 
 namespace tidewatch {
 

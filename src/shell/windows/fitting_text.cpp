@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 
 #include "base/characters.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 
@@ -15,7 +16,7 @@ constexpr std::size_t mostBytes = 4096;
 
 QString fittingLine(std::string_view text, const QFont& font, double width) {
     const auto head = charactersWithin(mostBytes, text);
-    auto line = QString::fromStdString(onOneLine(head));
+    auto line = tidewatch::text(onOneLine(head));
     if (head.size() < text.size()) line += u'…';
     return QFontMetricsF(font).elidedText(line, Qt::ElideRight, width);
 }

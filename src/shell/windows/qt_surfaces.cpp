@@ -12,13 +12,14 @@
 #include "platform/api/log.h"
 #include "platform/api/window_manager.h"
 #include "platform/api/workspace.h"
-#include "ui/style/fonts.h"
-#include "ui/style/style.h"
 #include "shell/windows/menu_style.h"
 #include "shell/windows/menu_view.h"
 #include "shell/windows/question_dialog.h"
 #include "shell/windows/save_dialog.h"
 #include "shell/windows/tray_status_item.h"
+#include "ui/style/fonts.h"
+#include "ui/style/style.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 
@@ -27,10 +28,6 @@ namespace {
 constexpr int hintMilliseconds = 9000;
 constexpr int hintWidth = 260;
 constexpr int hintGap = 8;
-
-QString text(const std::string& utf8) {
-    return QString::fromStdString(utf8);
-}
 
 }  // namespace
 

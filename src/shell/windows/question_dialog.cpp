@@ -13,6 +13,7 @@
 
 #include "shell/windows/fitting_text.h"
 #include "shell/windows/menu_style.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 
@@ -24,8 +25,8 @@ constexpr int margin = 24;
 /// The text on lines of `textWidth`: its name on the line on which it begins, and no word wider than a line.
 QString fitted(const NamingText& text, const QFont& font) {
     const QFontMetricsF metrics(font);
-    const auto before = QString::fromStdString(text.before);
-    const auto after = QString::fromStdString(text.after);
+    const auto before = tidewatch::text(text.before);
+    const auto after = tidewatch::text(text.after);
     const double free = textWidth - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after);
     if (!text.name.empty()) return before + fittingLine(text.name, font, free) + after;
     auto words = (before + after).split(u' ');

@@ -21,6 +21,7 @@
 #include "shell/windows/file_name.h"
 #include "shell/windows/fitting_text.h"
 #include "shell/windows/menu_style.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 
@@ -170,7 +171,7 @@ private:
 QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder, const DashboardStyle& style,
                                std::function<void(const QString& path)> accepted) {
     const auto type = fileType(request.kind);
-    auto* dialog = new SaveDialog(nullptr, QString::fromStdString(request.title), folder, type.filter);
+    auto* dialog = new SaveDialog(nullptr, text(request.title), folder, type.filter);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
@@ -180,7 +181,7 @@ QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder
     wearInside(*dialog, style);
     new QuestionTailor(*dialog, style);
     dialog->resize(dialogSize);
-    dialog->propose(QString::fromStdString(writableFileName(request.proposedName)));
+    dialog->propose(text(writableFileName(request.proposedName)));
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, std::move(accepted));
     placeAbove(*dialog, QGuiApplication::focusWindow());
     dialog->setModal(true);

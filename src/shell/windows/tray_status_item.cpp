@@ -8,6 +8,7 @@
 
 #include "shell/icons/status_image.h"
 #include "shell/windows/menu_view.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 
@@ -20,7 +21,7 @@ constexpr int titlesBetweenLooks = 4;
 
 /// The toolkit looks for markup in the first line alone, and the project's name may look like it.
 QString plainToolTip(const std::string& words) {
-    return QString::fromStdString("Tidewatch\n" + words);
+    return text("Tidewatch\n" + words);
 }
 
 }  // namespace
@@ -50,8 +51,7 @@ bool TrayStatusItem::isShown() const {
 }
 
 void TrayStatusItem::showMessage(const std::string& title, const std::string& body) {
-    icon_->showMessage(QString::fromStdString(title), QString::fromStdString(body),
-                       QGuiApplication::windowIcon());
+    icon_->showMessage(text(title), text(body), QGuiApplication::windowIcon());
 }
 
 void TrayStatusItem::popUpMenu(const MenuRows& rows) {

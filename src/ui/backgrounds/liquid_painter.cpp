@@ -10,8 +10,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "ui/style/qt_color.h"
 #include "ui/backgrounds/soft_blur.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

@@ -3,8 +3,8 @@
 #include <QLinearGradient>
 #include <QPainter>
 
-#include "ui/style/qt_color.h"
 #include "ui/backgrounds/scanlines.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

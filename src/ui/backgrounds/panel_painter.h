@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ui/backgrounds/panel_shape.h"
 #include "shell/themes/theme.h"
+#include "ui/backgrounds/panel_shape.h"
 
 namespace tidewatch {
 

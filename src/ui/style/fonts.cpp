@@ -7,13 +7,10 @@
 #include <algorithm>
 
 #include "shell/themes/fathom.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
 
 QString systemFamily() {
     return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();

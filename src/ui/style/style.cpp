@@ -1,9 +1,9 @@
 #include "ui/style/style.h"
 
+#include "shell/themes/builtin_themes.h"
 #include "ui/style/contrast.h"
 #include "ui/style/fonts.h"
 #include "ui/style/qt_color.h"
-#include "shell/themes/builtin_themes.h"
 
 namespace tidewatch {
 namespace {

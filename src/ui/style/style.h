@@ -5,9 +5,9 @@
 #include <QQmlEngine>
 
 #include "base/signal.h"
+#include "shell/themes/theme_controller.h"
 #include "ui/style/measures.h"
 #include "ui/style/palette.h"
-#include "shell/themes/theme_controller.h"
 
 namespace tidewatch {
 

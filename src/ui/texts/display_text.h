@@ -4,11 +4,9 @@
 #include <string_view>
 
 #include "base/seconds.h"
+#include "ui/texts/qt_text.h"
 
 namespace tidewatch {
-
-/// UTF-8 as the views take it.
-[[nodiscard]] QString text(std::string_view utf8);
 
 /// A name that others gave, which may be anything, as one line that can be seen: what would break it becomes
 /// a blank, of more than 200 user-perceived characters the first are left and an ellipsis, and a name with

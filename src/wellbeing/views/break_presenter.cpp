@@ -2,14 +2,9 @@
 
 #include <variant>
 
+#include "ui/texts/qt_text.h"
+
 namespace tidewatch {
-namespace {
-
-QString text(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-}  // namespace
 
 BreakPresenter::BreakPresenter(BreakReminder& reminder, QObject* parent)
     : QObject(parent),

@@ -9,8 +9,8 @@
 
 #include "analysis/report/page_painter.h"
 #include "analysis/report/report_page.h"
-#include "ui/style/fonts.h"
 #include "tests/analysis/report/report_cases.h"
+#include "ui/style/fonts.h"
 
 namespace {
 

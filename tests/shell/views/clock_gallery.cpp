@@ -9,11 +9,11 @@
 #include <cstdio>
 
 #include "core/size_option.h"
-#include "ui/backgrounds/decorations.h"
-#include "ui/style/fonts.h"
-#include "ui/backgrounds/liquid_background.h"
-#include "ui/style/qt_color.h"
 #include "shell/views/clock_scene.h"
+#include "ui/backgrounds/decorations.h"
+#include "ui/backgrounds/liquid_background.h"
+#include "ui/style/fonts.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

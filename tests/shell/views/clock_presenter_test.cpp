@@ -4,8 +4,8 @@
 
 #include <QSignalSpy>
 
-#include "ui/style/qt_color.h"
 #include "shell/views/clock_scene.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

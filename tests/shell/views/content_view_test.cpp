@@ -4,12 +4,12 @@
 #include <QFontMetricsF>
 
 #include "core/size_option.h"
+#include "shell/views/clock_scene.h"
 #include "ui/backgrounds/liquid_background.h"
 #include "ui/style/qt_color.h"
 #include "ui/symbols/symbol.h"
 #include "ui/symbols/symbol_row.h"
 #include "ui/texts/tabular_text.h"
-#include "shell/views/clock_scene.h"
 
 namespace tidewatch {
 namespace {

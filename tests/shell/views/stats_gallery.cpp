@@ -5,8 +5,8 @@
 #include <QGuiApplication>
 #include <cstdio>
 
-#include "ui/style/fonts.h"
 #include "shell/views/stats_scene.h"
+#include "ui/style/fonts.h"
 
 namespace tidewatch {
 namespace {

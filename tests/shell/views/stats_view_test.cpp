@@ -4,9 +4,9 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include "shell/views/stats_scene.h"
 #include "ui/style/contrast.h"
 #include "ui/style/style.h"
-#include "shell/views/stats_scene.h"
 
 namespace tidewatch {
 namespace {

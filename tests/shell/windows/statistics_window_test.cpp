@@ -7,9 +7,9 @@
 #include <QTest>
 
 #include "core/settings.h"
-#include "ui/style/qt_color.h"
 #include "shell/themes/theme_registry.h"
 #include "tests/support/fake_world.h"
+#include "ui/style/qt_color.h"
 
 namespace tidewatch {
 namespace {

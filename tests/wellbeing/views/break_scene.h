@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/day_rule.h"
-#include "ui/ui_scene.h"
 #include "tests/support/fake_world.h"
+#include "ui/ui_scene.h"
 #include "wellbeing/break_reminder.h"
 #include "wellbeing/recording_notifier.h"
 #include "wellbeing/views/break_presenter.h"

@@ -1,0 +1,11 @@
+#include "analysis/views/dashboard_tab_presenter.h"
+
+namespace tidewatch {
+
+DashboardTabPresenter::DashboardTabPresenter(DashboardModel& model)
+    : model_(model), modelChanged_(model.changed.connect([this](DashboardModel::Field field) {
+          // The last assignment of a reload stands for all of it.
+          if (field == DashboardModel::Field::avg7Score) updateIfOnShow();
+      })) {}
+
+}  // namespace tidewatch
