@@ -1,5 +1,6 @@
 """The menu opens by real clicks, and its commands take effect."""
 
+import datetime
 import json
 import time
 import unittest
@@ -8,6 +9,7 @@ from contextlib import contextmanager
 from harness import menu as rows
 from harness.hands import LEFT, RIGHT
 from harness.home import today
+from harness.local_time import now_in, zone_where_it_is
 from harness.menu import Menu
 from harness.moments import Lapse, Moment
 from harness.screen import difference
@@ -205,15 +207,17 @@ class Choices(unittest.TestCase):
         with running("day-start") as (world, menu):
             world.stop_program(world.program)
             self.assertEqual(list(world.home.read("today.json")), [today()])
+            world.home.write("today.json", "{}")
+            morning = zone_where_it_is(5)
+            world.env["TZ"] = morning
             world.program = world.start_program()
             menu.open_from_tray()
             menu.choose(rows.DAY_START, rows.DAY_STARTS.index(8))
             wait_for_setting(world, "dayStartHour", "8")
             time.sleep(3)
             world.stop_program(world.program)
-            days = world.home.read("today.json")
-            expected = 2 if time.gmtime().tm_hour < 8 else 1
-            self.assertEqual(len(days), expected, days)
+            days = [now_in(morning) - datetime.timedelta(days=ago) for ago in (1, 0)]
+            self.assertEqual(list(world.home.read("today.json")), [day.strftime("%Y-%m-%d") for day in days])
 
     def test_a_row_takes_a_click_of_the_mouse(self):
         with running("mouse") as (world, menu):
@@ -266,6 +270,7 @@ class Commands(unittest.TestCase):
             register_folder_opener(world, "System;FileManager;")
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             wait_until(monitor.log, "the monitor to listen")
+            sleep_until(world.program.began.latest + 2)
             menu.open_from_tray()
             menu.choose(rows.REVEAL)
             wait_until(lambda: f"file://{world.home.data}/today.json" in monitor.log(), "the file manager to be asked")

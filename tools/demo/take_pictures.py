@@ -1,7 +1,6 @@
 """Takes pictures of the program on the record of the demonstration. Started by tools/take-pictures."""
 
 import argparse
-import datetime
 import os
 import subprocess
 import sys
@@ -14,6 +13,7 @@ from PIL import Image, ImageOps  # noqa: E402
 from Xlib import X, Xatom, display  # noqa: E402
 
 from harness import menu as rows  # noqa: E402
+from harness.local_time import zone_where_it_is  # noqa: E402
 from harness.menu import Menu  # noqa: E402
 from harness.screen import Rectangle  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
@@ -22,21 +22,13 @@ from harness.world import World  # noqa: E402
 TABS = ("overview", "goals", "details", "timesheet", "projects")
 WIDE, LEAST = (1360, 1000), (820, 560)
 SCREEN = (1480, 1100)
-AFTERNOON = 16  # o'clock in the pictures
+AFTERNOON = 16  # o'clock in the pictures, so that today has something to show
 GROUND = ("#3c5a6c", "#26394a")
 CLOCK_ORIGIN = (40, 40)
 CLOCK_MARGIN = 40
 
 # What stands in the documents: the first theme with all its tabs, the others with the first tab.
 DOCUMENTED = [(rows.THEMES[0], tab) for tab in TABS] + [(theme, TABS[0]) for theme in rows.THEMES[1:]]
-
-
-def afternoon_zone():
-    """A zone where it is afternoon now, so that today has something to show."""
-    ahead = AFTERNOON - datetime.datetime.now(datetime.timezone.utc).hour
-    if ahead > 14:
-        ahead -= 24
-    return f"Etc/GMT{-ahead:+d}"  # signs as POSIX has them
 
 
 def paint_desktop(name):
@@ -66,7 +58,7 @@ class Studio:
 
     def __enter__(self):
         world = self.world.__enter__()
-        world.env["TZ"] = afternoon_zone()
+        world.env["TZ"] = zone_where_it_is(AFTERNOON)
         paint_desktop(world.display)
         world.start_compositor()
         icons = world.folder / "icons"

@@ -1,9 +1,10 @@
 """A user's home directory: the record and the settings that the program keeps there."""
 
 import configparser
-import datetime
 import json
 from pathlib import Path
+
+from harness import local_time
 
 # The counter files.
 FILES = ("today.json", "apps.json", "hours.json", "minutes.json", "project_time.json")
@@ -61,5 +62,5 @@ def leaves(content, path=()):
 
 
 def today():
-    """Today's key in the zone that the tests run in."""
-    return datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%d")
+    """Today's key on the desktop of a test."""
+    return local_time.now().strftime("%Y-%m-%d")

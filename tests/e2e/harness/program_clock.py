@@ -14,6 +14,7 @@ class ProgramClock:
         if not libraries:
             raise AssertionError("faketime is not installed")
         self.environment = {
+            "TZ": "UTC",
             "LD_PRELOAD": libraries[0],
             "FAKETIME_TIMESTAMP_FILE": str(self._file),
             "FAKETIME_NO_CACHE": "1",

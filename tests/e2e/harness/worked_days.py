@@ -3,6 +3,8 @@
 import datetime
 import json
 
+from harness import local_time
+
 EDITOR, BROWSER, MUSIC, CHAT, UNKNOWN = (
     "com.microsoft.VSCode", "org.mozilla.firefox", "com.spotify.client", "com.hnc.Discord", "mystery",
 )
@@ -46,13 +48,13 @@ PROJECT_SECONDS = {EDITOR: 900, BROWSER: 120}
 
 
 def day_key(days_ago=0):
-    moment = datetime.datetime.now(datetime.timezone.utc) - datetime.timedelta(days=days_ago)
+    moment = local_time.now() - datetime.timedelta(days=days_ago)
     return moment.strftime("%Y-%m-%d")
 
 
 def short_date(days_ago=0):
     """As the interface writes it: "sáb 21 nov"."""
-    moment = datetime.datetime.now(datetime.timezone.utc) - datetime.timedelta(days=days_ago)
+    moment = local_time.now() - datetime.timedelta(days=days_ago)
     weekday = ("lun", "mar", "mié", "jue", "vie", "sáb", "dom")[moment.weekday()]
     month = ("ene", "feb", "mar", "abr", "may", "jun", "jul", "ago", "sep", "oct", "nov", "dic")[moment.month - 1]
     return f"{weekday} {moment.day} {month}"
@@ -114,7 +116,7 @@ def write(home, today=None, yesterday=None):
 
 def same_week(days_ago):
     """Whether that day lies in today's week, which begins on a Monday."""
-    return datetime.datetime.now(datetime.timezone.utc).weekday() >= days_ago
+    return local_time.now().weekday() >= days_ago
 
 
 def same_month(days_ago):

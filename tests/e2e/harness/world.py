@@ -11,6 +11,7 @@ from pathlib import Path
 
 from harness.hands import Hands
 from harness.home import Home
+from harness.local_time import ZONE
 from harness.moments import Moment
 from harness.processes import Process
 from harness.screen import Screen
@@ -126,7 +127,7 @@ class World:
             "USER": os.environ.get("USER", "root"),
             "LANG": "C.UTF-8",
             "LC_ALL": "C.UTF-8",
-            "TZ": "UTC",
+            "TZ": ZONE,
             "DISPLAY": self.display,
             "XDG_RUNTIME_DIR": str(runtime),
             "DBUS_SESSION_BUS_ADDRESS": f"unix:path={runtime}/bus",
