@@ -15,9 +15,7 @@
 namespace tidewatch {
 namespace {
 
-using std::chrono::days;
-
-constexpr std::size_t mostTopApps = 6;
+constexpr std::size_t maxTopAppsOfProject = 6;
 constexpr int daysOfTheMean = 7;
 constexpr std::chrono::milliseconds refreshInterval(2000);
 
@@ -81,7 +79,8 @@ void DashboardModel::today() {
 }
 
 void DashboardModel::moveByDays(int count) {
-    assign(selectedDate_, plusDays(selectedDate_, days(count), *from_.clock.timeZone()), Field::selectedDate);
+    assign(selectedDate_, plusDays(selectedDate_, std::chrono::days(count), *from_.clock.timeZone()),
+           Field::selectedDate);
     reload();
 }
 
@@ -184,13 +183,13 @@ ProjectRow DashboardModel::readProjectRow(const DayKey& day, const Project& proj
     ProjectRow row{project.id.text(), project, Seconds(), {}};
     for (const auto& app : from_.projectTime.aggregate({&day, 1}, project.id)) {
         row.seconds += app.seconds;
-        if (row.topApps.size() < mostTopApps) row.topApps.push_back(entry(app));
+        if (row.topApps.size() < maxTopAppsOfProject) row.topApps.push_back(entry(app));
     }
     return row;
 }
 
 ProductivityScore DashboardModel::scoreOfDayBefore(int daysBefore) const {
-    const auto day = keyOf(plusDays(selectedDate_, days(-daysBefore), *from_.clock.timeZone()));
+    const auto day = keyOf(plusDays(selectedDate_, std::chrono::days(-daysBefore), *from_.clock.timeZone()));
     return from_.scorer.compute({&day, 1});
 }
 

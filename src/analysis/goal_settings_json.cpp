@@ -21,18 +21,18 @@ namespace json = simdjson::dom;
 
 using Field = std::variant<double GoalSettings::*, bool GoalSettings::*>;
 
-struct Row {
+struct GoalField {
     std::string_view key;
     Field field;
 };
 
 // In the order of the file.
-constexpr std::array rows{
-    Row{"dailyHours", &GoalSettings::dailyHours},
-    Row{"dailyProductivity", &GoalSettings::dailyProductivity},
-    Row{"monthlyHours", &GoalSettings::monthlyHours},
-    Row{"notificationsEnabled", &GoalSettings::notificationsEnabled},
-    Row{"weeklyHours", &GoalSettings::weeklyHours},
+constexpr std::array goalFields{
+    GoalField{"dailyHours", &GoalSettings::dailyHours},
+    GoalField{"dailyProductivity", &GoalSettings::dailyProductivity},
+    GoalField{"monthlyHours", &GoalSettings::monthlyHours},
+    GoalField{"notificationsEnabled", &GoalSettings::notificationsEnabled},
+    GoalField{"weeklyHours", &GoalSettings::weeklyHours},
 };
 
 // Beyond it nothing can be meant, and texts and sums of it need not be thought of.
@@ -76,23 +76,25 @@ std::optional<GoalSettings> readGoalSettings(std::string text) {
     json::object object;
     if (!document || document->root().get_object().get(object) != simdjson::SUCCESS) return std::nullopt;
     GoalSettings settings;
-    std::array<bool, rows.size()> seen{};
+    std::array<bool, goalFields.size()> seen{};
     for (const auto& [key, value] : object) {
-        const auto* row = std::ranges::find(rows, key, &Row::key);
-        if (row == rows.end()) continue;
+        const auto* row = std::ranges::find(goalFields, key, &GoalField::key);
+        if (row == goalFields.end()) continue;
         if (!std::visit(Read{settings, value}, row->field)) return std::nullopt;
-        seen[static_cast<std::size_t>(std::distance(rows.begin(), row))] = true;
+        seen[static_cast<std::size_t>(std::distance(goalFields.begin(), row))] = true;
     }
     if (!std::ranges::all_of(seen, std::identity())) return std::nullopt;
     return settings;
 }
 
 std::optional<std::string> writeGoalSettings(const GoalSettings& settings) {
-    const auto canBeWritten = [&](const Row& row) { return std::visit(CanBeWritten{settings}, row.field); };
-    if (!std::ranges::all_of(rows, canBeWritten)) return std::nullopt;
+    const auto canBeWritten = [&](const GoalField& row) {
+        return std::visit(CanBeWritten{settings}, row.field);
+    };
+    if (!std::ranges::all_of(goalFields, canBeWritten)) return std::nullopt;
     JsonWriter writer;
     writer.beginObject();
-    for (const auto& row : rows) {
+    for (const auto& row : goalFields) {
         writer.key(row.key);
         std::visit(Write{settings, writer}, row.field);
     }

@@ -15,7 +15,7 @@ namespace tidewatch {
 namespace {
 
 constexpr Seconds leastPeak(60);
-constexpr Seconds leastClassified(300);
+constexpr Seconds minClassifiedOfDay(300);
 
 struct DayAndHour {
     std::string_view day;
@@ -125,7 +125,7 @@ void findAveragePeakHour(const Days& days, Insights& insights) {
 
 void findBestScore(const Days& days, Insights& insights) {
     for (const auto& [key, day] : days) {
-        if (day.productive + day.distracting < leastClassified) continue;
+        if (day.productive + day.distracting < minClassifiedOfDay) continue;
         const auto score = productiveShare(day.productive, day.distracting);
         if (score <= insights.bestScore) continue;
         insights.bestScore = score;

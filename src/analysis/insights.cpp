@@ -5,20 +5,20 @@
 namespace tidewatch {
 namespace {
 
-struct Row {
+struct RangeRow {
     InsightsRange value;
     std::string_view raw;
     std::string_view label;
     std::optional<int> days;
 };
 
-constexpr std::array rows{
-    Row{InsightsRange::week, "week", "Semana", 7},
-    Row{InsightsRange::month, "month", "Mes", 30},
-    Row{InsightsRange::all, "all", "Todo", std::nullopt},
+constexpr std::array rangeRows{
+    RangeRow{InsightsRange::week, "week", "Semana", 7},
+    RangeRow{InsightsRange::month, "month", "Mes", 30},
+    RangeRow{InsightsRange::all, "all", "Todo", std::nullopt},
 };
 
-constexpr auto ranges = valuesOf(rows);
+constexpr auto ranges = valuesOf(rangeRows);
 
 }  // namespace
 
@@ -27,15 +27,15 @@ std::span<const InsightsRange> allInsightsRanges() {
 }
 
 std::string_view rawValue(InsightsRange range) {
-    return rowOf(rows, range).raw;
+    return rowOf(rangeRows, range).raw;
 }
 
 std::string_view label(InsightsRange range) {
-    return rowOf(rows, range).label;
+    return rowOf(rangeRows, range).label;
 }
 
 std::optional<int> days(InsightsRange range) {
-    return rowOf(rows, range).days;
+    return rowOf(rangeRows, range).days;
 }
 
 }  // namespace tidewatch

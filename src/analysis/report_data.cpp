@@ -10,7 +10,7 @@
 namespace tidewatch {
 namespace {
 
-constexpr std::size_t mostTopApps = 8;
+constexpr std::size_t maxTopAppsOfMonth = 8;
 constexpr const char* noDay = "—";
 
 // The days of the month so far: how many have any time, and which has most.
@@ -30,7 +30,7 @@ void reviewDays(const DailyStore& days, std::span<const DayKey> keys, ReportData
 std::vector<ReportApp> topApps(const ReportSources& from, std::span<const DayKey> keys) {
     std::vector<ReportApp> apps;
     for (const auto& [app, seconds] : from.apps.aggregate(keys)) {
-        if (apps.size() == mostTopApps) break;
+        if (apps.size() == maxTopAppsOfMonth) break;
         apps.push_back({from.appInfo.info(app).name, seconds});
     }
     return apps;

@@ -13,7 +13,7 @@ constexpr double starsForProductivity = 2.0;
 constexpr double mostStars = 5.0;
 constexpr int starsOfAGoodDay = 3;
 constexpr int longestStreak = 400;
-constexpr Seconds leastClassified(30);
+constexpr Seconds minClassifiedForStar(30);
 
 // Halves away from zero. Below 0 for time below 0, which only an edited file can hold.
 double starsFor(double reached, double target, double most) {
@@ -31,7 +31,7 @@ int RewardEngine::stars(const DayKey& day) const {
     const auto seconds = static_cast<double>(daily_.seconds(day).count());
     const auto score = scorer_.compute({&day, 1});
     double stars = starsFor(seconds, goals.dailyHours * 3600.0, starsForTime);
-    if (score.classified() >= leastClassified) {
+    if (score.classified() >= minClassifiedForStar) {
         stars += starsFor(score.score(), goals.dailyProductivity, starsForProductivity);
     }
     return static_cast<int>(std::clamp(stars, 0.0, mostStars));

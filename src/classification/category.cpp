@@ -7,49 +7,49 @@
 namespace tidewatch {
 namespace {
 
-struct Row {
+struct CategoryRow {
     Category value;
     std::string_view raw;
     Tier defaultTier;
 };
 
 // Browsers and the rest count as productive on purpose: the user narrows that down.
-constexpr std::array rows{
-    Row{Category::audioVideo, "Audio/Video", Tier::productive},
-    Row{Category::design, "Diseño", Tier::productive},
-    Row{Category::development, "Desarrollo", Tier::productive},
-    Row{Category::documents, "Documentos y escritura", Tier::productive},
-    Row{Category::communication, "Comunicación", Tier::productive},
-    Row{Category::meetings, "Reuniones", Tier::productive},
-    Row{Category::browser, "Navegador", Tier::productive},
-    Row{Category::system, "Sistema", Tier::neutral},
-    Row{Category::utilities, "Utilidades", Tier::neutral},
-    Row{Category::music, "Música", Tier::neutral},
-    Row{Category::games, "Juegos", Tier::distracting},
-    Row{Category::entertainment, "Entretenimiento", Tier::distracting},
-    Row{Category::social, "Social", Tier::distracting},
-    Row{Category::other, "Otro", Tier::productive},
-    Row{Category::uncategorized, "Sin categorizar", Tier::uncategorized},
+constexpr std::array categoryRows{
+    CategoryRow{Category::audioVideo, "Audio/Video", Tier::productive},
+    CategoryRow{Category::design, "Diseño", Tier::productive},
+    CategoryRow{Category::development, "Desarrollo", Tier::productive},
+    CategoryRow{Category::documents, "Documentos y escritura", Tier::productive},
+    CategoryRow{Category::communication, "Comunicación", Tier::productive},
+    CategoryRow{Category::meetings, "Reuniones", Tier::productive},
+    CategoryRow{Category::browser, "Navegador", Tier::productive},
+    CategoryRow{Category::system, "Sistema", Tier::neutral},
+    CategoryRow{Category::utilities, "Utilidades", Tier::neutral},
+    CategoryRow{Category::music, "Música", Tier::neutral},
+    CategoryRow{Category::games, "Juegos", Tier::distracting},
+    CategoryRow{Category::entertainment, "Entretenimiento", Tier::distracting},
+    CategoryRow{Category::social, "Social", Tier::distracting},
+    CategoryRow{Category::other, "Otro", Tier::productive},
+    CategoryRow{Category::uncategorized, "Sin categorizar", Tier::uncategorized},
 };
 
-constexpr auto categories = valuesOf(rows);
+constexpr auto allValues = valuesOf(categoryRows);
 
 }  // namespace
 
 std::span<const Category> allCategories() {
-    return categories;
+    return allValues;
 }
 
 std::string_view rawValue(Category category) {
-    return rowOf(rows, category).raw;
+    return rowOf(categoryRows, category).raw;
 }
 
 std::optional<Category> categoryFromRaw(std::string_view raw) {
-    return valueFromRaw(rows, raw);
+    return valueFromRaw(categoryRows, raw);
 }
 
 Tier defaultTier(Category category) {
-    return rowOf(rows, category).defaultTier;
+    return rowOf(categoryRows, category).defaultTier;
 }
 
 }  // namespace tidewatch

@@ -8,105 +8,105 @@ namespace tidewatch {
 namespace {
 
 // Decided by the first row all of whose words are registered, so from the more specific to the more general.
-struct Row {
+struct RegisteredRow {
     std::string_view word;
     std::string_view andWord;  // empty: the one word decides
     Category category;
 };
 
-constexpr std::array rows{
+constexpr std::array registeredRows{
     // Whoever can hold a conference there is rarely there for anything else.
-    Row{"VideoConference", "", Category::meetings},
+    RegisteredRow{"VideoConference", "", Category::meetings},
 
     // What says exactly what somebody does there.
-    Row{"IDE", "", Category::development},
-    Row{"TerminalEmulator", "", Category::development},
-    Row{"Debugger", "", Category::development},
-    Row{"Profiling", "", Category::development},
-    Row{"RevisionControl", "", Category::development},
-    Row{"GUIDesigner", "", Category::development},
-    Row{"WebDevelopment", "", Category::development},
-    Row{"WebBrowser", "", Category::browser},
-    Row{"Email", "", Category::communication},
-    Row{"ContactManagement", "", Category::communication},
-    Row{"Calendar", "", Category::meetings},
+    RegisteredRow{"IDE", "", Category::development},
+    RegisteredRow{"TerminalEmulator", "", Category::development},
+    RegisteredRow{"Debugger", "", Category::development},
+    RegisteredRow{"Profiling", "", Category::development},
+    RegisteredRow{"RevisionControl", "", Category::development},
+    RegisteredRow{"GUIDesigner", "", Category::development},
+    RegisteredRow{"WebDevelopment", "", Category::development},
+    RegisteredRow{"WebBrowser", "", Category::browser},
+    RegisteredRow{"Email", "", Category::communication},
+    RegisteredRow{"ContactManagement", "", Category::communication},
+    RegisteredRow{"Calendar", "", Category::meetings},
 
     // Making sound and pictures comes before playing them; many a player also records.
-    Row{"AudioVideoEditing", "", Category::audioVideo},
-    Row{"Sequencer", "", Category::music},
-    Row{"Midi", "", Category::music},
-    Row{"Music", "", Category::music},
-    Row{"TV", "", Category::entertainment},
-    Row{"Player", "Video", Category::entertainment},
-    Row{"Player", "Audio", Category::music},
-    Row{"Player", "", Category::entertainment},
-    Row{"Recorder", "", Category::audioVideo},
-    Row{"Tuner", "", Category::music},
-    Row{"Mixer", "", Category::system},
-    Row{"DiscBurning", "", Category::utilities},
+    RegisteredRow{"AudioVideoEditing", "", Category::audioVideo},
+    RegisteredRow{"Sequencer", "", Category::music},
+    RegisteredRow{"Midi", "", Category::music},
+    RegisteredRow{"Music", "", Category::music},
+    RegisteredRow{"TV", "", Category::entertainment},
+    RegisteredRow{"Player", "Video", Category::entertainment},
+    RegisteredRow{"Player", "Audio", Category::music},
+    RegisteredRow{"Player", "", Category::entertainment},
+    RegisteredRow{"Recorder", "", Category::audioVideo},
+    RegisteredRow{"Tuner", "", Category::music},
+    RegisteredRow{"Mixer", "", Category::system},
+    RegisteredRow{"DiscBurning", "", Category::utilities},
 
     // Games name their kind, some of them nothing else, but every one of them is a game first.
-    Row{"Game", "", Category::games},
-    Row{"ActionGame", "", Category::games},
-    Row{"AdventureGame", "", Category::games},
-    Row{"ArcadeGame", "", Category::games},
-    Row{"BoardGame", "", Category::games},
-    Row{"BlocksGame", "", Category::games},
-    Row{"CardGame", "", Category::games},
-    Row{"KidsGame", "", Category::games},
-    Row{"LogicGame", "", Category::games},
-    Row{"RolePlaying", "", Category::games},
-    Row{"Shooter", "", Category::games},
-    Row{"SportsGame", "", Category::games},
-    Row{"StrategyGame", "", Category::games},
-    Row{"Amusement", "", Category::entertainment},
-    Row{"News", "", Category::entertainment},
-    Row{"Feed", "", Category::entertainment},
+    RegisteredRow{"Game", "", Category::games},
+    RegisteredRow{"ActionGame", "", Category::games},
+    RegisteredRow{"AdventureGame", "", Category::games},
+    RegisteredRow{"ArcadeGame", "", Category::games},
+    RegisteredRow{"BoardGame", "", Category::games},
+    RegisteredRow{"BlocksGame", "", Category::games},
+    RegisteredRow{"CardGame", "", Category::games},
+    RegisteredRow{"KidsGame", "", Category::games},
+    RegisteredRow{"LogicGame", "", Category::games},
+    RegisteredRow{"RolePlaying", "", Category::games},
+    RegisteredRow{"Shooter", "", Category::games},
+    RegisteredRow{"SportsGame", "", Category::games},
+    RegisteredRow{"StrategyGame", "", Category::games},
+    RegisteredRow{"Amusement", "", Category::entertainment},
+    RegisteredRow{"News", "", Category::entertainment},
+    RegisteredRow{"Feed", "", Category::entertainment},
 
     // After games and entertainment: where people play or watch together they also chat.
-    Row{"InstantMessaging", "", Category::communication},
-    Row{"Chat", "", Category::communication},
-    Row{"IRCClient", "", Category::communication},
-    Row{"Telephony", "", Category::communication},
+    RegisteredRow{"InstantMessaging", "", Category::communication},
+    RegisteredRow{"Chat", "", Category::communication},
+    RegisteredRow{"IRCClient", "", Category::communication},
+    RegisteredRow{"Telephony", "", Category::communication},
 
-    Row{"Photography", "", Category::audioVideo},
-    Row{"Scanning", "", Category::utilities},
-    Row{"OCR", "", Category::utilities},
-    Row{"Viewer", "", Category::utilities},
-    Row{"Publishing", "", Category::design},
-    Row{"FlowChart", "", Category::documents},
+    RegisteredRow{"Photography", "", Category::audioVideo},
+    RegisteredRow{"Scanning", "", Category::utilities},
+    RegisteredRow{"OCR", "", Category::utilities},
+    RegisteredRow{"Viewer", "", Category::utilities},
+    RegisteredRow{"Publishing", "", Category::design},
+    RegisteredRow{"FlowChart", "", Category::documents},
 
-    Row{"FileManager", "", Category::system},
-    Row{"Monitor", "", Category::system},
-    Row{"Filesystem", "", Category::system},
-    Row{"PackageManager", "", Category::system},
-    Row{"DesktopSettings", "", Category::system},
-    Row{"HardwareSettings", "", Category::system},
-    Row{"Printing", "", Category::system},
+    RegisteredRow{"FileManager", "", Category::system},
+    RegisteredRow{"Monitor", "", Category::system},
+    RegisteredRow{"Filesystem", "", Category::system},
+    RegisteredRow{"PackageManager", "", Category::system},
+    RegisteredRow{"DesktopSettings", "", Category::system},
+    RegisteredRow{"HardwareSettings", "", Category::system},
+    RegisteredRow{"Printing", "", Category::system},
 
-    Row{"WordProcessor", "", Category::documents},
-    Row{"Spreadsheet", "", Category::documents},
-    Row{"Presentation", "", Category::documents},
-    Row{"ProjectManagement", "", Category::documents},
-    Row{"Dictionary", "", Category::documents},
+    RegisteredRow{"WordProcessor", "", Category::documents},
+    RegisteredRow{"Spreadsheet", "", Category::documents},
+    RegisteredRow{"Presentation", "", Category::documents},
+    RegisteredRow{"ProjectManagement", "", Category::documents},
+    RegisteredRow{"Dictionary", "", Category::documents},
 
     // The main categories. A text editor that is a tool of development says so.
-    Row{"Development", "", Category::development},
-    Row{"TextEditor", "", Category::documents},
-    Row{"Documentation", "", Category::documents},
-    Row{"Engineering", "", Category::design},
-    Row{"Electronics", "", Category::design},
-    Row{"Graphics", "", Category::design},
-    Row{"Office", "", Category::documents},
-    Row{"AudioVideo", "", Category::audioVideo},
-    Row{"Audio", "", Category::audioVideo},
-    Row{"Video", "", Category::audioVideo},
-    Row{"Science", "", Category::documents},
-    Row{"Education", "", Category::documents},
-    Row{"Settings", "", Category::system},
-    Row{"System", "", Category::system},
-    Row{"Network", "", Category::utilities},
-    Row{"Utility", "", Category::utilities},
+    RegisteredRow{"Development", "", Category::development},
+    RegisteredRow{"TextEditor", "", Category::documents},
+    RegisteredRow{"Documentation", "", Category::documents},
+    RegisteredRow{"Engineering", "", Category::design},
+    RegisteredRow{"Electronics", "", Category::design},
+    RegisteredRow{"Graphics", "", Category::design},
+    RegisteredRow{"Office", "", Category::documents},
+    RegisteredRow{"AudioVideo", "", Category::audioVideo},
+    RegisteredRow{"Audio", "", Category::audioVideo},
+    RegisteredRow{"Video", "", Category::audioVideo},
+    RegisteredRow{"Science", "", Category::documents},
+    RegisteredRow{"Education", "", Category::documents},
+    RegisteredRow{"Settings", "", Category::system},
+    RegisteredRow{"System", "", Category::system},
+    RegisteredRow{"Network", "", Category::utilities},
+    RegisteredRow{"Utility", "", Category::utilities},
 };
 
 }  // namespace
@@ -115,9 +115,10 @@ std::optional<Category> categoryOfRegistered(std::span<const std::string> regist
     const auto has = [&](std::string_view word) {
         return word.empty() || std::ranges::find(registered, word) != registered.end();
     };
-    const auto row = std::ranges::find_if(
-        rows, [&](const Row& candidate) { return has(candidate.word) && has(candidate.andWord); });
-    return row == rows.end() ? std::nullopt : std::optional(row->category);
+    const auto row = std::ranges::find_if(registeredRows, [&](const RegisteredRow& candidate) {
+        return has(candidate.word) && has(candidate.andWord);
+    });
+    return row == registeredRows.end() ? std::nullopt : std::optional(row->category);
 }
 
 std::optional<Category> RegisteredCategories::category(const AppId& app) {

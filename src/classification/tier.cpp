@@ -7,20 +7,20 @@
 namespace tidewatch {
 namespace {
 
-struct Row {
+struct TierRow {
     Tier value;
     std::string_view raw;
     std::string_view displayName;
 };
 
-constexpr std::array rows{
-    Row{Tier::productive, "productivo", "Productivo"},
-    Row{Tier::neutral, "neutral", "Neutral"},
-    Row{Tier::distracting, "distrayendo", "Distrayendo"},
-    Row{Tier::uncategorized, "sincategorizar", "Sin categorizar"},
+constexpr std::array tierRows{
+    TierRow{Tier::productive, "productivo", "Productivo"},
+    TierRow{Tier::neutral, "neutral", "Neutral"},
+    TierRow{Tier::distracting, "distrayendo", "Distrayendo"},
+    TierRow{Tier::uncategorized, "sincategorizar", "Sin categorizar"},
 };
 
-constexpr auto tiers = valuesOf(rows);
+constexpr auto tiers = valuesOf(tierRows);
 
 }  // namespace
 
@@ -29,15 +29,15 @@ std::span<const Tier> allTiers() {
 }
 
 std::string_view rawValue(Tier tier) {
-    return rowOf(rows, tier).raw;
+    return rowOf(tierRows, tier).raw;
 }
 
 std::string_view displayName(Tier tier) {
-    return rowOf(rows, tier).displayName;
+    return rowOf(tierRows, tier).displayName;
 }
 
 std::optional<Tier> tierFromRaw(std::string_view raw) {
-    return valueFromRaw(rows, raw);
+    return valueFromRaw(tierRows, raw);
 }
 
 }  // namespace tidewatch

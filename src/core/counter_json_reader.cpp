@@ -5,14 +5,13 @@
 #include <utility>
 
 #include "core/counter_json.h"
+#include "core/utf8.h"
 
 namespace tidewatch {
 namespace {
 
 // Read as it goes by: a tree of the whole would take more memory and time than all the rest.
 namespace json = simdjson::ondemand;
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 std::optional<Seconds> counterIn(json::value value) {
     std::int64_t integer = 0;

@@ -6,12 +6,12 @@
 namespace tidewatch {
 namespace {
 
-constexpr StoreFormat format{"today.json", 1, "Tidewatch: failed to flush daily store: "};
+constexpr StoreFormat dailyFormat{"today.json", 1, "Tidewatch: failed to flush daily store: "};
 
 }  // namespace
 
 DailyStore::DailyStore(platform::FileSystem& files, platform::Log& log, const DayRule& dayRule)
-    : dayRule_(dayRule), frame_(files, log, format) {}
+    : dayRule_(dayRule), frame_(files, log, dailyFormat) {}
 
 Seconds DailyStore::seconds(const DayKey& day) const {
     const std::array<std::string_view, 1> path{day.text()};

@@ -3,12 +3,12 @@
 namespace tidewatch {
 namespace {
 
-constexpr StoreFormat format{"hours.json", 2, "Tidewatch: failed to flush hourly store: "};
+constexpr StoreFormat hourlyFormat{"hours.json", 2, "Tidewatch: failed to flush hourly store: "};
 
 }  // namespace
 
 HourlyStore::HourlyStore(platform::FileSystem& files, platform::Log& log,
                          const platform::Workspace& workspace)
-    : frame_(files, log, workspace, format) {}
+    : frame_(files, log, workspace, hourlyFormat) {}
 
 }  // namespace tidewatch

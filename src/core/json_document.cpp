@@ -1,13 +1,8 @@
 #include "core/json_document.h"
 
-#include <string_view>
+#include "core/utf8.h"
 
 namespace tidewatch {
-namespace {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-}  // namespace
 
 std::optional<JsonDocument> JsonDocument::parse(std::string text) {
     text.reserve(text.size() + simdjson::SIMDJSON_PADDING);

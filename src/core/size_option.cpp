@@ -9,31 +9,32 @@
 namespace tidewatch {
 namespace {
 
-using Row = OptionRow<SizeOption, double>;
+using SizeRow = OptionRow<SizeOption, double>;
 
-constexpr std::array rows{
-    Row{SizeOption::xs, 0.1, "10%"},  Row{SizeOption::sm, 0.25, "25%"},   Row{SizeOption::md, 0.5, "50%"},
-    Row{SizeOption::lg, 0.75, "75%"}, Row{SizeOption::full, 1.0, "100%"}, Row{SizeOption::huge, 5.0, "500%"},
+constexpr std::array sizeRows{
+    SizeRow{SizeOption::xs, 0.1, "10%"},    SizeRow{SizeOption::sm, 0.25, "25%"},
+    SizeRow{SizeOption::md, 0.5, "50%"},    SizeRow{SizeOption::lg, 0.75, "75%"},
+    SizeRow{SizeOption::full, 1.0, "100%"}, SizeRow{SizeOption::huge, 5.0, "500%"},
 };
 
-constexpr auto options = [] {
-    std::array<SizeOption, rows.size()> result{};
-    std::ranges::transform(rows, result.begin(), &Row::option);
+constexpr auto sizeOptions = [] {
+    std::array<SizeOption, sizeRows.size()> result{};
+    std::ranges::transform(sizeRows, result.begin(), &SizeRow::option);
     return result;
 }();
 
-const Row& rowOf(SizeOption option) {
-    return rows[static_cast<std::size_t>(option)];
+const SizeRow& rowOf(SizeOption option) {
+    return sizeRows[static_cast<std::size_t>(option)];
 }
 
-double distance(double raw, double value) {
+double sizeDistance(double raw, double value) {
     return std::abs(raw - value);
 }
 
 }  // namespace
 
 std::span<const SizeOption> allSizeOptions() {
-    return options;
+    return sizeOptions;
 }
 
 double rawValue(SizeOption option) {
@@ -45,12 +46,12 @@ std::string_view label(SizeOption option) {
 }
 
 std::optional<SizeOption> sizeOption(double raw) {
-    const auto* row = std::ranges::find(rows, raw, &Row::raw);
-    return row == rows.end() ? std::nullopt : std::optional(row->option);
+    const auto* row = std::ranges::find(sizeRows, raw, &SizeRow::raw);
+    return row == sizeRows.end() ? std::nullopt : std::optional(row->option);
 }
 
 SizeOption closestSizeOption(double raw) {
-    return closestOption<SizeOption, double>(rows, raw, distance);
+    return closestOption<SizeOption, double>(sizeRows, raw, sizeDistance);
 }
 
 }  // namespace tidewatch

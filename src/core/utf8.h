@@ -5,6 +5,9 @@
 
 namespace tidewatch {
 
+/// What some editors put in front of a text to say that it is UTF-8; no part of it.
+inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
 /// `text` with U+FFFD in the place of whatever is not UTF-8: one for each byte that begins no character, one
 /// for each character that breaks off.
 [[nodiscard]] std::string repairedUtf8(std::string_view text);

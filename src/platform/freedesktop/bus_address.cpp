@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view transport = "unix:";
 
-std::string unescaped(std::string_view text) {
+std::string percentDecoded(std::string_view text) {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i) {
         unsigned code = 0;
@@ -43,8 +43,8 @@ std::optional<LocalSocket> socketOfOne(std::string_view address) {
     while (!address.empty()) {
         const auto end = std::min(address.find(','), address.size());
         const auto pair = address.substr(0, end);
-        if (pair.starts_with("path=")) return localSocket(unescaped(pair.substr(5)));
-        if (pair.starts_with("abstract=")) return localSocket('\0' + unescaped(pair.substr(9)));
+        if (pair.starts_with("path=")) return localSocket(percentDecoded(pair.substr(5)));
+        if (pair.starts_with("abstract=")) return localSocket('\0' + percentDecoded(pair.substr(9)));
         address.remove_prefix(std::min(end + 1, address.size()));
     }
     return std::nullopt;

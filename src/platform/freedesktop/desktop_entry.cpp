@@ -59,7 +59,7 @@ void forEachCharacter(std::string_view value, Visitor&& visit) {
     }
 }
 
-std::string unescaped(std::string_view value) {
+std::string unescapedValue(std::string_view value) {
     std::string result;
     forEachCharacter(value, [&](char c, bool) { result += c; });
     return result;
@@ -103,8 +103,8 @@ std::optional<ApplicationInfo> readDesktopEntry(std::string_view text, std::stri
     const auto lines = linesOfMainGroup(text);
     if (lines.empty() || valueOf(lines, "Hidden") == "true") return std::nullopt;
     const auto plain = [&](std::string_view key) { return valueOf(lines, key).value_or(""); };
-    return ApplicationInfo{unescaped(spanishName(lines, locale).value_or(plain("Name"))),
-                           unescaped(plain("Icon")), unescapedList(plain("Categories"))};
+    return ApplicationInfo{unescapedValue(spanishName(lines, locale).value_or(plain("Name"))),
+                           unescapedValue(plain("Icon")), unescapedList(plain("Categories"))};
 }
 
 }  // namespace tidewatch::platform

@@ -9,11 +9,6 @@ namespace tidewatch::platform {
 
 namespace {
 
-struct Listener {
-    TimerMode mode;
-    MainLoop::Job fire;
-};
-
 bool menuIsOpen() {
     return QApplication::activePopupWidget() != nullptr;
 }
@@ -24,6 +19,11 @@ bool menuIsOpen() {
 /// hardly within one.
 class QtMainLoop::Beat final : public std::enable_shared_from_this<Beat> {
 public:
+    struct Listener {
+        TimerMode mode;
+        Job fire;
+    };
+
     explicit Beat(std::chrono::milliseconds interval) {
         // A precise timer keeps to its first beat: it neither drifts nor makes good what it missed.
         timer_.setTimerType(Qt::PreciseTimer);
@@ -60,14 +60,14 @@ namespace {
 template <class Beat>
 class Subscription final : public RepeatingTimer {
 public:
-    Subscription(std::shared_ptr<Beat> beat, Listener listener)
-        : beat_(std::move(beat)), listener_(std::make_shared<Listener>(std::move(listener))) {
+    Subscription(std::shared_ptr<Beat> beat, typename Beat::Listener listener)
+        : beat_(std::move(beat)), listener_(std::make_shared<typename Beat::Listener>(std::move(listener))) {
         beat_->join(listener_);
     }
 
 private:
     std::shared_ptr<Beat> beat_;
-    std::shared_ptr<Listener> listener_;
+    std::shared_ptr<typename Beat::Listener> listener_;
 };
 
 }  // namespace
@@ -81,7 +81,7 @@ void QtMainLoop::post(Job job) {
 
 std::unique_ptr<RepeatingTimer> QtMainLoop::repeat(std::chrono::milliseconds interval, TimerMode mode,
                                                    Job fire) {
-    return std::make_unique<Subscription<Beat>>(beat(interval), Listener{mode, std::move(fire)});
+    return std::make_unique<Subscription<Beat>>(beat(interval), Beat::Listener{mode, std::move(fire)});
 }
 
 std::shared_ptr<QtMainLoop::Beat> QtMainLoop::beat(std::chrono::milliseconds interval) {
