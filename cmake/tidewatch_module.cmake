@@ -7,6 +7,7 @@ function(tidewatch_module room)
     add_library(tidewatch_${room} STATIC ${ARG_SOURCES})
     target_link_libraries(tidewatch_${room} PUBLIC ${ARG_KNOWS} PRIVATE tidewatch_options)
     target_include_directories(tidewatch_${room} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    tidewatch_unity(tidewatch_${room})
 endfunction()
 
 # tidewatch_test(<name> [THREADS] SOURCES <file>... [KNOWS <target>...])

@@ -10,7 +10,7 @@ namespace {
 
 /// So that a quiet day's bars stay low.
 constexpr Seconds leastMaximum(600);
-constexpr double leastHeight = 0.04;
+constexpr double minBarHeight = 0.04;
 
 QString hourLabel(int hour) {
     const int onClock = hour % 12 == 0 ? 12 : hour % 12;
@@ -28,7 +28,7 @@ std::vector<HourBar> hourBars(const std::vector<HourSummary>& hours) {
         bars.push_back(
             {.id = QString::number(hour.hour),
              .label = hourLabel(hour.hour),
-             .height = std::max(leastHeight, share(hour.seconds, maximum)),
+             .height = std::max(minBarHeight, share(hour.seconds, maximum)),
              .productive = share(hour.productive, hour.seconds),
              .neutral = share(hour.neutral, hour.seconds),
              .distracting = share(hour.distracting, hour.seconds),

@@ -12,7 +12,7 @@ namespace {
 
 // Points.
 constexpr double fullHeight = 20;
-constexpr double leastHeight = 2;
+constexpr double minBlockHeight = 2;
 constexpr double barOpacity = 0.85;
 
 QString clockText(int hour, int minute) {
@@ -27,7 +27,7 @@ BucketCell cell(const BucketSummary& bucket) {
     if (bucket.dominantTier() != Tier::uncategorized) color.setAlphaF(static_cast<float>(barOpacity));
     const QStringList spoken{clockText(bucket.hour, bucket.minute), timeText(bucket.seconds),
                              text(displayName(bucket.dominantTier()))};
-    return {true, std::max(fullHeight * bucket.fillRatio(), leastHeight), color, spoken.join(", ")};
+    return {true, std::max(fullHeight * bucket.fillRatio(), minBlockHeight), color, spoken.join(", ")};
 }
 
 QList<NamedTime> summary(const HourGroup& group) {

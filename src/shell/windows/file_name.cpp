@@ -8,7 +8,7 @@ namespace tidewatch {
 
 namespace {
 
-constexpr std::size_t mostBytes = 255;
+constexpr std::size_t maxNameBytes = 255;
 constexpr std::size_t longestExtension = 8;
 
 /// From the last dot on; empty where what follows it is too long to be one.
@@ -23,10 +23,10 @@ std::string_view extensionOf(std::string_view name) {
 std::string writableFileName(std::string_view name) {
     std::string writable(name);
     std::erase(writable, '\0');
-    if (writable.size() <= mostBytes) return writable;
+    if (writable.size() <= maxNameBytes) return writable;
     const std::string extension(extensionOf(writable));
     const auto stem = std::string_view(writable).substr(0, writable.size() - extension.size());
-    return std::string(charactersWithin(mostBytes - extension.size(), stem)) + extension;
+    return std::string(charactersWithin(maxNameBytes - extension.size(), stem)) + extension;
 }
 
 }  // namespace tidewatch

@@ -10,12 +10,12 @@ namespace tidewatch {
 namespace {
 
 /// More bytes than any line shows. The toolkit measures all of a text before it cuts it.
-constexpr std::size_t mostBytes = 4096;
+constexpr std::size_t maxFittedBytes = 4096;
 
 }  // namespace
 
 QString fittingLine(std::string_view text, const QFont& font, double width) {
-    const auto head = charactersWithin(mostBytes, text);
+    const auto head = charactersWithin(maxFittedBytes, text);
     auto line = tidewatch::text(onOneLine(head));
     if (head.size() < text.size()) line += u'…';
     return QFontMetricsF(font).elidedText(line, Qt::ElideRight, width);
