@@ -124,7 +124,7 @@ TEST_F(DayFromFiveTest, ThePeakHourIsTheOneOnTheClock) {
     work(at(2026y / 1 / 16, 2h + 30min), 100s);
     work(at(2026y / 1 / 16, 9h), 60s);
     appear();
-    const auto peak = rows<InsightTile>(presenter_.insights()->tiles())[0];
+    const auto peak = rows<StatTile>(presenter_.insights()->tiles())[0];
     EXPECT_EQ(peak.value, "2 am");
     EXPECT_EQ(peak.subtitle, "prom. 6 am") << "of two days, at two and at nine";
 }

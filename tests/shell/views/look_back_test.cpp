@@ -18,7 +18,7 @@ struct LookBackTest : testing::Test, StatsWorld {
     /// "value / subtitle" of a tile as it is now.
     [[nodiscard]] std::string shown(Tile tile) {
         const auto row =
-            presenter_.insights()->tiles()->index(tile).data(RowListModel::rowRole).value<InsightTile>();
+            presenter_.insights()->tiles()->index(tile).data(RowListModel::rowRole).value<StatTile>();
         return (row.value + " / " + row.subtitle).toStdString();
     }
     void day(const char* key, std::int64_t seconds) { services_.days.set(Seconds(seconds), DayKey(key)); }

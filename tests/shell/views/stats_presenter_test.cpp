@@ -195,7 +195,7 @@ TEST_F(StatsPresenterTest, ConstancyIsMeasuredAgainstTheDaysBetweenFirstAndLast)
     book("code", today(), 9, 0, 60);
     showTab(overviewTab);
     const auto tile =
-        presenter_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<InsightTile>();
+        presenter_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<StatTile>();
     EXPECT_EQ(tile.value, "2/2");
 }
 
