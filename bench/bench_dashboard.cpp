@@ -15,8 +15,8 @@ int main() {
     BenchWorld world(record);
     world.clock.setZone(platform::madridZone());
     const BenchStores stores(world);
-    const CategoryStore categories(world.files, world.log, world.workspace);
-    const AppInfoResolver appInfo(world.workspace);
+    const CategoryStore categories(world.files, world.log, world.applications);
+    const AppInfoResolver appInfo(world.applications);
     const ProductivityScorer scorer(stores.apps, categories);
     const Broadcaster broadcaster;
     ProjectStore projects(world.files, world.log, world.randomness, broadcaster);

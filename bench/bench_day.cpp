@@ -13,8 +13,8 @@ int main() {
     const auto record = makeLargeRecord({});
     BenchWorld world(record);
     const BenchStores stores(world);
-    const CategoryStore categories(world.files, world.log, world.workspace);
-    const AppInfoResolver apps(world.workspace);
+    const CategoryStore categories(world.files, world.log, world.applications);
+    const AppInfoResolver apps(world.applications);
     const ProductivityScorer scorer(stores.apps, categories);
     const auto& day = record.lastDay;
 

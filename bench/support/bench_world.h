@@ -17,12 +17,13 @@
 #include "core/minute_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
+#include "platform/fake/fake_applications.h"
 #include "platform/fake/fake_clock.h"
+#include "platform/fake/fake_frontmost_application.h"
 #include "platform/fake/fake_input_activity.h"
 #include "platform/fake/fake_log.h"
 #include "platform/fake/fake_main_loop.h"
 #include "platform/fake/fake_randomness.h"
-#include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_preferences.h"
 #include "platform/posix/posix_file_system.h"
 #include "projects/active_project_booking.h"
@@ -43,7 +44,7 @@ struct BenchWorld {
     explicit BenchWorld(const LargeRecord& record) {
         std::filesystem::create_directory(directory.path() + "/.tidewatch");
         writeLargeRecord(record, directory.path() + "/.tidewatch");
-        workspace.setFrontmost(AppId("firefox-01"));
+        frontmost.set(AppId("firefox-01"));
     }
 
     test::TemporaryDirectory directory;
@@ -53,7 +54,8 @@ struct BenchWorld {
     platform::FakeMainLoop loop{clock};
     platform::MemoryPreferences preferences;
     platform::FakeInputActivity input;
-    platform::FakeWorkspace workspace;
+    platform::FakeFrontmostApplication frontmost;
+    platform::FakeApplications applications;
     platform::FakeRandomness randomness;
     platform::FakeLog log{giveUp};
 };
@@ -65,10 +67,10 @@ struct BenchStores {
           dayRule(world.clock, settings),
           keys(world.clock, settings, dayRule),
           daily(world.files, world.log, dayRule),
-          apps(world.files, world.log, world.workspace),
-          hours(world.files, world.log, world.workspace),
-          minutes(world.files, world.log, world.workspace),
-          times(world.files, world.log, world.workspace) {}
+          apps(world.files, world.log, world.frontmost),
+          hours(world.files, world.log, world.frontmost),
+          minutes(world.files, world.log, world.frontmost),
+          times(world.files, world.log, world.frontmost) {}
 
     void flush() {
         daily.flush();

@@ -26,7 +26,7 @@ Composition::Composition(const platform::Platform& platform, std::function<void(
       exports_({
           .services = services_,
           .files = platform.files,
-          .workspace = platform.workspace,
+          .desktop = platform.desktop,
           .dialogs = surfaces_.dialogs(),
           .generateReport = [this](const std::string& path) { return report_.generate(path); },
       }),

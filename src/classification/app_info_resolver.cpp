@@ -18,7 +18,7 @@ const AppInfo& AppInfoResolver::info(const AppId& app) const {
 
 AppInfo AppInfoResolver::lookUp(const AppId& app) const {
     if (app.text() == gamesApplicationId) return builtInGames();
-    const auto registered = workspace_.applicationInfo(app);
+    const auto registered = applications_.info(app);
     if (!registered) return {app.text(), std::nullopt};
     AppInfo info{registered->name, std::nullopt};
     if (!registered->icon.empty()) info.icon = AppIcon{AppIcon::Source::desktop, registered->icon, ""};

@@ -5,7 +5,7 @@
 #include <unordered_map>
 
 #include "base/named_string.h"
-#include "platform/api/workspace.h"
+#include "platform/api/applications.h"
 
 namespace tidewatch {
 
@@ -32,8 +32,8 @@ struct AppInfo {
 /// so one that is installed later keeps the bare identifier as its name. Main thread only.
 class AppInfoResolver final {
 public:
-    /// `workspace` must outlive it.
-    explicit AppInfoResolver(const platform::Workspace& workspace) : workspace_(workspace) {}
+    /// `applications` must outlive it.
+    explicit AppInfoResolver(const platform::Applications& applications) : applications_(applications) {}
 
     /// An application that the desktop does not know goes by its identifier and has no icon. Valid as long
     /// as the resolver.
@@ -42,7 +42,7 @@ public:
 private:
     [[nodiscard]] AppInfo lookUp(const AppId& app) const;
 
-    const platform::Workspace& workspace_;
+    const platform::Applications& applications_;
     mutable std::unordered_map<AppId, AppInfo> known_;
 };
 

@@ -7,8 +7,8 @@
 namespace tidewatch {
 
 CategoryStore::CategoryStore(platform::FileSystem& files, platform::Log& log,
-                             const platform::Workspace& workspace)
-    : registered_(files, log, workspace),
+                             platform::Applications& applications)
+    : registered_(files, log, applications),
       file_(files, log, "categories.json", "Tidewatch: failed to write categories.json: ") {
     if (auto overrides = file_.read(readCategoryOverrides)) overrides_ = std::move(*overrides);
 }

@@ -8,9 +8,9 @@
 #include "classification/registered_category.h"
 #include "classification/tier.h"
 #include "core/record_file.h"
+#include "platform/api/applications.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
-#include "platform/api/workspace.h"
 
 namespace tidewatch {
 
@@ -22,7 +22,7 @@ class CategoryStore final {
 public:
     /// Reads the file; one that is missing or cannot be read to the last value is no overrides at all.
     /// All three must outlive it.
-    CategoryStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+    CategoryStore(platform::FileSystem& files, platform::Log& log, platform::Applications& applications);
 
     /// The user's choice; else what the built-in table says; else what the application registered with the
     /// desktop when it was first met; else Category::uncategorized.

@@ -125,7 +125,7 @@ std::optional<Category> RegisteredCategories::category(const AppId& app) {
     const auto [entry, isNew] = answers_.try_emplace(app);
     auto& answer = entry->second;
     if (answer.category) return answer.category;
-    const auto revision = workspace_.registryRevision();
+    const auto revision = applications_.revision();
     if (isNew || answer.revision != revision) answer = {lookUp(app), revision};
     return answer.category;
 }
@@ -134,7 +134,7 @@ std::optional<Category> RegisteredCategories::lookUp(const AppId& app) {
     if (const auto* words = registrations_.find(app)) {
         if (const auto category = categoryOfRegistered(*words)) return category;
     }
-    const auto info = workspace_.applicationInfo(app);
+    const auto info = applications_.info(app);
     const auto category = info ? categoryOfRegistered(info->categories) : std::nullopt;
     if (category) registrations_.remember(app, info->categories);
     return category;

@@ -9,9 +9,9 @@
 #include "base/named_string.h"
 #include "classification/category.h"
 #include "classification/first_registrations.h"
+#include "platform/api/applications.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
-#include "platform/api/workspace.h"
 
 namespace tidewatch {
 
@@ -27,8 +27,8 @@ class RegisteredCategories final {
 public:
     /// Reads the file. All three must outlive it.
     RegisteredCategories(platform::FileSystem& files, platform::Log& log,
-                         const platform::Workspace& workspace)
-        : workspace_(workspace), registrations_(files, log) {}
+                         platform::Applications& applications)
+        : applications_(applications), registrations_(files, log) {}
 
     /// Nothing for an application that is not registered, or that registers nothing of use.
     [[nodiscard]] std::optional<Category> category(const AppId& app);
@@ -44,7 +44,7 @@ private:
 
     [[nodiscard]] std::optional<Category> lookUp(const AppId& app);
 
-    const platform::Workspace& workspace_;
+    platform::Applications& applications_;
     FirstRegistrations registrations_;
     std::unordered_map<AppId, Answer> answers_;
 };

@@ -28,11 +28,11 @@ void addDay(const CounterRecord& record, const DayKey& day, Sums& sums) {
 }  // namespace
 
 AppUsageStore::AppUsageStore(platform::FileSystem& files, platform::Log& log,
-                             const platform::Workspace& workspace)
-    : workspace_(workspace), frame_(files, log, format) {}
+                             platform::FrontmostApplication& frontmost)
+    : frontmost_(frontmost), frame_(files, log, format) {}
 
 void AppUsageStore::incrementCurrentApp(const DayKey& day) {
-    if (const auto app = bookableApplication(workspace_)) incrementApp(*app, day);
+    if (const auto app = bookableApplication(frontmost_)) incrementApp(*app, day);
 }
 
 void AppUsageStore::incrementApp(const AppId& app, const DayKey& day) {

@@ -8,18 +8,18 @@
 #include "core/app_seconds.h"
 #include "core/store_frame.h"
 #include "platform/api/file_system.h"
+#include "platform/api/frontmost_application.h"
 #include "platform/api/log.h"
-#include "platform/api/workspace.h"
 
 namespace tidewatch {
 
 /// Seconds booked per logical day and application ("apps.json"). Safe from any thread, but for
-/// incrementCurrentApp, which asks the workspace and is for the main thread.
+/// incrementCurrentApp, which asks for the application in front and is for the main thread.
 class AppUsageStore final {
 public:
     /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
     /// All three must outlive it.
-    AppUsageStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+    AppUsageStore(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost);
 
     /// Books one second of `day` to the application in front, if there is one that can be booked.
     void incrementCurrentApp(const DayKey& day);
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] std::string dataFilePath() const { return frame_.filePath(); }
 
 private:
-    const platform::Workspace& workspace_;
+    platform::FrontmostApplication& frontmost_;
     StoreFrame frame_;
 };
 

@@ -4,8 +4,8 @@
 
 namespace tidewatch {
 
-std::optional<AppId> bookableApplication(const platform::Workspace& workspace) {
-    auto front = workspace.frontmostApplication();
+std::optional<AppId> bookableApplication(platform::FrontmostApplication& frontmost) {
+    auto front = frontmost.current();
     if (!front || front->empty() || front->text() == ownApplicationId) return std::nullopt;
     return front;
 }

@@ -3,12 +3,12 @@
 #include <optional>
 
 #include "base/named_string.h"
-#include "platform/api/workspace.h"
+#include "platform/api/frontmost_application.h"
 
 namespace tidewatch {
 
 /// The application in front that a second may be booked to. Nothing if there is none, if it has no
 /// identifier, or if it is this program itself. Main thread only.
-[[nodiscard]] std::optional<AppId> bookableApplication(const platform::Workspace& workspace);
+[[nodiscard]] std::optional<AppId> bookableApplication(platform::FrontmostApplication& frontmost);
 
 }  // namespace tidewatch

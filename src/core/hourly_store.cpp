@@ -8,7 +8,7 @@ constexpr StoreFormat hourlyFormat{"hours.json", 2, "Tidewatch: failed to flush 
 }  // namespace
 
 HourlyStore::HourlyStore(platform::FileSystem& files, platform::Log& log,
-                         const platform::Workspace& workspace)
-    : frame_(files, log, workspace, hourlyFormat) {}
+                         platform::FrontmostApplication& frontmost)
+    : frame_(files, log, frontmost, hourlyFormat) {}
 
 }  // namespace tidewatch

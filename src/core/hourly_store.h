@@ -9,18 +9,18 @@
 #include "core/usage_frame.h"
 #include "core/usage_snapshot.h"
 #include "platform/api/file_system.h"
+#include "platform/api/frontmost_application.h"
 #include "platform/api/log.h"
-#include "platform/api/workspace.h"
 
 namespace tidewatch {
 
 /// Seconds booked per clock hour of a logical day and application ("hours.json"). Safe from any thread, but
-/// for incrementCurrentApp, which asks the workspace and is for the main thread.
+/// for incrementCurrentApp, which asks for the application in front and is for the main thread.
 class HourlyStore final {
 public:
     /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
     /// All three must outlive it.
-    HourlyStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+    HourlyStore(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost);
 
     /// Books one second of `hour` to the application in front, if there is one that can be booked.
     void incrementCurrentApp(const HourKey& hour) { frame_.incrementCurrentApp(hour.text()); }

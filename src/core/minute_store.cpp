@@ -8,7 +8,7 @@ constexpr StoreFormat minuteFormat{"minutes.json", 2, "Tidewatch: failed to flus
 }  // namespace
 
 MinuteStore::MinuteStore(platform::FileSystem& files, platform::Log& log,
-                         const platform::Workspace& workspace)
-    : frame_(files, log, workspace, minuteFormat) {}
+                         platform::FrontmostApplication& frontmost)
+    : frame_(files, log, frontmost, minuteFormat) {}
 
 }  // namespace tidewatch

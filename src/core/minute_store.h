@@ -8,18 +8,18 @@
 #include "core/usage_frame.h"
 #include "core/usage_snapshot.h"
 #include "platform/api/file_system.h"
+#include "platform/api/frontmost_application.h"
 #include "platform/api/log.h"
-#include "platform/api/workspace.h"
 
 namespace tidewatch {
 
 /// Seconds booked per ten minutes of a logical day and application ("minutes.json"). Safe from any thread,
-/// but for incrementCurrentApp, which asks the workspace and is for the main thread.
+/// but for incrementCurrentApp, which asks for the application in front and is for the main thread.
 class MinuteStore final {
 public:
     /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
     /// All three must outlive it.
-    MinuteStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+    MinuteStore(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost);
 
     /// Books one second of `bucket` to the application in front, if there is one that can be booked.
     void incrementCurrentApp(const BucketKey& bucket) { frame_.incrementCurrentApp(bucket.text()); }

@@ -14,12 +14,12 @@ CounterRecord::Range appsOf(const CounterRecord& record, std::string_view key) {
 
 }  // namespace
 
-UsageFrame::UsageFrame(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace,
-                       const StoreFormat& format)
-    : workspace_(workspace), frame_(files, log, format) {}
+UsageFrame::UsageFrame(platform::FileSystem& files, platform::Log& log,
+                       platform::FrontmostApplication& frontmost, const StoreFormat& format)
+    : frontmost_(frontmost), frame_(files, log, format) {}
 
 void UsageFrame::incrementCurrentApp(std::string_view key) {
-    if (const auto app = bookableApplication(workspace_)) incrementApp(*app, key);
+    if (const auto app = bookableApplication(frontmost_)) incrementApp(*app, key);
 }
 
 void UsageFrame::incrementApp(const AppId& app, std::string_view key) {

@@ -9,16 +9,17 @@
 #include "core/app_seconds.h"
 #include "core/store_frame.h"
 #include "core/usage_snapshot.h"
-#include "platform/api/workspace.h"
+#include "platform/api/frontmost_application.h"
 
 namespace tidewatch {
 
 /// What the stores of seconds per key and application share; the key is a day, an hour or a bucket. Safe
-/// from any thread, but for incrementCurrentApp, which asks the workspace and is for the main thread.
+/// from any thread, but for incrementCurrentApp, which asks for the application in front and is for the main
+/// thread.
 class UsageFrame final {
 public:
     /// `format` is two levels deep. The references must outlive it.
-    UsageFrame(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace,
+    UsageFrame(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost,
                const StoreFormat& format);
 
     /// Books one second to the application in front, if there is one that can be booked.
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] const std::string& filePath() const { return frame_.filePath(); }
 
 private:
-    const platform::Workspace& workspace_;
+    platform::FrontmostApplication& frontmost_;
     StoreFrame frame_;
 };
 

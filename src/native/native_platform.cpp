@@ -5,8 +5,11 @@
 
 #include "native/process_environment.h"
 #include "platform/freedesktop/autostart_login_item.h"
+#include "platform/freedesktop/desktop_entries.h"
 #include "platform/freedesktop/desktop_notifications.h"
 #include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/xdg_applications.h"
+#include "platform/freedesktop/xdg_desktop.h"
 #include "platform/linux/linux_process_memory.h"
 #include "platform/posix/directory_lock.h"
 #include "platform/posix/locked_running_instance.h"
@@ -19,7 +22,7 @@
 #include "platform/qt/qt_main_loop.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_screens.h"
-#include "platform/x11/desktop_workspace.h"
+#include "platform/x11/x11_active_application.h"
 #include "platform/x11/x11_input_activity.h"
 #include "platform/x11/x11_window_manager.h"
 
@@ -53,7 +56,11 @@ struct NativePlatform::Parts {
     SessionBus sessionBus{environment.sessionBusAddress()};
     X11Connection idleConnection;
     X11InputActivity inputActivity{idleConnection};
-    DesktopWorkspace workspace{AppId(ownIdentifier), sessionBus, environment.inherited()};
+    X11Connection focusConnection;
+    DesktopEntries entries{DesktopEntries::standardFolders()};
+    X11ActiveApplication frontmost{focusConnection, entries, AppId(ownIdentifier)};
+    XdgApplications applications{entries};
+    XdgDesktop desktop{sessionBus, applications, environment.inherited()};
     QtScreens screens;
     X11WindowManager windowManager;
     AutostartLoginItem loginItem{files, configDirectory(),
@@ -63,9 +70,25 @@ struct NativePlatform::Parts {
     SystemRandomness randomness;
     DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;
-    Platform all{log,        clock,         mainLoop,      files,     preferences,     inputActivity,
-                 workspace,  screens,       windowManager, loginItem, runningInstance, endings,
-                 randomness, notifications, memory};
+    Platform all{
+        .log = log,
+        .clock = clock,
+        .mainLoop = mainLoop,
+        .files = files,
+        .preferences = preferences,
+        .inputActivity = inputActivity,
+        .frontmost = frontmost,
+        .applications = applications,
+        .desktop = desktop,
+        .screens = screens,
+        .windowManager = windowManager,
+        .loginItem = loginItem,
+        .runningInstance = runningInstance,
+        .endings = endings,
+        .randomness = randomness,
+        .notifications = notifications,
+        .memory = memory,
+    };
 };
 
 NativePlatform::NativePlatform(const ProcessEnvironment& environment)

@@ -39,11 +39,11 @@ void forEachApp(const CounterRecord& record, std::span<const DayKey> days, const
 }  // namespace
 
 ProjectTimeStore::ProjectTimeStore(platform::FileSystem& files, platform::Log& log,
-                                   const platform::Workspace& workspace)
-    : workspace_(workspace), frame_(files, log, format) {}
+                                   platform::FrontmostApplication& frontmost)
+    : frontmost_(frontmost), frame_(files, log, format) {}
 
 void ProjectTimeStore::incrementCurrentApp(const DayKey& day, const Uuid& project) {
-    const auto app = bookableApplication(workspace_);
+    const auto app = bookableApplication(frontmost_);
     if (!app) return;
     const auto projectText = project.text();
     const std::array<std::string_view, 3> path{day.text(), projectText, app->text()};

@@ -10,19 +10,20 @@
 #include "core/app_seconds.h"
 #include "core/store_frame.h"
 #include "platform/api/file_system.h"
+#include "platform/api/frontmost_application.h"
 #include "platform/api/log.h"
-#include "platform/api/workspace.h"
 
 namespace tidewatch {
 
 /// Seconds booked per logical day, project and application ("project_time.json"). Knows nothing of which
 /// projects there are: those of deleted ones stay. Safe from any thread, but for incrementCurrentApp, which
-/// asks the workspace and is for the main thread.
+/// asks for the application in front and is for the main thread.
 class ProjectTimeStore final {
 public:
     /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
     /// All three must outlive it.
-    ProjectTimeStore(platform::FileSystem& files, platform::Log& log, const platform::Workspace& workspace);
+    ProjectTimeStore(platform::FileSystem& files, platform::Log& log,
+                     platform::FrontmostApplication& frontmost);
 
     /// Books one second of `day` to `project` and the application in front, if there is one that can be
     /// booked.
@@ -47,7 +48,7 @@ public:
     [[nodiscard]] std::string dataFilePath() const { return frame_.filePath(); }
 
 private:
-    const platform::Workspace& workspace_;
+    platform::FrontmostApplication& frontmost_;
     StoreFrame frame_;
 };
 

@@ -79,7 +79,7 @@ void AppDelegate::makeCommands() {
         .services = with_.services,
         .theme = with_.theme,
         .panel = *panel_,
-        .workspace = with_.platform.workspace,
+        .desktop = with_.platform.desktop,
         .loginItem = with_.platform.loginItem,
         .dialogs = with_.surfaces.dialogs(),
         .statistics = with_.statistics,

@@ -71,10 +71,10 @@ void ExportCommands::exportReport() {
     };
     to_.dialogs.chooseSaveLocation(request, [this](const std::string& path) {
         if (to_.generateReport(path)) {
-            revealFile(to_.workspace, to_.dialogs, path, "No se pudo mostrar el reporte");
+            revealFile(to_.desktop, to_.dialogs, path, "No se pudo mostrar el reporte");
         } else {
             // A report that could not be written is only logged; its place is shown all the same.
-            to_.workspace.reveal(path, [](const Outcome&) {});
+            to_.desktop.reveal(path, [](const Outcome&) {});
         }
     });
 }

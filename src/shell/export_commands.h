@@ -6,8 +6,8 @@
 #include "analysis/csv_export.h"
 #include "base/result.h"
 #include "base/uuid.h"
+#include "platform/api/desktop.h"
 #include "platform/api/file_system.h"
-#include "platform/api/workspace.h"
 #include "shell/services.h"
 #include "shell/surfaces.h"
 
@@ -21,7 +21,7 @@ public:
     struct Targets {
         Services& services;
         platform::FileSystem& files;
-        platform::Workspace& workspace;
+        platform::Desktop& desktop;
         Dialogs& dialogs;
         /// Writes the report of the month; false if it could not be written.
         std::function<bool(const std::string& path)> generateReport;

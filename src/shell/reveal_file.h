@@ -2,16 +2,16 @@
 
 #include <string>
 
-#include "platform/api/workspace.h"
+#include "platform/api/desktop.h"
 #include "shell/surfaces.h"
 
 namespace tidewatch {
 
 /// Shows the file at the absolute `path` in the file manager. Where there is none, a dialog under `title`
 /// says where the file lies. Both must outlive the main loop.
-inline void revealFile(platform::Workspace& workspace, Dialogs& dialogs, const std::string& path,
+inline void revealFile(platform::Desktop& desktop, Dialogs& dialogs, const std::string& path,
                        const std::string& title) {
-    workspace.reveal(path, [&dialogs, path, title](const Outcome& shown) {
+    desktop.reveal(path, [&dialogs, path, title](const Outcome& shown) {
         if (!shown)
             dialogs.warn(title, "No respondió ningún gestor de archivos. El archivo está aquí:\n" + path);
     });

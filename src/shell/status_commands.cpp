@@ -50,7 +50,7 @@ void StatusCommands::showStats() {
 
 void StatusCommands::revealData() {
     writeDay();
-    revealFile(to_.workspace, to_.dialogs, to_.services.days.dataFilePath(),
+    revealFile(to_.desktop, to_.dialogs, to_.services.days.dataFilePath(),
                "No se pudo mostrar el archivo de datos");
 }
 

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/api/desktop.h"
 #include "platform/api/login_item.h"
-#include "platform/api/workspace.h"
 #include "shell/floating_panel.h"
 #include "shell/services.h"
 #include "shell/themes/theme_controller.h"
@@ -21,7 +21,7 @@ public:
         Services& services;
         ThemeController& theme;
         FloatingPanel& panel;
-        platform::Workspace& workspace;
+        platform::Desktop& desktop;
         platform::LoginItem& loginItem;
         Dialogs& dialogs;
         StatisticsWindow& statistics;

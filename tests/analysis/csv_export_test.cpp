@@ -12,7 +12,7 @@ namespace {
 class CsvExportTest : public testing::Test {
 protected:
     void registerApplication(const char* app, const char* name) {
-        world_.workspace.registerApplication(AppId(app), {name, "", {}});
+        world_.applications.registerApplication(AppId(app), {name, "", {}});
     }
     void putApps(const std::string& json) { world_.files.put(world_.appsJson, json); }
     void putProjectTime(const std::string& json) { world_.files.put(world_.projectTimeJson, json); }

@@ -36,7 +36,7 @@ protected:
         for (int i = 0; i < seconds; ++i) rooms_.projectTime.incrementCurrentApp(DayKey(day), project.id);
     }
     void registerApplication(const char* app, const char* name) {
-        world_.workspace.registerApplication(AppId(app), {name, "icon-of-it", {}});
+        world_.applications.registerApplication(AppId(app), {name, "icon-of-it", {}});
     }
 
     [[nodiscard]] std::vector<std::string> rowsOfProjects() const {

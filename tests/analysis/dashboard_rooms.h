@@ -18,7 +18,7 @@ struct DashboardRooms : ClassifiedRooms {
     explicit DashboardRooms(FakeWorld& world)
         : ClassifiedRooms(world),
           projects(world.files, world.log, world.randomness, broadcaster),
-          projectTime(world.files, world.log, world.workspace),
+          projectTime(world.files, world.log, world.frontmost),
           clock(world.clock),
           mainLoop(world.mainLoop) {}
 

@@ -25,7 +25,7 @@ protected:
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
     test::AnalysisRooms rooms_{world_};
-    const AppInfoResolver appInfo_{world_.workspace};
+    const AppInfoResolver appInfo_{world_.applications};
 };
 
 TEST_F(ReportDataTest, TheFirstOfAMonthWithoutTimeIsAnEmptyReport) {
@@ -86,7 +86,7 @@ TEST_F(ReportDataTest, TheScoreIsThatOfTheWholeMonthAndNoMeanOfDays) {
 }
 
 TEST_F(ReportDataTest, ShowsTheEightApplicationsWithMostTimeUnderTheirNames) {
-    world_.workspace.registerApplication(AppId("app9"), {"La novena", "", {}});
+    world_.applications.registerApplication(AppId("app9"), {"La novena", "", {}});
     for (int i = 1; i <= 9; ++i) {
         for (int n = 0; n < i; ++n) {
             rooms_.apps.incrementApp(AppId(fmt::format("app{}", i)), DayKey("2026-01-05"));

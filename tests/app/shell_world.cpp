@@ -13,7 +13,7 @@ constexpr Instant start = sys_days(year(2026) / 1 / 15) + hours(9);
 }  // namespace
 
 ShellWorld::ShellWorld() : machine_(start, [](const std::string& complaint) { ADD_FAILURE() << complaint; }) {
-    machine_.workspace.setFrontmost(AppId("org.example.Editor"));
+    machine_.frontmost.set(AppId("org.example.Editor"));
 }
 
 void ShellWorld::launch() {
@@ -55,7 +55,7 @@ ShellWorld::Program::Program(ShellWorld& world)
       exports({
           .services = services,
           .files = world.machine_.files,
-          .workspace = world.machine_.workspace,
+          .desktop = world.machine_.desktop,
           .dialogs = world.surfaces_.dialogs(),
           .generateReport =
               [&world](const std::string& path) {

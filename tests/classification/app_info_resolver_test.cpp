@@ -2,24 +2,24 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fake/fake_workspace.h"
+#include "platform/fake/fake_applications.h"
 
 namespace tidewatch {
 namespace {
 
 struct AppInfoResolverTest : testing::Test {
-    platform::FakeWorkspace workspace;
-    AppInfoResolver resolver{workspace};
+    platform::FakeApplications applications;
+    AppInfoResolver resolver{applications};
 };
 
 TEST_F(AppInfoResolverTest, ARegisteredApplicationHasItsNameAndIcon) {
-    workspace.registerApplication(AppId("firefox"), {"Navegador Firefox", "firefox-esr", {}});
+    applications.registerApplication(AppId("firefox"), {"Navegador Firefox", "firefox-esr", {}});
     EXPECT_EQ(resolver.info(AppId("firefox")),
               (AppInfo{"Navegador Firefox", AppIcon{AppIcon::Source::desktop, "firefox-esr", ""}}));
 }
 
 TEST_F(AppInfoResolverTest, ARegisteredApplicationWithoutAnIconHasNone) {
-    workspace.registerApplication(AppId("tool"), {"Tool", "", {}});
+    applications.registerApplication(AppId("tool"), {"Tool", "", {}});
     EXPECT_EQ(resolver.info(AppId("tool")), (AppInfo{"Tool", std::nullopt}));
 }
 
@@ -29,21 +29,21 @@ TEST_F(AppInfoResolverTest, AnUnknownApplicationGoesByItsIdentifierAndHasNoIcon)
 
 TEST_F(AppInfoResolverTest, AnUnknownApplicationKeepsItsNameThoughItIsInstalledMeanwhile) {
     const auto& before = resolver.info(AppId("gimp"));
-    workspace.registerApplication(AppId("gimp"), {"GIMP", "gimp", {}});
+    applications.registerApplication(AppId("gimp"), {"GIMP", "gimp", {}});
     EXPECT_EQ(resolver.info(AppId("gimp")), (AppInfo{"gimp", std::nullopt}));
     EXPECT_EQ(&resolver.info(AppId("gimp")), &before);
 }
 
 TEST_F(AppInfoResolverTest, AKnownApplicationKeepsItsNameThoughItIsRemoved) {
-    workspace.registerApplication(AppId("gimp"), {"GIMP", "gimp-icon", {}});
+    applications.registerApplication(AppId("gimp"), {"GIMP", "gimp-icon", {}});
     const auto before = resolver.info(AppId("gimp"));
-    workspace.removeApplication(AppId("gimp"));
+    applications.removeApplication(AppId("gimp"));
     EXPECT_EQ(resolver.info(AppId("gimp")), before);
-    EXPECT_EQ(workspace.questions(), 1);
+    EXPECT_EQ(applications.questions(), 1);
 }
 
 TEST_F(AppInfoResolverTest, TheBuiltInGamesHaveTheirOwnNameAndSymbol) {
-    workspace.registerApplication(AppId("com.brightlooms.fathom.games"), {"Impostor", "impostor", {}});
+    applications.registerApplication(AppId("com.brightlooms.fathom.games"), {"Impostor", "impostor", {}});
     EXPECT_EQ(
         resolver.info(AppId("com.brightlooms.fathom.games")),
         (AppInfo{"Fathom · Juegos", AppIcon{AppIcon::Source::symbol, "gamecontroller.fill", "Juegos"}}));

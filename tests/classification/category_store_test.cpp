@@ -33,7 +33,7 @@ struct CategoryStoreTest : testing::Test {
     test::FakeWorld world;
     std::optional<CategoryStore> store{open()};
 
-    CategoryStore open() { return CategoryStore(world.files, world.log, world.workspace); }
+    CategoryStore open() { return CategoryStore(world.files, world.log, world.applications); }
     void restart() { store.emplace(open()); }
     void restartWith(std::string_view text) {
         world.files.put(world.categoriesJson, text);
@@ -63,14 +63,14 @@ TEST_F(CategoryStoreTest, AnOverrideOfABuiltInApplicationWinsAndClearingItReturn
 }
 
 TEST_F(CategoryStoreTest, WhatTheDesktopRegistersComesAfterTheBuiltInTable) {
-    world.workspace.registerApplication(terminal, {"Terminal", "", {"System", "TerminalEmulator"}});
-    world.workspace.registerApplication(chrome, {"Chrome", "", {"Game"}});
+    world.applications.registerApplication(terminal, {"Terminal", "", {"System", "TerminalEmulator"}});
+    world.applications.registerApplication(chrome, {"Chrome", "", {"Game"}});
     EXPECT_EQ(store->category(terminal), Category::development);
     EXPECT_EQ(store->category(chrome), Category::browser);
 }
 
 TEST_F(CategoryStoreTest, AnOverrideOfARegisteredApplicationWinsAndClearingItReturnsTheRegisteredOne) {
-    world.workspace.registerApplication(terminal, {"Terminal", "", {"TerminalEmulator"}});
+    world.applications.registerApplication(terminal, {"Terminal", "", {"TerminalEmulator"}});
     store->setCategory(Category::games, terminal);
     EXPECT_EQ(store->tier(terminal), Tier::distracting);
     store->clearCategoryOverride(terminal);
@@ -269,7 +269,7 @@ TEST_F(CategoryStoreTest, AFailedWriteKeepsTheFileAsItWas) {
 TEST_F(CategoryStoreTest, ADirectoryThatCannotBeMadeShowsUpOnlyAtTheFirstChange) {
     test::FakeWorld barred;
     barred.files.makeUnmakeable("/home/user/.tidewatch");
-    CategoryStore other(barred.files, barred.log, barred.workspace);
+    CategoryStore other(barred.files, barred.log, barred.applications);
     EXPECT_THAT(barred.log.warnings(), IsEmpty());
     barred.log.expectWarning("Tidewatch: failed to write categories.json: ");
     other.setTier(Tier::neutral, Category::browser);

@@ -35,10 +35,10 @@ struct FirstRegistrationsTest : testing::Test {
     test::FakeWorld world;
     std::optional<CategoryStore> store{open()};
 
-    CategoryStore open() { return CategoryStore(world.files, world.log, world.workspace); }
+    CategoryStore open() { return CategoryStore(world.files, world.log, world.applications); }
     void restart() { store.emplace(open()); }
     void install(const AppId& app, std::vector<std::string> categories) {
-        world.workspace.registerApplication(app, {"Name", "", std::move(categories)});
+        world.applications.registerApplication(app, {"Name", "", std::move(categories)});
     }
     [[nodiscard]] std::string onDisk() const {
         return world.files.content(registeredJson).value_or("no file");
@@ -59,7 +59,7 @@ TEST_F(FirstRegistrationsTest, TheFileIsWrittenExactlySo) {
 
 TEST_F(FirstRegistrationsTest, APackageThatIsRemovedLeavesItsApplicationAsItWas) {
     meetBoth();
-    world.workspace.removeApplication(chess);
+    world.applications.removeApplication(chess);
     EXPECT_EQ(store->category(chess), Category::games);
     store->flushRegistered();
     restart();
@@ -84,7 +84,7 @@ TEST_F(FirstRegistrationsTest, APastDaysScoreOutlivesTheRemovalOfItsApplications
         rooms.apps.flush();
         rooms.categories.flushRegistered();
     }
-    world.workspace.removeApplication(terminal);
+    world.applications.removeApplication(terminal);
     test::ClassifiedRooms rooms(world);
     EXPECT_EQ(rooms.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(60));
 }
@@ -114,21 +114,21 @@ TEST_F(FirstRegistrationsTest, AnEntryThatSaidNothingOfUseIsAskedForAgainAfterAC
 
 TEST_F(FirstRegistrationsTest, AnUnknownApplicationIsAskedForAgainOnlyWhenTheRegistryHasChanged) {
     for (int i = 0; i < 10; ++i) static_cast<void>(store->category(chess));
-    EXPECT_EQ(world.workspace.questions(), 1);
+    EXPECT_EQ(world.applications.questions(), 1);
     install(terminal, {"TerminalEmulator"});
     for (int i = 0; i < 10; ++i) static_cast<void>(store->category(chess));
-    EXPECT_EQ(world.workspace.questions(), 2);
+    EXPECT_EQ(world.applications.questions(), 2);
 }
 
 TEST_F(FirstRegistrationsTest, AKnownApplicationIsAskedForOnce) {
     meetBoth();
     for (int i = 0; i < 10; ++i) meetBoth();
-    EXPECT_EQ(world.workspace.questions(), 2);
+    EXPECT_EQ(world.applications.questions(), 2);
     restart();
     world.files.put(registeredJson, bothOnDisk);
     restart();
     meetBoth();
-    EXPECT_EQ(world.workspace.questions(), 2);
+    EXPECT_EQ(world.applications.questions(), 2);
 }
 
 TEST_F(FirstRegistrationsTest, NothingIsWrittenWithoutNews) {

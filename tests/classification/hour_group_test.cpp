@@ -130,7 +130,7 @@ TEST_F(HourGroupTest, WithSevenApplicationsInAnHourTopActivitiesHoldsSix) {
 
 TEST_F(HourGroupTest, AnActivityIsSummedOverTheHourAndHasNameIconAndTier) {
     const AppId editor("org.example.Editor");
-    world.workspace.registerApplication(editor, {"Editor", "editor-icon", {"Development", "IDE"}});
+    world.applications.registerApplication(editor, {"Editor", "editor-icon", {"Development", "IDE"}});
     book("org.example.Editor", "2026-01-15 09:00", 4);
     book("org.example.Editor", "2026-01-15 09:50", 5);
     const auto group = rooms.groups(today).at(0);

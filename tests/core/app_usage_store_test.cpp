@@ -18,7 +18,7 @@ const AppId xterm("xterm");
 
 struct AppUsageStoreTest : testing::Test {
     test::FakeWorld world;
-    AppUsageStore store{world.files, world.log, world.workspace};
+    AppUsageStore store{world.files, world.log, world.frontmost};
 
     void book(const AppId& app, const DayKey& day, int seconds) {
         for (int i = 0; i < seconds; ++i) store.incrementApp(app, day);
@@ -57,7 +57,7 @@ TEST_F(AppUsageStoreTest, EqualSecondsAllAppear) {
 
 TEST_F(AppUsageStoreTest, AnApplicationWithAStoredZeroAppears) {
     world.files.put(world.appsJson, R"({"2026-01-12":{"xterm":0}})");
-    const AppUsageStore other(world.files, world.log, world.workspace);
+    const AppUsageStore other(world.files, world.log, world.frontmost);
     EXPECT_THAT(other.aggregate(std::vector{monday}), ElementsAre(AppSeconds{xterm, Seconds(0)}));
 }
 
@@ -107,7 +107,7 @@ TEST_F(AppUsageStoreTest, TheFileIsWrittenInTheExactFormatAndReadBack) {
     "xterm" : 2
   }
 })");
-    const AppUsageStore next(world.files, world.log, world.workspace);
+    const AppUsageStore next(world.files, world.log, world.frontmost);
     EXPECT_EQ(next.aggregate(std::vector{monday}), sums({monday}));
 }
 
@@ -116,7 +116,7 @@ TEST_F(AppUsageStoreTest, AnIdentifierThatIsNoTextDoesNotCostTheFile) {
     store.incrementApp(AppId("caf\xE9"), monday);
     book(xterm, monday, 1);
     store.flush();
-    const AppUsageStore next(world.files, world.log, world.workspace);
+    const AppUsageStore next(world.files, world.log, world.frontmost);
     EXPECT_THAT(next.aggregate(std::vector{monday}),
                 ElementsAre(AppSeconds{AppId("caf\uFFFD"), Seconds(2)}, AppSeconds{xterm, Seconds(1)}));
 }

@@ -23,7 +23,7 @@ struct ConcurrencyTest : testing::Test {
 };
 
 TEST_F(ConcurrencyTest, NoSecondIsLostBetweenBookingReadingAndFlushing) {
-    AppUsageStore store(world.files, world.log, world.workspace);
+    AppUsageStore store(world.files, world.log, world.frontmost);
     const auto book = [&](const char* app) {
         for (int i = 0; i < rounds; ++i) store.incrementApp(AppId(app), today);
     };
@@ -45,12 +45,12 @@ TEST_F(ConcurrencyTest, NoSecondIsLostBetweenBookingReadingAndFlushing) {
     EXPECT_THAT(store.aggregate(std::vector{today}),
                 ElementsAre(AppSeconds{AppId("firefox"), Seconds(2 * rounds)}));
     store.flush();
-    const AppUsageStore next(world.files, world.log, world.workspace);
+    const AppUsageStore next(world.files, world.log, world.frontmost);
     EXPECT_EQ(next.aggregate(std::vector{today}), store.aggregate(std::vector{today}));
 }
 
 TEST_F(ConcurrencyTest, BucketsAreBookedReadCopiedAndFlushedFromSeveralThreads) {
-    MinuteStore store(world.files, world.log, world.workspace);
+    MinuteStore store(world.files, world.log, world.frontmost);
     const BucketKey bucket("2026-01-15 09:00");
     const auto book = [&](const char* app) {
         for (int i = 0; i < rounds; ++i) store.incrementApp(AppId(app), bucket);

@@ -230,10 +230,10 @@ TEST_F(FaultTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile) {
             auto damaged = good;
             damaged[at] = garbage;
             world.files.put(world.appsJson, damaged);
-            AppUsageStore store(world.files, world.log, world.workspace);
+            AppUsageStore store(world.files, world.log, world.frontmost);
             const auto days = store.allDayKeys();
             store.flush();
-            const AppUsageStore next(world.files, world.log, world.workspace);
+            const AppUsageStore next(world.files, world.log, world.frontmost);
             ASSERT_EQ(next.allDayKeys(), days) << damaged;
         }
     }

@@ -2,32 +2,32 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/fake/fake_workspace.h"
+#include "platform/fake/fake_frontmost_application.h"
 
 namespace tidewatch {
 namespace {
 
 struct FrontmostRule : testing::Test {
-    platform::FakeWorkspace workspace;
+    platform::FakeFrontmostApplication frontmost;
 };
 
 TEST_F(FrontmostRule, NoApplicationInFrontBooksNothing) {
-    EXPECT_EQ(bookableApplication(workspace), std::nullopt);
+    EXPECT_EQ(bookableApplication(frontmost), std::nullopt);
 }
 
 TEST_F(FrontmostRule, AnApplicationWithoutAnIdentifierIsNeverBooked) {
-    workspace.setFrontmost(AppId(""));
-    EXPECT_EQ(bookableApplication(workspace), std::nullopt);
+    frontmost.set(AppId(""));
+    EXPECT_EQ(bookableApplication(frontmost), std::nullopt);
 }
 
 TEST_F(FrontmostRule, TheProgramsOwnWindowsAreNotBooked) {
-    workspace.setFrontmost(AppId("com.brightlooms.tidewatch"));
-    EXPECT_EQ(bookableApplication(workspace), std::nullopt);
+    frontmost.set(AppId("com.brightlooms.tidewatch"));
+    EXPECT_EQ(bookableApplication(frontmost), std::nullopt);
 }
 
 TEST_F(FrontmostRule, AnyOtherIdentifierIsBookedAsItIs) {
-    workspace.setFrontmost(AppId("com.brightlooms.tidewatch.helper"));
-    EXPECT_EQ(bookableApplication(workspace), AppId("com.brightlooms.tidewatch.helper"));
+    frontmost.set(AppId("com.brightlooms.tidewatch.helper"));
+    EXPECT_EQ(bookableApplication(frontmost), AppId("com.brightlooms.tidewatch.helper"));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ const AppId xterm("xterm");
 
 struct HourlyStoreTest : testing::Test {
     test::FakeWorld world;
-    HourlyStore store{world.files, world.log, world.workspace};
+    HourlyStore store{world.files, world.log, world.frontmost};
 };
 
 TEST_F(HourlyStoreTest, AnUnknownHourHasNoEntriesAndNoSeconds) {
@@ -80,7 +80,7 @@ TEST_F(HourlyStoreTest, TheFileHoldsHoursAndApplicationsInOrder) {
 TEST_F(HourlyStoreTest, TheNextStartContinuesFromTheFile) {
     store.incrementApp(xterm, nine);
     store.flush();
-    HourlyStore next(world.files, world.log, world.workspace);
+    HourlyStore next(world.files, world.log, world.frontmost);
     next.incrementApp(xterm, nine);
     EXPECT_EQ(next.seconds(nine), Seconds(2));
     EXPECT_EQ(store.seconds(nine), Seconds(1));
@@ -108,7 +108,7 @@ TEST_F(HourlyStoreTest, ASnapshotHoldsEverythingInOrderAndStandsStill) {
 }
 
 TEST_F(HourlyStoreTest, ASnapshotOutlivesTheStore) {
-    auto brief = std::make_optional<HourlyStore>(world.files, world.log, world.workspace);
+    auto brief = std::make_optional<HourlyStore>(world.files, world.log, world.frontmost);
     brief->incrementApp(xterm, nine);
     const auto snapshot = brief->snapshot();
     brief.reset();
@@ -119,7 +119,7 @@ TEST_F(HourlyStoreTest, ASnapshotOutlivesTheStore) {
 
 TEST_F(HourlyStoreTest, KeysOfOddShapeAreKept) {
     world.files.put(world.hoursJson, R"({"yesterday":{"xterm":5},"2026-01-15 09":{},"":{"":-1}})");
-    HourlyStore odd(world.files, world.log, world.workspace);
+    HourlyStore odd(world.files, world.log, world.frontmost);
     EXPECT_EQ(odd.snapshot().keyCount(), 3u);
     EXPECT_EQ(odd.seconds(HourKey("yesterday")), Seconds(5));
     EXPECT_EQ(odd.seconds(HourKey("")), Seconds(-1));

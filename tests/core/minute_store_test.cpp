@@ -17,7 +17,7 @@ const AppId xterm("xterm");
 
 struct MinuteStoreTest : testing::Test {
     test::FakeWorld world;
-    MinuteStore store{world.files, world.log, world.workspace};
+    MinuteStore store{world.files, world.log, world.frontmost};
 };
 
 TEST_F(MinuteStoreTest, ABucketIsTenMinutes) {
@@ -62,7 +62,7 @@ TEST_F(MinuteStoreTest, TheFileHoldsBucketsAndApplicationsInOrder) {
 TEST_F(MinuteStoreTest, TheNextStartContinuesFromTheFile) {
     store.incrementApp(xterm, nine);
     store.flush();
-    MinuteStore next(world.files, world.log, world.workspace);
+    MinuteStore next(world.files, world.log, world.frontmost);
     next.incrementApp(xterm, nine);
     EXPECT_THAT(next.entries(nine), ElementsAre(AppSeconds{xterm, Seconds(2)}));
 }

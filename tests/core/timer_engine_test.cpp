@@ -108,31 +108,25 @@ TEST_F(TimerEngineTest, HoursAndBucketsAreNamedAfterTheMoment) {
 }
 
 TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
-    struct Restless final : platform::Workspace {
-        mutable int looks = 0;
-        [[nodiscard]] std::optional<AppId> frontmostApplication() const override {
+    struct Restless final : platform::FrontmostApplication {
+        int looks = 0;
+        [[nodiscard]] std::optional<AppId> current() override {
             return AppId("app" + std::to_string(looks++));
         }
-        [[nodiscard]] std::optional<platform::ApplicationInfo> applicationInfo(const AppId&) const override {
-            return std::nullopt;
-        }
-        [[nodiscard]] std::string documentsDirectory() const override { return {}; }
-        [[nodiscard]] std::uint64_t registryRevision() const override { return 0; }
-        void reveal(const std::string&, std::function<void(const Outcome&)>) override {}
-    } workspace;
+    } frontmost;
     Settings settings(world.preferences);
     const DayRule dayRule(world.clock, settings);
     const ClockKeys keys(world.clock, settings, dayRule);
     const IdleMonitor idleMonitor(world.inputActivity);
     DailyStore daily(world.files, world.log, dayRule);
-    AppUsageStore appsStore(world.files, world.log, workspace);
-    HourlyStore hours(world.files, world.log, workspace);
-    MinuteStore minutes(world.files, world.log, workspace);
+    AppUsageStore appsStore(world.files, world.log, frontmost);
+    HourlyStore hours(world.files, world.log, frontmost);
+    MinuteStore minutes(world.files, world.log, frontmost);
     TimerEngine engine(world.clock, world.mainLoop, settings, idleMonitor, keys,
                        {daily, appsStore, hours, minutes}, {});
     engine.start();
     tick();
-    EXPECT_EQ(workspace.looks, 3);
+    EXPECT_EQ(frontmost.looks, 3);
     EXPECT_THAT(appsStore.aggregate(std::vector{today}), ElementsAre(AppSeconds{AppId("app0"), Seconds(1)}));
     EXPECT_THAT(hours.entries(HourKey("2026-01-15 09")), ElementsAre(AppSeconds{AppId("app1"), Seconds(1)}));
     EXPECT_THAT(minutes.entries(BucketKey("2026-01-15 09:00")),

@@ -36,7 +36,7 @@ constexpr auto goodFile =
 
 struct ProjectTimeStoreTest : testing::Test {
     test::FakeWorld world;
-    ProjectTimeStore store{world.files, world.log, world.workspace};
+    ProjectTimeStore store{world.files, world.log, world.frontmost};
 
     void book(const char* app, const DayKey& day, const Uuid& project, int seconds) {
         world.putAppInFront(app);
@@ -117,7 +117,7 @@ TEST_F(ProjectTimeStoreTest, TheFileHoldsThreeLevelsInOrder) {
 
 TEST_F(ProjectTimeStoreTest, TheFileIsReadAndWrittenBackByteForByte) {
     world.files.put(world.projectTimeJson, goodFile);
-    ProjectTimeStore next(world.files, world.log, world.workspace);
+    ProjectTimeStore next(world.files, world.log, world.frontmost);
     EXPECT_EQ(next.taggedSeconds(monday), Seconds(6));
     next.flush();
     EXPECT_EQ(world.files.content(world.projectTimeJson), goodFile);
@@ -127,7 +127,7 @@ TEST_F(ProjectTimeStoreTest, EveryTruncationIsReadAsNoDataAndReplaced) {
     const std::string whole = goodFile;
     for (std::size_t length = 0; length < whole.size(); ++length) {
         world.files.put(world.projectTimeJson, whole.substr(0, length));
-        ProjectTimeStore next(world.files, world.log, world.workspace);
+        ProjectTimeStore next(world.files, world.log, world.frontmost);
         EXPECT_EQ(next.taggedSeconds(monday), Seconds(0)) << length;
         next.flush();
         EXPECT_EQ(world.files.content(world.projectTimeJson), "{\n\n}") << length;
@@ -138,7 +138,7 @@ TEST_F(ProjectTimeStoreTest, WhatHasNotThreeLevelsIsReadAsNoData) {
     for (const auto* text : {"[]", "null", R"({"2026-01-12":5})", R"({"2026-01-12":{"a":5}})",
                              R"({"2026-01-12":{"a":{"b":{"c":5}}}})", R"({"2026-01-12":{"a":{"b":"5"}}})"}) {
         world.files.put(world.projectTimeJson, text);
-        ProjectTimeStore next(world.files, world.log, world.workspace);
+        ProjectTimeStore next(world.files, world.log, world.frontmost);
         next.flush();
         EXPECT_EQ(world.files.content(world.projectTimeJson), "{\n\n}") << text;
     }
@@ -146,7 +146,7 @@ TEST_F(ProjectTimeStoreTest, WhatHasNotThreeLevelsIsReadAsNoData) {
 
 TEST_F(ProjectTimeStoreTest, ADamagedFileIsSetAsideByTheNextFlush) {
     world.files.put(world.projectTimeJson, "garbage");
-    ProjectTimeStore(world.files, world.log, world.workspace).flush();
+    ProjectTimeStore(world.files, world.log, world.frontmost).flush();
     EXPECT_EQ(world.files.content(world.projectTimeJson + ".damaged-2026-01-15"), "garbage");
 }
 
@@ -157,10 +157,10 @@ TEST_F(ProjectTimeStoreTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadable
             auto damaged = whole;
             damaged[at] = garbage;
             world.files.put(world.projectTimeJson, damaged);
-            ProjectTimeStore damagedStore(world.files, world.log, world.workspace);
+            ProjectTimeStore damagedStore(world.files, world.log, world.frontmost);
             damagedStore.flush();
             const auto written = world.files.content(world.projectTimeJson);
-            ProjectTimeStore next(world.files, world.log, world.workspace);
+            ProjectTimeStore next(world.files, world.log, world.frontmost);
             next.flush();
             ASSERT_EQ(world.files.content(world.projectTimeJson), written) << damaged;
         }
@@ -174,7 +174,7 @@ TEST_F(ProjectTimeStoreTest, AFailedFlushIsLoggedAndMadeGoodByTheNext) {
     store.flush();
     EXPECT_EQ(world.files.content(world.projectTimeJson), std::nullopt);
     store.flush();
-    const ProjectTimeStore next(world.files, world.log, world.workspace);
+    const ProjectTimeStore next(world.files, world.log, world.frontmost);
     EXPECT_EQ(next.taggedSeconds(monday), Seconds(2));
 }
 
@@ -183,7 +183,7 @@ struct ProjectBookingTest : testing::Test {
     test::FakeWorld world;
     Broadcaster broadcaster;
     ProjectStore projects{world.files, world.log, world.randomness, broadcaster};
-    ProjectTimeStore times{world.files, world.log, world.workspace};
+    ProjectTimeStore times{world.files, world.log, world.frontmost};
     ActiveProjectBooking booking{projects, times};
 
     struct Gate final : GameGateListener {

@@ -35,7 +35,7 @@ using Sums = std::map<std::string, std::int64_t>;
 struct Rooms {
     Rooms(test::FakeWorld& world, const Broadcaster& broadcaster)
         : projects(world.files, world.log, world.randomness, broadcaster),
-          times(world.files, world.log, world.workspace),
+          times(world.files, world.log, world.frontmost),
           booking(projects, times),
           rooms(world, {nullptr, nullptr, &booking}) {
         rooms.engine.start();
@@ -58,8 +58,8 @@ protected:
               "a/\"b\"\\ñ", "com.brightlooms.tidewatch", ""}) {
             apps_.emplace_back(app);
         }
-        world_.workspace.registerApplication(AppId("org.example.Terminal"),
-                                             {"Terminal", "", {"TerminalEmulator"}});
+        world_.applications.registerApplication(AppId("org.example.Terminal"),
+                                                {"Terminal", "", {"TerminalEmulator"}});
         world_.clock.setZone(chance_.onceIn(2) ? platform::madridZone() : platform::mexicoCityZone());
         // A night in which Madrid changes its clocks, or in which Mexico did.
         world_.clock.setNow(std::chrono::sys_days(std::chrono::October / 24 / 2020) +
@@ -86,7 +86,7 @@ protected:
     }
 
     void changeSomething() {
-        if (chance_.onceIn(20)) world_.workspace.setFrontmost(chance_.oneOf(apps_));
+        if (chance_.onceIn(20)) world_.frontmost.set(chance_.oneOf(apps_));
         if (chance_.onceIn(60)) world_.inputActivity.set(chance_.between(0, 400));
         if (chance_.onceIn(150)) world_.clock.suspend(std::chrono::minutes(chance_.between(1, 300)));
         if (chance_.onceIn(400)) chooseProject();
@@ -112,7 +112,7 @@ protected:
         if (*world_.inputActivity.secondsSinceLastInput() >= 300) return;
         const auto now = world_.clock.now();
         const auto local = civilTime(now, world_.clock.timeZone()->utcOffset(now));
-        const auto app = world_.workspace.frontmostApplication().value_or(AppId());
+        const auto app = world_.frontmost.current().value_or(AppId());
         const bool bookable = app != AppId("com.brightlooms.tidewatch");
         worked_.push_back({record().daily.today(), local.hour, local.minute / 10 * 10,
                            bookable ? app : AppId(), running_->projects.activeProjectId()});

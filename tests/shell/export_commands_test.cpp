@@ -130,7 +130,7 @@ TEST_F(ExportCommandsTest, AProjectThatIsGoneIsNotAskedFor) {
 }
 
 TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) {
-    machine_.workspace.setRevealOutcome(Error{"no file manager"});
+    machine_.desktop.setRevealOutcome(Error{"no file manager"});
     program_->exports.exportReport();
     EXPECT_EQ(surfaces_.saveRequest().title, "Guardar reporte");
     EXPECT_EQ(surfaces_.saveRequest().proposedName, "fathom-reporte.pdf");
@@ -138,13 +138,13 @@ TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) 
     EXPECT_TRUE(reports_.empty());
     surfaces_.place("/home/user/enero.pdf");
     EXPECT_EQ(reports_, std::vector<std::string>{"/home/user/enero.pdf"});
-    EXPECT_EQ(machine_.workspace.revealed(), std::vector<std::string>{"/home/user/enero.pdf"});
+    EXPECT_EQ(machine_.desktop.revealed(), std::vector<std::string>{"/home/user/enero.pdf"});
     EXPECT_TRUE(surfaces_.warnings().empty());
 }
 
 TEST_F(ExportCommandsTest, AReportThatIsWrittenButCannotBeShownIsTold) {
     reportsSucceed_ = true;
-    machine_.workspace.setRevealOutcome(Error{"no file manager"});
+    machine_.desktop.setRevealOutcome(Error{"no file manager"});
     program_->exports.exportReport();
     surfaces_.place("/home/user/enero.pdf");
     EXPECT_EQ(

@@ -67,12 +67,11 @@ TEST_F(StatusCommandsTest, RevealDataWritesTheDayAndShowsItsFile) {
     ASSERT_TRUE(choose("Revelar archivo de datos"));
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 5\n}");
     EXPECT_EQ(file("apps.json"), "(none)");
-    EXPECT_EQ(machine_.workspace.revealed(),
-              std::vector<std::string>{program_->services.days.dataFilePath()});
+    EXPECT_EQ(machine_.desktop.revealed(), std::vector<std::string>{program_->services.days.dataFilePath()});
 }
 
 TEST_F(StatusCommandsTest, AFileThatCannotBeShownIsTold) {
-    machine_.workspace.setRevealOutcome(Error{"no file manager"});
+    machine_.desktop.setRevealOutcome(Error{"no file manager"});
     ASSERT_TRUE(choose("Revelar archivo de datos"));
     EXPECT_EQ(
         surfaces_.warnings(),

@@ -80,12 +80,12 @@ TEST_F(StatusMenuTest, TheClocksAreDisabledRows) {
 }
 
 TEST_F(StatusMenuTest, TellsWhatTheDayWasWorth) {
-    machine_.workspace.setFrontmost(AppId("com.apple.dt.Xcode"));
+    machine_.frontmost.set(AppId("com.apple.dt.Xcode"));
     launch();
     runFor(90s);
-    machine_.workspace.setFrontmost(AppId("com.valvesoftware.steam"));
+    machine_.frontmost.set(AppId("com.valvesoftware.steam"));
     runFor(30s);
-    machine_.workspace.setFrontmost(AppId("com.apple.finder"));
+    machine_.frontmost.set(AppId("com.apple.finder"));
     runFor(61s);
     const auto rows = menu();
     EXPECT_EQ(rows[0].title, "Hoy · 75% productivo");

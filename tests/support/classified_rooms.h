@@ -13,9 +13,9 @@ namespace tidewatch::test {
 struct ClassifiedRooms : CoreRooms {
     explicit ClassifiedRooms(FakeWorld& world, TickListeners listeners = {})
         : CoreRooms(world, listeners),
-          categories(world.files, world.log, world.workspace),
+          categories(world.files, world.log, world.applications),
           scorer(apps, categories),
-          appInfo(world.workspace) {}
+          appInfo(world.applications) {}
 
     CategoryStore categories;
     ProductivityScorer scorer;

@@ -21,9 +21,9 @@ struct CoreRooms {
           keys(world.clock, settings, dayRule),
           idleMonitor(world.inputActivity),
           daily(world.files, world.log, dayRule),
-          apps(world.files, world.log, world.workspace),
-          hours(world.files, world.log, world.workspace),
-          minutes(world.files, world.log, world.workspace),
+          apps(world.files, world.log, world.frontmost),
+          hours(world.files, world.log, world.frontmost),
+          minutes(world.files, world.log, world.frontmost),
           engine(world.clock, world.mainLoop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
                  listeners) {}
 

@@ -23,7 +23,7 @@ struct FakeWorld : platform::FakeMachine {
     const std::string categoriesJson = "/home/user/.tidewatch/categories.json";
     const std::string projectsJson = "/home/user/.tidewatch/projects.json";
 
-    void putAppInFront(const char* id) { workspace.setFrontmost(AppId(id)); }
+    void putAppInFront(const char* id) { frontmost.set(AppId(id)); }
 };
 
 }  // namespace tidewatch::test

@@ -2,8 +2,11 @@
 
 namespace tidewatch::platform {
 
+class Applications;
 class Clock;
+class Desktop;
 class FileSystem;
+class FrontmostApplication;
 class InputActivity;
 class Log;
 class LoginItem;
@@ -16,7 +19,6 @@ class RunningInstance;
 class Screens;
 class UserNotifications;
 class WindowManager;
-class Workspace;
 
 /// All that the program needs of the machine, for the composition root to hand on. Owns nothing; what it
 /// refers to must outlive every user.
@@ -27,7 +29,9 @@ struct Platform {
     FileSystem& files;
     Preferences& preferences;
     InputActivity& inputActivity;
-    Workspace& workspace;
+    FrontmostApplication& frontmost;
+    Applications& applications;
+    Desktop& desktop;
     Screens& screens;
     WindowManager& windowManager;
     LoginItem& loginItem;

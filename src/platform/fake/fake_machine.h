@@ -5,7 +5,10 @@
 #include <utility>
 
 #include "platform/api/platform.h"
+#include "platform/fake/fake_applications.h"
 #include "platform/fake/fake_clock.h"
+#include "platform/fake/fake_desktop.h"
+#include "platform/fake/fake_frontmost_application.h"
 #include "platform/fake/fake_input_activity.h"
 #include "platform/fake/fake_log.h"
 #include "platform/fake/fake_login_item.h"
@@ -17,7 +20,6 @@
 #include "platform/fake/fake_screens.h"
 #include "platform/fake/fake_user_notifications.h"
 #include "platform/fake/fake_window_manager.h"
-#include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_preferences.h"
 
@@ -35,7 +37,9 @@ struct FakeMachine {
     MemoryFileSystem files;
     MemoryPreferences preferences;
     FakeInputActivity inputActivity;
-    FakeWorkspace workspace;
+    FakeFrontmostApplication frontmost;
+    FakeApplications applications;
+    FakeDesktop desktop;
     FakeScreens screens;
     FakeWindowManager windowManager;
     FakeLoginItem loginItem;
@@ -49,9 +53,25 @@ struct FakeMachine {
 
     /// The same machine with another main loop, which must outlive what is returned.
     [[nodiscard]] Platform on(MainLoop& loop) {
-        return {log,        clock,         loop,          files,     preferences,     inputActivity,
-                workspace,  screens,       windowManager, loginItem, runningInstance, endings,
-                randomness, notifications, memory};
+        return {
+            .log = log,
+            .clock = clock,
+            .mainLoop = loop,
+            .files = files,
+            .preferences = preferences,
+            .inputActivity = inputActivity,
+            .frontmost = frontmost,
+            .applications = applications,
+            .desktop = desktop,
+            .screens = screens,
+            .windowManager = windowManager,
+            .loginItem = loginItem,
+            .runningInstance = runningInstance,
+            .endings = endings,
+            .randomness = randomness,
+            .notifications = notifications,
+            .memory = memory,
+        };
     }
 };
 

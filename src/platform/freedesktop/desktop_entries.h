@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/api/workspace.h"
+#include "platform/api/applications.h"
 #include "platform/freedesktop/desktop_entry_index.h"
 
 namespace tidewatch::platform {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/api/workspace.h"
+#include "platform/api/applications.h"
 
 namespace tidewatch::platform {
 

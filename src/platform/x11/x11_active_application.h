@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "base/named_string.h"
+#include "platform/api/frontmost_application.h"
 #include "platform/freedesktop/desktop_entries.h"
 #include "platform/x11/x11_connection.h"
 
@@ -18,16 +18,16 @@ namespace tidewatch::platform {
 /// change is not asked again: the server reports changes of the active window and of its properties, so a
 /// question that finds no such report costs no round trip. Reports are taken as they come, also while nobody
 /// asks: what is not taken, the server keeps. Main thread only.
-class X11ActiveApplication final {
+class X11ActiveApplication final : public FrontmostApplication {
 public:
     /// Uses `connection` for itself alone, and `entries`; both must outlive this object. `own` is the
     /// identifier of this program's windows.
     X11ActiveApplication(const X11Connection& connection, DesktopEntries& entries, AppId own);
-    ~X11ActiveApplication();
+    ~X11ActiveApplication() override;
 
     /// Nothing without a window manager that announces the active window, without an active window, or for
     /// a window that does not say what it is.
-    [[nodiscard]] std::optional<AppId> current();
+    [[nodiscard]] std::optional<AppId> current() override;
 
 private:
     void takeEvents();

@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/api/desktop.h"
 #include "platform/api/log.h"
 #include "platform/api/window_manager.h"
-#include "platform/api/workspace.h"
 #include "shell/windows/menu_style.h"
 #include "shell/windows/menu_view.h"
 #include "shell/windows/question_dialog.h"
@@ -137,7 +137,7 @@ void QtSurfaces::confirm(const Confirmation& question, std::function<void()> acc
 }
 
 void QtSurfaces::chooseSaveLocation(const SaveRequest& request, std::function<void(std::string)> accepted) {
-    if (saveFolder_.isEmpty()) saveFolder_ = text(platform_.workspace.documentsDirectory());
+    if (saveFolder_.isEmpty()) saveFolder_ = text(platform_.desktop.documentsDirectory());
     presentSaveDialog(request, saveFolder_, theme_.active().dashboard,
                       [this, accepted = std::move(accepted)](const QString& path) {
                           saveFolder_ = QFileInfo(path).absolutePath();

@@ -13,7 +13,7 @@ class PdfReportTest : public testing::Test {
 protected:
     test::FakeWorld world_;
     test::AnalysisRooms rooms_{world_};
-    const AppInfoResolver appInfo_{world_.workspace};
+    const AppInfoResolver appInfo_{world_.applications};
     PdfReport report_{
         {world_.clock, rooms_.daily, rooms_.apps, appInfo_, rooms_.scorer, rooms_.evaluator, rooms_.rewards},
         world_.files,

@@ -25,10 +25,10 @@
 #include "core/settings.h"
 #include "core/timer_engine.h"
 #include "platform/fake/fake_clock.h"
+#include "platform/fake/fake_frontmost_application.h"
 #include "platform/fake/fake_input_activity.h"
 #include "platform/fake/fake_main_loop.h"
 #include "platform/fake/fake_randomness.h"
-#include "platform/fake/fake_workspace.h"
 #include "platform/fake/memory_preferences.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/stderr_log.h"
@@ -82,7 +82,7 @@ int main(int argc, char** argv) {
     platform::FakeClock clock{Instant(std::chrono::seconds(std::atoll(argv[2])))};
     platform::FakeMainLoop loop(clock);
     platform::FakeInputActivity input;
-    platform::FakeWorkspace workspace;
+    platform::FakeFrontmostApplication frontmost;
     platform::MemoryPreferences preferences;
     platform::StderrLog log;
     platform::FakeRandomness randomness;
@@ -91,12 +91,12 @@ int main(int argc, char** argv) {
     const IdleMonitor idleMonitor(input);
     const ClockKeys keys(clock, settings, dayRule);
     DailyStore daily(files, log, dayRule);
-    AppUsageStore apps(files, log, workspace);
-    HourlyStore hours(files, log, workspace);
-    MinuteStore minutes(files, log, workspace);
+    AppUsageStore apps(files, log, frontmost);
+    HourlyStore hours(files, log, frontmost);
+    MinuteStore minutes(files, log, frontmost);
     const Broadcaster broadcaster;
     ProjectStore projects(files, log, randomness, broadcaster);
-    ProjectTimeStore times(files, log, workspace);
+    ProjectTimeStore times(files, log, frontmost);
     ActiveProjectBooking booking(projects, times);
     TimerEngine engine(clock, loop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
                        {nullptr, nullptr, &booking});
@@ -110,7 +110,7 @@ int main(int argc, char** argv) {
     if (!projects.activeProjectId()) projects.setActive(projects.addProject("Proyecto").id);
     engine.start();
     for (int tick = 1;; ++tick) {
-        workspace.setFrontmost(AppId(fmt::format("org.example.application{:02}", tick % 40)));
+        frontmost.set(AppId(fmt::format("org.example.application{:02}", tick % 40)));
         loop.runFor(1s);
         if (tick % ticksBetweenFlushes == 0) {
             tell("flushed");

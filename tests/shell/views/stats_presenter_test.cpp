@@ -432,7 +432,7 @@ TEST_F(StatsPresenterTest, AProjectWithoutANameIsARowThatCanBeRead) {
 TEST_F(StatsPresenterTest, ALongNameOfManyLinesIsOneShortLineInEveryTab) {
     const std::string name = "uno\ndos" + std::string(50'000, 'a');
     const auto shown = "uno dos" + QString(193, 'a') + "…";
-    machine_.workspace.registerApplication(AppId("endless"), {name, "", {"IDE"}});
+    machine_.applications.registerApplication(AppId("endless"), {name, "", {"IDE"}});
     book("endless", today(), 9, 0, 60);
     bookProject(services_.projects.addProject(name).id, "endless", today(), 60);
     for (const auto& [tab, presenter] :

@@ -45,7 +45,7 @@ StatsWorld::StatsWorld()
 
 void StatsWorld::registerApplications() {
     for (const auto& app : knownApps) {
-        machine_.workspace.registerApplication(AppId(app.id), {app.name, "", {app.category}});
+        machine_.applications.registerApplication(AppId(app.id), {app.name, "", {app.category}});
     }
 }
 
@@ -60,7 +60,7 @@ void StatsWorld::book(const char* app, const DayKey& day, int hour, int minute, 
 }
 
 void StatsWorld::bookProject(const Uuid& project, const char* app, const DayKey& day, std::int64_t seconds) {
-    machine_.workspace.setFrontmost(AppId(app));
+    machine_.frontmost.set(AppId(app));
     for (std::int64_t second = 0; second < seconds; ++second)
         services_.projectTime.incrementCurrentApp(day, project);
 }

@@ -388,7 +388,7 @@ TEST_F(StatsViewTest, ANameThatFitsNeedsNoBubble) {
 TEST_F(StatsViewTest, ANameWrittenFromTheRightStandsBesideItsIcon) {
     const QString name = "שלום עולם";
     bookProject(services_.projects.addProject(name.toStdString()).id, "code", today(), 9000);
-    machine_.workspace.registerApplication(AppId("hebrew"), {name.toStdString(), "", {"IDE"}});
+    machine_.applications.registerApplication(AppId("hebrew"), {name.toStdString(), "", {"IDE"}});
     book("hebrew", today(), 9, 0, 30000);
     machine_.mainLoop.runFor(seconds(2));
     for (const int tab : {0, detailsTab, timesheetTab, projectsTab}) {
@@ -414,7 +414,7 @@ TEST_F(StatsViewTest, AnEmptyProjectNameIsARowInThePlaceOfTheOthers) {
 TEST_F(StatsViewTest, WhatLooksLikeMarkupIsShownAsItIsWritten) {
     const std::string name = "<b>Negrita</b> <img src='http://127.0.0.1:9/x.png'>";
     bookProject(services_.projects.addProject(name).id, "code", today(), 9000);
-    machine_.workspace.registerApplication(AppId("markup"), {name, "http://127.0.0.1:9/y.png", {"IDE"}});
+    machine_.applications.registerApplication(AppId("markup"), {name, "http://127.0.0.1:9/y.png", {"IDE"}});
     book("markup", today(), 9, 0, 30000);
     machine_.mainLoop.runFor(seconds(2));
     for (const int tab : {0, detailsTab, timesheetTab, projectsTab}) {

@@ -1,4 +1,4 @@
-#include "platform/x11/desktop_workspace.h"
+#include "platform/freedesktop/xdg_desktop.h"
 
 #include <QDBusConnection>
 #include <QDBusError>
@@ -6,7 +6,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -28,21 +27,10 @@ constexpr std::size_t longestList = 1024 * 1024;  // bytes
 
 }  // namespace
 
-DesktopWorkspace::DesktopWorkspace(AppId own, SessionBus& bus, QProcessEnvironment inherited)
-    : bus_(bus),
-      inherited_(std::move(inherited)),
-      entries_(DesktopEntries::standardFolders()),
-      active_(connection_, entries_, std::move(own)) {}
+XdgDesktop::XdgDesktop(SessionBus& bus, const Applications& applications, QProcessEnvironment inherited)
+    : bus_(bus), applications_(applications), inherited_(std::move(inherited)) {}
 
-std::optional<AppId> DesktopWorkspace::frontmostApplication() const {
-    return active_.current();
-}
-
-std::optional<ApplicationInfo> DesktopWorkspace::applicationInfo(const AppId& app) const {
-    return entries_.info(app.text(), QLocale::system().name().toStdString());
-}
-
-std::string DesktopWorkspace::documentsDirectory() const {
+std::string XdgDesktop::documentsDirectory() const {
     // The toolkit would wait for ever for a named pipe in the place of the file that names the user's
     // folders.
     const QFileInfo folders(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -53,7 +41,7 @@ std::string DesktopWorkspace::documentsDirectory() const {
     return (exists ? documents : QDir::homePath()).toStdString();
 }
 
-void DesktopWorkspace::reveal(const std::string& path, std::function<void(const Outcome&)> done) {
+void XdgDesktop::reveal(const std::string& path, std::function<void(const Outcome&)> done) {
     const auto file = QString::fromStdString(path);
     auto message = QDBusMessage::createMethodCall(fileManager, fileManagerPath, fileManager, "ShowItems");
     message << QStringList{QUrl::fromLocalFile(file).toString()} << QString();
@@ -70,7 +58,7 @@ void DesktopWorkspace::reveal(const std::string& path, std::function<void(const 
                      });
 }
 
-Outcome DesktopWorkspace::openFolderOf(const QString& file) const {
+Outcome XdgDesktop::openFolderOf(const QString& file) const {
     if (!foldersOpenInFileManager()) return Error{"no file manager is registered for folders"};
     QProcess opener;
     opener.setProgram("xdg-open");
@@ -83,12 +71,12 @@ Outcome DesktopWorkspace::openFolderOf(const QString& file) const {
 
 /// A desktop without a file manager opens folders in whatever shows files of any kind, a web browser above
 /// all.
-bool DesktopWorkspace::foldersOpenInFileManager() const {
+bool XdgDesktop::foldersOpenInFileManager() const {
     for (const auto& list : standardRegistrationLists()) {
         const auto text = readRegularFile(list, longestList);
         if (!text) continue;
         for (const auto& id : folderHandlers(text.value())) {
-            if (const auto handler = applicationInfo(AppId(id))) {
+            if (const auto handler = applications_.info(AppId(id))) {
                 return std::ranges::find(handler->categories, fileManagerCategory) !=
                        handler->categories.end();
             }

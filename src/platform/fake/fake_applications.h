@@ -1,0 +1,38 @@
+#pragma once
+
+#include <map>
+#include <utility>
+
+#include "platform/api/applications.h"
+
+namespace tidewatch::platform {
+
+/// A registry that a test fills; at first it knows no application.
+class FakeApplications final : public Applications {
+public:
+    [[nodiscard]] std::optional<ApplicationInfo> info(const AppId& app) const override {
+        ++questions_;
+        const auto found = registered_.find(app);
+        return found == registered_.end() ? std::nullopt : std::optional(found->second);
+    }
+    [[nodiscard]] std::uint64_t revision() override { return revision_; }
+
+    void registerApplication(const AppId& app, ApplicationInfo info) {
+        registered_[app] = std::move(info);
+        ++revision_;
+    }
+    void removeApplication(const AppId& app) {
+        registered_.erase(app);
+        ++revision_;
+    }
+
+    /// How often an application was asked for.
+    [[nodiscard]] int questions() const { return questions_; }
+
+private:
+    std::map<AppId, ApplicationInfo> registered_;
+    std::uint64_t revision_ = 0;
+    mutable int questions_ = 0;
+};
+
+}  // namespace tidewatch::platform

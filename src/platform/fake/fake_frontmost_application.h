@@ -1,0 +1,20 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/api/frontmost_application.h"
+
+namespace tidewatch::platform {
+
+/// No application is in front until a test puts one there.
+class FakeFrontmostApplication final : public FrontmostApplication {
+public:
+    [[nodiscard]] std::optional<AppId> current() override { return front_; }
+
+    void set(std::optional<AppId> app) { front_ = std::move(app); }
+
+private:
+    std::optional<AppId> front_;
+};
+
+}  // namespace tidewatch::platform
