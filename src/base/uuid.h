@@ -24,7 +24,9 @@ public:
     /// The canonical form, in upper case.
     [[nodiscard]] std::string text() const;
 
-    auto operator<=>(const Uuid&) const = default;
+    bool operator==(const Uuid&) const = default;
+    // Named, since not every standard library orders arrays in one comparison.
+    std::strong_ordering operator<=>(const Uuid&) const = default;
 
 private:
     std::array<std::uint8_t, 16> bytes_{};

@@ -10,7 +10,7 @@
 namespace tidewatch {
 namespace {
 
-constexpr StoreFormat format{"apps.json", 2, "Tidewatch: failed to flush app usage store: "};
+constexpr StoreFormat appsFormat{"apps.json", 2, "Tidewatch: failed to flush app usage store: "};
 
 // One slot an application that the record knows; those of no day given stay empty.
 using Sums = std::vector<std::optional<Seconds>>;
@@ -29,7 +29,7 @@ void addDay(const CounterRecord& record, const DayKey& day, Sums& sums) {
 
 AppUsageStore::AppUsageStore(platform::FileSystem& files, platform::Log& log,
                              platform::FrontmostApplication& frontmost)
-    : frontmost_(frontmost), frame_(files, log, format) {}
+    : frontmost_(frontmost), frame_(files, log, appsFormat) {}
 
 void AppUsageStore::incrementCurrentApp(const DayKey& day) {
     if (const auto app = bookableApplication(frontmost_)) incrementApp(*app, day);

@@ -12,7 +12,8 @@
 namespace tidewatch {
 namespace {
 
-constexpr StoreFormat format{"project_time.json", 3, "Tidewatch: failed to flush project time store: "};
+constexpr StoreFormat projectTimeFormat{"project_time.json", 3,
+                                        "Tidewatch: failed to flush project time store: "};
 
 constexpr std::size_t dayLevel = 0;
 constexpr std::size_t projectLevel = 1;
@@ -40,7 +41,7 @@ void forEachApp(const CounterRecord& record, std::span<const DayKey> days, const
 
 ProjectTimeStore::ProjectTimeStore(platform::FileSystem& files, platform::Log& log,
                                    platform::FrontmostApplication& frontmost)
-    : frontmost_(frontmost), frame_(files, log, format) {}
+    : frontmost_(frontmost), frame_(files, log, projectTimeFormat) {}
 
 void ProjectTimeStore::incrementCurrentApp(const DayKey& day, const Uuid& project) {
     const auto app = bookableApplication(frontmost_);

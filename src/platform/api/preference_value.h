@@ -1,12 +1,13 @@
 #pragma once
 
 #include <charconv>
-#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
+
+#include "base/parse_real.h"
 
 namespace tidewatch::platform {
 
@@ -15,14 +16,12 @@ using PreferenceValue = std::variant<bool, std::int64_t, double, std::string>;
 
 namespace preference_detail {
 
-/// The number that the whole of `text` spells, in decimal; nothing for infinities and what is no number.
-template <class Number>
-[[nodiscard]] std::optional<Number> spelled(std::string_view text) {
-    Number number{};
+/// The whole number that the whole of `text` spells, in decimal; nothing for what is none.
+[[nodiscard]] inline std::optional<std::int64_t> spelledInteger(std::string_view text) {
+    std::int64_t number{};
     const auto end = text.data() + text.size();
     const auto [stopped, error] = std::from_chars(text.data(), end, number);
     if (error != std::errc() || stopped != end) return std::nullopt;
-    if (!std::isfinite(static_cast<double>(number))) return std::nullopt;
     return number;
 }
 
@@ -38,7 +37,7 @@ struct AsReal {
     double operator()(double value) const { return value; }
     double operator()(const std::string& value) const {
         if (value == "true") return 1;
-        return spelled<double>(value).value_or(0);
+        return parseReal(value).value_or(0);
     }
 };
 
@@ -47,7 +46,7 @@ struct AsInteger {
     std::int64_t operator()(std::int64_t value) const { return value; }
     std::int64_t operator()(double value) const { return truncated(value); }
     std::int64_t operator()(const std::string& value) const {
-        if (const auto whole = spelled<std::int64_t>(value)) return *whole;
+        if (const auto whole = spelledInteger(value)) return *whole;
         return truncated(AsReal()(value));
     }
 };
