@@ -54,15 +54,12 @@ private:
 
 }  // namespace
 
-DesktopEntries::DesktopEntries(std::vector<std::string> folders, Now now)
-    : folders_(std::move(folders)), now_(std::move(now)), lastLook_(now_()), lastGrowth_(lastLook_) {
-    startReading();
-}
-
-DesktopEntries::~DesktopEntries() {
-    stop_ = true;
-    if (reading_.valid()) reading_.wait();
-}
+DesktopEntries::DesktopEntries(std::vector<std::string> folders, Now now, std::chrono::milliseconds patience)
+    : folders_(std::move(folders)),
+      now_(std::move(now)),
+      lastLook_(now_()),
+      lastGrowth_(lastLook_),
+      reader_(folders_, patience) {}
 
 std::vector<std::string> DesktopEntries::standardFolders() {
     std::vector<std::string> folders{environment("XDG_DATA_HOME", environment("HOME", "") + "/.local/share") +
@@ -77,18 +74,18 @@ std::vector<std::string> DesktopEntries::standardFolders() {
 std::optional<std::string> DesktopEntries::idForWindow(std::string_view instance,
                                                        std::string_view windowClass) {
     takeWhatWasRead();
-    auto id = index_.idForWindow(instance, windowClass);
+    auto id = index_->idForWindow(instance, windowClass);
     if (!id) lookAtFolders();
     return id;
 }
 
 bool DesktopEntries::isReading() {
     takeWhatWasRead();
-    return reading_.valid();
+    return reader_.isReading();
 }
 
 void DesktopEntries::waitUntilRead() {
-    if (reading_.valid()) reading_.wait();
+    reader_.waitUntilIdle();
     takeWhatWasRead();
 }
 
@@ -119,18 +116,20 @@ std::optional<ApplicationInfo> DesktopEntries::info(const std::string& id, std::
 }
 
 void DesktopEntries::lookAtFolders() {
-    if (reading_.valid() || index_.isCurrent()) return;
-    ++revision_;
-    startReading();
+    reader_.look();
+    countChanges();
 }
 
-void DesktopEntries::startReading() {
-    reading_ = std::async(std::launch::async, [this] { return DesktopEntryIndex(folders_, stop_); });
+void DesktopEntries::countChanges() {
+    const int changes = reader_.changes();
+    if (changes != std::exchange(changes_, changes)) ++revision_;
 }
 
 void DesktopEntries::takeWhatWasRead() {
-    if (!reading_.valid() || reading_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return;
-    index_ = reading_.get();
+    countChanges();
+    auto fresh = reader_.take();
+    if (!fresh) return;
+    index_ = std::move(fresh);
     ++revision_;
 }
 

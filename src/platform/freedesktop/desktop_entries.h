@@ -1,10 +1,9 @@
 #pragma once
 
-#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <functional>
-#include <future>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,23 +11,25 @@
 
 #include "platform/api/applications.h"
 #include "platform/freedesktop/desktop_entry_index.h"
+#include "platform/freedesktop/desktop_entry_reader.h"
 
 namespace tidewatch::platform {
 
 /// The applications that the desktop knows, by what their windows call themselves and by their ids. No
-/// question waits for the disk to give up all entries: they are read in a thread of their own, at the start
-/// and again when an `applications` folder has changed. What lies there may be anything; what is no ordinary
-/// file, or out of all proportion, is no entry. Main thread only.
+/// question waits for the disk: entries are read in a thread of their own, at the start and again when an
+/// `applications` folder has changed, which that thread looks for as well. What lies there may be anything;
+/// what is no ordinary file, or out of all proportion, is no entry. Main thread only.
 class DesktopEntries final {
 public:
     using Now = std::function<std::chrono::steady_clock::time_point()>;
 
     /// `folders` as absolute paths, the most important first: an id found twice counts where it is found
-    /// first. Begins to read them.
-    explicit DesktopEntries(std::vector<std::string> folders, Now now = std::chrono::steady_clock::now);
+    /// first. Begins to read them. A look at the folders is waited for no longer than `patience`, and so is
+    /// the end of the thread; what takes longer is learned later.
+    explicit DesktopEntries(std::vector<std::string> folders, Now now = std::chrono::steady_clock::now,
+                            std::chrono::milliseconds patience = std::chrono::milliseconds(100));
     DesktopEntries(const DesktopEntries&) = delete;
     DesktopEntries& operator=(const DesktopEntries&) = delete;
-    ~DesktopEntries();
 
     /// The folders that the desktop's base-directory variables name.
     [[nodiscard]] static std::vector<std::string> standardFolders();
@@ -58,7 +59,7 @@ public:
 
 private:
     void lookAtFolders();
-    void startReading();
+    void countChanges();
     void takeWhatWasRead();
 
     const std::vector<std::string> folders_;
@@ -66,9 +67,9 @@ private:
     std::chrono::steady_clock::time_point lastLook_;
     std::chrono::steady_clock::time_point lastGrowth_;
     std::uint64_t revision_ = 0;
-    DesktopEntryIndex index_;
-    std::atomic<bool> stop_ = false;
-    std::future<DesktopEntryIndex> reading_;
+    int changes_ = 0;  // those of the folders that were taken into account
+    std::shared_ptr<const DesktopEntryIndex> index_ = std::make_shared<const DesktopEntryIndex>();
+    DesktopEntryReader reader_;
 };
 
 }  // namespace tidewatch::platform

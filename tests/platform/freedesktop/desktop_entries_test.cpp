@@ -2,13 +2,67 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include <chrono>
+#include <condition_variable>
 #include <filesystem>
 #include <fstream>
+#include <mutex>
+#include <thread>
 
 #include "support/temporary_directory.h"
+
+namespace {
+
+// A folder that hangs, as one on a server that is gone: whoever looks at it waits until it is back. Only the
+// test's own thread does not, so that it can tell that it was made to look.
+struct HangingFolder {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::string path;  // empty: none hangs
+    int waiting = 0;
+    bool testWasMadeToLook = false;
+    const std::thread::id test = std::this_thread::get_id();
+
+    void look(const char* at) {
+        std::unique_lock lock(mutex);
+        if (path.empty() || path != at) return;
+        if (std::this_thread::get_id() == test) {
+            testWasMadeToLook = true;
+            return;
+        }
+        ++waiting;
+        changed.notify_all();
+        changed.wait(lock, [this] { return path.empty(); });
+        --waiting;
+        changed.notify_all();
+    }
+    void hang(const std::string& folder) {
+        const std::lock_guard lock(mutex);
+        path = folder;
+        testWasMadeToLook = false;
+    }
+    void waitUntilSomebodyHangs() {
+        std::unique_lock lock(mutex);
+        changed.wait(lock, [this] { return waiting > 0; });
+    }
+    void comeBack() {
+        std::unique_lock lock(mutex);
+        path.clear();
+        changed.notify_all();
+        changed.wait(lock, [this] { return waiting == 0; });
+    }
+} hangingFolder;
+
+}  // namespace
+
+// In the place of the C library's.
+extern "C" int stat(const char* path, struct stat* status) {
+    hangingFolder.look(path);
+    return ::fstatat(AT_FDCWD, path, status, 0);
+}
 
 namespace tidewatch::platform {
 namespace {
@@ -30,7 +84,8 @@ protected:
     // Made when first asked for, so that a test can put its files there before.
     DesktopEntries& entries() {
         if (!entries_) {
-            entries_.emplace(std::vector{home_.path(), shared_.path()}, [this] { return now_; });
+            entries_.emplace(
+                std::vector{home_.path(), shared_.path()}, [this] { return now_; }, patience_);
         }
         return *entries_;
     }
@@ -42,12 +97,16 @@ protected:
 
     void pass(std::chrono::seconds time) { now_ += time; }
 
+    void setPatience(std::chrono::milliseconds patience) { patience_ = patience; }
+    void forget() { entries_.reset(); }
+
     test::TemporaryDirectory home_;
     test::TemporaryDirectory shared_;
 
 private:
     std::chrono::steady_clock::time_point now_{1h};
     std::chrono::seconds stamp_{0};
+    std::chrono::milliseconds patience_ = 10min;
     std::optional<DesktopEntries> entries_;
 };
 
@@ -239,6 +298,41 @@ TEST_F(DesktopEntriesTest, TheRevisionGrowsOnceAMinuteForEntriesThatAreChangedIn
     EXPECT_EQ(entries().revision(), before + 1);
     pass(59s);
     EXPECT_EQ(entries().revision(), before + 1);
+}
+
+TEST_F(DesktopEntriesTest, AFolderThatHangsHoldsUpNoQuestion) {
+    shared_.write("editor.desktop", "[Desktop Entry]\nStartupWMClass=editor\n");
+    setPatience(1ms);
+    entries().waitUntilRead();
+    EXPECT_EQ(entries().idForWindow("", "editor"), "editor");
+    hangingFolder.hang(shared_.path());
+    pass(2s);
+    const auto before = entries().revision();
+    hangingFolder.waitUntilSomebodyHangs();
+    EXPECT_EQ(entries().idForWindow("", "editor"), "editor");
+    EXPECT_EQ(entries().idForWindow("", "unknown"), std::nullopt);
+    EXPECT_FALSE(entries().isReading()) << "nobody knows of anything to be read";
+    EXPECT_FALSE(hangingFolder.testWasMadeToLook);
+
+    shared_.write("late.desktop", "[Desktop Entry]\n");
+    makeFolderChanged(shared_.path());
+    hangingFolder.comeBack();
+    entries().waitUntilRead();
+    pass(2s);
+    EXPECT_GT(entries().revision(), before);
+    EXPECT_EQ(entries().idForWindow("", "late"), "late");
+}
+
+TEST_F(DesktopEntriesTest, AFolderThatHangsHoldsUpNoEnd) {
+    setPatience(1ms);
+    entries().waitUntilRead();
+    hangingFolder.hang(home_.path());
+    pass(2s);
+    static_cast<void>(entries().revision());
+    hangingFolder.waitUntilSomebodyHangs();
+    forget();
+    EXPECT_FALSE(hangingFolder.testWasMadeToLook);
+    hangingFolder.comeBack();
 }
 
 TEST_F(DesktopEntriesTest, AWindowWithoutNamesHasNoEntry) {
