@@ -11,12 +11,12 @@ struct Error {
     std::string message;
 };
 
-/// A value or the reason why there is none.
-template <class T>
+/// A value or the reason why there is none: an Error, or one that tells more.
+template <class T, class E = Error>
 class [[nodiscard]] Result final {
 public:
     Result(T value) : state_(std::move(value)) {}
-    Result(Error error) : state_(std::move(error)) {}
+    Result(E error) : state_(std::move(error)) {}
 
     [[nodiscard]] bool ok() const noexcept { return std::holds_alternative<T>(state_); }
     explicit operator bool() const noexcept { return ok(); }
@@ -26,10 +26,10 @@ public:
     [[nodiscard]] T&& value() && { return std::get<T>(std::move(state_)); }
 
     /// Only if not ok().
-    [[nodiscard]] const Error& error() const { return std::get<Error>(state_); }
+    [[nodiscard]] const E& error() const { return std::get<E>(state_); }
 
 private:
-    std::variant<T, Error> state_;
+    std::variant<T, E> state_;
 };
 
 /// The outcome of an operation that gives nothing back when it succeeds.

@@ -1,12 +1,15 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "base/result.h"
+#include "platform/api/file_error.h"
+#include "platform/api/file_info.h"
+#include "platform/api/file_reader.h"
 
 namespace tidewatch::platform {
 
@@ -32,29 +35,6 @@ struct ExportFailure {
     std::string message;  ///< for the log: the operation, the path and the system's words
 };
 
-enum class FileKind {
-    file,  ///< a regular one
-    directory,
-    other,  ///< a pipe, a socket, a device
-};
-
-/// What tells one file from another without reading it.
-struct FileInfo {
-    /// The same as long as the file exists, whatever its name; another one after it was replaced.
-    struct Identity {
-        std::uint64_t device = 0;
-        std::uint64_t inode = 0;
-        bool operator==(const Identity&) const = default;
-    };
-
-    FileKind kind = FileKind::file;
-    std::uint64_t size = 0;  ///< bytes
-    std::chrono::sys_time<std::chrono::nanoseconds>
-        modified;  ///< of the content, as fine as the disk keeps it
-    Identity identity;
-    bool operator==(const FileInfo&) const = default;
-};
-
 /// The user's files. Paths are absolute, with '/' between names, and bytes: they need not be UTF-8. Safe from
 /// any thread.
 class FileSystem {
@@ -68,11 +48,24 @@ public:
     /// and keeps its mode.
     virtual Outcome createDirectories(const std::string& path) = 0;
 
-    /// The whole content of a file.
-    [[nodiscard]] virtual Result<std::string> readWhole(const std::string& path) const = 0;
+    /// The whole content of a file. Only a regular file is read, be it at the end of a link.
+    [[nodiscard]] virtual FileResult<std::string> readWhole(const std::string& path) const = 0;
+
+    /// Opens a file to be read in pieces from the byte `offset` on, for those of which only a piece fits into
+    /// memory or is new. Only a regular file is opened; behind its end there is nothing to be read.
+    [[nodiscard]] virtual FileResult<std::unique_ptr<FileReader>> openForReading(
+        const std::string& path, std::uint64_t offset) const = 0;
 
     /// What is found under the path; a symbolic link is followed, and one that leads nowhere is an error.
-    [[nodiscard]] virtual Result<FileInfo> inspect(const std::string& path) const = 0;
+    [[nodiscard]] virtual FileResult<FileInfo> inspect(const std::string& path) const = 0;
+
+    /// Calls `visit` on this thread for all that is below `directory`, at any depth: a directory before what
+    /// it holds, else in no particular order. Symbolic links are found and not followed, except `directory`
+    /// itself. What cannot be read, or is removed meanwhile, is skipped and the rest found; only if
+    /// `directory` itself cannot be read there is an error. `hidden` files are skipped with all below them.
+    /// Memory follows the number of directories, not that of files.
+    [[nodiscard]] virtual FileOutcome enumerate(const std::string& directory, HiddenFiles hidden,
+                                                const FileVisitor& visit) const = 0;
 
     /// To be asked before a file in `directory`, the data directory, is written. Makes the directory again if
     /// it is gone, with what keeps other instances out of it. If it is another process's by now, nothing in

@@ -1,11 +1,39 @@
 #include "platform/fake/memory_file_system.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace tidewatch::platform {
 namespace {
 
 std::string parentOf(const std::string& path) {
     return path.substr(0, path.rfind('/'));
 }
+
+FileError absent(const std::string& operation, const std::string& path) {
+    return {{operation + " " + path + ": No such file or directory"}, FileFault::absent};
+}
+
+FileError forbidden(const std::string& operation, const std::string& path) {
+    return {{operation + " " + path + ": Permission denied"}, FileFault::forbidden};
+}
+
+// What a file held when it was opened.
+class MemoryFileReader final : public FileReader {
+public:
+    MemoryFileReader(std::string content, std::uint64_t offset)
+        : content_(std::move(content)), next_(std::min<std::uint64_t>(offset, content_.size())) {}
+
+    [[nodiscard]] FileResult<std::size_t> read(std::span<char> buffer) override {
+        const auto length = content_.copy(buffer.data(), buffer.size(), next_);
+        next_ += length;
+        return length;
+    }
+
+private:
+    const std::string content_;
+    std::size_t next_;
+};
 
 }  // namespace
 
@@ -31,15 +59,23 @@ RecordHold MemoryFileSystem::holdRecord(const std::string& directory) {
     return hold_;
 }
 
-Result<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
+FileResult<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
     const std::lock_guard lock(mutex_);
     const auto file = files_.find(path);
-    if (file == files_.end()) return Error{"open " + path + ": No such file or directory"};
-    if (unreadable_.contains(path)) return Error{"open " + path + ": Permission denied"};
+    if (file == files_.end()) return absent("open", path);
+    if (unreadable_.contains(path)) return forbidden("open", path);
     return file->second.content;
 }
 
-Result<FileInfo> MemoryFileSystem::inspect(const std::string& path) const {
+FileResult<std::unique_ptr<FileReader>> MemoryFileSystem::openForReading(const std::string& path,
+                                                                         std::uint64_t offset) const {
+    auto content = readWhole(path);
+    if (!content) return content.error();
+    return std::unique_ptr<FileReader>(
+        std::make_unique<MemoryFileReader>(std::move(content).value(), offset));
+}
+
+FileResult<FileInfo> MemoryFileSystem::inspect(const std::string& path) const {
     const std::lock_guard lock(mutex_);
     FileInfo info;
     if (directories_.contains(path)) {
@@ -47,11 +83,49 @@ Result<FileInfo> MemoryFileSystem::inspect(const std::string& path) const {
         return info;
     }
     const auto file = files_.find(path);
-    if (file == files_.end()) return Error{"inspect " + path + ": No such file or directory"};
+    if (file == files_.end()) return absent("inspect", path);
     info.size = file->second.content.size();
     info.modified += std::chrono::nanoseconds(file->second.modified);
     info.identity.inode = file->second.inode;
     return info;
+}
+
+FileOutcome MemoryFileSystem::enumerate(const std::string& directory, HiddenFiles hidden,
+                                        const FileVisitor& visit) const {
+    std::set<std::string> closed;
+    {
+        const std::lock_guard lock(mutex_);
+        if (!directories_.contains(directory)) return absent("open", directory);
+        if (unreadable_.contains(directory)) return forbidden("open", directory);
+        closed = unreadable_;
+    }
+    for (const auto& path : pathsBelow(directory)) {
+        const auto parent = parentOf(path);
+        const bool skipped = hidden == HiddenFiles::skipped && path[parent.size() + 1] == '.';
+        if (skipped || closed.contains(parent)) {
+            closed.insert(path);
+            continue;
+        }
+        const auto info = inspect(path);
+        if (!info) continue;  // removed meanwhile
+        const auto next = visit({path, info.value(), info.value().modified});
+        if (next == NextStep::stop) break;
+        if (next == NextStep::pass) closed.insert(path);
+    }
+    return std::monostate{};
+}
+
+std::vector<std::string> MemoryFileSystem::pathsBelow(const std::string& directory) const {
+    const std::lock_guard lock(mutex_);
+    std::set<std::string> paths;
+    const auto isBelow = [&](const std::string& path) { return path.starts_with(directory + "/"); };
+    for (const auto& [path, file] : files_) {
+        if (isBelow(path)) paths.insert(path);
+    }
+    for (const auto& path : directories_) {
+        if (isBelow(path)) paths.insert(path);
+    }
+    return {paths.begin(), paths.end()};
 }
 
 Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {

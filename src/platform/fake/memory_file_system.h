@@ -19,8 +19,12 @@ class MemoryFileSystem final : public FileSystem {
 public:
     [[nodiscard]] std::string homeDirectory() const override { return "/home/user"; }
     Outcome createDirectories(const std::string& path) override;
-    [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
-    [[nodiscard]] Result<FileInfo> inspect(const std::string& path) const override;
+    [[nodiscard]] FileResult<std::string> readWhole(const std::string& path) const override;
+    [[nodiscard]] FileResult<std::unique_ptr<FileReader>> openForReading(const std::string& path,
+                                                                         std::uint64_t offset) const override;
+    [[nodiscard]] FileResult<FileInfo> inspect(const std::string& path) const override;
+    [[nodiscard]] FileOutcome enumerate(const std::string& directory, HiddenFiles hidden,
+                                        const FileVisitor& visit) const override;
     [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
     Outcome replaceAtomically(const std::string& path, std::string_view content) override;
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
@@ -56,7 +60,7 @@ public:
     /// The directory, and with it all below it, cannot be made.
     void makeUnmakeable(const std::string& directory);
 
-    /// The file is there but cannot be read.
+    /// The file or directory is there but may not be read.
     void makeUnreadable(const std::string& path);
 
     /// Somebody removes a directory with all that is in it.
@@ -82,6 +86,7 @@ private:
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
     [[nodiscard]] Outcome write(const std::string& path, std::string_view content);
     [[nodiscard]] bool makeDirectories(const std::string& path);
+    [[nodiscard]] std::vector<std::string> pathsBelow(const std::string& directory) const;
 
     mutable std::mutex mutex_;
     std::map<std::string, File> files_;

@@ -23,6 +23,9 @@ public:
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int get() const { return descriptor_; }
 
+    /// Leaves it open, for the caller to close.
+    [[nodiscard]] int release() { return std::exchange(descriptor_, -1); }
+
     /// Closes it now and tells whether that went well; some file systems report a failed write only here.
     [[nodiscard]] bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
 

@@ -12,19 +12,18 @@
 #include <utility>
 #include <vector>
 
-#include "platform/posix/file_descriptor.h"
 #include "platform/posix/system_error_text.h"
 
 namespace tidewatch::platform {
 
 namespace {
 
-Error notRegular(const std::string& path) {
-    return {"read " + path + ": not a regular file"};
+FileError notRegular(const std::string& path) {
+    return {{"read " + path + ": not a regular file"}, FileFault::broken};
 }
 
-Error tooLarge(const std::string& path, std::size_t maximalSize) {
-    return {fmt::format("read {}: more than {} bytes", path, maximalSize)};
+FileError tooLarge(const std::string& path, std::size_t maximalSize) {
+    return {{fmt::format("read {}: more than {} bytes", path, maximalSize)}, FileFault::broken};
 }
 
 struct Close {
@@ -82,15 +81,24 @@ private:
 
 }  // namespace
 
-Result<std::string> readRegularFile(const std::string& path, std::size_t maximalSize) {
+FileResult<FileDescriptor> openRegularFile(const std::string& path) {
     struct stat status {};
     // Looked at before it is opened: with a device, opening alone can have effects.
-    if (::stat(path.c_str(), &status) != 0) return systemError("open", path);
+    if (::stat(path.c_str(), &status) != 0) return fileError("open", path);
     if (!S_ISREG(status.st_mode)) return notRegular(path);
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!file.isOpen()) return systemError("open", path);
-    if (::fstat(file.get(), &status) != 0) return systemError("inspect", path);
+    FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.isOpen()) return fileError("open", path);
+    if (::fstat(file.get(), &status) != 0) return fileError("inspect", path);
     if (!S_ISREG(status.st_mode)) return notRegular(path);
+    return FileResult<FileDescriptor>(std::move(file));
+}
+
+FileResult<std::string> readRegularFile(const std::string& path, std::size_t maximalSize) {
+    auto opened = openRegularFile(path);
+    if (!opened) return opened.error();
+    const auto file = std::move(opened).value();
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0) return fileError("inspect", path);
     const auto announced = static_cast<std::size_t>(status.st_size);
     if (announced > maximalSize) return tooLarge(path, maximalSize);
 
@@ -101,7 +109,7 @@ Result<std::string> readRegularFile(const std::string& path, std::size_t maximal
     while (true) {
         const auto got = ::read(file.get(), content.data() + length, content.size() - length);
         if (got < 0 && errno == EINTR) continue;
-        if (got < 0) return systemError("read", path);
+        if (got < 0) return fileError("read", path);
         if (got == 0) break;
         length += static_cast<std::size_t>(got);
         if (length > maximalSize) return tooLarge(path, maximalSize);

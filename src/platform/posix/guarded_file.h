@@ -5,17 +5,21 @@
 #include <limits>
 #include <string>
 
-#include "base/result.h"
+#include "platform/api/file_error.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace tidewatch::platform {
 
 /// For files that are as long as they must be, such as this program's own record.
 inline constexpr std::size_t anySize = std::numeric_limits<std::size_t>::max();
 
-/// The one way to read a file, whoever put it there. Only a regular file is opened, be it at the end of a
-/// link: a named pipe would wait for its writer, a device may have no end. One of more than `maximalSize`
-/// bytes is an error and is not read beyond them. Safe from any thread.
-[[nodiscard]] Result<std::string> readRegularFile(const std::string& path, std::size_t maximalSize);
+/// The one way to open a file to be read, whoever put it there. Only a regular file is opened, be it at the
+/// end of a link: a named pipe would wait for its writer, a device may have no end. Safe from any thread.
+[[nodiscard]] FileResult<FileDescriptor> openRegularFile(const std::string& path);
+
+/// The whole content of such a file. One of more than `maximalSize` bytes is an error and is not read beyond
+/// them. Safe from any thread.
+[[nodiscard]] FileResult<std::string> readRegularFile(const std::string& path, std::size_t maximalSize);
 
 /// How far a walk through folders goes at most.
 struct WalkLimits {

@@ -17,9 +17,12 @@
 #include <utility>
 
 #include "platform/posix/directory_lock.h"
+#include "platform/posix/directory_tree.h"
 #include "platform/posix/file_descriptor.h"
 #include "platform/posix/file_replacement.h"
+#include "platform/posix/file_status.h"
 #include "platform/posix/guarded_file.h"
+#include "platform/posix/posix_file_reader.h"
 #include "platform/posix/private_directory.h"
 #include "platform/posix/system_error_text.h"
 
@@ -45,11 +48,6 @@ std::string userHomeDirectory() {
 mode_t modeAt(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 ? status.st_mode : 0;
-}
-
-FileKind kindOf(mode_t mode) {
-    if (S_ISREG(mode)) return FileKind::file;
-    return S_ISDIR(mode) ? FileKind::directory : FileKind::other;
 }
 
 // What is replaced without asking what it is: with the right to, also a device.
@@ -126,22 +124,29 @@ Outcome PosixFileSystem::createDirectories(const std::string& path) {
     return makePrivateDirectories(path);
 }
 
-Result<std::string> PosixFileSystem::readWhole(const std::string& path) const {
+FileResult<std::string> PosixFileSystem::readWhole(const std::string& path) const {
     // A record is as long as its years: there is no size that it must not have.
     return readRegularFile(path, anySize);
 }
 
-Result<FileInfo> PosixFileSystem::inspect(const std::string& path) const {
+FileResult<std::unique_ptr<FileReader>> PosixFileSystem::openForReading(const std::string& path,
+                                                                        std::uint64_t offset) const {
+    auto opened = openRegularFile(path);
+    if (!opened) return opened.error();
+    auto file = std::move(opened).value();
+    if (::lseek(file.get(), static_cast<off_t>(offset), SEEK_SET) < 0) return fileError("seek", path);
+    return std::unique_ptr<FileReader>(std::make_unique<PosixFileReader>(std::move(file), path));
+}
+
+FileOutcome PosixFileSystem::enumerate(const std::string& directory, HiddenFiles hidden,
+                                       const FileVisitor& visit) const {
+    return enumerateDirectoryTree(directory, hidden, visit);
+}
+
+FileResult<FileInfo> PosixFileSystem::inspect(const std::string& path) const {
     struct stat status {};
-    if (::stat(path.c_str(), &status) != 0) return systemError("inspect", path);
-    const auto sinceEpoch =
-        std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
-    return FileInfo{
-        .kind = kindOf(status.st_mode),
-        .size = static_cast<std::uint64_t>(status.st_size),
-        .modified = std::chrono::sys_time<std::chrono::nanoseconds>(sinceEpoch),
-        .identity = {.device = status.st_dev, .inode = status.st_ino},
-    };
+    if (::stat(path.c_str(), &status) != 0) return fileError("inspect", path);
+    return fileInfo(status);
 }
 
 RecordHold PosixFileSystem::holdRecord(const std::string& directory) {

@@ -30,8 +30,12 @@ public:
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
     Outcome createDirectories(const std::string& path) override;
-    [[nodiscard]] Result<std::string> readWhole(const std::string& path) const override;
-    [[nodiscard]] Result<FileInfo> inspect(const std::string& path) const override;
+    [[nodiscard]] FileResult<std::string> readWhole(const std::string& path) const override;
+    [[nodiscard]] FileResult<std::unique_ptr<FileReader>> openForReading(const std::string& path,
+                                                                         std::uint64_t offset) const override;
+    [[nodiscard]] FileResult<FileInfo> inspect(const std::string& path) const override;
+    [[nodiscard]] FileOutcome enumerate(const std::string& directory, HiddenFiles hidden,
+                                        const FileVisitor& visit) const override;
     [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
     Outcome replaceAtomically(const std::string& path, std::string_view content) override;
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/result.h"
+#include "platform/api/file_error.h"
 #include "platform/posix/system_words.h"
 
 namespace tidewatch::platform {
@@ -14,6 +15,15 @@ namespace tidewatch::platform {
 /// Why the system call that has just failed did so: the operation, the path and the system's words.
 [[nodiscard]] inline Error systemError(std::string_view operation, const std::string& path) {
     return {fmt::format("{} {}: {}", operation, path, systemWords(errno))};
+}
+
+/// The same of a call that was to read something.
+[[nodiscard]] inline FileError fileError(std::string_view operation, const std::string& path) {
+    const int code = errno;
+    auto fault = FileFault::broken;
+    if (code == ENOENT || code == ENOTDIR) fault = FileFault::absent;
+    if (code == EACCES || code == EPERM) fault = FileFault::forbidden;
+    return {systemError(operation, path), fault};
 }
 
 }  // namespace tidewatch::platform

@@ -100,5 +100,70 @@ TEST(MemoryFileSystem, TellsAFileFromTheOneThatReplacedIt) {
     EXPECT_FALSE(files.inspect("/home/user/b"));
 }
 
+TEST(MemoryFileSystem, TellsWhyAFileCannotBeRead) {
+    MemoryFileSystem files;
+    files.put("/d/f", "1");
+    files.makeUnreadable("/d/f");
+    EXPECT_EQ(files.readWhole("/d/f").error().fault, FileFault::forbidden);
+    EXPECT_EQ(files.openForReading("/d/f", 0).error().fault, FileFault::forbidden);
+    EXPECT_EQ(files.readWhole("/d/g").error().fault, FileFault::absent);
+    EXPECT_EQ(files.inspect("/d/g").error().fault, FileFault::absent);
+    EXPECT_EQ(files.openForReading("/d/g", 0).error().fault, FileFault::absent);
+}
+
+TEST(MemoryFileSystem, GivesAFileInPieces) {
+    MemoryFileSystem files;
+    files.put("/d/f", "one two three");
+    const auto reader = files.openForReading("/d/f", 4);
+    ASSERT_TRUE(reader);
+    std::string piece(6, '\0');
+    EXPECT_EQ(reader.value()->read(piece).value(), 6u);
+    EXPECT_EQ(piece, "two th");
+    EXPECT_EQ(reader.value()->read(piece).value(), 3u);
+    EXPECT_EQ(reader.value()->read(piece).value(), 0u);
+    EXPECT_EQ(files.openForReading("/d/f", 100).value()->read(piece).value(), 0u);
+}
+
+TEST(MemoryFileSystem, EnumeratesWhatIsBelowADirectory) {
+    MemoryFileSystem files;
+    for (const auto* path : {"/d/a/b", "/d/a-c", "/d/.h/x", "/d/e/f", "/d/closed/g", "/dd/x"})
+        files.put(path, "1");
+    files.makeUnreadable("/d/closed");
+    const auto find = [&](HiddenFiles hidden, const FileVisitor& visit) {
+        std::vector<std::string> paths;
+        EXPECT_TRUE(files.enumerate("/d", hidden, [&](const FoundFile& file) {
+            EXPECT_EQ(file.info, files.inspect(std::string(file.path)).value());
+            paths.emplace_back(file.path);
+            return visit(file);
+        }));
+        return paths;
+    };
+    const auto enterAll = [](const FoundFile&) { return NextStep::enter; };
+    using Paths = std::vector<std::string>;
+    EXPECT_EQ(find(HiddenFiles::included, enterAll),
+              (Paths{"/d/.h", "/d/.h/x", "/d/a", "/d/a-c", "/d/a/b", "/d/closed", "/d/e", "/d/e/f"}));
+    EXPECT_EQ(find(HiddenFiles::skipped, enterAll),
+              (Paths{"/d/a", "/d/a-c", "/d/a/b", "/d/closed", "/d/e", "/d/e/f"}));
+    const auto passA = [](const FoundFile& file) {
+        return file.path == "/d/a" ? NextStep::pass : NextStep::enter;
+    };
+    EXPECT_EQ(find(HiddenFiles::skipped, passA), (Paths{"/d/a", "/d/a-c", "/d/closed", "/d/e", "/d/e/f"}));
+    EXPECT_EQ(find(HiddenFiles::skipped, [](const FoundFile&) { return NextStep::stop; }), (Paths{"/d/a"}));
+    const auto removeE = [&](const FoundFile&) {
+        files.removeDirectory("/d/e");
+        return NextStep::enter;
+    };
+    EXPECT_EQ(find(HiddenFiles::skipped, removeE), (Paths{"/d/a", "/d/a-c", "/d/a/b", "/d/closed"}));
+}
+
+TEST(MemoryFileSystem, ADirectoryThatCannotBeEnumeratedSaysWhy) {
+    MemoryFileSystem files;
+    files.put("/d/f", "1");
+    files.makeUnreadable("/d");
+    const auto visit = [](const FoundFile&) { return NextStep::enter; };
+    EXPECT_EQ(files.enumerate("/d", HiddenFiles::included, visit).error().fault, FileFault::forbidden);
+    EXPECT_EQ(files.enumerate("/none", HiddenFiles::included, visit).error().fault, FileFault::absent);
+}
+
 }  // namespace
 }  // namespace tidewatch::platform

@@ -1,0 +1,97 @@
+#include "platform/posix/directory_tree.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "platform/posix/file_descriptor.h"
+#include "platform/posix/file_status.h"
+#include "platform/posix/system_error_text.h"
+
+namespace tidewatch::platform {
+
+namespace {
+
+struct CloseDirectory {
+    void operator()(DIR* directory) const { ::closedir(directory); }
+};
+using OpenDirectory = std::unique_ptr<DIR, CloseDirectory>;
+
+OpenDirectory openDirectory(const std::string& path, int flags) {
+    FileDescriptor descriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | flags));
+    if (!descriptor.isOpen()) return nullptr;
+    OpenDirectory directory(::fdopendir(descriptor.get()));
+    if (directory) static_cast<void>(descriptor.release());
+    return directory;
+}
+
+bool isThere(const std::string& path) {
+    struct stat status {};
+    return ::stat(path.c_str(), &status) == 0;
+}
+
+bool isDotOrDots(std::string_view name) {
+    return name == "." || name == "..";
+}
+
+class TreeEnumeration final {
+public:
+    TreeEnumeration(HiddenFiles hidden, const FileVisitor& visit) : hidden_(hidden), visit_(visit) {}
+
+    FileOutcome run(const std::string& root) {
+        auto directory = openDirectory(root, 0);
+        if (!directory) {
+            auto error = fileError("open", root);
+            // A path through something that is no directory leads nowhere; one to it leads to the wrong
+            // thing.
+            if (error.fault == FileFault::absent && isThere(root)) error.fault = FileFault::broken;
+            return error;
+        }
+        readEntries(*directory, root);
+        while (!stopped_ && !pending_.empty()) {
+            const auto path = std::move(pending_.back());
+            pending_.pop_back();
+            // It was no link when it was found, and is none to be followed now.
+            directory = openDirectory(path, O_NOFOLLOW);
+            if (directory) readEntries(*directory, path);
+        }
+        return std::monostate{};
+    }
+
+private:
+    void readEntries(DIR& directory, const std::string& directoryPath) {
+        auto path = directoryPath;
+        if (!path.ends_with('/')) path += '/';
+        const auto length = path.size();
+        while (const auto* entry = ::readdir(&directory)) {
+            const std::string_view name = entry->d_name;
+            if (isDotOrDots(name) || (hidden_ == HiddenFiles::skipped && name.starts_with('.'))) continue;
+            struct stat status {};
+            constexpr int ofTheEntryItself = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT;
+            if (::fstatat(::dirfd(&directory), entry->d_name, &status, ofTheEntryItself) != 0) continue;
+            path.resize(length);
+            path += name;
+            const auto next = visit_({path, fileInfo(status), fileTime(status.st_atim)});
+            if (next == NextStep::enter && S_ISDIR(status.st_mode)) pending_.push_back(path);
+            stopped_ = next == NextStep::stop;
+            if (stopped_) return;
+        }
+    }
+
+    const HiddenFiles hidden_;
+    const FileVisitor& visit_;
+    std::vector<std::string> pending_;  // directories found and not yet read
+    bool stopped_ = false;
+};
+
+}  // namespace
+
+FileOutcome enumerateDirectoryTree(const std::string& root, HiddenFiles hidden, const FileVisitor& visit) {
+    return TreeEnumeration(hidden, visit).run(root);
+}
+
+}  // namespace tidewatch::platform
