@@ -73,7 +73,7 @@ void appendInputCoverage(MenuRows& rows, platform::InputCoverage coverage) {
     using platform::InputCoverage;
     if (coverage == InputCoverage::nothing)
         rows.push_back(information("Sin detección de actividad: no se cuenta"));
-    if (coverage == InputCoverage::x11WindowsOnly) {
+    if (coverage == InputCoverage::someWindows) {
         rows.push_back(information("Wayland: solo se ven las ventanas X11"));
     }
 }

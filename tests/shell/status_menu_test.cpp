@@ -163,7 +163,7 @@ TEST_F(StatusMenuTest, StartAtLoginIsCheckedWhenItIsEnabled) {
 }
 
 TEST_F(StatusMenuTest, SaysWhenInputGoesUnseen) {
-    machine_.inputActivity.setCoverage(platform::InputCoverage::x11WindowsOnly);
+    machine_.inputActivity.setCoverage(platform::InputCoverage::someWindows);
     EXPECT_EQ(menu()[4].title, "Wayland: solo se ven las ventanas X11");
     EXPECT_FALSE(menu()[4].isEnabled());
     machine_.inputActivity.setCoverage(platform::InputCoverage::nothing);

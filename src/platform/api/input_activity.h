@@ -6,9 +6,9 @@ namespace tidewatch::platform {
 
 /// How much of the user's input a machine lets the program notice.
 enum class InputCoverage {
-    everything,      ///< input to any window
-    x11WindowsOnly,  ///< input to native windows of a Wayland session goes unseen
-    nothing,         ///< there is no source at all
+    everything,   ///< input to any window
+    someWindows,  ///< input to windows of another protocol than this program's goes unseen
+    nothing,      ///< there is no source at all
 };
 
 /// How long ago the user last touched keyboard, mouse or any other input device. Main thread only.

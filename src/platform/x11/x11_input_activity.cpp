@@ -11,7 +11,7 @@ namespace {
 InputCoverage probe(const X11Connection& connection) {
     if (!connection.hasExtension(&xcb_screensaver_id)) return InputCoverage::nothing;
     const char* wayland = std::getenv("WAYLAND_DISPLAY");
-    return wayland != nullptr && *wayland != '\0' ? InputCoverage::x11WindowsOnly : InputCoverage::everything;
+    return wayland != nullptr && *wayland != '\0' ? InputCoverage::someWindows : InputCoverage::everything;
 }
 
 }  // namespace
