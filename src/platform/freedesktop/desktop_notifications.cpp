@@ -11,7 +11,7 @@ namespace tidewatch::platform {
 namespace {
 
 constexpr char service[] = "org.freedesktop.Notifications";
-constexpr char path[] = "/org/freedesktop/Notifications";
+constexpr char notificationsPath[] = "/org/freedesktop/Notifications";
 
 constexpr char applicationName[] = "Tidewatch";
 constexpr char desktopFileId[] = "com.brightlooms.tidewatch";
@@ -22,7 +22,7 @@ constexpr int expiresAsTheServiceLikes = -1;
 
 // The body of a desktop notification is markup.
 QDBusMessage notifyCall(const UserNotification& notification) {
-    auto call = QDBusMessage::createMethodCall(service, path, service, "Notify");
+    auto call = QDBusMessage::createMethodCall(service, notificationsPath, service, "Notify");
     const QVariantMap hints{{"desktop-entry", desktopFileId}, {"sound-name", soundName}};
     call << QString(applicationName) << replacesNone << QString(desktopFileId)
          << QString::fromStdString(notification.title)

@@ -10,7 +10,7 @@ namespace tidewatch::platform {
 
 namespace {
 
-constexpr std::string_view folders = "inode/directory=";
+constexpr std::string_view folderKey = "inode/directory=";
 constexpr std::string_view extension = ".desktop";
 constexpr std::array<std::string_view, 3> groups = {"[Default Applications]", "[Added Associations]",
                                                     "[MIME Cache]"};
@@ -55,8 +55,8 @@ std::vector<std::string> folderHandlers(std::string_view list) {
     while (!list.empty()) {
         auto line = nextLine(list);
         if (line.starts_with('[')) inGroup = std::ranges::find(groups, line) != groups.end();
-        if (!inGroup || !line.starts_with(folders)) continue;
-        line.remove_prefix(folders.size());
+        if (!inGroup || !line.starts_with(folderKey)) continue;
+        line.remove_prefix(folderKey.size());
         while (!line.empty()) {
             const auto end = std::min(line.find(';'), line.size());
             const auto id = line.substr(0, end);
