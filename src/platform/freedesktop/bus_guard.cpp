@@ -19,12 +19,14 @@
 #include "platform/freedesktop/bus_address.h"
 #include "platform/freedesktop/bus_relay.h"
 #include "platform/posix/file_descriptor.h"
+#include "platform/posix/shortage.h"
 
 namespace tidewatch::platform {
 
 namespace {
 
 constexpr char nowhere[] = "disabled:";
+constexpr std::chrono::milliseconds restAfterShortage(100);
 
 /// A socket that no file stands for, with a name that the kernel chooses.
 int listenAnywhere() {
@@ -98,6 +100,7 @@ private:
         const std::string address;
         BusHealth health;
         std::list<BusRelay> relays;
+        std::optional<BusRelay::Moment> restsUntil;  ///< set when no descriptor was left for who asks
     };
 
     void wake() {
@@ -111,7 +114,11 @@ private:
             std::optional<BusRelay::Moment> deadline;
             const auto doors = currentDoors();
             for (auto* door : doors) {
-                asked.push_back({door->listener.get(), POLLIN, 0});
+                if (door->restsUntil && *door->restsUntil <= BusRelay::Clock::now()) door->restsUntil.reset();
+                // Whoever cannot be let in would be announced again at once, and without an end.
+                asked.push_back({door->restsUntil ? -1 : door->listener.get(), POLLIN, 0});
+                if (door->restsUntil && (!deadline || *door->restsUntil < *deadline))
+                    deadline = door->restsUntil;
                 for (const auto& relay : door->relays) {
                     const auto sides = relay.wanted();
                     asked.insert(asked.end(), sides.begin(), sides.end());
@@ -157,7 +164,10 @@ private:
 
     void open(Door& door) {
         const int client = ::accept4(door.listener.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-        if (client < 0) return;
+        if (client < 0) {
+            if (isShortage(errno)) door.restsUntil = BusRelay::Clock::now() + restAfterShortage;
+            return;
+        }
         const int bus = isThisProcess(client) && !door.health.isSilent() ? connectAtOnce(door.bus) : -1;
         if (bus < 0) {
             ::close(client);

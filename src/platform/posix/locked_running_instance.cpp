@@ -22,8 +22,9 @@ constexpr milliseconds timeToEnd(20);
 
 }  // namespace
 
-LockedRunningInstance::LockedRunningInstance(DirectoryLock& lock, Log& log, milliseconds patience)
-    : lock_(lock), log_(log), patience_(patience) {}
+LockedRunningInstance::LockedRunningInstance(DirectoryLock& lock, Log& log, milliseconds patience,
+                                             milliseconds pause)
+    : lock_(lock), log_(log), patience_(patience), pause_(pause) {}
 
 LockedRunningInstance::~LockedRunningInstance() {
     lock_.lookAfter({}, {});
@@ -56,9 +57,15 @@ void LockedRunningInstance::listen() {
     auto socket = ReopenSocket::listenIn(directory_);
     if (!socket) {
         lock_.lookAfter({}, {});
-        log_.warning("Tidewatch: a second start cannot be answered: " + socket.error().message);
+        if (!std::exchange(toldOfFailure_, true)) {
+            log_.warning("Tidewatch: a second start cannot be answered: " + socket.error().message);
+        }
+        notifier_.reset();
+        socket_.reset();
+        QTimer::singleShot(pause_, &mainThread_, [this] { listenAgain(); });
         return;
     }
+    toldOfFailure_ = false;
     notifier_.reset();
     socket_ = std::move(socket).value();
     notifier_ = std::make_unique<QSocketNotifier>(socket_->descriptor(), QSocketNotifier::Read);
@@ -72,13 +79,19 @@ void LockedRunningInstance::listen() {
 
 void LockedRunningInstance::listenAgain() {
     // Several writes may have asked for it before it could be done.
-    const bool isBack = ::access(ReopenSocket::pathIn(directory_).c_str(), F_OK) == 0;
+    const bool isBack = socket_ && ::access(ReopenSocket::pathIn(directory_).c_str(), F_OK) == 0;
     if (!isBack && lock_.isHeld()) listen();
 }
 
 void LockedRunningInstance::takeRequests() {
-    for (auto request = socket_->nextRequest(); request.isOpen(); request = socket_->nextRequest()) {
-        requests_.push_back(std::move(request));
+    auto request = socket_->nextRequest();
+    for (; request && request.value().isOpen(); request = socket_->nextRequest()) {
+        requests_.push_back(std::move(request).value());
+    }
+    if (!request) {
+        // Whoever asks would be announced again at once, and without an end.
+        notifier_->setEnabled(false);
+        QTimer::singleShot(pause_, notifier_.get(), [this] { notifier_->setEnabled(true); });
     }
     // If this process has been asked to end as well, it will not come to the answer.
     QTimer::singleShot(timeToEnd, &mainThread_, [this] { answerRequests(); });

@@ -26,7 +26,9 @@ public:
     static constexpr std::chrono::milliseconds usualPatience{10'000};
 
     /// `lock` and `log` must outlive this object.
-    LockedRunningInstance(DirectoryLock& lock, Log& log, std::chrono::milliseconds patience = usualPatience);
+    /// `pause` passes before what failed is tried again.
+    LockedRunningInstance(DirectoryLock& lock, Log& log, std::chrono::milliseconds patience = usualPatience,
+                          std::chrono::milliseconds pause = std::chrono::seconds(1));
     ~LockedRunningInstance() override;
 
     [[nodiscard]] InstanceClaim claim(const std::string& directory) override;
@@ -41,6 +43,8 @@ private:
     DirectoryLock& lock_;
     Log& log_;
     const std::chrono::milliseconds patience_;
+    const std::chrono::milliseconds pause_;
+    bool toldOfFailure_ = false;
     std::string directory_;
     std::function<void()> reopen_;
     std::unique_ptr<ReopenSocket> socket_;

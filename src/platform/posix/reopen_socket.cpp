@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <string_view>
 
+#include "platform/posix/shortage.h"
 #include "platform/posix/system_words.h"
 
 namespace tidewatch::platform {
@@ -70,8 +71,10 @@ Result<std::unique_ptr<ReopenSocket>> ReopenSocket::listenIn(const std::string& 
     return socket;
 }
 
-FileDescriptor ReopenSocket::nextRequest() const {
-    return FileDescriptor(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+Result<FileDescriptor> ReopenSocket::nextRequest() const {
+    FileDescriptor request(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+    if (!request.isOpen() && isShortage(errno)) return Error{systemWords(errno)};
+    return request;
 }
 
 void ReopenSocket::answer(const FileDescriptor& request) {

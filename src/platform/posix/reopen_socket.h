@@ -25,8 +25,9 @@ public:
     /// Becomes readable when somebody asks.
     [[nodiscard]] int descriptor() const { return listening_.get(); }
 
-    /// The connection to one who has asked; a closed one if nobody has. Never waits.
-    [[nodiscard]] FileDescriptor nextRequest() const;
+    /// The connection to one who has asked; a closed one if nobody has, an error if the system has no
+    /// descriptor left for it. Never waits.
+    [[nodiscard]] Result<FileDescriptor> nextRequest() const;
 
     static void answer(const FileDescriptor& request);
 

@@ -10,7 +10,10 @@
 #include <QProcess>
 #include <functional>
 
+#include "platform/freedesktop/bus_address.h"
+#include "platform/posix/file_descriptor.h"
 #include "tests/platform/freedesktop/private_bus.h"
+#include "tests/platform/posix/no_descriptors_left.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -189,6 +192,23 @@ TEST_F(BusGuardTest, NoOtherProcessGetsIn) {
     ASSERT_TRUE(other.waitForFinished());
     EXPECT_NE(other.exitCode(), 0);
     EXPECT_EQ(other.readAllStandardOutput(), "");
+}
+
+TEST_F(BusGuardTest, AShortageOfDescriptorsIsSatOut) {
+    const auto address = socketOfBus(guard_.guarded(bus_.address().toStdString()));
+    ASSERT_TRUE(address);
+    {
+        const test::NoDescriptorsLeft shortage;
+        const FileDescriptor client(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+        ASSERT_EQ(::connect(client.get(), reinterpret_cast<const sockaddr*>(&address->name), address->size),
+                  0);
+        ASSERT_TRUE(waitFor([&] { return shortage.refused() > 0; }));
+        QElapsedTimer timer;
+        timer.start();
+        waitFor([&] { return timer.elapsed() > 500; });
+        EXPECT_LT(shortage.refused(), 20) << "asked again and again";
+    }
+    EXPECT_FALSE(askBus(connectThroughGuard()).failed());
 }
 
 TEST_F(BusGuardTest, AnAddressThatIsNoneLeadsNowhere) {

@@ -11,6 +11,7 @@
 
 #include "platform/fake/fake_log.h"
 #include "support/temporary_directory.h"
+#include "tests/platform/posix/no_descriptors_left.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -19,8 +20,9 @@ using namespace std::chrono_literals;
 
 // A start of the program as far as it matters here: the lock and who asks for it.
 struct Start {
-    explicit Start(Log& log, std::chrono::milliseconds patience = LockedRunningInstance::usualPatience)
-        : lock(log), instance(lock, log, patience) {}
+    explicit Start(Log& log, std::chrono::milliseconds patience = LockedRunningInstance::usualPatience,
+                   std::chrono::milliseconds pause = 50ms)
+        : lock(log), instance(lock, log, patience, pause) {}
 
     DirectoryLock lock;
     LockedRunningInstance instance;
@@ -60,6 +62,39 @@ TEST_F(LockedRunningInstanceTest, ASecondStartAsksTheFirstToReopen) {
     ASSERT_EQ(first.instance.claim(directory_.path()), InstanceClaim::first);
     EXPECT_EQ(claimFromAnotherThread(), InstanceClaim::handedOver);
     EXPECT_EQ(reopened, 1);
+}
+
+TEST_F(LockedRunningInstanceTest, ASecondStartIsAnsweredOnceThereAreDescriptorsAgain) {
+    Start first(log_);
+    ASSERT_EQ(first.instance.claim(directory_.path()), InstanceClaim::first);
+    auto shortage = std::make_unique<test::NoDescriptorsLeft>();
+    std::atomic<bool> done = false;
+    bool answered = false;
+    std::thread second([&] {
+        answered = ReopenSocket::askIn(directory_.path(), 10min);
+        done = true;
+    });
+    while (shortage->refused() == 0) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    for (const auto end = std::chrono::steady_clock::now() + 400ms; std::chrono::steady_clock::now() < end;) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    EXPECT_LT(shortage->refused(), 20) << "asked again and again";
+    shortage.reset();
+    while (!done) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    second.join();
+    EXPECT_TRUE(answered);
+}
+
+TEST_F(LockedRunningInstanceTest, WhoCouldNotListenTriesAgainAndSaysSoOnce) {
+    const auto place = directory_.path() + "/reopen.socket";
+    directory_.write("reopen.socket/in-the-way", "");
+    log_.expectWarning("a second start cannot be answered");
+    Start first(log_, LockedRunningInstance::usualPatience, 1ms);
+    ASSERT_EQ(first.instance.claim(directory_.path()), InstanceClaim::first);
+    for (int tries = 0; tries < 5; ++tries) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    std::filesystem::remove_all(place);
+    while (!directory_.exists("reopen.socket")) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    EXPECT_EQ(claimFromAnotherThread(), InstanceClaim::handedOver);
 }
 
 TEST_F(LockedRunningInstanceTest, AStartAfterTheEndOfTheFirstIsTheFirst) {
