@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string>
 
+#include "base/serial_queue.h"
 #include "bench/support/large_record.h"
 #include "core/app_usage_store.h"
 #include "core/broadcaster.h"
@@ -94,18 +95,21 @@ struct BenchStores {
 struct BenchCore : BenchStores {
     explicit BenchCore(BenchWorld& world)
         : BenchStores(world),
+          loop(world.loop),
           idleMonitor(world.input),
           projects(world.files, world.log, world.randomness, broadcaster),
           booking(projects, times),
-          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
+          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes}, disk,
                  {nullptr, nullptr, &booking}) {
         projects.setActive(projectId(0));
     }
 
+    platform::FakeMainLoop& loop;
     IdleMonitor idleMonitor;
     Broadcaster broadcaster;
     ProjectStore projects;
     ActiveProjectBooking booking;
+    SerialQueue disk{[this](JobQueue::Job job) { loop.post(std::move(job)); }};
     TimerEngine engine;
 };
 

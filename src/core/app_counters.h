@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,42 +10,54 @@
 #include "base/named_string.h"
 #include "base/seconds.h"
 #include "core/app_seconds.h"
-#include "core/store_frame.h"
+#include "core/counter_file.h"
 #include "core/usage_snapshot.h"
 #include "platform/api/frontmost_application.h"
 
 namespace tidewatch {
 
-/// What the stores of seconds per key and application share; the key is a day, an hour or a bucket. Safe
-/// from any thread, but for incrementCurrentApp, which asks for the application in front and is for the main
-/// thread.
-class UsageFrame final {
+/// Seconds per application under one key (a day, an hour, ten minutes) or two (a day and a project), and
+/// their file: what the stores of such seconds share. Each of them says what its keys mean.
+///
+/// Safe from any thread, but for incrementCurrentApp, which asks for the application in front and is for the
+/// main thread.
+class AppCounters final {
 public:
-    /// `format` is two levels deep. The references must outlive it.
-    UsageFrame(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost,
-               const StoreFormat& format);
+    /// Texts that lead to a counter, from the first one on.
+    using Keys = std::span<const std::string_view>;
 
-    /// Books one second to the application in front, if there is one that can be booked.
-    void incrementCurrentApp(std::string_view key);
+    /// `format` is one level deeper than the keys are many. The references must outlive it.
+    AppCounters(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost,
+                const CounterFormat& format);
 
-    /// Books one second to `app`, whichever it is.
-    void incrementApp(const AppId& app, std::string_view key);
+    /// Books one second under all the keys to the application in front, if there is one that can be booked.
+    void incrementCurrentApp(Keys keys);
 
-    /// The applications of `key` in ascending order of their identifiers; none for an unknown key.
-    [[nodiscard]] std::vector<AppSeconds> entries(std::string_view key) const;
+    /// Books one second under all the keys to `app`, whichever it is.
+    void incrementApp(const AppId& app, Keys keys);
 
-    /// The sum over entries().
-    [[nodiscard]] Seconds seconds(std::string_view key) const;
+    /// The applications under all the keys, in ascending order of their identifiers; none for unknown keys.
+    [[nodiscard]] std::vector<AppSeconds> entries(Keys keys) const;
 
+    /// The sum of all that lies under these keys, or under these first ones.
+    [[nodiscard]] Seconds seconds(Keys keys) const;
+
+    /// Sums per application over the days given, in no particular order; `below` are the keys under each day.
+    /// A day given twice counts twice; an unknown one adds nothing.
+    [[nodiscard]] std::vector<AppSeconds> aggregate(std::span<const DayKey> days, Keys below = {}) const;
+
+    /// Every day that has an entry under the keys below it, in ascending order.
+    [[nodiscard]] std::vector<DayKey> days(Keys below = {}) const;
+
+    /// A copy of everything. Of stores with one key only.
     [[nodiscard]] UsageSnapshot snapshot() const;
 
-    void flush() { frame_.flush(); }
-
-    [[nodiscard]] const std::string& filePath() const { return frame_.filePath(); }
+    [[nodiscard]] CounterFile& file() { return file_; }
+    [[nodiscard]] const CounterFile& file() const { return file_; }
 
 private:
     platform::FrontmostApplication& frontmost_;
-    StoreFrame frame_;
+    CounterFile file_;
 };
 
 }  // namespace tidewatch

@@ -1,11 +1,11 @@
-#include "core/store_frame.h"
+#include "core/counter_file.h"
 
 #include "core/counter_json.h"
 
 namespace tidewatch {
 
-StoreFrame::StoreFrame(platform::FileSystem& files, platform::Log& log, const StoreFormat& format)
-    : file_(files, log, format.fileName, format.flushFailed), record_(format.depth) {
+CounterFile::CounterFile(platform::FileSystem& files, platform::Log& log, const CounterFormat& format)
+    : record_(format.depth), file_(files, log, format.fileName, format.flushFailed) {
     const auto parse = [&](std::string text) { return readCounters(std::move(text), format.depth); };
     auto record = file_.read(parse);
     // A missing file is read as an empty one, so that what the JSON library keeps for the whole process is
@@ -14,9 +14,39 @@ StoreFrame::StoreFrame(platform::FileSystem& files, platform::Log& log, const St
     if (record) record_ = std::move(*record);
 }
 
-void StoreFrame::flush() {
+void CounterFile::flush() {
+    const std::lock_guard writing(writing_);
+    // Only now: a write that was waited for took its time.
+    write(snapshot());
+}
+
+CounterFile::Snapshot CounterFile::snapshot() const {
     const std::lock_guard lock(mutex_);
-    file_.write(writeCounters(record_).view());
+    return {record_, revision_};
+}
+
+void CounterFile::flushOn(JobQueue& queue) {
+    {
+        const std::lock_guard lock(mutex_);
+        waiting_ = Snapshot{record_, revision_};
+    }
+    queue.post([this] { flushWaiting(); });
+}
+
+void CounterFile::flushWaiting() {
+    const std::lock_guard writing(writing_);
+    std::optional<Snapshot> snapshot;
+    {
+        const std::lock_guard lock(mutex_);
+        snapshot.swap(waiting_);
+    }
+    if (!snapshot || snapshot->revision < writtenRevision_) return;
+    if (snapshot->revision == writtenRevision_ && file_.isAsWritten()) return;
+    write(*snapshot);
+}
+
+void CounterFile::write(const Snapshot& snapshot) {
+    if (file_.write(writeCounters(snapshot.record).view())) writtenRevision_ = snapshot.revision;
 }
 
 }  // namespace tidewatch

@@ -6,25 +6,25 @@
 namespace tidewatch {
 namespace {
 
-constexpr StoreFormat dailyFormat{"today.json", 1, "Tidewatch: failed to flush daily store: "};
+constexpr CounterFormat dailyFormat{"today.json", 1, "Tidewatch: failed to flush daily store: "};
 
 }  // namespace
 
 DailyStore::DailyStore(platform::FileSystem& files, platform::Log& log, const DayRule& dayRule)
-    : dayRule_(dayRule), frame_(files, log, dailyFormat) {}
+    : dayRule_(dayRule), file_(files, log, dailyFormat) {}
 
 Seconds DailyStore::seconds(const DayKey& day) const {
     const std::array<std::string_view, 1> path{day.text()};
-    return frame_.read([&](const CounterRecord& record) { return record.seconds(path); });
+    return file_.read([&](const CounterRecord& record) { return record.seconds(path); });
 }
 
 void DailyStore::set(Seconds seconds, const DayKey& day) {
     const std::array<std::string_view, 1> path{day.text()};
-    frame_.change([&](CounterRecord& record) { record.set(path, seconds); });
+    file_.change([&](CounterRecord& record) { return record.set(path, seconds); });
 }
 
 std::vector<DaySeconds> DailyStore::allDays() const {
-    return frame_.read([](const CounterRecord& record) {
+    return file_.read([](const CounterRecord& record) {
         std::vector<DaySeconds> days;
         days.reserve(record.top().size());
         for (auto day = record.top().begin; day < record.top().end; ++day) {

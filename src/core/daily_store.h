@@ -6,8 +6,8 @@
 #include "base/instant.h"
 #include "base/named_string.h"
 #include "base/seconds.h"
+#include "core/counter_file.h"
 #include "core/day_rule.h"
-#include "core/store_frame.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -39,15 +39,16 @@ public:
     /// Every day that has an entry, in ascending order.
     [[nodiscard]] std::vector<DaySeconds> allDays() const;
 
-    /// Writes the file. On failure logs and keeps memory as it is; the next flush tries again.
-    void flush() { frame_.flush(); }
+    /// See CounterFile.
+    void flush() { file_.flush(); }
+    void flushOn(JobQueue& queue) { file_.flushOn(queue); }
 
-    [[nodiscard]] std::string directoryPath() const { return frame_.directoryPath(); }
-    [[nodiscard]] std::string dataFilePath() const { return frame_.filePath(); }
+    [[nodiscard]] std::string directoryPath() const { return file_.directoryPath(); }
+    [[nodiscard]] std::string dataFilePath() const { return file_.path(); }
 
 private:
     const DayRule& dayRule_;
-    StoreFrame frame_;
+    CounterFile file_;
 };
 
 }  // namespace tidewatch

@@ -13,13 +13,31 @@ RecordFile::RecordFile(platform::FileSystem& files, platform::Log& log, std::str
       failure_(failure) {}
 
 bool RecordFile::write(std::string_view content) {
-    if (files_.holdRecord(directory_) == platform::RecordHold::anothers) {
-        unread_ = Unread::anothers;
+    written_.reset();
+    if (hold() == platform::RecordHold::anothers) return false;
+    const auto replaced = replace(content);
+    if (!replaced) {
+        if (!failure_.empty()) log_.warning(failure_ + replaced.error().message);
         return false;
     }
-    const auto written = replace(content);
-    if (!written && !failure_.empty()) log_.warning(failure_ + written.error().message);
-    return written.ok();
+    // What somebody else put there meanwhile is not taken for ours if it differs in size; if it does not, it
+    // stays until the next change.
+    if (const auto info = files_.inspect(path_); info && info.value().size == content.size()) {
+        written_ = info.value();
+    }
+    return true;
+}
+
+bool RecordFile::isAsWritten() {
+    if (hold() == platform::RecordHold::anothers || !written_) return false;
+    const auto info = files_.inspect(path_);
+    return info && info.value() == *written_;
+}
+
+platform::RecordHold RecordFile::hold() {
+    const auto hold = files_.holdRecord(directory_);
+    if (hold == platform::RecordHold::anothers) unread_ = Unread::anothers;
+    return hold;
 }
 
 std::optional<std::string> RecordFile::readText() {

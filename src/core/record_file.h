@@ -38,6 +38,9 @@ public:
     /// before.
     bool write(std::string_view content);
 
+    /// Whether the last write() succeeded and its file is still there, neither replaced nor changed since.
+    [[nodiscard]] bool isAsWritten();
+
     [[nodiscard]] const std::string& directoryPath() const { return directory_; }
     [[nodiscard]] const std::string& path() const { return path_; }
 
@@ -45,6 +48,7 @@ private:
     // What the file may hold that this object has not read.
     enum class Unread { nothing, damaged, anothers };
 
+    [[nodiscard]] platform::RecordHold hold();
     [[nodiscard]] std::optional<std::string> readText();
     [[nodiscard]] Outcome replace(std::string_view content);
     [[nodiscard]] Outcome setUnreadAside();
@@ -55,6 +59,7 @@ private:
     const std::string path_;
     const std::string failure_;
     Unread unread_ = Unread::damaged;
+    std::optional<platform::FileInfo> written_;
 };
 
 }  // namespace tidewatch

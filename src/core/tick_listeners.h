@@ -2,6 +2,7 @@
 
 #include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/serial_queue.h"
 
 namespace tidewatch {
 
@@ -40,7 +41,8 @@ public:
     /// active project it does nothing.
     virtual void bookSecond(const DayKey& day) = 0;
 
-    virtual void flush() = 0;
+    /// The engine's stores have been handed to `disk` to be written; what is booked here follows.
+    virtual void flushOn(JobQueue& disk) = 0;
 };
 
 /// Who else lives by the tick. Null stands for nobody; those given must outlive the engine.

@@ -16,13 +16,14 @@ constexpr int ticksBetweenFlushes = 30;
 
 TimerEngine::TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
                          const IdleMonitor& idleMonitor, const ClockKeys& keys, CounterStores stores,
-                         TickListeners listeners)
+                         JobQueue& disk, TickListeners listeners)
     : clock_(clock),
       mainLoop_(mainLoop),
       settings_(settings),
       idleMonitor_(idleMonitor),
       keys_(keys),
       stores_(stores),
+      disk_(disk),
       listeners_(listeners),
       games_(std::string(gamesApplicationId)),
       currentDay_(stores.daily.dayKey(clock.now())),
@@ -43,6 +44,7 @@ void TimerEngine::stop() {
     ticker_.reset();
     writeDay();
     flushStores();
+    disk_.finish();
     if (listeners_.gameGate) listeners_.gameGate->flush();
 }
 
@@ -73,7 +75,7 @@ void TimerEngine::tick() {
         writeDay();
         flushStores();
         ticksSinceFlush_ = 0;
-        // The disk takes its time, and whoever comes after this tick goes by the clock.
+        // That took its time, and whoever comes after this tick goes by the clock.
         checkDay();
     }
 
@@ -87,7 +89,7 @@ void TimerEngine::checkDay() {
 // The new day's counter is reloaded, not zeroed: it may be a day that already has time.
 void TimerEngine::moveToDay(const DayKey& day) {
     writeDay();
-    stores_.daily.flush();
+    stores_.daily.flushOn(disk_);
     currentDay_ = day;
     todaySeconds_ = stores_.daily.seconds(day);
     liveSeconds_ = Seconds();
@@ -128,11 +130,11 @@ void TimerEngine::writeDay() {
 }
 
 void TimerEngine::flushStores() {
-    stores_.daily.flush();
-    stores_.apps.flush();
-    stores_.hours.flush();
-    stores_.minutes.flush();
-    if (listeners_.projectTime) listeners_.projectTime->flush();
+    stores_.daily.flushOn(disk_);
+    stores_.apps.flushOn(disk_);
+    stores_.hours.flushOn(disk_);
+    stores_.minutes.flushOn(disk_);
+    if (listeners_.projectTime) listeners_.projectTime->flushOn(disk_);
 }
 
 }  // namespace tidewatch

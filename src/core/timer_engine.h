@@ -30,16 +30,17 @@ struct CounterStores {
 /// counter. Main thread only.
 ///
 /// A tick books one second at most, whatever time has passed; ticks that do not happen (a sleeping machine,
-/// a blocked thread) are never made good. Every 30th tick, idle ones counted, the stores are written to the
-/// disk, so that a crash costs 29 seconds at most.
+/// a blocked thread) are never made good. Every 30th tick, idle ones counted, hands the stores as they are
+/// then to a queue that writes them, so that a crash costs 29 seconds at most, and what was just being
+/// written. No tick waits for the disk.
 class TimerEngine final {
 public:
     enum class Status { active, idle };
 
     /// Takes up the total that the daily store holds for the present day. Does not start ticking.
-    /// All that is given, null listeners apart, must outlive the engine.
+    /// `disk` is the queue that writes. All that is given, null listeners apart, must outlive the engine.
     TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
-                const IdleMonitor& idleMonitor, const ClockKeys& keys, CounterStores stores,
+                const IdleMonitor& idleMonitor, const ClockKeys& keys, CounterStores stores, JobQueue& disk,
                 TickListeners listeners);
     TimerEngine(const TimerEngine&) = delete;
     TimerEngine& operator=(const TimerEngine&) = delete;
@@ -47,11 +48,11 @@ public:
     /// Ticks every second from now on, also while a menu is open. Nothing happens if it ticks already.
     void start();
 
-    /// Ends the ticking and writes the day and all stores to the disk.
+    /// Ends the ticking and writes the day and all stores to the disk; returns when they are there.
     void stop();
 
-    /// Puts the clock of the day and the session back to 0, on the disk too. The counters of applications
-    /// and projects keep what they have.
+    /// Puts the clock of the day and the session back to 0, on the disk too when it returns. The counters of
+    /// applications and projects keep what they have.
     void resetToday();
 
     /// The present session: seconds booked since the user last came back, since the day changed or since
@@ -82,6 +83,7 @@ private:
     const IdleMonitor& idleMonitor_;
     const ClockKeys& keys_;
     const CounterStores stores_;
+    JobQueue& disk_;
     const TickListeners listeners_;
     const AppId games_;
 

@@ -18,6 +18,7 @@
 #include "platform/posix/private_directory.h"
 #include "platform/posix/stderr_log.h"
 #include "platform/posix/system_randomness.h"
+#include "platform/posix/threads.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/qt/qt_preferences.h"
@@ -70,6 +71,7 @@ struct NativePlatform::Parts {
     SystemRandomness randomness;
     DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;
+    Threads background{mainLoop};
     Platform all{
         .log = log,
         .clock = clock,
@@ -88,6 +90,7 @@ struct NativePlatform::Parts {
         .randomness = randomness,
         .notifications = notifications,
         .memory = memory,
+        .background = background,
     };
 };
 

@@ -17,7 +17,7 @@ public:
         if (const auto active = projects_.activeProjectId()) times_.incrementCurrentApp(day, *active);
     }
 
-    void flush() override { times_.flush(); }
+    void flushOn(JobQueue& disk) override { times_.flushOn(disk); }
 
 private:
     const ProjectStore& projects_;

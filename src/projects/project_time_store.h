@@ -7,8 +7,8 @@
 #include "base/named_string.h"
 #include "base/seconds.h"
 #include "base/uuid.h"
+#include "core/app_counters.h"
 #include "core/app_seconds.h"
-#include "core/store_frame.h"
 #include "platform/api/file_system.h"
 #include "platform/api/frontmost_application.h"
 #include "platform/api/log.h"
@@ -42,14 +42,14 @@ public:
     /// Every day that has an entry for `project`, in ascending order.
     [[nodiscard]] std::vector<DayKey> allDayKeys(const Uuid& project) const;
 
-    /// Writes the file. On failure logs and keeps memory as it is; the next flush tries again.
-    void flush() { frame_.flush(); }
+    /// See CounterFile.
+    void flush() { counters_.file().flush(); }
+    void flushOn(JobQueue& queue) { counters_.file().flushOn(queue); }
 
-    [[nodiscard]] std::string dataFilePath() const { return frame_.filePath(); }
+    [[nodiscard]] std::string dataFilePath() const { return counters_.file().path(); }
 
 private:
-    platform::FrontmostApplication& frontmost_;
-    StoreFrame frame_;
+    AppCounters counters_;
 };
 
 }  // namespace tidewatch

@@ -1,5 +1,7 @@
 #include "shell/services.h"
 
+#include "platform/api/background.h"
+
 namespace tidewatch {
 
 Services::Services(const platform::Platform& platform)
@@ -24,7 +26,8 @@ Services::Services(const platform::Platform& platform)
                     days),
       gameGate(platform.clock, platform.preferences, notifications),
       breakReminder(dayRule, platform.mainLoop, notifications),
+      disk(platform.background.makeQueue("record")),
       engine(platform.clock, platform.mainLoop, settings, idleMonitor, keys, {days, apps, hours, minutes},
-             {&gameGate, &breakReminder, &projectBooking}) {}
+             *disk, {&gameGate, &breakReminder, &projectBooking}) {}
 
 }  // namespace tidewatch

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <memory>
+
 #include "analysis/goal_evaluator.h"
 #include "analysis/goal_store.h"
 #include "analysis/reward_engine.h"
+#include "base/serial_queue.h"
 #include "classification/app_info_resolver.h"
 #include "classification/category_store.h"
 #include "classification/productivity_score.h"
@@ -55,6 +58,8 @@ struct Services final {
     NotificationManager notifications;
     GameGate gameGate;
     BreakReminder breakReminder;
+    /// Writes the stores; it ends before any of them.
+    std::unique_ptr<JobQueue> disk;
     TimerEngine engine;
 };
 

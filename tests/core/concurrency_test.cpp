@@ -2,6 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -111,6 +115,88 @@ TEST_F(ConcurrencyTest, TheDayRuleFollowsSettingsAndZoneFromAnyThread) {
         world.clock.setZone(platform::fixedZone(std::chrono::hours(i % 2)));
     }
     asking.join();
+}
+
+// The tick with a real thread that writes, on a disk that stops while it does.
+struct StallTest : testing::Test {
+    test::FakeWorld world;
+    std::optional<test::CoreRooms> rooms;
+
+    StallTest() {
+        world.putAppInFront("xterm");
+        rooms.emplace(world, TickListeners(), std::make_unique<SerialQueue>([](JobQueue::Job) {}));
+        rooms->engine.start();
+        tick(29);
+        world.files.stall();
+        tick(1);
+        world.files.awaitStalledWrite();
+    }
+    ~StallTest() override { world.files.resume(); }
+
+    void tick(int times) { world.mainLoop.runFor(std::chrono::seconds(times)); }
+    void expectOnDisk(int seconds) const {
+        EXPECT_EQ(world.files.content(world.todayJson),
+                  "{\n  \"2026-01-15\" : " + std::to_string(seconds) + "\n}");
+        EXPECT_EQ(world.files.content(world.appsJson),
+                  "{\n  \"2026-01-15\" : {\n    \"xterm\" : " + std::to_string(seconds) + "\n  }\n}");
+    }
+};
+
+TEST_F(StallTest, FiveSecondsOfAStalledDiskCostNone) {
+    tick(5);
+    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(35));
+    EXPECT_EQ(world.files.content(world.todayJson), std::nullopt);
+    world.files.resume();
+    rooms->disk->finish();
+    expectOnDisk(30);
+    tick(25);
+    rooms->disk->finish();
+    expectOnDisk(60);
+}
+
+TEST_F(StallTest, AMinuteAndAHalfOfItBringsTheNewestStateAloneOnceItIsOver) {
+    tick(90);
+    world.files.resume();
+    rooms->disk->finish();
+    expectOnDisk(120);
+    // The state that was being written, and the newest one; the other files had not been begun.
+    EXPECT_EQ(std::ranges::count(world.files.writes(), world.todayJson), 2);
+    EXPECT_EQ(std::ranges::count(world.files.writes(), world.appsJson), 1);
+}
+
+TEST_F(StallTest, TheEndWaitsForTheWriteAndThenWritesTheNewestState) {
+    tick(5);
+    // Long enough for an end that does not wait to be over; one that does is right however long it is.
+    std::thread disk([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        world.files.resume();
+    });
+    rooms->engine.stop();
+    expectOnDisk(35);
+    disk.join();
+}
+
+TEST_F(StallTest, ReadersAndBookingsDoNotWaitEither) {
+    EXPECT_EQ(rooms->apps.aggregate(std::vector{today}).front().seconds, Seconds(30));
+    rooms->apps.incrementApp(AppId("firefox"), today);
+    EXPECT_EQ(rooms->daily.seconds(today), Seconds(30));
+    EXPECT_EQ(rooms->minutes.snapshot().keyCount(), 1u);
+}
+
+TEST_F(ConcurrencyTest, FlushesOfTheQueueAndOfOthersNeverPutAnOlderStateLast) {
+    SerialQueue queue([](JobQueue::Job) {});
+    AppUsageStore store(world.files, world.log, world.frontmost);
+    std::thread other([&] {
+        for (int i = 0; i < rounds; ++i) store.flush();
+    });
+    for (int i = 0; i < rounds; ++i) {
+        store.incrementApp(AppId("firefox"), today);
+        store.flushOn(queue);
+    }
+    other.join();
+    queue.finish();
+    const AppUsageStore next(world.files, world.log, world.frontmost);
+    EXPECT_EQ(next.aggregate(std::vector{today}).front().seconds, Seconds(rounds));
 }
 
 }  // namespace

@@ -32,6 +32,7 @@ struct Listeners final : GameGateListener, BreakListener, ProjectTimeListener {
     bool playingNow() const override { return playing; }
     void tickWorkSecond() override { calls.emplace_back("work"); }
     void flush() override { calls.emplace_back("flush"); }
+    void flushOn(JobQueue&) override { calls.emplace_back("flush"); }
     void userWentIdle() override { calls.emplace_back("idle"); }
     void tickActiveSecond(Seconds total) override {
         calls.push_back("active " + std::to_string(total.count()));
@@ -122,8 +123,9 @@ TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
     AppUsageStore appsStore(world.files, world.log, frontmost);
     HourlyStore hours(world.files, world.log, frontmost);
     MinuteStore minutes(world.files, world.log, frontmost);
+    const auto disk = world.background.makeQueue("record");
     TimerEngine engine(world.clock, world.mainLoop, settings, idleMonitor, keys,
-                       {daily, appsStore, hours, minutes}, {});
+                       {daily, appsStore, hours, minutes}, *disk, {});
     engine.start();
     tick();
     EXPECT_EQ(frontmost.looks, 3);
@@ -138,7 +140,7 @@ TEST_F(TimerEngineTest, MidnightDuringASlowFlushIsSeenBeforeTheTickIsOver) {
         platform::FakeClock& clock;
         explicit SlowDisk(platform::FakeClock& theClock) : clock(theClock) {}
         void bookSecond(const DayKey&) override {}
-        void flush() override { clock.setNow(sys_days(2026y / 1 / 16)); }
+        void flushOn(JobQueue&) override { clock.setNow(sys_days(2026y / 1 / 16)); }
     } disk(world.clock);
     setTimeOfDay(24h - 31s);
     auto& engine = start({nullptr, nullptr, &disk});
@@ -433,7 +435,7 @@ TEST_F(TimerEngineTest, ThePeriodicFlushReachesTheProjectsButNotTheGameGate) {
     struct Projects final : ProjectTimeListener {
         int flushes = 0;
         void bookSecond(const DayKey&) override {}
-        void flush() override { ++flushes; }
+        void flushOn(JobQueue&) override { ++flushes; }
     } projects;
     auto& engine = start({&gate, nullptr, &projects});
     tick(30);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <utility>
+
 #include "core/app_usage_store.h"
 #include "core/clock_keys.h"
 #include "core/daily_store.h"
@@ -13,9 +16,11 @@
 
 namespace tidewatch::test {
 
-/// One run of the program's core in a world; a second one in the same world is the next start.
+/// One run of the program's core in a world; a second one in the same world is the next start. Without a
+/// queue of its own for the disk it has one of the world's.
 struct CoreRooms {
-    explicit CoreRooms(FakeWorld& world, TickListeners listeners = {})
+    explicit CoreRooms(FakeWorld& world, TickListeners listeners = {},
+                       std::unique_ptr<JobQueue> queue = nullptr)
         : settings(world.preferences),
           dayRule(world.clock, settings),
           keys(world.clock, settings, dayRule),
@@ -24,8 +29,9 @@ struct CoreRooms {
           apps(world.files, world.log, world.frontmost),
           hours(world.files, world.log, world.frontmost),
           minutes(world.files, world.log, world.frontmost),
+          disk(queue ? std::move(queue) : world.background.makeQueue("record")),
           engine(world.clock, world.mainLoop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
-                 listeners) {}
+                 *disk, listeners) {}
 
     Settings settings;
     DayRule dayRule;
@@ -35,6 +41,7 @@ struct CoreRooms {
     AppUsageStore apps;
     HourlyStore hours;
     MinuteStore minutes;
+    std::unique_ptr<JobQueue> disk;
     TimerEngine engine;
 };
 

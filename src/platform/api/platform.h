@@ -3,6 +3,7 @@
 namespace tidewatch::platform {
 
 class Applications;
+class Background;
 class Clock;
 class Desktop;
 class FileSystem;
@@ -40,6 +41,7 @@ struct Platform {
     Randomness& randomness;
     UserNotifications& notifications;
     ProcessMemory& memory;
+    Background& background;
 };
 
 }  // namespace tidewatch::platform

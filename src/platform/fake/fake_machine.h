@@ -6,6 +6,7 @@
 
 #include "platform/api/platform.h"
 #include "platform/fake/fake_applications.h"
+#include "platform/fake/fake_background.h"
 #include "platform/fake/fake_clock.h"
 #include "platform/fake/fake_desktop.h"
 #include "platform/fake/fake_frontmost_application.h"
@@ -48,6 +49,7 @@ struct FakeMachine {
     FakeRandomness randomness;
     FakeUserNotifications notifications;
     FakeProcessMemory memory;
+    FakeBackground background{mainLoop};
 
     Platform platform = on(mainLoop);
 
@@ -71,6 +73,7 @@ struct FakeMachine {
             .randomness = randomness,
             .notifications = notifications,
             .memory = memory,
+            .background = background,
         };
     }
 };

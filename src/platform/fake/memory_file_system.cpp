@@ -129,7 +129,11 @@ std::vector<std::string> MemoryFileSystem::pathsBelow(const std::string& directo
 }
 
 Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
-    const std::lock_guard lock(mutex_);
+    std::unique_lock lock(mutex_);
+    ++stalledWrites_;
+    stallChanged_.notify_all();
+    stallChanged_.wait(lock, [this] { return !stalled_; });
+    --stalledWrites_;
     return write(path, content);
 }
 
@@ -225,6 +229,24 @@ void MemoryFileSystem::failWrite(std::size_t n) {
 void MemoryFileSystem::setDisk(Disk disk) {
     const std::lock_guard lock(mutex_);
     disk_ = disk;
+}
+
+void MemoryFileSystem::stall() {
+    const std::lock_guard lock(mutex_);
+    stalled_ = true;
+}
+
+void MemoryFileSystem::resume() {
+    {
+        const std::lock_guard lock(mutex_);
+        stalled_ = false;
+    }
+    stallChanged_.notify_all();
+}
+
+void MemoryFileSystem::awaitStalledWrite() {
+    std::unique_lock lock(mutex_);
+    stallChanged_.wait(lock, [this] { return stalled_ && stalledWrites_ > 0; });
 }
 
 void MemoryFileSystem::makeUnmakeable(const std::string& directory) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <condition_variable>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -57,6 +58,13 @@ public:
     enum class Disk { roomy, full };
     void setDisk(Disk disk);
 
+    /// From now on whoever replaces a file waits, until the disk is as before.
+    void stall();
+    void resume();
+
+    /// Returns as soon as somebody waits for the stalled disk.
+    void awaitStalledWrite();
+
     /// The directory, and with it all below it, cannot be made.
     void makeUnmakeable(const std::string& directory);
 
@@ -89,6 +97,9 @@ private:
     [[nodiscard]] std::vector<std::string> pathsBelow(const std::string& directory) const;
 
     mutable std::mutex mutex_;
+    std::condition_variable stallChanged_;
+    bool stalled_ = false;
+    int stalledWrites_ = 0;
     std::map<std::string, File> files_;
     std::uint64_t changes_ = 0;
     std::set<std::string> directories_;

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "base/serial_queue.h"
 #include "core/app_usage_store.h"
 #include "core/broadcaster.h"
 #include "core/clock_keys.h"
@@ -98,7 +99,8 @@ int main(int argc, char** argv) {
     ProjectStore projects(files, log, randomness, broadcaster);
     ProjectTimeStore times(files, log, frontmost);
     ActiveProjectBooking booking(projects, times);
-    TimerEngine engine(clock, loop, settings, idleMonitor, keys, {daily, apps, hours, minutes},
+    SerialQueue disk([](JobQueue::Job) {});
+    TimerEngine engine(clock, loop, settings, idleMonitor, keys, {daily, apps, hours, minutes}, disk,
                        {nullptr, nullptr, &booking});
     const auto tell = [&](const char* what) {
         say(fmt::format("{} {} {} {} {} {}\n", what, sumOf(daily).count(), sumOf(apps).count(),
@@ -113,6 +115,7 @@ int main(int argc, char** argv) {
         frontmost.set(AppId(fmt::format("org.example.application{:02}", tick % 40)));
         loop.runFor(1s);
         if (tick % ticksBetweenFlushes == 0) {
+            disk.finish();
             tell("flushed");
             clock.suspend(1h);  // so that day changes, which flush on their own, come often
         }

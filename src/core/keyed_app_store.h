@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/named_string.h"
+#include "base/seconds.h"
+#include "core/app_counters.h"
+#include "core/app_seconds.h"
+#include "core/usage_snapshot.h"
+#include "platform/api/file_system.h"
+#include "platform/api/frontmost_application.h"
+#include "platform/api/log.h"
+
+namespace tidewatch {
+
+/// What the stores of seconds per `Key` (a day, an hour, ten minutes) and application offer. Safe from any
+/// thread, but for incrementCurrentApp, which asks for the application in front and is for the main thread.
+template <class Key>
+class KeyedAppStore {
+public:
+    /// Books one second of `key` to the application in front, if there is one that can be booked.
+    void incrementCurrentApp(const Key& key) { counters_.incrementCurrentApp(path(key)); }
+
+    /// Books one second of `key` to `app`, whichever it is.
+    void incrementApp(const AppId& app, const Key& key) { counters_.incrementApp(app, path(key)); }
+
+    /// The applications of `key` in ascending order of their identifiers; none for an unknown key.
+    [[nodiscard]] std::vector<AppSeconds> entries(const Key& key) const {
+        return counters_.entries(path(key));
+    }
+
+    /// The sum over entries().
+    [[nodiscard]] Seconds seconds(const Key& key) const { return counters_.seconds(path(key)); }
+
+    /// A copy of everything.
+    [[nodiscard]] UsageSnapshot snapshot() const { return counters_.snapshot(); }
+
+    /// See CounterFile.
+    void flush() { counters_.file().flush(); }
+    void flushOn(JobQueue& queue) { counters_.file().flushOn(queue); }
+
+    [[nodiscard]] std::string dataFilePath() const { return counters_.file().path(); }
+
+protected:
+    /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
+    /// All three must outlive it.
+    KeyedAppStore(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost,
+                  std::string_view fileName, std::string_view flushFailed)
+        : counters_(files, log, frontmost, {fileName, 2, flushFailed}) {}
+    ~KeyedAppStore() = default;
+
+    [[nodiscard]] const AppCounters& counters() const { return counters_; }
+
+private:
+    static std::array<std::string_view, 1> path(const Key& key) { return {key.text()}; }
+
+    AppCounters counters_;
+};
+
+}  // namespace tidewatch
