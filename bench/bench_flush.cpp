@@ -1,18 +1,24 @@
-// Writing the counter files of a ten-year record, against the least that any program would have to do for
-// the same bytes: copy them once, write, sync, rename and sync the directory.
+// Writing the counter files of a ten-year record beside the main thread, against the least that any program
+// would have to do for the same bytes: copy them once, write, sync, rename and sync the directory. And what
+// the flushes of a minute cost the machine, while the user works and while nobody does.
 
 #include <fcntl.h>
+#include <time.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <cstring>
+#include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "bench/support/bench_world.h"
 #include "bench/support/ratio.h"
 
 namespace {
 
+using namespace tidewatch;
 using namespace tidewatch::bench;
 
 void require(bool good, const char* what) {
@@ -33,31 +39,93 @@ void replaceBare(const std::string& path, const std::string& bytes) {
     require(directory >= 0 && ::fsync(directory) == 0 && ::close(directory) == 0, "sync the directory");
 }
 
+Milliseconds processorTime() {
+    timespec time{};
+    require(::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time) == 0, "tell the time");
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+/// The stores of a ten-year record and the queue that writes them.
+struct FlushBench {
+    void bookAndFlush() {
+        stores.bookSecond(world.clock);
+        flush();
+    }
+    void flush() {
+        stores.flushOn(disk);
+        disk.finish();
+    }
+
+    [[nodiscard]] std::vector<std::string> contents() const {
+        std::vector<std::string> result;
+        for (const auto& path : paths) result.push_back(world.files.readWhole(path).value());
+        return result;
+    }
+
+    BenchWorld world{makeLargeRecord({})};
+    BenchStores stores{world};
+    SerialQueue disk{[this](JobQueue::Job job) { world.loop.post(std::move(job)); }};
+    const std::vector<std::string> paths{stores.daily.dataFilePath(), stores.apps.dataFilePath(),
+                                         stores.hours.dataFilePath(), stores.minutes.dataFilePath(),
+                                         stores.times.dataFilePath()};
+};
+
+struct Cost {
+    double milliseconds = 0;  // of the processor, all threads
+    double megabytes = 0;     // written
+};
+
+/// What the two flushes of a minute cost, `flush` being one of them.
+Cost costOfAMinute(FlushBench& bench, const std::function<void()>& flush) {
+    Cost cost;
+    const auto begin = processorTime();
+    for (int i = 0; i < 2; ++i) {
+        std::vector<platform::FileInfo> before;
+        for (const auto& path : bench.paths) before.push_back(bench.world.files.inspect(path).value());
+        flush();
+        for (std::size_t file = 0; file < before.size(); ++file) {
+            const auto after = bench.world.files.inspect(bench.paths[file]).value();
+            if (after != before[file]) cost.megabytes += static_cast<double>(after.size) / 1e6;
+        }
+    }
+    cost.milliseconds = (processorTime() - begin).count();
+    return cost;
+}
+
+void expectLastStateOnDisk(FlushBench& bench) {
+    const auto written = bench.contents();
+    BenchStores next(bench.world);
+    const auto today = next.dayRule.today();
+    if (next.daily.seconds(today) != bench.stores.daily.seconds(today)) giveUp("a flush lost seconds");
+    next.flush();
+    if (bench.contents() != written) giveUp("a flush wrote something else");
+}
+
 }  // namespace
 
 int main() {
-    BenchWorld world(makeLargeRecord({}));
-    BenchStores stores(world);
-    stores.flush();
-    std::vector<std::string> contents;
-    const std::vector paths{stores.daily.dataFilePath(), stores.apps.dataFilePath(),
-                            stores.hours.dataFilePath(), stores.minutes.dataFilePath(),
-                            stores.times.dataFilePath()};
-    for (const auto& path : paths) {
-        contents.push_back(world.files.readWhole(path).value());
-    }
+    FlushBench bench;
+    bench.bookAndFlush();
+    const auto contents = bench.contents();
 
     Verdicts verdicts;
     verdicts.race(
-        "flush of five counter files, ten years", [&] { stores.flush(); }, 1.5,
+        "flush of five counter files beside the main thread, ten years", [&] { bench.bookAndFlush(); }, 1.5,
         "memcpy, write, sync, rename, directory's sync of the same bytes",
         [&] {
             for (std::size_t i = 0; i < contents.size(); ++i) {
-                replaceBare(world.directory.path() + "/peer-" + std::to_string(i), contents[i]);
+                replaceBare(bench.world.directory.path() + "/peer-" + std::to_string(i), contents[i]);
             }
         });
-    for (std::size_t i = 0; i < contents.size(); ++i) {
-        if (world.files.readWhole(paths[i]).value() != contents[i]) giveUp("a flush wrote something else");
-    }
+    const auto working = costOfAMinute(bench, [&] { bench.bookAndFlush(); });
+    const auto idle = costOfAMinute(bench, [&] { bench.flush(); });
+    constexpr double mostMilliseconds = 120;
+    verdicts.amount("processor time of a minute's two flushes while working, ten years", working.milliseconds,
+                    mostMilliseconds, "ms", "what they may cost");
+    verdicts.amount("written by them", working.megabytes, 100, "MB", "two of a record of some 40 MB");
+    verdicts.amount("processor time of a minute's two flushes while idle, ten years", idle.milliseconds, 2,
+                    "ms", "next to nothing");
+    verdicts.amount("written by them", idle.megabytes, 0, "MB", "nothing");
+    expectLastStateOnDisk(bench);
     return verdicts.exitCode();
 }

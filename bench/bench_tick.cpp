@@ -1,25 +1,71 @@
-// One second of work on a ten-year record, without the writing of files that every 30th brings.
+// One second of work on a ten-year record: an ordinary one, and the 30th, which hands the record to the queue
+// that writes it, with the one after it, which books to what is being written.
+
+#include <algorithm>
 
 #include "bench/support/bench_world.h"
 #include "bench/support/ratio.h"
+#include "platform/fake/fake_background.h"
 
-int main() {
-    using namespace tidewatch::bench;
-    using namespace std::chrono_literals;
+namespace {
 
-    BenchWorld world(makeLargeRecord({}));
+using namespace tidewatch;
+using namespace tidewatch::bench;
+using namespace std::chrono_literals;
+
+constexpr double mostMillisecondsATick = 0.2;
+constexpr double mostMillisecondsDuringAFlush = 5;
+
+void ordinaryTicks(Verdicts& verdicts, BenchWorld& world) {
     BenchCore core(world);
     core.engine.start();
-
     constexpr int ticks = 5;
-    constexpr double mostMillisecondsATick = 0.2;
     const auto before = core.engine.todaySeconds();
-    Verdicts verdicts;
     verdicts.computation(
         "five ticks without a flush, ten years", [&] { world.loop.runFor(ticks * 1s); },
         ticks * mostMillisecondsATick);
     if ((core.engine.todaySeconds() - before).count() % ticks != 0 || core.engine.todaySeconds() == before) {
         giveUp("ticks were not booked");
     }
+}
+
+void snapshots(Verdicts& verdicts, BenchWorld& world) {
+    BenchStores stores(world);
+    platform::FakeBackground background(world.loop);
+    const auto held = background.makeQueue("record");
+    background.hold();
+    verdicts.computation(
+        "snapshots of the stores, and a second booked while they are written, ten years",
+        [&] {
+            stores.flushOn(*held);
+            stores.bookSecond(world.clock);
+        },
+        mostMillisecondsDuringAFlush);
+}
+
+void ticksDuringAFlush(Verdicts& verdicts, BenchWorld& world) {
+    if (verdicts.run() == Run::counted) return;
+    BenchCore core(world);
+    core.engine.start();
+    auto best = Milliseconds::max();
+    for (int flush = 0; flush < (verdicts.run() == Run::judged ? 10 : 1); ++flush) {
+        world.loop.runFor(flush == 0 ? 29s : 28s);
+        const auto handingOver = timed([&] { world.loop.runFor(1s); });
+        const auto next = timed([&] { world.loop.runFor(1s); });
+        best = std::min(best, std::max(handingOver, next));
+        core.disk.finish();
+    }
+    verdicts.amount("a tick during a flush, the slower of two at their best, ten years", best.count(),
+                    mostMillisecondsDuringAFlush, "ms", "nobody sees it");
+}
+
+}  // namespace
+
+int main() {
+    BenchWorld world(makeLargeRecord({}));
+    Verdicts verdicts;
+    ordinaryTicks(verdicts, world);
+    snapshots(verdicts, world);
+    ticksDuringAFlush(verdicts, world);
     return verdicts.exitCode();
 }

@@ -73,12 +73,30 @@ struct BenchStores {
           minutes(world.files, world.log, world.frontmost),
           times(world.files, world.log, world.frontmost) {}
 
+    /// Books one second everywhere, as a tick does.
+    void bookSecond(const platform::Clock& clock) {
+        const auto today = dayRule.today();
+        daily.set(daily.seconds(today) + Seconds(1), today);
+        apps.incrementCurrentApp(today);
+        hours.incrementCurrentApp(keys.hourKey(clock.now()));
+        minutes.incrementCurrentApp(keys.bucketKey(clock.now()));
+        times.incrementCurrentApp(today, projectId(0));
+    }
+
     void flush() {
         daily.flush();
         apps.flush();
         hours.flush();
         minutes.flush();
         times.flush();
+    }
+
+    void flushOn(JobQueue& queue) {
+        daily.flushOn(queue);
+        apps.flushOn(queue);
+        hours.flushOn(queue);
+        minutes.flushOn(queue);
+        times.flushOn(queue);
     }
 
     Settings settings;

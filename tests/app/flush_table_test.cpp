@@ -238,5 +238,33 @@ TEST_F(FlushedValue, OfAResetIsZeroUnderTheEnginesKey) {
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 0,\n  \"2026-01-16\" : 222\n}");
 }
 
+class TheIdleProgram : public MidnightWorld {
+public:
+    TheIdleProgram() {
+        leave();
+        pass(1min);
+        countWritesFromHere();
+    }
+};
+
+TEST_F(TheIdleProgram, WritesNothingForAnHour) {
+    pass(1h);
+    EXPECT_THAT(written(), testing::IsEmpty());
+}
+
+TEST_F(TheIdleProgram, BringsTheCountersBackIfTheirFolderIsRemoved) {
+    const auto before = file("today.json");
+    machine_.files.removeDirectory("/home/user/.tidewatch");
+    pass(30s);
+    EXPECT_THAT(written(), ElementsAreArray(allFiles));
+    EXPECT_EQ(file("today.json"), before);
+}
+
+TEST_F(TheIdleProgram, WritesWhatIsCountedOnceTheUserIsBack) {
+    machine_.inputActivity.set(0);
+    pass(30s);
+    EXPECT_THAT(written(), ElementsAreArray(allFiles));
+}
+
 }  // namespace
 }  // namespace tidewatch
