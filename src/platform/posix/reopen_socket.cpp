@@ -19,7 +19,7 @@
 namespace tidewatch::platform {
 namespace {
 
-constexpr std::string_view name = "reopen.socket";
+constexpr std::string_view socketName = "reopen.socket";
 constexpr std::string_view acknowledgement = "ok";
 constexpr int mostWaiting = 16;
 
@@ -35,7 +35,7 @@ public:
         address_.sun_family = AF_UNIX;
         if (put(ReopenSocket::pathIn(directory))) return;
         directory_ = FileDescriptor(::open(directory.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-        put(fmt::format("/proc/self/fd/{}/{}", directory_.get(), name));
+        put(fmt::format("/proc/self/fd/{}/{}", directory_.get(), socketName));
     }
 
     [[nodiscard]] const sockaddr* get() const { return reinterpret_cast<const sockaddr*>(&address_); }
@@ -55,7 +55,7 @@ private:
 }  // namespace
 
 std::string ReopenSocket::pathIn(const std::string& directory) {
-    return fmt::format("{}/{}", directory, name);
+    return fmt::format("{}/{}", directory, socketName);
 }
 
 Result<std::unique_ptr<ReopenSocket>> ReopenSocket::listenIn(const std::string& directory) {
