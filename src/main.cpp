@@ -1,6 +1,6 @@
 #include <cstdlib>
 
-#include "app/application.h"
+#include "app/desktop/application.h"
 #include "native/native_platform.h"
 #include "native/process_environment.h"
 

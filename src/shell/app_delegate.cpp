@@ -1,12 +1,10 @@
 #include "shell/app_delegate.h"
 
-#include <array>
 #include <chrono>
 #include <utility>
 
 #include "platform/api/main_loop.h"
 #include "platform/api/user_notifications.h"
-#include "shell/status_menu.h"
 
 namespace tidewatch {
 
@@ -24,45 +22,53 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching() {
     with_.surfaces.registerFonts();
     window_ = with_.surfaces.makePanelWindow(panelSize());
-    panel_ = std::make_unique<FloatingPanel>(*window_, with_.services.settings, with_.platform.screens,
-                                             with_.services.broadcaster);
+    panel_ = std::make_unique<FloatingPanel>(*window_, with_.settings, with_.screens,
+                                             with_.broadcaster);
     connectPanel();
-    if (with_.services.settings.windowVisible()) panel_->orderFrontRegardless();
+    if (with_.settings.windowVisible()) panel_->orderFrontRegardless();
     statusItem_ = with_.surfaces.makeStatusItem();
     refreshStatusBarTitle();
-    makeCommands();
     serveOlderNotifications();
     statusItem_->onClick([this](StatusItem::Click click) { handleStatusClick(click); });
     observeBroadcasts();
-    with_.services.engine.start();
-    with_.services.notifications.requestAuthorization();
+    with_.engine.start();
+    with_.notifications.requestAuthorization();
     // Posted, as the engine posts its tick: each second's tick has run before.
     menuRefreshTimer_ =
-        with_.platform.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
+        with_.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
                                        [this] { later(&AppDelegate::refreshTimerFired); });
 }
 
 void AppDelegate::applicationWillTerminate() {
-    with_.services.engine.stop();
-    with_.services.categories.flushRegistered();
+    with_.engine.stop();
+    with_.categories.flushRegistered();
 }
 
 void AppDelegate::applicationShouldHandleReopen() {
     setDayUnderCurrentKey();
-    with_.services.days.flush();
-    with_.services.apps.flush();
-    with_.services.hours.flush();
+    with_.counters.daily.flush();
+    with_.counters.apps.flush();
+    with_.counters.hours.flush();
     with_.statistics.showWindow();
 }
 
 void AppDelegate::flushAllStores() {
-    auto& services = with_.services;
     setDayUnderCurrentKey();
-    services.days.flush();
-    services.apps.flush();
-    services.hours.flush();
-    services.minutes.flush();
-    services.projectTime.flush();
+    with_.counters.daily.flush();
+    with_.counters.apps.flush();
+    with_.counters.hours.flush();
+    with_.counters.minutes.flush();
+    with_.projectTime.flush();
+}
+
+void AppDelegate::toggleVisible() {
+    const bool wasVisible = panel_->isVisible();
+    if (wasVisible) {
+        panel_->orderOut();
+    } else {
+        panel_->orderFrontRegardless();
+    }
+    with_.settings.setWindowVisible(!wasVisible);
 }
 
 void AppDelegate::connectPanel() {
@@ -74,29 +80,14 @@ void AppDelegate::connectPanel() {
     });
 }
 
-void AppDelegate::makeCommands() {
-    commands_ = std::make_unique<StatusCommands>(StatusCommands::Targets{
-        .services = with_.services,
-        .theme = with_.theme,
-        .panel = *panel_,
-        .desktop = with_.platform.desktop,
-        .loginItem = with_.platform.loginItem,
-        .dialogs = with_.surfaces.dialogs(),
-        .statistics = with_.statistics,
-        .refreshStatusBarTitle = [this] { refreshStatusBarTitle(); },
-        .terminate = with_.terminate,
-    });
-    projectCommands_ = std::make_unique<ProjectCommands>(with_.services.projects, with_.surfaces.dialogs());
-}
-
 void AppDelegate::serveOlderNotifications() {
-    with_.platform.notifications.setOlderService([this](const platform::UserNotification& message) {
+    with_.olderNotifications.setOlderService([this](const platform::UserNotification& message) {
         statusItem_->showMessage(message.title, message.body);
     });
 }
 
 void AppDelegate::observeBroadcasts() {
-    auto& broadcaster = with_.services.broadcaster;
+    auto& broadcaster = with_.broadcaster;
     const auto doing = [this](Work work) { return [this, work](const auto&) { later(work); }; };
     observers_.push_back(broadcaster.observe<ThemeChanged>(doing(&AppDelegate::applyLayoutChange)));
     observers_.push_back(broadcaster.observe<SizeChanged>(doing(&AppDelegate::applyLayoutChange)));
@@ -106,7 +97,7 @@ void AppDelegate::observeBroadcasts() {
 }
 
 void AppDelegate::later(Work work) {
-    with_.platform.mainLoop.post([self = std::weak_ptr(self_), work] {
+    with_.mainLoop.post([self = std::weak_ptr(self_), work] {
         if (const auto alive = self.lock()) ((*alive)->*work)();
     });
 }
@@ -135,34 +126,23 @@ void AppDelegate::handleStatusClick(StatusItem::Click click) {
 }
 
 void AppDelegate::openMenu() {
-    statusItem_->popUpMenu(buildStatusMenu({
-        .services = with_.services,
-        .themes = with_.themes,
-        .theme = with_.theme,
-        .inputActivity = with_.platform.inputActivity,
-        .loginItem = with_.platform.loginItem,
-        .commands = *commands_,
-        .projectCommands = *projectCommands_,
-        .exportCommands = with_.exports,
-    }));
+    statusItem_->popUpMenu(with_.menu());
 }
 
 void AppDelegate::refreshStatusBarTitle() {
-    const std::array today = {with_.services.days.today()};
-    statusItem_->setTitle(
-        statusTitle(with_.services.scorer.compute(today), with_.services.projects.activeProject()));
+    statusItem_->setTitle(with_.title());
 }
 
 void AppDelegate::refreshTimerFired() {
     refreshStatusBarTitle();
     setDayUnderCurrentKey();
-    with_.services.notifications.checkDailyMilestones();
-    with_.services.categories.flushRegistered();
+    with_.notifications.checkDailyMilestones();
+    with_.categories.flushRegistered();
     sayOnceThatThereIsNoTray();
 }
 
 void AppDelegate::setDayUnderCurrentKey() {
-    with_.services.days.set(with_.services.engine.todaySeconds(), with_.services.days.today());
+    with_.counters.daily.set(with_.engine.todaySeconds(), with_.counters.daily.today());
 }
 
 void AppDelegate::sayOnceThatThereIsNoTray() {
@@ -176,7 +156,7 @@ void AppDelegate::sayOnceThatThereIsNoTray() {
 
 PanelSize AppDelegate::panelSize() const {
     const auto& base = with_.theme.active().size;
-    const auto scale = with_.services.settings.sizeScale();
+    const auto scale = with_.settings.sizeScale();
     return {base.width * scale, base.height * scale};
 }
 

@@ -5,16 +5,20 @@
 #include <vector>
 
 #include "base/signal.h"
+#include "classification/category_store.h"
+#include "core/broadcaster.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
 #include "platform/api/main_loop.h"
-#include "platform/api/platform.h"
-#include "shell/export_commands.h"
+#include "platform/api/screens.h"
+#include "platform/api/user_notifications.h"
+#include "projects/project_time_store.h"
 #include "shell/floating_panel.h"
-#include "shell/project_commands.h"
-#include "shell/services.h"
-#include "shell/status_commands.h"
+#include "shell/menu_row.h"
+#include "shell/status_title.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
-#include "shell/themes/theme_registry.h"
+#include "wellbeing/notification_manager.h"
 
 namespace tidewatch {
 
@@ -24,15 +28,23 @@ class AppDelegate final {
 public:
     /// What the delegate works with; all of it must outlive it.
     struct Parts {
-        const platform::Platform& platform;
-        Services& services;
-        const ThemeRegistry& themes;
-        ThemeController& theme;
+        platform::MainLoop& mainLoop;
+        const platform::Screens& screens;
+        platform::UserNotifications& olderNotifications;
+        Settings& settings;
+        Broadcaster& broadcaster;
+        TimerEngine& engine;
+        CounterStores counters;
+        ProjectTimeStore& projectTime;
+        CategoryStore& categories;
+        NotificationManager& notifications;
+        const ThemeController& theme;
         Surfaces& surfaces;
         StatisticsWindow& statistics;
-        ExportCommands& exports;
-        /// Ends the program in the ordinary way.
-        std::function<void()> terminate;
+        /// What the status item says at this moment.
+        std::function<StatusTitle()> title;
+        /// The status menu as it stands at this moment.
+        std::function<MenuRows()> menu;
     };
 
     explicit AppDelegate(Parts parts);
@@ -50,6 +62,11 @@ public:
     /// The session may be about to end: what is known is written, and counting goes on.
     void flushAllStores();
 
+    /// Puts the floating clock on the screen or takes it away, and keeps that over restarts.
+    void toggleVisible();
+
+    void refreshStatusBarTitle();
+
 private:
     using Work = void (AppDelegate::*)();
 
@@ -59,12 +76,10 @@ private:
     void applyLayoutChange();
     void observeBroadcasts();
     void connectPanel();
-    void makeCommands();
     void serveOlderNotifications();
     void floatingPanelClicked();
     void handleStatusClick(StatusItem::Click click);
     void openMenu();
-    void refreshStatusBarTitle();
     void refreshTimerFired();
     void setDayUnderCurrentKey();
     void sayOnceThatThereIsNoTray();
@@ -74,8 +89,6 @@ private:
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<FloatingPanel> panel_;
     std::unique_ptr<StatusItem> statusItem_;
-    std::unique_ptr<StatusCommands> commands_;
-    std::unique_ptr<ProjectCommands> projectCommands_;
     std::vector<Connection> observers_;
     std::unique_ptr<platform::RepeatingTimer> menuRefreshTimer_;
     int secondsWithoutTray_ = 0;

@@ -33,14 +33,13 @@ std::string_view wordsFor(platform::ExportFault fault) {
 
 ExportCommands::ExportCommands(Targets targets)
     : to_(std::move(targets)),
-      csv_(to_.services.apps, to_.services.projectTime, to_.services.categories, to_.services.appInfo) {}
+      csv_(to_.apps, to_.projectTime, to_.categories, to_.appInfo) {}
 
 void ExportCommands::exportCSV() {
-    auto& services = to_.services;
-    const auto day = services.days.today();
-    services.days.set(services.engine.todaySeconds(), day);
-    services.days.flush();
-    services.apps.flush();
+    const auto day = to_.days.today();
+    to_.days.set(to_.engine.todaySeconds(), day);
+    to_.days.flush();
+    to_.apps.flush();
     const SaveRequest request{
         .title = "Exportar día",
         .proposedName = CsvExport::fileName(day),
@@ -51,9 +50,9 @@ void ExportCommands::exportCSV() {
 }
 
 void ExportCommands::exportProjectCSV(const Uuid& id) {
-    const auto project = to_.services.projects.project(id);
+    const auto project = to_.projects.project(id);
     if (!project) return;
-    to_.services.projectTime.flush();
+    to_.projectTime.flush();
     const SaveRequest request{
         .title = "Exportar proyecto",
         .proposedName = CsvExport::fileName(*project),

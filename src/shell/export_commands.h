@@ -6,9 +6,13 @@
 #include "analysis/csv_export.h"
 #include "base/result.h"
 #include "base/uuid.h"
-#include "platform/api/desktop.h"
+#include "core/app_usage_store.h"
+#include "core/daily_store.h"
+#include "core/timer_engine.h"
 #include "platform/api/file_system.h"
-#include "shell/services.h"
+#include "platform/api/desktop.h"
+#include "projects/project_store.h"
+#include "projects/project_time_store.h"
 #include "shell/surfaces.h"
 
 namespace tidewatch {
@@ -19,7 +23,13 @@ class ExportCommands final {
 public:
     /// What the commands work on; all of it must outlive this object.
     struct Targets {
-        Services& services;
+        const TimerEngine& engine;
+        DailyStore& days;
+        AppUsageStore& apps;
+        const ProjectStore& projects;
+        ProjectTimeStore& projectTime;
+        const CategoryStore& categories;
+        const AppInfoResolver& appInfo;
         platform::FileSystem& files;
         platform::Desktop& desktop;
         Dialogs& dialogs;

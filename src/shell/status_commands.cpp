@@ -13,34 +13,28 @@ void StatusCommands::switchTheme(std::string_view id) {
 }
 
 void StatusCommands::switchSize(double scale) {
-    to_.services.settings.setSizeScale(scale);
-    to_.services.broadcaster.post(SizeChanged{});
+    to_.settings.setSizeScale(scale);
+    to_.broadcaster.post(SizeChanged{});
 }
 
 void StatusCommands::switchIdle(std::int64_t seconds) {
-    to_.services.settings.setIdleThresholdSeconds(seconds);
+    to_.settings.setIdleThresholdSeconds(seconds);
     to_.refreshStatusBarTitle();
 }
 
 void StatusCommands::switchDayStart(int hour) {
-    to_.services.settings.setDayStartHour(hour);
+    to_.settings.setDayStartHour(hour);
     to_.refreshStatusBarTitle();
     to_.refreshStatusBarTitle();
 }
 
 void StatusCommands::toggleVisible() {
-    const bool wasVisible = to_.panel.isVisible();
-    if (wasVisible) {
-        to_.panel.orderOut();
-    } else {
-        to_.panel.orderFrontRegardless();
-    }
-    to_.services.settings.setWindowVisible(!wasVisible);
+    to_.toggleVisible();
     to_.refreshStatusBarTitle();
 }
 
 void StatusCommands::resetToday() {
-    to_.services.engine.resetToday();
+    to_.engine.resetToday();
 }
 
 void StatusCommands::showStats() {
@@ -50,7 +44,7 @@ void StatusCommands::showStats() {
 
 void StatusCommands::revealData() {
     writeDay();
-    revealFile(to_.desktop, to_.dialogs, to_.services.days.dataFilePath(),
+    revealFile(to_.desktop, to_.dialogs, to_.days.dataFilePath(),
                "No se pudo mostrar el archivo de datos");
 }
 
@@ -69,8 +63,8 @@ void StatusCommands::quit() {
 }
 
 void StatusCommands::writeDay() {
-    to_.services.days.set(to_.services.engine.todaySeconds(), to_.services.days.today());
-    to_.services.days.flush();
+    to_.days.set(to_.engine.todaySeconds(), to_.days.today());
+    to_.days.flush();
 }
 
 }  // namespace tidewatch

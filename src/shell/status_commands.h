@@ -5,10 +5,13 @@
 #include <string>
 #include <string_view>
 
-#include "platform/api/desktop.h"
+#include "core/broadcaster.h"
+#include "core/daily_store.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
 #include "platform/api/login_item.h"
-#include "shell/floating_panel.h"
-#include "shell/services.h"
+#include "platform/api/desktop.h"
+#include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 
 namespace tidewatch {
@@ -18,13 +21,17 @@ class StatusCommands final {
 public:
     /// What the commands work on; all of it must outlive this object.
     struct Targets {
-        Services& services;
+        Settings& settings;
+        const Broadcaster& broadcaster;
+        TimerEngine& engine;
+        DailyStore& days;
         ThemeController& theme;
-        FloatingPanel& panel;
         platform::Desktop& desktop;
         platform::LoginItem& loginItem;
         Dialogs& dialogs;
         StatisticsWindow& statistics;
+        /// Puts the floating clock on the screen or takes it away.
+        std::function<void()> toggleVisible;
         std::function<void()> refreshStatusBarTitle;
         std::function<void()> terminate;
     };

@@ -40,7 +40,7 @@ MenuRow themeMenu(const StatusMenuSources& from) {
 
 MenuRow sizeMenu(const StatusMenuSources& from) {
     MenuRow menu{.title = "Tamaño"};
-    const auto current = closestSizeOption(from.services.settings.sizeScale());
+    const auto current = closestSizeOption(from.settings.sizeScale());
     for (const auto option : allSizeOptions()) {
         menu.children.push_back(choice(std::string(label(option)), option == current,
                                        [&to = from.commands, option] { to.switchSize(rawValue(option)); }));
@@ -50,7 +50,7 @@ MenuRow sizeMenu(const StatusMenuSources& from) {
 
 MenuRow idleMenu(const StatusMenuSources& from) {
     MenuRow menu{.title = "Idle"};
-    const auto current = closestIdleOption(from.services.settings.idleThresholdSeconds());
+    const auto current = closestIdleOption(from.settings.idleThresholdSeconds());
     for (const auto option : allIdleOptions()) {
         menu.children.push_back(choice(std::string(label(option)), option == current,
                                        [&to = from.commands, option] { to.switchIdle(rawValue(option)); }));
@@ -62,7 +62,7 @@ MenuRow dayStartMenu(const StatusMenuSources& from) {
     MenuRow menu{.title = "El día empieza"};
     for (const int hour : dayStartHours) {
         menu.children.push_back(choice(hour == 0 ? "Medianoche (00:00)" : fmt::format("{:02}:00", hour),
-                                       hour == from.services.settings.dayStartHour(),
+                                       hour == from.settings.dayStartHour(),
                                        [&to = from.commands, hour] { to.switchDayStart(hour); }));
     }
     return menu;
@@ -94,13 +94,13 @@ void appendTiers(MenuRows& rows, const ProductivityScore& score) {
 
 MenuRows buildStatusMenu(const StatusMenuSources& from) {
     auto& to = from.commands;
-    const std::array today = {from.services.days.today()};
-    const auto score = from.services.scorer.compute(today);
+    const std::array today = {from.days.today()};
+    const auto score = from.scorer.compute(today);
     MenuRows rows;
     rows.push_back(information("Hoy · " + score.displayString() + " productivo"));
     rows.push_back(MenuRow::separator());
-    rows.push_back(information("Sesión: " + hms(from.services.engine.liveSeconds())));
-    rows.push_back(information("Hoy: " + hms(from.services.engine.todaySeconds())));
+    rows.push_back(information("Sesión: " + hms(from.engine.liveSeconds())));
+    rows.push_back(information("Hoy: " + hms(from.engine.todaySeconds())));
     appendInputCoverage(rows, from.inputActivity.coverage());
     rows.push_back(MenuRow::separator());
     appendTiers(rows, score);
@@ -109,9 +109,9 @@ MenuRows buildStatusMenu(const StatusMenuSources& from) {
     rows.push_back(sizeMenu(from));
     rows.push_back(idleMenu(from));
     rows.push_back(dayStartMenu(from));
-    rows.push_back(projectMenu(from.services.projects, from.projectCommands, from.exportCommands));
+    rows.push_back(projectMenu(from.projects, from.projectCommands, from.exportCommands));
     rows.push_back(command(
-        from.services.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana",
+        from.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana",
         [&to] { to.toggleVisible(); }, 'h'));
     rows.push_back(command("Reiniciar día", [&to] { to.resetToday(); }));
     rows.push_back(MenuRow::separator());

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "classification/productivity_score.h"
+#include "core/daily_store.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
 #include "platform/api/input_activity.h"
 #include "platform/api/login_item.h"
+#include "projects/project_store.h"
 #include "shell/export_commands.h"
 #include "shell/menu_row.h"
 #include "shell/project_commands.h"
-#include "shell/services.h"
 #include "shell/status_commands.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
@@ -14,7 +18,11 @@ namespace tidewatch {
 
 /// What the status menu is made from; all of it must outlive the rows that are made.
 struct StatusMenuSources {
-    const Services& services;
+    const Settings& settings;
+    const TimerEngine& engine;
+    const DailyStore& days;
+    const ProductivityScorer& scorer;
+    const ProjectStore& projects;
     const ThemeRegistry& themes;
     const ThemeController& theme;
     const platform::InputActivity& inputActivity;

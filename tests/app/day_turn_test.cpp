@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 #include "platform/qt/qt_main_loop.h"
 
 namespace tidewatch {
@@ -18,7 +18,7 @@ constexpr auto the15th = sys_days(2026y / 1 / 15);
 constexpr auto the16th = sys_days(2026y / 1 / 16);
 
 /// The delegate with both of its timers running, as the day that it counts for changes.
-class DayTurn : public ShellWorld, public testing::WithParamInterface<Loop> {
+class DayTurn : public ProgramWorld, public testing::WithParamInterface<Loop> {
 protected:
     void startAt(Instant now, const std::string& todayJson) {
         machine_.clock.setNow(now);

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/shell_world.h"
-#include "shell/views/stats_presenter.h"
+#include "app/program_world.h"
+#include "app/desktop/statistics_sources.h"
 
 namespace tidewatch {
 namespace {
@@ -21,7 +21,7 @@ const DayKey today("2026-01-16");
 /// Five seconds were worked, with a project active, up to 23:59:59 of the 15th. Then the clock passes
 /// midnight and no tick has seen it yet: the engine still counts for the 15th, the clock tells the 16th, and
 /// both days hold totals that nobody would set.
-class MidnightWorld : public ShellWorld {
+class MidnightWorld : public ProgramWorld {
 public:
     MidnightWorld() {
         machine_.preferences.setBoolean("gate.initialized", true);
@@ -39,14 +39,14 @@ public:
 
     [[nodiscard]] Services& services() { return program_->services; }
     [[nodiscard]] AppDelegate& delegate() { return program_->delegate; }
-    using ShellWorld::platform;
+    using ProgramWorld::platform;
     void clickStatusItem() { surfaces_.statusItem().click(StatusItem::Click::left); }
     void clickPanel() {
         surfaces_.panel().gestures().mouseDown({1, 1});
         surfaces_.panel().gestures().mouseUp({1, 1});
         machine_.mainLoop.run();
     }
-    void choose(const char* title) { ASSERT_TRUE(ShellWorld::choose(title)) << title; }
+    void choose(const char* title) { ASSERT_TRUE(ProgramWorld::choose(title)) << title; }
     void pass(milliseconds time) { runFor(time); }
     void leave() { machine_.inputActivity.set(1000); }
     void showStatistics() { statistics_.showWindow(); }
@@ -148,7 +148,7 @@ const std::vector<Occasion> occasions{
     {.name = "TheReloadOfTheStatistics",
      .happens =
          [](MidnightWorld& world) {
-             StatsPresenter presenter(world.platform(), world.services(), {});
+             StatsPresenter presenter(statisticsSources(world.platform(), world.services()), {});
              world.services().broadcaster.post(DashboardWillShow());
              presenter.disappear();
          },

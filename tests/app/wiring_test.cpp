@@ -2,14 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {
 
 using namespace std::chrono_literals;
 
-class WiringTest : public ShellWorld {
+class WiringTest : public ProgramWorld {
 protected:
     WiringTest() { launch(); }
 

@@ -69,7 +69,7 @@ def rooms():
         "platform/qt": room("base platform/api", "fmt qt system", machine=True),
         "native": room("base platform/api platform/posix platform/linux platform/freedesktop platform/x11 platform/qt",
                        "qt system", machine=True),
-        "main.cpp": room("platform/api native app", "qt"),
+        "main.cpp": room("platform/api native app/desktop", "qt"),
         "shell/themes": room("base platform/api core"),
         "ui": room("base platform/api shell/themes", "fmt qt"),
     }
@@ -87,8 +87,9 @@ def rooms():
     plan["shell/icons"] = room("base shell shell/themes ui", "qt")
     plan["shell/views"] = room(f"{toolkit_free} {domain_views} shell ui", "fmt qt")
     plan["shell/windows"] = room("base platform/api core shell shell/icons shell/themes shell/views ui", "fmt qt")
-    plan["app"] = room(
-        f"{toolkit_free} {domain_views} analysis/report shell shell/icons shell/views shell/windows ui", "fmt qt")
+    plan["app"] = room(f"{toolkit_free} shell", "fmt")
+    plan["app/desktop"] = room(
+        f"{toolkit_free} {domain_views} analysis/report app shell shell/icons shell/views shell/windows ui", "fmt qt")
     return plan
 
 

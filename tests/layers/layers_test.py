@@ -38,9 +38,9 @@ class Includes(Tree):
         self.write("core/daily_store.cpp", '#include "core/daily_store.h"')
         self.write("platform/x11/x11_clock.cpp", '#include "platform/api/clock.h"', "#include <xcb/xcb.h>",
                    "#include <QTimer>", "#include <sys/stat.h>")
-        self.write("app/composition.h")
-        self.write("app/composition.cpp", '#include "core/daily_store.h"', "#include <QQuickView>")
-        self.write("main.cpp", '#include "app/composition.h"')
+        self.write("app/services.h", '#include "core/daily_store.h"')
+        self.write("app/desktop/application.h", '#include "app/services.h"', "#include <QQuickView>")
+        self.write("main.cpp", '#include "app/desktop/application.h"')
         self.assertEqual(self.violations(), [])
 
     def test_base_must_not_know_the_seam(self):
@@ -110,9 +110,9 @@ class Includes(Tree):
         self.assert_violation('shell/a.cpp:1: shell must not know shell/views ("shell/views/clock_presenter.h")')
 
     def test_nothing_but_the_program_knows_the_composition_root(self):
-        self.write("app/composition.h")
-        self.write("shell/windows/a.cpp", '#include "app/composition.h"')
-        self.assert_violation('shell/windows/a.cpp:1: shell/windows must not know app ("app/composition.h")')
+        self.write("app/services.h")
+        self.write("shell/windows/a.cpp", '#include "app/services.h"')
+        self.assert_violation('shell/windows/a.cpp:1: shell/windows must not know app ("app/services.h")')
 
     def test_the_kit_of_the_screen_must_not_know_the_domain(self):
         self.write("core/settings.h")

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 using namespace std::chrono;
 using namespace std::chrono_literals;
 
-class AppDelegateTest : public ShellWorld {
+class AppDelegateTest : public ProgramWorld {
 protected:
     void clickPanel() {
         surfaces_.panel().gestures().mouseDown({100, 100});

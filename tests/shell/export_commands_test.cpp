@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {
@@ -11,7 +11,7 @@ using namespace std::chrono_literals;
 
 constexpr auto place = "/home/user/Documentos/out.csv";
 
-class ExportCommandsTest : public ShellWorld {
+class ExportCommandsTest : public ProgramWorld {
 protected:
     ExportCommandsTest() {
         EXPECT_TRUE(machine_.files.createDirectories("/home/user/Documentos").ok());

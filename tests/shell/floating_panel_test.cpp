@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 #include "platform/fake/fake_screens.h"
 #include "platform/fake/memory_preferences.h"
 

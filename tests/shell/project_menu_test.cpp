@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 #include "core/data_directory.h"
 
 namespace tidewatch {
 namespace {
 
-class ProjectMenuTest : public ShellWorld {
+class ProjectMenuTest : public ProgramWorld {
 protected:
     ProjectMenuTest() { launch(); }
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {
@@ -10,7 +10,7 @@ namespace {
 using namespace std::chrono_literals;
 using platform::Point;
 
-class StatusCommandsTest : public ShellWorld {
+class StatusCommandsTest : public ProgramWorld {
 protected:
     StatusCommandsTest() { launch(); }
 };

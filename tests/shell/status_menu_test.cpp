@@ -5,14 +5,14 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {
 
 using namespace std::chrono_literals;
 
-class StatusMenuTest : public ShellWorld {
+class StatusMenuTest : public ProgramWorld {
 protected:
     static const MenuRow& row(const MenuRows& rows, const std::string& title) {
         const auto found =

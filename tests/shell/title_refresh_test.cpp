@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "app/shell_world.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {
@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 /// Two projects, of which the first is active and a third is archived; between two seconds, so that no timer
 /// draws the title meanwhile.
-class TitleWorld : public ShellWorld {
+class TitleWorld : public ProgramWorld {
 public:
     TitleWorld() {
         launch();
@@ -27,7 +27,7 @@ public:
         titlesBefore_ = surfaces_.statusItem().titlesSet();
     }
 
-    void choose(const char* title) { ASSERT_TRUE(ShellWorld::choose(title)) << title; }
+    void choose(const char* title) { ASSERT_TRUE(ProgramWorld::choose(title)) << title; }
     /// Chooses within the submenu of one project.
     void chooseFor(const char* project, const char* title) {
         for (const auto& row : menu()) {

@@ -7,39 +7,38 @@
 
 namespace tidewatch {
 
-StatsPresenter::StatsPresenter(const platform::Platform& platform, Services& services, Commands commands)
-    : services_(services),
+StatsPresenter::StatsPresenter(const Sources& from, Commands commands)
+    : counters_(from.counters),
       commands_(std::move(commands)),
-      model_({.clock = platform.clock,
-              .mainLoop = platform.mainLoop,
-              .days = services.days,
-              .apps = services.apps,
-              .hours = services.hours,
-              .minutes = services.minutes,
-              .keys = services.keys,
-              .categories = services.categories,
-              .scorer = services.scorer,
-              .projects = services.projects,
-              .projectTime = services.projectTime,
-              .appInfo = services.appInfo}),
-      engine_(platform.clock, services.days, services.hours, services.minutes, services.categories),
-      wallTime_(platform.clock),
+      model_({.clock = from.clock,
+              .mainLoop = from.mainLoop,
+              .days = from.counters.daily,
+              .apps = from.counters.apps,
+              .hours = from.counters.hours,
+              .minutes = from.counters.minutes,
+              .keys = from.keys,
+              .categories = from.categories,
+              .scorer = from.scorer,
+              .projects = from.projects,
+              .projectTime = from.projectTime,
+              .appInfo = from.appInfo}),
+      engine_(from.clock, from.counters.daily, from.counters.hours, from.counters.minutes, from.categories),
+      wallTime_(from.clock),
       header_(model_, engine_),
       overview_(model_),
-      insights_(engine_, platform.mainLoop),
-      goals_(model_,
-             {.evaluator = services.goalEvaluator, .rewards = services.rewards, .goals = services.goals},
+      insights_(engine_, from.mainLoop),
+      goals_(model_, {.evaluator = from.goalEvaluator, .rewards = from.rewards, .goals = from.goals},
              commands_.exportReport),
       details_(model_, [this](const AppId& app, QPointF at) { commands_.reclassify(model_, app, at); }),
       timesheet_(model_),
-      projects_(model_, services.projects, services.days),
-      breakAlert_(services.breakReminder),
+      projects_(model_, from.projects, from.counters.daily),
+      breakAlert_(from.breakReminder),
       rows_({{DashboardTab::overview, &overview_},
              {DashboardTab::goals, &goals_},
              {DashboardTab::details, &details_},
              {DashboardTab::timesheet, &timesheet_},
              {DashboardTab::projects, &projects_}}),
-      willShow_(services.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
+      willShow_(from.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
 
 QStringList StatsPresenter::tabs() const {
     QStringList labels;
@@ -66,10 +65,10 @@ void StatsPresenter::disappear() {
 }
 
 void StatsPresenter::reloadAll() {
-    services_.days.flush();
-    services_.apps.flush();
-    services_.hours.flush();
-    services_.minutes.flush();
+    counters_.daily.flush();
+    counters_.apps.flush();
+    counters_.hours.flush();
+    counters_.minutes.flush();
     model_.reload();
     model_.startLiveRefresh();
     appeared_ = true;

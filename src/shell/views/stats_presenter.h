@@ -16,8 +16,8 @@
 #include "analysis/views/projects_presenter.h"
 #include "analysis/views/timesheet_presenter.h"
 #include "base/signal.h"
-#include "platform/api/platform.h"
-#include "shell/services.h"
+#include "core/broadcaster.h"
+#include "core/timer_engine.h"
 #include "ui/backgrounds/wall_time.h"
 #include "wellbeing/views/break_presenter.h"
 
@@ -51,8 +51,25 @@ public:
         std::function<void(DashboardModel& model, const AppId& app, QPointF at)> reclassify;
     };
 
-    /// `platform` and `services` must outlive it.
-    StatsPresenter(const platform::Platform& platform, Services& services, Commands commands);
+    /// What the window shows; all of it must outlive the presenter.
+    struct Sources {
+        const platform::Clock& clock;
+        platform::MainLoop& mainLoop;
+        Broadcaster& broadcaster;
+        CounterStores counters;
+        const ClockKeys& keys;
+        const CategoryStore& categories;
+        const ProductivityScorer& scorer;
+        const AppInfoResolver& appInfo;
+        const ProjectStore& projects;
+        const ProjectTimeStore& projectTime;
+        GoalStore& goals;
+        const GoalEvaluator& goalEvaluator;
+        const RewardEngine& rewards;
+        BreakReminder& breakReminder;
+    };
+
+    StatsPresenter(const Sources& from, Commands commands);
 
     [[nodiscard]] QStringList tabs() const;
     [[nodiscard]] int tabIndex() const;
@@ -85,7 +102,7 @@ private:
     void reloadAll();
     void updateOnShow();
 
-    Services& services_;
+    const CounterStores counters_;
     Commands commands_;
     DashboardModel model_;
     InsightsEngine engine_;

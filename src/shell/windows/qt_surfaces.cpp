@@ -9,9 +9,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/api/desktop.h"
-#include "platform/api/log.h"
-#include "platform/api/window_manager.h"
 #include "shell/windows/menu_style.h"
 #include "shell/windows/menu_view.h"
 #include "shell/windows/question_dialog.h"
@@ -31,8 +28,7 @@ constexpr int hintGap = 8;
 
 }  // namespace
 
-QtSurfaces::QtSurfaces(const platform::Platform& platform, ThemeController& theme, ClockPresenter& clock)
-    : platform_(platform), theme_(theme), clock_(clock) {
+QtSurfaces::QtSurfaces(const Needs& needs) : with_(needs) {
     engine_.setNetworkAccessManagerFactory(&noNetwork_);
 }
 
@@ -43,26 +39,26 @@ void QtSurfaces::registerFonts() {
 }
 
 std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
-    auto view = makeView("ContentView", clock_);
+    auto view = makeView("ContentView", with_.clock);
     // Without it the clock is blank, and time is counted all the same.
     if (!view) view = std::make_unique<QQuickItem>();
     QuickPanelWindow::Content content{
         .item = std::move(view),
         .cornerRadius =
             [this](PanelSize panel) {
-                const auto& theme = theme_.active();
+                const auto& theme = with_.theme.active();
                 return theme.cornerRadius * panel.width / theme.size.width;
             },
-        .setTranslucent = [this](bool translucent) { clock_.setTranslucent(translucent); },
-        .setOnScreen = [this](bool onScreen) { clock_.setOnScreen(onScreen); },
+        .setTranslucent = [this](bool translucent) { with_.clock.setTranslucent(translucent); },
+        .setOnScreen = [this](bool onScreen) { with_.clock.setOnScreen(onScreen); },
     };
-    auto window = std::make_unique<QuickPanelWindow>(platform_.windowManager, std::move(content), size);
+    auto window = std::make_unique<QuickPanelWindow>(with_.windowManager, std::move(content), size);
     panel_ = window.get();
     return window;
 }
 
 std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
-    return std::make_unique<TrayStatusItem>(theme_);
+    return std::make_unique<TrayStatusItem>(with_.theme);
 }
 
 std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject& presenter) {
@@ -70,7 +66,7 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject
     component.setData("import Tidewatch.Shell\n" + name + " {}", QUrl());
     if (!component.isReady()) return brokenView(name, component.errorString());
     // The engine knows the style module from the import on.
-    Style::of(engine_)->follow(theme_);
+    Style::of(engine_)->follow(with_.theme);
     const QVariantMap properties{{"presenter", QVariant::fromValue(&presenter)}};
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
     auto* item = qobject_cast<QQuickItem*>(object.get());
@@ -80,7 +76,7 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject
 }
 
 std::unique_ptr<QQuickItem> QtSurfaces::brokenView(const QByteArray& name, const QString& errors) {
-    platform_.log.warning("Tidewatch: failed to make the view " + name.toStdString() + ": " +
+    with_.log.warning("Tidewatch: failed to make the view " + name.toStdString() + ": " +
                           errors.simplified().toStdString());
     return nullptr;
 }
@@ -92,7 +88,7 @@ void QtSurfaces::forgetViews() {
 
 void QtSurfaces::popUpMenu(const MenuRows& rows, platform::Point at) {
     if (menu_) menu_->close();
-    menu_ = new MenuView(rows, theme_.active().dashboard);
+    menu_ = new MenuView(rows, with_.theme.active().dashboard);
     menu_->popup(QPointF(at.x, at.y).toPoint());
 }
 
@@ -102,7 +98,7 @@ void QtSurfaces::showHint(const std::string& hint) {
     label->setAttribute(Qt::WA_DeleteOnClose);
     label->setWordWrap(true);
     label->setFixedWidth(hintWidth);
-    label->setStyleSheet(hintStyleSheet(theme_.active().dashboard));
+    label->setStyleSheet(hintStyleSheet(with_.theme.active().dashboard));
     label->adjustSize();
     if (panel_ && panel_->screen() != nullptr) {
         const auto free = panel_->screen()->availableGeometry();
@@ -115,13 +111,13 @@ void QtSurfaces::showHint(const std::string& hint) {
 }
 
 void QtSurfaces::warn(const std::string& title, const std::string& message) {
-    auto* dialog = new QuestionDialog({title}, {message}, theme_.active().dashboard);
+    auto* dialog = new QuestionDialog({title}, {message}, with_.theme.active().dashboard);
     dialog->addButtons("OK", QuestionDialog::Cancel::absent);
     dialog->present();
 }
 
 void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) {
-    auto* dialog = new QuestionDialog({prompt.title}, prompt.text, theme_.active().dashboard);
+    auto* dialog = new QuestionDialog({prompt.title}, prompt.text, with_.theme.active().dashboard);
     auto* field = dialog->addField(prompt.fieldWidth, text(prompt.placeholder), text(prompt.initial));
     dialog->addButtons(text(prompt.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, field,
@@ -130,15 +126,15 @@ void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> 
 }
 
 void QtSurfaces::confirm(const Confirmation& question, std::function<void()> accepted) {
-    auto* dialog = new QuestionDialog(question.title, {question.text}, theme_.active().dashboard);
+    auto* dialog = new QuestionDialog(question.title, {question.text}, with_.theme.active().dashboard);
     dialog->addButtons(text(question.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, dialog, accepted);
     dialog->present();
 }
 
 void QtSurfaces::chooseSaveLocation(const SaveRequest& request, std::function<void(std::string)> accepted) {
-    if (saveFolder_.isEmpty()) saveFolder_ = text(platform_.desktop.documentsDirectory());
-    presentSaveDialog(request, saveFolder_, theme_.active().dashboard,
+    if (saveFolder_.isEmpty()) saveFolder_ = text(with_.desktop.documentsDirectory());
+    presentSaveDialog(request, saveFolder_, with_.theme.active().dashboard,
                       [this, accepted = std::move(accepted)](const QString& path) {
                           saveFolder_ = QFileInfo(path).absolutePath();
                           accepted(path.toStdString());

@@ -7,7 +7,9 @@
 #include <QQuickItem>
 #include <memory>
 
-#include "platform/api/platform.h"
+#include "platform/api/log.h"
+#include "platform/api/window_manager.h"
+#include "platform/api/desktop.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/views/clock_presenter.h"
@@ -19,8 +21,16 @@ namespace tidewatch {
 /// The surfaces on the toolkit, with the one QML engine of the program. Main thread only.
 class QtSurfaces final : public Surfaces, private Dialogs {
 public:
-    /// All arguments, and what `platform` refers to, must outlive this object and what it makes.
-    QtSurfaces(const platform::Platform& platform, ThemeController& theme, ClockPresenter& clock);
+    /// What the surfaces work with; all of it must outlive them and what they make.
+    struct Needs {
+        platform::Log& log;
+        platform::WindowManager& windowManager;
+        const platform::Desktop& desktop;
+        ThemeController& theme;
+        ClockPresenter& clock;
+    };
+
+    explicit QtSurfaces(const Needs& needs);
     ~QtSurfaces() override;
 
     void registerFonts() override;
@@ -45,9 +55,7 @@ private:
     void chooseSaveLocation(const SaveRequest& request,
                             std::function<void(std::string path)> accepted) override;
 
-    const platform::Platform& platform_;
-    ThemeController& theme_;
-    ClockPresenter& clock_;
+    const Needs with_;
     NoNetwork noNetwork_;
     QQmlEngine engine_;
     QPointer<QuickPanelWindow> panel_;

@@ -47,13 +47,10 @@ private:
     std::function<void()> askedToClose_;
 };
 
-QuickStatisticsWindow::QuickStatisticsWindow(const platform::Platform& platform, ThemeController& theme,
-                                             Broadcaster& broadcaster, Content content)
-    : platform_(platform),
-      theme_(theme),
-      broadcaster_(broadcaster),
+QuickStatisticsWindow::QuickStatisticsWindow(const Needs& needs, Content content)
+    : with_(needs),
       content_(std::move(content)),
-      themeChanges_(broadcaster.observe<ThemeChanged>([this](const auto&) { wearTheme(); })) {}
+      themeChanges_(needs.broadcaster.observe<ThemeChanged>([this](const auto&) { wearTheme(); })) {}
 
 QuickStatisticsWindow::~QuickStatisticsWindow() = default;
 
@@ -62,7 +59,7 @@ void QuickStatisticsWindow::showWindow() {
         auto window = std::make_unique<Frame>([this] { close(); });
         window->create();
         // While the view is being made, the desktop has time to answer.
-        platform_.windowManager.requestFrame(window->winId());
+        with_.windowManager.requestFrame(window->winId());
         auto view = content_.makeView();
         if (!view) return;
         window->setView(std::move(view));
@@ -76,8 +73,8 @@ void QuickStatisticsWindow::showWindow() {
     window_->showNormal();
     window_->raise();
     window_->requestActivate();
-    platform_.windowManager.activate(window_->winId());
-    broadcaster_.post(DashboardWillShow{});
+    with_.windowManager.activate(window_->winId());
+    with_.broadcaster.post(DashboardWillShow{});
 }
 
 void QuickStatisticsWindow::close() {
@@ -94,19 +91,19 @@ bool QuickStatisticsWindow::isVisible() const {
 
 void QuickStatisticsWindow::wearTheme() {
     if (!window_) return;
-    const auto& style = theme_.active().dashboard;
+    const auto& style = with_.theme.active().dashboard;
     window_->setColor(toQColor(style.nsBackground));
-    platform_.windowManager.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
+    with_.windowManager.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
                                                                 ? platform::FrameShade::dark
                                                                 : platform::FrameShade::light);
 }
 
 QRect QuickStatisticsWindow::placement() {
-    const auto frame = statisticsFrame(platform_.screens);
+    const auto frame = statisticsFrame(with_.screens);
     // A window that fills the screen has another frame until the window manager has taken it back.
     const auto filling = Qt::WindowMaximized | Qt::WindowFullScreen;
     if ((window_->windowStates() & filling) == 0 || !margins_) {
-        margins_ = platform_.windowManager.frameMargins(window_->winId());
+        margins_ = with_.windowManager.frameMargins(window_->winId());
     }
     const auto& margins = *margins_;
     const double ratio = window_->devicePixelRatio();
@@ -119,7 +116,7 @@ void QuickStatisticsWindow::destroyRetired() {
     if (!retired_) return;
     retired_.reset();
     content_.viewDestroyed();
-    platform_.memory.giveBackUnused();
+    with_.memory.giveBackUnused();
 }
 
 }  // namespace tidewatch

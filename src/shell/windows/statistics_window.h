@@ -8,7 +8,8 @@
 #include <optional>
 
 #include "core/broadcaster.h"
-#include "platform/api/platform.h"
+#include "platform/api/process_memory.h"
+#include "platform/api/screens.h"
 #include "platform/api/window_manager.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
@@ -27,9 +28,16 @@ public:
         std::function<void()> viewDestroyed;  ///< some time after that
     };
 
-    /// `platform` and what it refers to, `theme` and `broadcaster` must outlive this object.
-    QuickStatisticsWindow(const platform::Platform& platform, ThemeController& theme,
-                          Broadcaster& broadcaster, Content content);
+    /// What the window works with; all of it must outlive this object.
+    struct Needs {
+        platform::WindowManager& windowManager;
+        const platform::Screens& screens;
+        platform::ProcessMemory& memory;
+        const ThemeController& theme;
+        Broadcaster& broadcaster;
+    };
+
+    QuickStatisticsWindow(const Needs& needs, Content content);
     ~QuickStatisticsWindow() override;
 
     void showWindow() override;
@@ -44,9 +52,7 @@ private:
     [[nodiscard]] QRect placement();
     void destroyRetired();
 
-    const platform::Platform& platform_;
-    ThemeController& theme_;
-    Broadcaster& broadcaster_;
+    const Needs with_;
     Content content_;
     Connection themeChanges_;
     std::unique_ptr<Frame> window_;

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "app/desktop/statistics_sources.h"
 #include "shell/views/stats_scene.h"
 
 namespace tidewatch {
@@ -188,7 +189,7 @@ TEST_F(FiguresTest, ADayThatIsOneApplicationIsAHundredPerCent) {
 TEST_F(FiguresTest, ApplicationsWithoutASecondHaveNoShareOfADayWithoutOne) {
     machine_.files.put(machine_.appsJson, R"({"2026-01-15":{"code":0}})");
     Services nextStart(machine_.platform);
-    StatsPresenter presenter(machine_.platform, nextStart, {});
+    StatsPresenter presenter(statisticsSources(machine_.platform, nextStart), {});
     presenter.selectTab(detailsTab);
     nextStart.broadcaster.post(DashboardWillShow());
     const auto rows = rowsOf<AppDetails>(presenter.details()->rows());

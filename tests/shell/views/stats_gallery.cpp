@@ -19,7 +19,7 @@ int paintAll(const QString& path, const QString& onlyTheme) {
     StatsScene scene;
     scene.bookBelievableWork();
     scene.appear();
-    for (const auto& theme : scene.themes_.themes()) {
+    for (const auto& theme : scene.services_.themes.themes()) {
         const auto id = QString::fromStdString(theme.id);
         if (!onlyTheme.isEmpty() && id != onlyTheme) continue;
         scene.theme_.switchTo(theme.id);

@@ -8,6 +8,7 @@
 #include <random>
 
 #include "base/calendar_day.h"
+#include "app/desktop/statistics_sources.h"
 #include "ui/style/style.h"
 
 namespace tidewatch {
@@ -36,7 +37,7 @@ constexpr std::array knownApps = {
 }  // namespace
 
 StatsWorld::StatsWorld()
-    : presenter_(machine_.platform, services_,
+    : presenter_(statisticsSources(machine_.platform, services_),
                  {.exportReport = [this] { ++reportsAsked_; },
                   .reclassify = [this](DashboardModel&, const AppId& app,
                                        QPointF) { menusAsked_.push_back(app.text()); }}) {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/services.h"
+#include "app/services.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
 #include "shell/views/stats_presenter.h"
@@ -39,8 +39,7 @@ public:
 
     test::FakeWorld machine_;
     Services services_{machine_.platform};
-    ThemeRegistry themes_;
-    ThemeController theme_{themes_, services_.settings, services_.broadcaster};
+    ThemeController& theme_ = services_.theme;
     int reportsAsked_ = 0;
     std::vector<std::string> menusAsked_;  ///< the applications whose menus were asked for
     StatsPresenter presenter_;

@@ -85,7 +85,7 @@ struct StatsViewTest : testing::Test, StatsScene {
 // Every tab, every theme, every size.
 
 TEST_F(StatsViewTest, EveryTabLoadsInEveryThemeWithoutAWarning) {
-    for (const auto& theme : themes_.themes()) {
+    for (const auto& theme : services_.themes.themes()) {
         theme_.switchTo(theme.id);
         for (int tab = 0; tab < presenter_.tabs().size(); ++tab) {
             SCOPED_TRACE(theme.id + " " + presenter_.tabs()[tab].toStdString());

@@ -84,7 +84,11 @@ TEST(NoNetwork, APictureInAViewStaysAway) {
 }
 
 struct QtSurfacesTest : testing::Test, ClockWorld {
-    QtSurfaces surfaces_{machine_.platform, theme_, *presenter_};
+    QtSurfaces surfaces_{{.log = machine_.log,
+.windowManager = machine_.windowManager,
+.desktop = machine_.desktop,
+.theme = theme_,
+.clock = *presenter_}};
 };
 
 TEST_F(QtSurfacesTest, ViewsHaveNoNetwork) {

@@ -45,9 +45,11 @@ protected:
     int announced_ = 0;
     Connection announcements_ =
         broadcaster_.observe<DashboardWillShow>([this](const auto&) { ++announced_; });
-    QuickStatisticsWindow window_{machine_.platform,
-                                  theme_,
-                                  broadcaster_,
+    QuickStatisticsWindow window_{{.windowManager = machine_.windowManager,
+                                   .screens = machine_.screens,
+                                   .memory = machine_.memory,
+                                   .theme = theme_,
+                                   .broadcaster = broadcaster_},
                                   {.makeView = [this] { return makeView(); },
                                    .disappeared = [this] { ++disappeared_; },
                                    .viewDestroyed = [this] { ++destroyed_; }}};

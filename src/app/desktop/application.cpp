@@ -1,11 +1,11 @@
-#include "app/application.h"
+#include "app/desktop/application.h"
 
 #include <QIcon>
 #include <QQuickWindow>
 #include <QTimer>
 #include <chrono>
 
-#include "app/composition.h"
+#include "app/desktop/composition.h"
 #include "core/data_directory.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
@@ -59,7 +59,7 @@ int Application::run(const platform::Platform& platform) {
             return EXIT_FAILURE;
     }
     platform.endings.onAsked([] { QCoreApplication::quit(); });
-    Composition composition(platform, [] { QCoreApplication::quit(); });
+    DesktopComposition composition(platform, [] { QCoreApplication::quit(); });
     auto& delegate = composition.delegate();
     delegate.applicationDidFinishLaunching();
     platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });

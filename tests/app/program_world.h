@@ -6,13 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "app/program.h"
+#include "app/services.h"
 #include "platform/fake/fake_machine.h"
-#include "shell/app_delegate.h"
-#include "shell/export_commands.h"
-#include "shell/services.h"
 #include "shell/surfaces.h"
-#include "shell/themes/theme_controller.h"
-#include "shell/themes/theme_registry.h"
 
 namespace tidewatch {
 
@@ -171,9 +168,9 @@ private:
 };
 
 /// The whole program but for the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.
-class ShellWorld : public testing::Test {
+class ProgramWorld : public testing::Test {
 protected:
-    ShellWorld();
+    ProgramWorld();
 
     /// The menu as it opens now.
     [[nodiscard]] MenuRows menu();
@@ -196,19 +193,18 @@ protected:
     std::vector<std::string> reports_;  ///< where the report of the month was to be written
     bool terminated_ = false;
 
-    struct Program;
-    std::unique_ptr<Program> program_;
+    struct Run;
+    std::unique_ptr<Run> program_;
 };
 
-/// What the composition root builds, on the fakes.
-struct ShellWorld::Program {
-    explicit Program(ShellWorld& world);
+/// One run of the program, as the composition root builds it.
+struct ProgramWorld::Run {
+    explicit Run(ProgramWorld& world);
 
     Services services;
-    ThemeRegistry themes;
-    ThemeController theme;
-    ExportCommands exports;
-    AppDelegate delegate;
+    Program program;
+    ThemeController& theme = services.theme;
+    AppDelegate& delegate = program.delegate();
 };
 
 }  // namespace tidewatch

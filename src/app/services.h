@@ -23,6 +23,8 @@
 #include "projects/active_project_booking.h"
 #include "projects/project_store.h"
 #include "projects/project_time_store.h"
+#include "shell/themes/theme_controller.h"
+#include "shell/themes/theme_registry.h"
 #include "wellbeing/break_reminder.h"
 #include "wellbeing/game_gate.h"
 #include "wellbeing/notification_manager.h"
@@ -30,12 +32,15 @@
 namespace tidewatch {
 
 /// Every store and service that works without a screen, built once, in the order in which they need each
-/// other. Main thread only.
+/// other. For the composition root alone, which hands each part to those that use it: nothing else takes the
+/// whole. Main thread only.
 struct Services final {
     /// `platform` must outlive this object.
     explicit Services(const platform::Platform& platform);
     Services(const Services&) = delete;
     Services& operator=(const Services&) = delete;
+
+    [[nodiscard]] CounterStores counters() { return {days, apps, hours, minutes}; }
 
     Broadcaster broadcaster;
     Settings settings;
@@ -61,6 +66,8 @@ struct Services final {
     /// Writes the stores; it ends before any of them.
     std::unique_ptr<JobQueue> disk;
     TimerEngine engine;
+    ThemeRegistry themes;
+    ThemeController theme;
 };
 
 }  // namespace tidewatch

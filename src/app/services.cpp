@@ -1,4 +1,4 @@
-#include "shell/services.h"
+#include "app/services.h"
 
 #include "platform/api/background.h"
 
@@ -27,7 +27,8 @@ Services::Services(const platform::Platform& platform)
       gameGate(platform.clock, platform.preferences, notifications),
       breakReminder(dayRule, platform.mainLoop, notifications),
       disk(platform.background.makeQueue("record")),
-      engine(platform.clock, platform.mainLoop, settings, idleMonitor, keys, {days, apps, hours, minutes},
-             *disk, {&gameGate, &breakReminder, &projectBooking}) {}
+      engine(platform.clock, platform.mainLoop, settings, idleMonitor, keys, counters(), *disk,
+             {&gameGate, &breakReminder, &projectBooking}),
+      theme(themes, settings, broadcaster) {}
 
 }  // namespace tidewatch

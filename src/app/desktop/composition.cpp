@@ -1,0 +1,74 @@
+#include "app/desktop/composition.h"
+
+#include <utility>
+
+#include "app/desktop/statistics_sources.h"
+#include "shell/reclassify_menu.h"
+
+namespace tidewatch {
+
+DesktopComposition::DesktopComposition(const platform::Platform& platform, std::function<void()> terminate)
+    : platform_(platform),
+      services_(platform),
+      clock_(services_.engine, services_.theme, platform.clock,
+             [this] { return services_.rewards.starsToday(); }),
+      surfaces_({
+          .log = platform.log,
+          .windowManager = platform.windowManager,
+          .desktop = platform.desktop,
+          .theme = services_.theme,
+          .clock = clock_,
+      }),
+      report_(
+          {
+              .clock = platform.clock,
+              .days = services_.days,
+              .apps = services_.apps,
+              .appInfo = services_.appInfo,
+              .scorer = services_.scorer,
+              .goalEvaluator = services_.goalEvaluator,
+              .rewards = services_.rewards,
+          },
+          platform.files, platform.log),
+      statistics_(
+          {
+              .windowManager = platform.windowManager,
+              .screens = platform.screens,
+              .memory = platform.memory,
+              .theme = services_.theme,
+              .broadcaster = services_.broadcaster,
+          },
+          statisticsContent()),
+      program_(platform, services_,
+               {
+                   .surfaces = surfaces_,
+                   .statistics = statistics_,
+                   .generateReport = [this](const std::string& path) { return report_.generate(path); },
+                   .terminate = std::move(terminate),
+               }) {}
+
+QuickStatisticsWindow::Content DesktopComposition::statisticsContent() {
+    return {
+        .makeView =
+            [this] {
+                if (!stats_) stats_ = makeStats();
+                return surfaces_.makeView("StatsView", *stats_);
+            },
+        .disappeared = [this] { stats_->disappear(); },
+        .viewDestroyed = [this] { surfaces_.forgetViews(); },
+    };
+}
+
+std::unique_ptr<StatsPresenter> DesktopComposition::makeStats() {
+    return std::make_unique<StatsPresenter>(
+        statisticsSources(platform_, services_),
+        StatsPresenter::Commands{
+            .exportReport = [this] { program_.exports().exportReport(); },
+            .reclassify =
+                [this](DashboardModel& model, const AppId& app, QPointF at) {
+                    surfaces_.popUpMenu(reclassifyMenu(app, services_.categories, model), {at.x(), at.y()});
+                },
+        });
+}
+
+}  // namespace tidewatch
