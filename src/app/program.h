@@ -15,8 +15,8 @@
 
 namespace tidewatch {
 
-/// What the program does on a screen, wired: the delegate, the commands, and what the status item and its menu
-/// say. Main thread only.
+/// What the program does on a screen, wired: the delegate, the commands, and what the status item and its
+/// menu say. Main thread only.
 class Program final {
 public:
     /// What the program is shown on; all of it must outlive the program.

@@ -41,8 +41,8 @@ struct DashboardWillShow {
     static constexpr std::string_view name = "Tidewatch.dashboardWillShow";
 };
 
-/// Carries events between windows that do not know one another. Main thread only.
-///
+/// Carries the events in answer to which something is done elsewhere, by whom the poster does not know.
+/// What only shows a model follows the model's own Signal instead. Main thread only.
 /// Observers are called inside post(), in the order in which they began to observe. One that must not run
 /// inside the poster hands its work to the MainLoop.
 class Broadcaster final {

@@ -22,8 +22,7 @@ AppDelegate::~AppDelegate() = default;
 void AppDelegate::applicationDidFinishLaunching() {
     with_.surfaces.registerFonts();
     window_ = with_.surfaces.makePanelWindow(panelSize());
-    panel_ = std::make_unique<FloatingPanel>(*window_, with_.settings, with_.screens,
-                                             with_.broadcaster);
+    panel_ = std::make_unique<FloatingPanel>(*window_, with_.settings, with_.screens, with_.broadcaster);
     connectPanel();
     if (with_.settings.windowVisible()) panel_->orderFrontRegardless();
     statusItem_ = with_.surfaces.makeStatusItem();
@@ -34,9 +33,8 @@ void AppDelegate::applicationDidFinishLaunching() {
     with_.engine.start();
     with_.notifications.requestAuthorization();
     // Posted, as the engine posts its tick: each second's tick has run before.
-    menuRefreshTimer_ =
-        with_.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
-                                       [this] { later(&AppDelegate::refreshTimerFired); });
+    menuRefreshTimer_ = with_.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
+                                              [this] { later(&AppDelegate::refreshTimerFired); });
 }
 
 void AppDelegate::applicationWillTerminate() {

@@ -32,8 +32,7 @@ std::string_view wordsFor(platform::ExportFault fault) {
 }  // namespace
 
 ExportCommands::ExportCommands(Targets targets)
-    : to_(std::move(targets)),
-      csv_(to_.apps, to_.projectTime, to_.categories, to_.appInfo) {}
+    : to_(std::move(targets)), csv_(to_.apps, to_.projectTime, to_.categories, to_.appInfo) {}
 
 void ExportCommands::exportCSV() {
     const auto day = to_.days.today();

@@ -44,8 +44,7 @@ void StatusCommands::showStats() {
 
 void StatusCommands::revealData() {
     writeDay();
-    revealFile(to_.desktop, to_.dialogs, to_.days.dataFilePath(),
-               "No se pudo mostrar el archivo de datos");
+    revealFile(to_.desktop, to_.dialogs, to_.days.dataFilePath(), "No se pudo mostrar el archivo de datos");
 }
 
 void StatusCommands::toggleLoginItem() {

@@ -111,8 +111,8 @@ MenuRows buildStatusMenu(const StatusMenuSources& from) {
     rows.push_back(dayStartMenu(from));
     rows.push_back(projectMenu(from.projects, from.projectCommands, from.exportCommands));
     rows.push_back(command(
-        from.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana",
-        [&to] { to.toggleVisible(); }, 'h'));
+        from.settings.windowVisible() ? "Ocultar ventana" : "Mostrar ventana", [&to] { to.toggleVisible(); },
+        'h'));
     rows.push_back(command("Reiniciar día", [&to] { to.resetToday(); }));
     rows.push_back(MenuRow::separator());
     rows.push_back(command(

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/program_world.h"
 #include "app/desktop/statistics_sources.h"
+#include "app/program_world.h"
 
 namespace tidewatch {
 namespace {

@@ -12,7 +12,8 @@ constexpr Instant start = sys_days(year(2026) / 1 / 15) + hours(9);
 
 }  // namespace
 
-ProgramWorld::ProgramWorld() : machine_(start, [](const std::string& complaint) { ADD_FAILURE() << complaint; }) {
+ProgramWorld::ProgramWorld()
+    : machine_(start, [](const std::string& complaint) { ADD_FAILURE() << complaint; }) {
     machine_.frontmost.set(AppId("org.example.Editor"));
 }
 

@@ -113,6 +113,15 @@ BANNED_CPP = [
      r"\bQt::(RichText|MarkdownText|AutoText)\b|\bsetToolTip\s*\((?!plainToolTip\()",
      "may take words for markup and fetch its pictures"),
 ]
+# Who shows follows a model's signal, who acts observes a broadcast; the statistics as a whole (shell/views) do both.
+ROOMS_THAT_ACT = re.compile(r"(app|app/desktop|shell|shell/windows)$")
+BANNED_WHERE_ACTED = [
+    (r"\bchanged\.connect\s*\(", "follows a model's signal where things are done, which observe the Broadcaster"),
+]
+ROOMS_THAT_SHOW = re.compile(r"(ui|(?!shell/).+/views|shell/icons|analysis/report)$")
+BANNED_WHERE_SHOWN = [
+    (r"\bBroadcaster\b", "observes broadcasts where things are only shown, which follow a model's signal"),
+]
 BANNED_QML = [
     (r"\btextFormat\s*[:=](?!\s*Text(Edit)?\.PlainText\b)", "lets words be markup, which fetches pictures"),
     (r"\bnew\s+Date\b|\bDate\.now\b", "asks the time past platform::Clock"),
@@ -226,6 +235,10 @@ def check_cpp(source_root, path, own_room):
     if not ROOMS[own_room].machine:
         words = blanked(source, keep_strings=False)
         violations += check_bans(path, words, BANNED_CPP) + check_labels(path, words)
+        if ROOMS_THAT_ACT.match(own_room):
+            violations += check_bans(path, words, BANNED_WHERE_ACTED)
+        if ROOMS_THAT_SHOW.match(own_room):
+            violations += check_bans(path, words, BANNED_WHERE_SHOWN)
     return violations, neighbours
 
 

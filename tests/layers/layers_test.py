@@ -330,6 +330,36 @@ class PlainWords(Tree):
         self.assertEqual(self.violations(), [])
 
 
+class Events(Tree):
+    def test_what_acts_does_not_follow_a_models_signal(self):
+        for room in ("app", "app/desktop", "shell", "shell/windows"):
+            with self.subTest(room):
+                self.write(f"{room}/a.cpp", "c_ = theme.changed.connect([this] { resize(); });")
+                self.assertEqual(len(self.violations()), 1)
+                self.assertTrue(self.violations()[0].startswith(f"{room}/a.cpp:1: changed.connect( follows a model's"))
+                (self.root / room / "a.cpp").unlink()
+
+    def test_what_only_shows_does_not_observe_broadcasts(self):
+        for room in ("ui", "core/views", "analysis/report", "shell/icons"):
+            with self.subTest(room):
+                self.write(f"{room}/a.cpp", "void follow(Broadcaster& all);")
+                self.assertEqual(len(self.violations()), 1)
+                self.assertTrue(self.violations()[0].startswith(f"{room}/a.cpp:1: Broadcaster observes broadcasts"))
+                (self.root / room / "a.cpp").unlink()
+
+    def test_what_shows_follows_a_models_signal(self):
+        self.write("core/views/a.cpp", "c_ = engine.changed.connect([this] { update(); });")
+        self.assertEqual(self.violations(), [])
+
+    def test_what_acts_observes_broadcasts(self):
+        self.write("shell/a.cpp", "o_ = broadcaster.observe<ThemeChanged>([this](const auto&) { resize(); });")
+        self.assertEqual(self.violations(), [])
+
+    def test_the_statistics_as_a_whole_show_and_act(self):
+        self.write("shell/views/a.cpp", "void follow(Broadcaster& all) { c_ = model.changed.connect(f); }")
+        self.assertEqual(self.violations(), [])
+
+
 class Circles(Tree):
     def test_a_circle_of_rooms_is_found(self):
         self.assertEqual(layers.circle_in({"a": {"b"}, "b": {"c"}, "c": {"a"}}), ["a", "b", "c", "a"])

@@ -77,7 +77,7 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject
 
 std::unique_ptr<QQuickItem> QtSurfaces::brokenView(const QByteArray& name, const QString& errors) {
     with_.log.warning("Tidewatch: failed to make the view " + name.toStdString() + ": " +
-                          errors.simplified().toStdString());
+                      errors.simplified().toStdString());
     return nullptr;
 }
 

@@ -94,8 +94,8 @@ void QuickStatisticsWindow::wearTheme() {
     const auto& style = with_.theme.active().dashboard;
     window_->setColor(toQColor(style.nsBackground));
     with_.windowManager.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
-                                                                ? platform::FrameShade::dark
-                                                                : platform::FrameShade::light);
+                                                            ? platform::FrameShade::dark
+                                                            : platform::FrameShade::light);
 }
 
 QRect QuickStatisticsWindow::placement() {

@@ -7,8 +7,8 @@
 #include <chrono>
 #include <random>
 
-#include "base/calendar_day.h"
 #include "app/desktop/statistics_sources.h"
+#include "base/calendar_day.h"
 #include "ui/style/style.h"
 
 namespace tidewatch {

@@ -85,10 +85,10 @@ TEST(NoNetwork, APictureInAViewStaysAway) {
 
 struct QtSurfacesTest : testing::Test, ClockWorld {
     QtSurfaces surfaces_{{.log = machine_.log,
-.windowManager = machine_.windowManager,
-.desktop = machine_.desktop,
-.theme = theme_,
-.clock = *presenter_}};
+                          .windowManager = machine_.windowManager,
+                          .desktop = machine_.desktop,
+                          .theme = theme_,
+                          .clock = *presenter_}};
 };
 
 TEST_F(QtSurfacesTest, ViewsHaveNoNetwork) {

@@ -49,10 +49,10 @@ protected:
     ThemeController theme_{themes_, rooms_.settings, broadcaster_};
     ClockPresenter clock_{rooms_.engine, theme_, machine_.clock, [] { return 0; }};
     QtSurfaces surfaces_{{.log = machine_.log,
-.windowManager = machine_.windowManager,
-.desktop = machine_.desktop,
-.theme = theme_,
-.clock = clock_}};
+                          .windowManager = machine_.windowManager,
+                          .desktop = machine_.desktop,
+                          .theme = theme_,
+                          .clock = clock_}};
     QObject presenter_;
     Answers answers_;
 };
