@@ -11,29 +11,29 @@ Program::Program(const platform::Platform& platform, Services& services, const S
       services_(services),
       exports_({
           .engine = services.engine,
-          .days = services.days,
-          .apps = services.apps,
-          .projects = services.projects,
-          .projectTime = services.projectTime,
-          .categories = services.categories,
-          .appInfo = services.appInfo,
+          .days = services.counting.days,
+          .apps = services.counting.apps,
+          .projects = services.projects.store,
+          .projectTime = services.projects.times,
+          .categories = services.classification.categories,
+          .appInfo = services.classification.appInfo,
           .files = platform.files,
           .desktop = platform.desktop,
           .dialogs = screen.surfaces.dialogs(),
           .generateReport = screen.generateReport,
       }),
-      projectCommands_(services.projects, screen.surfaces.dialogs()),
+      projectCommands_(services.projects.store, screen.surfaces.dialogs()),
       delegate_({
           .mainLoop = platform.mainLoop,
           .screens = platform.screens,
           .olderNotifications = platform.notifications,
-          .settings = services.settings,
+          .settings = services.counting.settings,
           .broadcaster = services.broadcaster,
           .engine = services.engine,
-          .counters = services.counters(),
-          .projectTime = services.projectTime,
-          .categories = services.categories,
-          .notifications = services.notifications,
+          .counters = services.counting.stores(),
+          .projectTime = services.projects.times,
+          .categories = services.classification.categories,
+          .notifications = services.wellbeing.notifications,
           .theme = services.theme,
           .surfaces = screen.surfaces,
           .statistics = screen.statistics,
@@ -41,10 +41,10 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .menu = [this] { return statusMenu(); },
       }),
       commands_({
-          .settings = services.settings,
+          .settings = services.counting.settings,
           .broadcaster = services.broadcaster,
           .engine = services.engine,
-          .days = services.days,
+          .days = services.counting.days,
           .theme = services.theme,
           .desktop = platform.desktop,
           .loginItem = platform.loginItem,
@@ -56,17 +56,18 @@ Program::Program(const platform::Platform& platform, Services& services, const S
       }) {}
 
 StatusTitle Program::statusTitle() const {
-    const std::array today = {services_.days.today()};
-    return tidewatch::statusTitle(services_.scorer.compute(today), services_.projects.activeProject());
+    const std::array today = {services_.counting.days.today()};
+    return tidewatch::statusTitle(services_.classification.scorer.compute(today),
+                                  services_.projects.store.activeProject());
 }
 
 MenuRows Program::statusMenu() {
     return buildStatusMenu({
-        .settings = services_.settings,
+        .settings = services_.counting.settings,
         .engine = services_.engine,
-        .days = services_.days,
-        .scorer = services_.scorer,
-        .projects = services_.projects,
+        .days = services_.counting.days,
+        .scorer = services_.classification.scorer,
+        .projects = services_.projects.store,
         .themes = services_.themes,
         .theme = services_.theme,
         .inputActivity = platform_.inputActivity,

@@ -29,11 +29,11 @@ public:
         machine_.clock.setNow(sys_days(2026y / 1 / 15) + 23h + 59min + 54s + 500ms);
         machine_.files.put("/home/user/.tidewatch/today.json", R"({"2026-01-15":1000})");
         launch();
-        services().projects.setActive(services().projects.addProject("Film").id);
+        services().projects.store.setActive(services().projects.store.addProject("Film").id);
         runFor(5s);
         machine_.clock.setNow(sys_days(2026y / 1 / 16) + 200ms);
-        services().days.set(Seconds(111), yesterday);
-        services().days.set(Seconds(222), today);
+        services().counting.days.set(Seconds(111), yesterday);
+        services().counting.days.set(Seconds(222), today);
         writesBefore_ = machine_.files.writes().size();
     }
 
@@ -63,7 +63,9 @@ protected:
         return names;
     }
 
-    [[nodiscard]] std::int64_t total(const DayKey& day) { return services().days.seconds(day).count(); }
+    [[nodiscard]] std::int64_t total(const DayKey& day) {
+        return services().counting.days.seconds(day).count();
+    }
 
 private:
     std::size_t writesBefore_ = 0;
@@ -157,7 +159,7 @@ const std::vector<Occasion> occasions{
      .happens =
          [](MidnightWorld& world) {
              world.services().engine.stop();
-             world.services().days.set(Seconds(111), yesterday);
+             world.services().counting.days.set(Seconds(111), yesterday);
              world.countWritesFromHere();
              world.pass(3s);
          },
@@ -201,7 +203,7 @@ protected:
 
 TEST_P(FlushTable, WritesItsFilesInOrderAndSetsTheDayThatItNames) {
     ASSERT_EQ(services().engine.todaySeconds(), Seconds(1005));
-    ASSERT_EQ(services().gameGate.workSeconds(), Seconds(5));
+    ASSERT_EQ(services().wellbeing.gameGate.workSeconds(), Seconds(5));
     const auto& occasion = GetParam();
     occasion.happens(*this);
     EXPECT_THAT(written(), ElementsAreArray(occasion.files));
@@ -228,7 +230,7 @@ TEST_F(FlushedValue, OfADayThatEndedIsItsOwnTotalUnderItsOwnKey) {
 TEST_F(FlushedValue, OfTheThirtiethTickIsSetAlthoughTheUserIsAway) {
     pass(24s);
     leave();
-    services().days.set(Seconds(777), today);
+    services().counting.days.set(Seconds(777), today);
     pass(1s);
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 1005,\n  \"2026-01-16\" : 246\n}");
 }

@@ -43,7 +43,7 @@ TEST_F(WiringTest, AChangeOfThemeIsHandedOn) {
 }
 
 TEST_F(WiringTest, AChangeOfSizeIsHandedOn) {
-    program_->services.settings.setSizeScale(1);
+    program_->services.counting.settings.setSizeScale(1);
     program_->services.broadcaster.post(SizeChanged());
     EXPECT_EQ(panelSize(), ochre_);
     machine_.mainLoop.run();
@@ -51,7 +51,7 @@ TEST_F(WiringTest, AChangeOfSizeIsHandedOn) {
 }
 
 TEST_F(WiringTest, ASizeThatIsStoredWithoutAWordWaitsForTheNextChange) {
-    program_->services.settings.setSizeScale(1);
+    program_->services.counting.settings.setSizeScale(1);
     runFor(5s);
     EXPECT_EQ(panelSize(), ochre_);
     program_->theme.switchTo("minimal");

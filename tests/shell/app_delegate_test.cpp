@@ -76,7 +76,7 @@ TEST_F(AppDelegateTest, TheRefreshSetsTheRunningTotalUnderTheClocksKeyBetweenThe
     program_->services.engine.stop();
     machine_.clock.setNow(sys_days(2026y / 1 / 16) + 1ms);
     runFor(1s);
-    EXPECT_EQ(program_->services.days.seconds(DayKey("2026-01-16")), Seconds(10));
+    EXPECT_EQ(program_->services.counting.days.seconds(DayKey("2026-01-16")), Seconds(10));
 }
 
 TEST_F(AppDelegateTest, ALeftClickOnTheStatusItemWritesTheStoresAndOpensTheStatisticsWindow) {
@@ -176,10 +176,10 @@ TEST_F(AppDelegateTest, NothingBookedShowsTheDash) {
 
 TEST_F(AppDelegateTest, EverySecondIsBookedEverywhereItBelongs) {
     launch();
-    program_->services.projects.setActive(program_->services.projects.addProject("Film").id);
+    program_->services.projects.store.setActive(program_->services.projects.store.addProject("Film").id);
     runFor(31s);
     program_->delegate.applicationWillTerminate();
-    const auto id = program_->services.projects.activeProjectId()->text();
+    const auto id = program_->services.projects.store.activeProjectId()->text();
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 31\n}");
     EXPECT_EQ(file("apps.json"), "{\n  \"2026-01-15\" : {\n    \"org.example.Editor\" : 31\n  }\n}");
     EXPECT_EQ(file("hours.json"), "{\n  \"2026-01-15 09\" : {\n    \"org.example.Editor\" : 31\n  }\n}");
@@ -199,7 +199,8 @@ TEST_F(AppDelegateTest, AReopenLeavesTheMinuteAndProjectFilesAlone) {
 
 TEST_F(AppDelegateTest, AChangeOfProjectsShowsAtOnce) {
     launch();
-    program_->services.projects.setActive(program_->services.projects.addProject("LMN Juvenil").id);
+    program_->services.projects.store.setActive(
+        program_->services.projects.store.addProject("LMN Juvenil").id);
     machine_.mainLoop.run();
     EXPECT_EQ(surfaces_.statusItem().title().text(), "— · LMN Juvenil");
 }
@@ -208,8 +209,8 @@ TEST_F(AppDelegateTest, AMilestoneIsToldOnceAlsoAcrossARestart) {
     auto goals = GoalSettings();
     goals.dailyHours = 10.0 / 3600;
     launch();
-    program_->services.goals.setSettings(goals);
-    program_->services.goals.save();
+    program_->services.goals.store.setSettings(goals);
+    program_->services.goals.store.save();
     runFor(20s);
     program_->delegate.applicationWillTerminate();
     launch();

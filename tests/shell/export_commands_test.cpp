@@ -21,8 +21,8 @@ protected:
     [[nodiscard]] std::string written() const { return machine_.files.content(place).value_or("(none)"); }
 
     Project activeProject(const std::string& name) {
-        auto project = program_->services.projects.addProject(name);
-        program_->services.projects.setActive(project.id);
+        auto project = program_->services.projects.store.addProject(name);
+        program_->services.projects.store.setActive(project.id);
         return project;
     }
 };
@@ -123,7 +123,7 @@ TEST_F(ExportCommandsTest, AProjectThatCannotBeWrittenIsTold) {
 
 TEST_F(ExportCommandsTest, AProjectThatIsGoneIsNotAskedFor) {
     const auto project = activeProject("Corto");
-    program_->services.projects.deleteProject(project.id);
+    program_->services.projects.store.deleteProject(project.id);
     program_->exports.exportProjectCSV(project.id);
     EXPECT_EQ(surfaces_.questionsAsked(), 0);
     EXPECT_EQ(file("project_time.json"), "(none)");

@@ -15,7 +15,7 @@ class ProjectMenuTest : public ProgramWorld {
 protected:
     ProjectMenuTest() { launch(); }
 
-    [[nodiscard]] ProjectStore& projects() { return program_->services.projects; }
+    [[nodiscard]] ProjectStore& projects() { return program_->services.projects.store; }
 
     /// The rows of the submenu that these titles lead to, from the menu on.
     MenuRows rowsAt(const std::vector<std::string>& path) {

@@ -25,7 +25,7 @@ TEST_F(StatusCommandsTest, SwitchSizeKeepsTheTopLeftCorner) {
     ASSERT_TRUE(choose("100%"));
     EXPECT_EQ(surfaces_.panel().panelSize(), (PanelSize{220, 124}));
     EXPECT_EQ(surfaces_.panel().origin(), before);
-    EXPECT_EQ(program_->services.settings.windowOrigin(), before);
+    EXPECT_EQ(program_->services.counting.settings.windowOrigin(), before);
 }
 
 TEST_F(StatusCommandsTest, AChangeOfTheIdleThresholdHoldsFromTheNextTick) {
@@ -40,10 +40,10 @@ TEST_F(StatusCommandsTest, AChangeOfTheIdleThresholdHoldsFromTheNextTick) {
 TEST_F(StatusCommandsTest, ToggleVisibleHidesThePanelAndRemembersIt) {
     ASSERT_TRUE(choose("Ocultar ventana"));
     EXPECT_FALSE(surfaces_.panel().isVisible());
-    EXPECT_FALSE(program_->services.settings.windowVisible());
+    EXPECT_FALSE(program_->services.counting.settings.windowVisible());
     ASSERT_TRUE(choose("Mostrar ventana"));
     EXPECT_TRUE(surfaces_.panel().isVisible());
-    EXPECT_TRUE(program_->services.settings.windowVisible());
+    EXPECT_TRUE(program_->services.counting.settings.windowVisible());
 }
 
 TEST_F(StatusCommandsTest, ResetTodayPutsTheDayBackOnDiskAtOnce) {
@@ -67,7 +67,8 @@ TEST_F(StatusCommandsTest, RevealDataWritesTheDayAndShowsItsFile) {
     ASSERT_TRUE(choose("Revelar archivo de datos"));
     EXPECT_EQ(file("today.json"), "{\n  \"2026-01-15\" : 5\n}");
     EXPECT_EQ(file("apps.json"), "(none)");
-    EXPECT_EQ(machine_.desktop.revealed(), std::vector<std::string>{program_->services.days.dataFilePath()});
+    EXPECT_EQ(machine_.desktop.revealed(),
+              std::vector<std::string>{program_->services.counting.days.dataFilePath()});
 }
 
 TEST_F(StatusCommandsTest, AFileThatCannotBeShownIsTold) {
@@ -77,7 +78,7 @@ TEST_F(StatusCommandsTest, AFileThatCannotBeShownIsTold) {
         surfaces_.warnings(),
         std::vector<std::string>{"No se pudo mostrar el archivo de datos: No respondió ningún gestor de "
                                  "archivos. El archivo está aquí:\n" +
-                                 program_->services.days.dataFilePath()});
+                                 program_->services.counting.days.dataFilePath()});
 }
 
 TEST_F(StatusCommandsTest, ToggleLoginItemRegistersAndUnregisters) {

@@ -177,10 +177,10 @@ TEST_F(StatusMenuTest, RowsCarryOutTheirCommands) {
     row(row(rows, "Idle").children, "1 min").action();
     row(row(rows, "El día empieza").children, "04:00").action();
     row(rows, "Salir").action();
-    EXPECT_EQ(program_->services.settings.activeThemeId(), "minimal");
-    EXPECT_EQ(program_->services.settings.sizeScale(), 5.0);
-    EXPECT_EQ(program_->services.settings.idleThresholdSeconds(), 60);
-    EXPECT_EQ(program_->services.settings.dayStartHour(), 4);
+    EXPECT_EQ(program_->services.counting.settings.activeThemeId(), "minimal");
+    EXPECT_EQ(program_->services.counting.settings.sizeScale(), 5.0);
+    EXPECT_EQ(program_->services.counting.settings.idleThresholdSeconds(), 60);
+    EXPECT_EQ(program_->services.counting.settings.dayStartHour(), 4);
     EXPECT_TRUE(terminated_);
 }
 

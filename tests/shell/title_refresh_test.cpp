@@ -18,7 +18,7 @@ class TitleWorld : public ProgramWorld {
 public:
     TitleWorld() {
         launch();
-        auto& projects = program_->services.projects;
+        auto& projects = program_->services.projects.store;
         const auto film = projects.addProject("Film").id;
         projects.addProject("Libro");
         projects.setArchived(ProjectStore::Archived::yes, projects.addProject("Viejo").id);
@@ -146,23 +146,25 @@ protected:
         machine_.inputActivity.set(1000);
         machine_.clock.advance(24h);
         auto& services = program_->services;
-        const auto day = services.days.today();
-        for (int i = 0; i < productive; ++i) services.apps.incrementApp(AppId("com.apple.dt.Xcode"), day);
-        for (int i = 0; i < distracting; ++i) services.apps.incrementApp(AppId("com.netflix.Netflix"), day);
+        const auto day = services.counting.days.today();
+        for (int i = 0; i < productive; ++i)
+            services.counting.apps.incrementApp(AppId("com.apple.dt.Xcode"), day);
+        for (int i = 0; i < distracting; ++i)
+            services.counting.apps.incrementApp(AppId("com.netflix.Netflix"), day);
         runFor(1s);
         return mood();
     }
 };
 
 TEST_F(StatusTitleShown, ProjectChangesAreHandedOnAndNotDrawnInside) {
-    program_->services.projects.setActive(std::nullopt);
+    program_->services.projects.store.setActive(std::nullopt);
     EXPECT_EQ(title(), "— · Film");
     machine_.mainLoop.run();
     EXPECT_EQ(title(), "—");
 }
 
 TEST_F(StatusTitleShown, AChangeOfTheDaysStartShowsTheFigureOfTheOtherDayAtOnce) {
-    auto& apps = program_->services.apps;
+    auto& apps = program_->services.counting.apps;
     for (int i = 0; i < 100; ++i) apps.incrementApp(AppId("com.apple.dt.Xcode"), DayKey("2026-01-15"));
     for (int i = 0; i < 100; ++i) apps.incrementApp(AppId("com.netflix.Netflix"), DayKey("2026-01-16"));
     machine_.clock.setNow(std::chrono::sys_days(std::chrono::January / 16 / 2026) + 2h);

@@ -11,7 +11,7 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
     : platform_(platform),
       services_(platform),
       clock_(services_.engine, services_.theme, platform.clock,
-             [this] { return services_.rewards.starsToday(); }),
+             [this] { return services_.goals.rewards.starsToday(); }),
       surfaces_({
           .log = platform.log,
           .windowManager = platform.windowManager,
@@ -22,12 +22,12 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
       report_(
           {
               .clock = platform.clock,
-              .days = services_.days,
-              .apps = services_.apps,
-              .appInfo = services_.appInfo,
-              .scorer = services_.scorer,
-              .goalEvaluator = services_.goalEvaluator,
-              .rewards = services_.rewards,
+              .days = services_.counting.days,
+              .apps = services_.counting.apps,
+              .appInfo = services_.classification.appInfo,
+              .scorer = services_.classification.scorer,
+              .goalEvaluator = services_.goals.evaluator,
+              .rewards = services_.goals.rewards,
           },
           platform.files, platform.log),
       statistics_(
@@ -66,7 +66,8 @@ std::unique_ptr<StatsPresenter> DesktopComposition::makeStats() {
             .exportReport = [this] { program_.exports().exportReport(); },
             .reclassify =
                 [this](DashboardModel& model, const AppId& app, QPointF at) {
-                    surfaces_.popUpMenu(reclassifyMenu(app, services_.categories, model), {at.x(), at.y()});
+                    surfaces_.popUpMenu(reclassifyMenu(app, services_.classification.categories, model),
+                                        {at.x(), at.y()});
                 },
         });
 }

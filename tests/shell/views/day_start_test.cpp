@@ -21,7 +21,7 @@ const DayKey thursday("2026-01-15");
 
 struct DayFromFiveTest : testing::Test, StatsWorld {
     DayFromFiveTest() {
-        services_.settings.setDayStartHour(5);
+        services_.counting.settings.setDayStartHour(5);
         machine_.putAppInFront("code");
     }
 
@@ -58,30 +58,30 @@ struct DayFromFiveTest : testing::Test, StatsWorld {
 TEST_F(DayFromFiveTest, TheNightIsBookedToTheDayBeforeUnderTheHoursOfTheClock) {
     work(at(2026y / 1 / 15, 23h + 59min) + 58s, 5s);
     work(at(2026y / 1 / 16, 2h + 34min), 3s);
-    EXPECT_EQ(services_.days.seconds(thursday), Seconds(8));
-    EXPECT_EQ(services_.days.seconds(DayKey("2026-01-16")), Seconds(0));
-    EXPECT_EQ(services_.hours.seconds(HourKey("2026-01-15 23")), Seconds(2));
-    EXPECT_EQ(services_.hours.seconds(HourKey("2026-01-15 00")), Seconds(3));
-    EXPECT_EQ(services_.hours.seconds(HourKey("2026-01-15 02")), Seconds(3));
-    EXPECT_THAT(services_.minutes.entries(BucketKey("2026-01-15 23:50")),
+    EXPECT_EQ(services_.counting.days.seconds(thursday), Seconds(8));
+    EXPECT_EQ(services_.counting.days.seconds(DayKey("2026-01-16")), Seconds(0));
+    EXPECT_EQ(services_.counting.hours.seconds(HourKey("2026-01-15 23")), Seconds(2));
+    EXPECT_EQ(services_.counting.hours.seconds(HourKey("2026-01-15 00")), Seconds(3));
+    EXPECT_EQ(services_.counting.hours.seconds(HourKey("2026-01-15 02")), Seconds(3));
+    EXPECT_THAT(services_.counting.minutes.entries(BucketKey("2026-01-15 23:50")),
                 ElementsAre(AppSeconds{AppId("code"), Seconds(2)}));
-    EXPECT_THAT(services_.minutes.entries(BucketKey("2026-01-15 00:00")),
+    EXPECT_THAT(services_.counting.minutes.entries(BucketKey("2026-01-15 00:00")),
                 ElementsAre(AppSeconds{AppId("code"), Seconds(3)}));
-    EXPECT_THAT(services_.minutes.entries(BucketKey("2026-01-15 02:30")),
+    EXPECT_THAT(services_.counting.minutes.entries(BucketKey("2026-01-15 02:30")),
                 ElementsAre(AppSeconds{AppId("code"), Seconds(3)}));
 }
 
 TEST_F(DayFromFiveTest, AtFiveTheNewDayBeginsInEveryStore) {
     work(at(2026y / 1 / 15, 4h + 59min) + 58s + 500ms, 5s);
-    EXPECT_EQ(services_.days.seconds(wednesday), Seconds(2));
-    EXPECT_EQ(services_.days.seconds(thursday), Seconds(3));
-    EXPECT_EQ(services_.hours.seconds(HourKey("2026-01-14 04")), Seconds(2));
-    EXPECT_EQ(services_.hours.seconds(HourKey("2026-01-15 05")), Seconds(3));
-    EXPECT_THAT(services_.minutes.entries(BucketKey("2026-01-14 04:50")),
+    EXPECT_EQ(services_.counting.days.seconds(wednesday), Seconds(2));
+    EXPECT_EQ(services_.counting.days.seconds(thursday), Seconds(3));
+    EXPECT_EQ(services_.counting.hours.seconds(HourKey("2026-01-14 04")), Seconds(2));
+    EXPECT_EQ(services_.counting.hours.seconds(HourKey("2026-01-15 05")), Seconds(3));
+    EXPECT_THAT(services_.counting.minutes.entries(BucketKey("2026-01-14 04:50")),
                 ElementsAre(AppSeconds{AppId("code"), Seconds(2)}));
-    EXPECT_THAT(services_.minutes.entries(BucketKey("2026-01-15 05:00")),
+    EXPECT_THAT(services_.counting.minutes.entries(BucketKey("2026-01-15 05:00")),
                 ElementsAre(AppSeconds{AppId("code"), Seconds(3)}));
-    EXPECT_THAT(services_.apps.aggregate(std::vector{wednesday}),
+    EXPECT_THAT(services_.counting.apps.aggregate(std::vector{wednesday}),
                 ElementsAre(AppSeconds{AppId("code"), Seconds(2)}));
     EXPECT_EQ(services_.engine.liveSeconds(), Seconds(3)) << "a session ends with its day";
 }
@@ -155,7 +155,7 @@ TEST_F(DayFromFiveTest, WorkAcrossTheStartOfTheDayIsTwoSessions) {
 }
 
 TEST_F(DayFromFiveTest, WithTheDayFromMidnightBothAreOneSession) {
-    services_.settings.setDayStartHour(0);
+    services_.counting.settings.setDayStartHour(0);
     work(at(2026y / 1 / 15, 23h + 30min), 3000s);
     appear();
     EXPECT_EQ(presenter_.insights()->sessionLength(), "50m");
@@ -170,7 +170,7 @@ TEST_F(DayFromFiveTest, AtTwoInTheNightTheWindowShowsTheCalendarsDayAndTheStatus
     appear();
     EXPECT_EQ(presenter_.header()->date(), "vie 16 ene");
     EXPECT_EQ(presenter_.overview()->total(), "0s");
-    EXPECT_EQ(services_.days.today(), thursday);
+    EXPECT_EQ(services_.counting.days.today(), thursday);
     presenter_.header()->previousDay();
     EXPECT_EQ(presenter_.overview()->total(), "1m");
 }

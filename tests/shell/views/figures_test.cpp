@@ -25,7 +25,7 @@ struct Classified {
 
 struct FiguresTest : testing::Test, StatsWorld {
     [[nodiscard]] DayKey daysAgo(int days) const {
-        return services_.days.dayKey(machine_.clock.now() - hours(24 * days));
+        return services_.counting.days.dayKey(machine_.clock.now() - hours(24 * days));
     }
 
     void bookScore(const DayKey& day, Classified seconds) {
@@ -201,9 +201,9 @@ TEST_F(FiguresTest, ApplicationsWithoutASecondHaveNoShareOfADayWithoutOne) {
 
 struct ProjectFiguresTest : FiguresTest {
     [[nodiscard]] ProjectSheet sheetOf(std::int64_t seconds, std::int64_t totalDay) {
-        const auto project = services_.projects.addProject("Film").id;
+        const auto project = services_.projects.store.addProject("Film").id;
         bookProject(project, "code", today(), seconds);
-        services_.days.set(Seconds(totalDay), today());
+        services_.counting.days.set(Seconds(totalDay), today());
         presenter_.selectTab(projectsTab);
         appear();
         for (const auto& sheet : rowsOf<ProjectSheet>(presenter_.projects()->rows())) {

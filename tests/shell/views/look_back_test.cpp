@@ -21,9 +21,11 @@ struct LookBackTest : testing::Test, StatsWorld {
             presenter_.insights()->tiles()->index(tile).data(RowListModel::rowRole).value<StatTile>();
         return (row.value + " / " + row.subtitle).toStdString();
     }
-    void day(const char* key, std::int64_t seconds) { services_.days.set(Seconds(seconds), DayKey(key)); }
+    void day(const char* key, std::int64_t seconds) {
+        services_.counting.days.set(Seconds(seconds), DayKey(key));
+    }
     void hour(const char* key, const char* app, int seconds) {
-        for (int i = 0; i < seconds; ++i) services_.hours.incrementApp(AppId(app), HourKey(key));
+        for (int i = 0; i < seconds; ++i) services_.counting.hours.incrementApp(AppId(app), HourKey(key));
     }
     void lookBackOnAll() {
         appear();
@@ -132,10 +134,10 @@ TEST_F(GoalMarkTest, EveryNumberOfHoursThatCanBeSetIsReachedByExactlyItsSeconds)
     for (int step = 0; step < 20; ++step) presenter_.goals()->decrease("dailyHours");
     for (int halfHours = 2; halfHours <= 32; ++halfHours) {
         SCOPED_TRACE(halfHours);
-        services_.days.set(Seconds(halfHours * 1800 - 1), today());
+        services_.counting.days.set(Seconds(halfHours * 1800 - 1), today());
         appear();
         EXPECT_EQ(goal(0).mark, "");
-        services_.days.set(Seconds(halfHours * 1800), today());
+        services_.counting.days.set(Seconds(halfHours * 1800), today());
         appear();
         EXPECT_EQ(goal(0).mark, "✓");
         presenter_.goals()->increase("dailyHours");

@@ -26,7 +26,7 @@ struct StatsPresenterTest : testing::Test, StatsWorld {
     }
 
     [[nodiscard]] DayKey daysAgo(int days) const {
-        return services_.days.dayKey(machine_.clock.now() - hours(24 * days));
+        return services_.counting.days.dayKey(machine_.clock.now() - hours(24 * days));
     }
 
     /// A day with this many productive and distracting seconds.
@@ -217,12 +217,12 @@ TEST_F(StatsPresenterTest, TheLookBackIsRenewedEveryEightSecondsWhileItIsOnShow)
 TEST_F(StatsPresenterTest, EachStepIsWithinItsRangeAndSavedAtOnce) {
     showTab(goalsTab);
     presenter_.goals()->increase("dailyHours");
-    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 6.5);
-    EXPECT_TRUE(machine_.files.readWhole(services_.goals.filePath()).ok());
+    EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 6.5);
+    EXPECT_TRUE(machine_.files.readWhole(services_.goals.store.filePath()).ok());
     for (int step = 0; step < 40; ++step) presenter_.goals()->increase("dailyHours");
-    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 16);
+    EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 16);
     for (int step = 0; step < 40; ++step) presenter_.goals()->decrease("dailyHours");
-    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 1);
+    EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 1);
 }
 
 struct StepRange {
@@ -240,21 +240,22 @@ TEST_F(StatsPresenterTest, TheRangesAndStepsOfAllGoals) {
                               StepRange{"weeklyHours", &GoalSettings::weeklyHours, 5, 80, 1},
                               StepRange{"monthlyHours", &GoalSettings::monthlyHours, 20, 320, 5}}) {
         SCOPED_TRACE(range.id);
-        const double before = services_.goals.settings().*range.goal;
+        const double before = services_.goals.store.settings().*range.goal;
         presenter_.goals()->decrease(range.id);
-        EXPECT_DOUBLE_EQ(services_.goals.settings().*range.goal, before - range.step);
+        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, before - range.step);
         for (int step = 0; step < 100; ++step) presenter_.goals()->increase(range.id);
-        EXPECT_DOUBLE_EQ(services_.goals.settings().*range.goal, range.most);
+        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.most);
         for (int step = 0; step < 100; ++step) presenter_.goals()->decrease(range.id);
-        EXPECT_DOUBLE_EQ(services_.goals.settings().*range.goal, range.least);
+        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.least);
     }
 }
 
 TEST_F(StatsPresenterTest, TheSwitchOfTheNotificationsIsSavedAtOnce) {
     showTab(goalsTab);
     presenter_.goals()->setNotificationsEnabled(false);
-    EXPECT_FALSE(services_.goals.settings().notificationsEnabled);
-    EXPECT_NE(machine_.files.readWhole(services_.goals.filePath()).value().find("false"), std::string::npos);
+    EXPECT_FALSE(services_.goals.store.settings().notificationsEnabled);
+    EXPECT_NE(machine_.files.readWhole(services_.goals.store.filePath()).value().find("false"),
+              std::string::npos);
 }
 
 TEST_F(StatsPresenterTest, TheReportIsAskedForByItsButton) {
@@ -292,7 +293,7 @@ TEST_F(StatsPresenterTest, ARowAsksForItsMenu) {
 TEST_F(StatsPresenterTest, AReclassificationReachesEveryTabAtTheReloadAfterIt) {
     bookBelievableWork();
     showTab(overviewTab);
-    services_.categories.setCategory(Category::games, AppId("code"));
+    services_.classification.categories.setCategory(Category::games, AppId("code"));
     appear();
     EXPECT_NE(presenter_.overview()->score(), "96%");
     EXPECT_EQ(presenter_.overview()->distracting()->apps()->rowCount(), 3);
@@ -312,7 +313,7 @@ TEST_F(StatsPresenterTest, WithoutAnyProjectTheTabSaysHowToMakeOne) {
 }
 
 TEST_F(StatsPresenterTest, WithProjectsButNoRowsTheTabSaysThatNothingIsTaggedYet) {
-    services_.projects.addProject("Web");
+    services_.projects.store.addProject("Web");
     showTab(projectsTab);
     EXPECT_EQ(presenter_.projects()->emptyTitle(), "Aún no etiquetas tiempo a ningún proyecto en este día.");
     EXPECT_EQ(presenter_.projects()->emptyText(), "");
@@ -322,7 +323,7 @@ TEST_F(StatsPresenterTest, WithProjectsButNoRowsTheTabSaysThatNothingIsTaggedYet
 
 TEST_F(StatsPresenterTest, ShowingWritesFourFilesAndReloads) {
     book("code", today(), 9, 0, 600);
-    bookProject(services_.projects.addProject("Web").id, "code", today(), 10);
+    bookProject(services_.projects.store.addProject("Web").id, "code", today(), 10);
     appear();
     EXPECT_EQ(presenter_.overview()->productive()->time(), "10m");
     for (const auto& file :
@@ -420,8 +421,8 @@ TEST_F(StatsPresenterTest, ABarGrowsBeyondTheCellWhereTenMinutesHoldMore) {
 // Names that others gave.
 
 TEST_F(StatsPresenterTest, AProjectWithoutANameIsARowThatCanBeRead) {
-    bookProject(services_.projects.addProject("").id, "code", today(), 60);
-    services_.days.set(Seconds(60), today());
+    bookProject(services_.projects.store.addProject("").id, "code", today(), 60);
+    services_.counting.days.set(Seconds(60), today());
     showTab(projectsTab);
     const auto project = test::probe(*presenter_.projects())["rows"].toArray().at(0).toObject();
     EXPECT_EQ(project["title"].toString(), "Sin nombre");
@@ -434,7 +435,7 @@ TEST_F(StatsPresenterTest, ALongNameOfManyLinesIsOneShortLineInEveryTab) {
     const auto shown = "uno dos" + QString(193, 'a') + "…";
     machine_.applications.registerApplication(AppId("endless"), {name, "", {"IDE"}});
     book("endless", today(), 9, 0, 60);
-    bookProject(services_.projects.addProject(name).id, "endless", today(), 60);
+    bookProject(services_.projects.store.addProject(name).id, "endless", today(), 60);
     for (const auto& [tab, presenter] :
          std::initializer_list<std::pair<int, QObject*>>{{overviewTab, presenter_.overview()->productive()},
                                                          {detailsTab, presenter_.details()},

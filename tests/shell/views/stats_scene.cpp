@@ -53,17 +53,17 @@ void StatsWorld::registerApplications() {
 void StatsWorld::book(const char* app, const DayKey& day, int hour, int minute, std::int64_t seconds) {
     const AppId id(app);
     for (std::int64_t second = 0; second < seconds; ++second) {
-        services_.apps.incrementApp(id, day);
-        services_.hours.incrementApp(id, hourKey(day, hour));
-        services_.minutes.incrementApp(id, bucketKey(day, {hour, minute}));
+        services_.counting.apps.incrementApp(id, day);
+        services_.counting.hours.incrementApp(id, hourKey(day, hour));
+        services_.counting.minutes.incrementApp(id, bucketKey(day, {hour, minute}));
     }
-    services_.days.set(services_.days.seconds(day) + Seconds(seconds), day);
+    services_.counting.days.set(services_.counting.days.seconds(day) + Seconds(seconds), day);
 }
 
 void StatsWorld::bookProject(const Uuid& project, const char* app, const DayKey& day, std::int64_t seconds) {
     machine_.frontmost.set(AppId(app));
     for (std::int64_t second = 0; second < seconds; ++second)
-        services_.projectTime.incrementCurrentApp(day, project);
+        services_.projects.times.incrementCurrentApp(day, project);
 }
 
 void StatsWorld::bookBelievableWork() {
@@ -107,7 +107,7 @@ void StatsWorld::bookToday() {
     book("org.gimp.GIMP", 16, 0, 540);
     book("org.example.SomeToolThatNobodyRegisteredAnywhere", 16, 10, 130);
     book("org.videolan.VLC", 16, 20, 200);
-    auto& projects = services_.projects;
+    auto& projects = services_.projects.store;
     const auto web = projects.addProject("Sitio web").id;
     const auto book2 =
         projects.addProject("Libro de cocina con un nombre bastante largo para una tarjeta").id;

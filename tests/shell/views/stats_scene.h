@@ -35,7 +35,7 @@ public:
     /// The window is about to be shown.
     void appear() { services_.broadcaster.post(DashboardWillShow()); }
 
-    [[nodiscard]] DayKey today() const { return services_.days.today(); }
+    [[nodiscard]] DayKey today() const { return services_.counting.days.today(); }
 
     test::FakeWorld machine_;
     Services services_{machine_.platform};

@@ -97,8 +97,8 @@ TEST_F(StatsViewTest, EveryTabLoadsInEveryThemeWithoutAWarning) {
 
 TEST_F(StatsViewTest, NothingIsCutOffAtTheSmallestSizeButTheNamesOfApplications) {
     QStringList names;
-    for (const auto& app : services_.apps.aggregate(std::array{today()})) {
-        names.append(QString::fromStdString(services_.appInfo.info(app.app).name));
+    for (const auto& app : services_.counting.apps.aggregate(std::array{today()})) {
+        names.append(QString::fromStdString(services_.classification.appInfo.info(app.app).name));
     }
     for (int tab = 0; tab < presenter_.tabs().size(); ++tab) {
         SCOPED_TRACE(presenter_.tabs()[tab].toStdString());
@@ -203,10 +203,10 @@ TEST_F(StatsViewTest, AStepperChangesItsGoalByClickAndByKey) {
     ASSERT_NE(stepper, nullptr);
     QTest::mouseClick(&window_, Qt::LeftButton, {}, middle(*stepper) + QPoint(15, 0));
     settle();
-    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 6.5);
+    EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 6.5);
     item("dailyHours")->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Down);
-    EXPECT_DOUBLE_EQ(services_.goals.settings().dailyHours, 6);
+    EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 6);
     EXPECT_EQ(item("dailyHours"), stepper) << "the row was built anew";
 }
 
@@ -214,7 +214,7 @@ TEST_F(StatsViewTest, TheSwitchAndTheReportButtonWork) {
     showTab(goalsTab);
     item("notifications")->childItems().first()->forceActiveFocus(Qt::TabFocusReason);
     key(Qt::Key_Space);
-    EXPECT_FALSE(services_.goals.settings().notificationsEnabled);
+    EXPECT_FALSE(services_.goals.store.settings().notificationsEnabled);
     click("report");
     EXPECT_EQ(reportsAsked_, 1);
 }
@@ -267,7 +267,8 @@ TEST_F(StatsViewTest, EveryControlIsReachedByTheTabulator) {
 TEST_F(StatsViewTest, ABreakAlertLiesOverAllAndLetsNothingThroughButItsButton) {
     show();
     settle();
-    for (int second = 0; second < 7200; ++second) services_.breakReminder.tickActiveSecond(Seconds(7200));
+    for (int second = 0; second < 7200; ++second)
+        services_.wellbeing.breakReminder.tickActiveSecond(Seconds(7200));
     settle();
     EXPECT_TRUE(presenter_.breakAlert()->alertActive());
     QTest::mouseClick(&window_, Qt::LeftButton, {}, middle(*item("tabs")->childItems().at(goalsTab)));
@@ -332,7 +333,8 @@ TEST_F(StatsViewTest, TheComparisonOfAPastDayIsLegibleInAThemeThatIsPutOnLater) 
 TEST_F(StatsViewTest, ABreakAlertIsLegibleInAThemeThatIsPutOnWhileItStands) {
     show();
     settle();
-    for (int second = 0; second < 7200; ++second) services_.breakReminder.tickActiveSecond(Seconds(7200));
+    for (int second = 0; second < 7200; ++second)
+        services_.wellbeing.breakReminder.tickActiveSecond(Seconds(7200));
     settle();
     const auto dark = colorOf("headline");
     theme_.switchTo("editorial");
@@ -358,7 +360,7 @@ TEST_F(StatsViewTest, ABarOfTenMinutesStandsOnTheFootOfItsCell) {
 
 TEST_F(StatsViewTest, ALongNameIsOneLineAndToldInFullUnderThePointer) {
     const std::string name = "Un nombre que no cabe " + std::string(50'000, 'a') + "\nsegunda línea";
-    bookProject(services_.projects.addProject(name).id, "code", today(), 9000);
+    bookProject(services_.projects.store.addProject(name).id, "code", today(), 9000);
     machine_.mainLoop.runFor(seconds(2));
     showTab(projectsTab);
     const auto words = "Un nombre que no cabe " + QString(178, 'a') + "…";
@@ -387,7 +389,7 @@ TEST_F(StatsViewTest, ANameThatFitsNeedsNoBubble) {
 
 TEST_F(StatsViewTest, ANameWrittenFromTheRightStandsBesideItsIcon) {
     const QString name = "שלום עולם";
-    bookProject(services_.projects.addProject(name.toStdString()).id, "code", today(), 9000);
+    bookProject(services_.projects.store.addProject(name.toStdString()).id, "code", today(), 9000);
     machine_.applications.registerApplication(AppId("hebrew"), {name.toStdString(), "", {"IDE"}});
     book("hebrew", today(), 9, 0, 30000);
     machine_.mainLoop.runFor(seconds(2));
@@ -401,7 +403,7 @@ TEST_F(StatsViewTest, ANameWrittenFromTheRightStandsBesideItsIcon) {
 }
 
 TEST_F(StatsViewTest, AnEmptyProjectNameIsARowInThePlaceOfTheOthers) {
-    bookProject(services_.projects.addProject("").id, "code", today(), 9000);
+    bookProject(services_.projects.store.addProject("").id, "code", today(), 9000);
     machine_.mainLoop.runFor(seconds(2));
     showTab(projectsTab);
     auto* title = showing("Sin nombre");
@@ -413,7 +415,7 @@ TEST_F(StatsViewTest, AnEmptyProjectNameIsARowInThePlaceOfTheOthers) {
 
 TEST_F(StatsViewTest, WhatLooksLikeMarkupIsShownAsItIsWritten) {
     const std::string name = "<b>Negrita</b> <img src='http://127.0.0.1:9/x.png'>";
-    bookProject(services_.projects.addProject(name).id, "code", today(), 9000);
+    bookProject(services_.projects.store.addProject(name).id, "code", today(), 9000);
     machine_.applications.registerApplication(AppId("markup"), {name, "http://127.0.0.1:9/y.png", {"IDE"}});
     book("markup", today(), 9, 0, 30000);
     machine_.mainLoop.runFor(seconds(2));
@@ -455,7 +457,7 @@ TEST_F(StatsViewTest, ADayThatCannotBeGoneToSaysSoAndIsNotGoneTo) {
 
 TEST_F(StatsViewTest, TheRowsOfATierAreReadInTheOrderOfTheScreenAfterAChangeOfDay) {
     // The same applications on both days, in another order.
-    const auto yesterday = services_.days.dayKey(machine_.clock.now() - std::chrono::hours(24));
+    const auto yesterday = services_.counting.days.dayKey(machine_.clock.now() - std::chrono::hours(24));
     book("org.libreoffice.writer", yesterday, 9, 0, 90000);
     book("firefox", yesterday, 9, 0, 60000);
     show();

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "classification/app_info_resolver.h"
+#include "classification/category_store.h"
+#include "classification/productivity_score.h"
+#include "core/app_usage_store.h"
+
+namespace tidewatch {
+
+/// What the counted seconds count as, built together. Main thread only.
+struct Classification final {
+    /// All of it must outlive the bundle.
+    struct Needs {
+        platform::FileSystem& files;
+        platform::Log& log;
+        platform::Applications& applications;
+        const AppUsageStore& apps;
+    };
+
+    explicit Classification(const Needs& needs)
+        : categories(needs.files, needs.log, needs.applications),
+          appInfo(needs.applications),
+          scorer(needs.apps, categories) {}
+
+    CategoryStore categories;
+    AppInfoResolver appInfo;
+    ProductivityScorer scorer;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "core/app_usage_store.h"
+#include "core/clock_keys.h"
+#include "core/daily_store.h"
+#include "core/day_rule.h"
+#include "core/hourly_store.h"
+#include "core/idle_monitor.h"
+#include "core/minute_store.h"
+#include "core/settings.h"
+#include "core/timer_engine.h"
+
+namespace tidewatch {
+
+/// The settings, the rule of the day and the four counters, built together. Main thread only.
+struct Counting final {
+    /// All of it must outlive the bundle.
+    struct Needs {
+        const platform::Clock& clock;
+        platform::FileSystem& files;
+        platform::Log& log;
+        platform::Preferences& preferences;
+        const platform::InputActivity& inputActivity;
+        platform::FrontmostApplication& frontmost;
+    };
+
+    explicit Counting(const Needs& needs)
+        : settings(needs.preferences),
+          dayRule(needs.clock, settings),
+          keys(needs.clock, settings, dayRule),
+          idleMonitor(needs.inputActivity),
+          days(needs.files, needs.log, dayRule),
+          apps(needs.files, needs.log, needs.frontmost),
+          hours(needs.files, needs.log, needs.frontmost),
+          minutes(needs.files, needs.log, needs.frontmost) {}
+
+    [[nodiscard]] CounterStores stores() { return {days, apps, hours, minutes}; }
+
+    Settings settings;
+    DayRule dayRule;
+    ClockKeys keys;
+    IdleMonitor idleMonitor;
+    DailyStore days;
+    AppUsageStore apps;
+    HourlyStore hours;
+    MinuteStore minutes;
+};
+
+}  // namespace tidewatch

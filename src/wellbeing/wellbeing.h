@@ -1,0 +1,36 @@
+#pragma once
+
+#include "analysis/goal_store.h"
+#include "core/daily_store.h"
+#include "core/day_rule.h"
+#include "wellbeing/break_reminder.h"
+#include "wellbeing/game_gate.h"
+#include "wellbeing/notification_manager.h"
+
+namespace tidewatch {
+
+/// Messages to the user, the charge for games and the reminder of breaks, built together. Main thread only.
+struct Wellbeing final {
+    /// All of it must outlive the bundle; `mainLoop` and `log` also what `service` still has to report.
+    struct Needs {
+        const platform::Clock& clock;
+        platform::MainLoop& mainLoop;
+        platform::Preferences& preferences;
+        platform::Log& log;
+        platform::UserNotifications& service;
+        const DayRule& dayRule;
+        const DailyStore& days;
+        const GoalStore& goals;
+    };
+
+    explicit Wellbeing(const Needs& needs)
+        : notifications(needs.service, needs.mainLoop, needs.preferences, needs.log, needs.goals, needs.days),
+          gameGate(needs.clock, needs.preferences, notifications),
+          breakReminder(needs.dayRule, needs.mainLoop, notifications) {}
+
+    NotificationManager notifications;
+    GameGate gameGate;
+    BreakReminder breakReminder;
+};
+
+}  // namespace tidewatch
