@@ -2,13 +2,12 @@
 
 #include <array>
 
-#include "shell/status_menu.h"
+#include "shell/menu_sections.h"
 
 namespace tidewatch {
 
 Program::Program(const platform::Platform& platform, Services& services, const Screen& screen)
-    : platform_(platform),
-      services_(services),
+    : services_(services),
       exports_({
           .engine = services.engine,
           .days = services.counting.days,
@@ -38,7 +37,7 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .surfaces = screen.surfaces,
           .statistics = screen.statistics,
           .title = [this] { return statusTitle(); },
-          .menu = [this] { return statusMenu(); },
+          .menu = [this] { return buildStatusMenu(menu_); },
       }),
       commands_({
           .settings = services.counting.settings,
@@ -53,7 +52,8 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .toggleVisible = [this] { delegate_.toggleVisible(); },
           .refreshStatusBarTitle = [this] { delegate_.refreshStatusBarTitle(); },
           .terminate = screen.terminate,
-      }) {}
+      }),
+      menu_(makeMenu(platform)) {}
 
 StatusTitle Program::statusTitle() const {
     const std::array today = {services_.counting.days.today()};
@@ -61,21 +61,24 @@ StatusTitle Program::statusTitle() const {
                                   services_.projects.store.activeProject());
 }
 
-MenuRows Program::statusMenu() {
-    return buildStatusMenu({
-        .settings = services_.counting.settings,
-        .engine = services_.engine,
-        .days = services_.counting.days,
-        .scorer = services_.classification.scorer,
-        .projects = services_.projects.store,
-        .themes = services_.themes,
-        .theme = services_.theme,
-        .inputActivity = platform_.inputActivity,
-        .loginItem = platform_.loginItem,
-        .commands = commands_,
-        .projectCommands = projectCommands_,
-        .exportCommands = exports_,
-    });
+MenuGroups Program::makeMenu(const platform::Platform& platform) {
+    const auto& settings = services_.counting.settings;
+    const auto& days = services_.counting.days;
+    const auto& scorer = services_.classification.scorer;
+    return {
+        {scoreSection(days, scorer)},
+        {countingSection(services_.engine, platform.inputActivity)},
+        {tierSection(days, scorer)},
+        {
+            appearanceSection(services_.themes, services_.theme, settings, commands_),
+            countingRuleSection(settings, commands_),
+            projectSection(services_.projects.store, projectCommands_, exports_),
+            clockSection(settings, commands_),
+        },
+        {recordSection(commands_, exports_)},
+        {loginSection(platform.loginItem, commands_)},
+        {endSection(commands_)},
+    };
 }
 
 }  // namespace tidewatch

@@ -7,9 +7,9 @@
 #include "platform/api/platform.h"
 #include "shell/app_delegate.h"
 #include "shell/export_commands.h"
-#include "shell/menu_row.h"
 #include "shell/project_commands.h"
 #include "shell/status_commands.h"
+#include "shell/status_menu.h"
 #include "shell/status_title.h"
 #include "shell/surfaces.h"
 
@@ -37,14 +37,14 @@ public:
 
 private:
     [[nodiscard]] StatusTitle statusTitle() const;
-    [[nodiscard]] MenuRows statusMenu();
+    [[nodiscard]] MenuGroups makeMenu(const platform::Platform& platform);
 
-    const platform::Platform& platform_;
     Services& services_;
     ExportCommands exports_;
     ProjectCommands projectCommands_;
     AppDelegate delegate_;
     StatusCommands commands_;
+    MenuGroups menu_;
 };
 
 }  // namespace tidewatch

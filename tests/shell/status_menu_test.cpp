@@ -184,5 +184,16 @@ TEST_F(StatusMenuTest, RowsCarryOutTheirCommands) {
     EXPECT_TRUE(terminated_);
 }
 
+TEST(MenuGroups, ALineStandsBetweenTwoGroupsAndNoneWithinOneOrAtAnEnd) {
+    const auto section = [](const char* title) {
+        return [title](MenuRows& rows) { rows.push_back({.title = title}); };
+    };
+    std::string menu;
+    for (const auto& row : buildStatusMenu({{section("a"), section("b")}, {section("c")}})) {
+        menu += row.separates ? "-" : row.title;
+    }
+    EXPECT_EQ(menu, "ab-c");
+}
+
 }  // namespace
 }  // namespace tidewatch
