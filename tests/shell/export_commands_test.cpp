@@ -124,14 +124,14 @@ TEST_F(ExportCommandsTest, AProjectThatCannotBeWrittenIsTold) {
 TEST_F(ExportCommandsTest, AProjectThatIsGoneIsNotAskedFor) {
     const auto project = activeProject("Corto");
     program_->services.projects.store.deleteProject(project.id);
-    program_->exports.exportProjectCSV(project.id);
+    program_->program.exports().exportProjectCSV(project.id);
     EXPECT_EQ(surfaces_.questionsAsked(), 0);
     EXPECT_EQ(file("project_time.json"), "(none)");
 }
 
 TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) {
     machine_.desktop.setRevealOutcome(Error{"no file manager"});
-    program_->exports.exportReport();
+    program_->program.exports().exportReport();
     EXPECT_EQ(surfaces_.saveRequest().title, "Guardar reporte");
     EXPECT_EQ(surfaces_.saveRequest().proposedName, "fathom-reporte.pdf");
     EXPECT_EQ(surfaces_.saveRequest().kind, SaveKind::pdf);
@@ -145,7 +145,7 @@ TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) 
 TEST_F(ExportCommandsTest, AReportThatIsWrittenButCannotBeShownIsTold) {
     reportsSucceed_ = true;
     machine_.desktop.setRevealOutcome(Error{"no file manager"});
-    program_->exports.exportReport();
+    program_->program.exports().exportReport();
     surfaces_.place("/home/user/enero.pdf");
     EXPECT_EQ(
         surfaces_.warnings(),
