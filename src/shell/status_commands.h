@@ -9,8 +9,8 @@
 #include "core/daily_store.h"
 #include "core/settings.h"
 #include "core/timer_engine.h"
-#include "platform/api/login_item.h"
 #include "platform/api/desktop.h"
+#include "platform/api/login_item.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 

@@ -7,9 +7,9 @@
 #include <QQuickItem>
 #include <memory>
 
+#include "platform/api/desktop.h"
 #include "platform/api/log.h"
 #include "platform/api/window_manager.h"
-#include "platform/api/desktop.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/views/clock_presenter.h"

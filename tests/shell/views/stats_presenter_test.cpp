@@ -194,8 +194,7 @@ TEST_F(StatsPresenterTest, ConstancyIsMeasuredAgainstTheDaysBetweenFirstAndLast)
     book("code", daysAgo(1), 9, 0, 60);
     book("code", today(), 9, 0, 60);
     showTab(overviewTab);
-    const auto tile =
-        presenter_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<StatTile>();
+    const auto tile = presenter_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<StatTile>();
     EXPECT_EQ(tile.value, "2/2");
 }
 
