@@ -109,7 +109,11 @@ TEST_F(StatisticsWindowTest, OneThatFillsTheScreenComesBackToItsOwnSize) {
 }
 
 TEST_F(StatisticsWindowTest, WithoutAViewThereIsNoWindowAndNothingElseHappens) {
-    QuickStatisticsWindow broken(machine_.platform, theme_, broadcaster_,
+    QuickStatisticsWindow broken({.windowManager = machine_.windowManager,
+                                  .screens = machine_.screens,
+                                  .memory = machine_.memory,
+                                  .theme = theme_,
+                                  .broadcaster = broadcaster_},
                                  {.makeView = [] { return std::unique_ptr<QQuickItem>(); },
                                   .disappeared = [this] { ++disappeared_; },
                                   .viewDestroyed = [this] { ++destroyed_; }});
