@@ -15,8 +15,9 @@ target_include_directories(tidewatch_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 # Our own signals have a member `emit`, which Qt would otherwise define away.
 target_compile_definitions(tidewatch_options INTERFACE QT_NO_KEYWORDS)
 target_compile_options(tidewatch_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wimplicit-fallthrough -Wcast-align -Wconversion -Wsign-conversion)
+    -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wimplicit-fallthrough -Wcast-align -Wconversion -Wsign-conversion
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:TIDEWATCH_MAY_SHADOW>>>:-Wshadow>)
 # Once it optimises, g++ 12 sees overlapping copies in std::string's operator+ where none can be, and the inside of
 # an empty std::optional read where it is not.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
