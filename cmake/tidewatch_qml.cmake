@@ -32,6 +32,9 @@ function(tidewatch_qml_module room uri)
     _tidewatch_find_registered_headers(${target} ${ARG_SOURCES})
     _tidewatch_part_compiled_views(${target})
     tidewatch_unity(${target})
+    # Whoever links the types alone is not to get the module with them.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_qmltyperegistrations.cpp
+        PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 
     add_library(${target}_module INTERFACE)
     target_link_libraries(${target}_module INTERFACE ${target} ${target}plugin)

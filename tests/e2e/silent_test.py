@@ -112,6 +112,8 @@ class Silent(unittest.TestCase):
                     if before:
                         os.kill(bus, signal.SIGSTOP)
                     program = self.start(world)
+                    if not before:
+                        wait_until(lambda: world.accessibility.knows(program.pid), "the program on the bus", SOON)
                     os.kill(bus, signal.SIGSTOP)
                     self.assert_counts_and_ends(world, program)
                 finally:

@@ -113,6 +113,14 @@ class Accessibility:
     def close(self):
         self._bus.close_sync(None)
 
+    def knows(self, pid):
+        """Whether a process has announced itself."""
+        try:
+            applications = self._call("org.a11y.atspi.Registry", _ROOT, _ACCESSIBLE, "GetChildren")[0]
+            return pid in [self._process(owner) for owner, _ in applications]
+        except Gone:
+            return False
+
     def window(self, pid, title):
         """The window of a process with all that it shows, None if the bus knows none with that title."""
         try:
