@@ -25,7 +25,7 @@
 #include "platform/qt/qt_screens.h"
 #include "platform/x11/x11_active_application.h"
 #include "platform/x11/x11_input_activity.h"
-#include "platform/x11/x11_window_manager.h"
+#include "platform/x11/x11_window_system.h"
 
 namespace tidewatch::platform {
 
@@ -63,7 +63,7 @@ struct NativePlatform::Parts {
     XdgApplications applications{entries};
     XdgDesktop desktop{sessionBus, applications, environment.inherited()};
     QtScreens screens;
-    X11WindowManager windowManager;
+    X11WindowSystem windowSystem;
     AutostartLoginItem loginItem{files, configDirectory(),
                                  QCoreApplication::applicationFilePath().toStdString()};
     LockedRunningInstance runningInstance{recordLock, log};
@@ -83,7 +83,7 @@ struct NativePlatform::Parts {
         .applications = applications,
         .desktop = desktop,
         .screens = screens,
-        .windowManager = windowManager,
+        .windowSystem = windowSystem,
         .loginItem = loginItem,
         .runningInstance = runningInstance,
         .endings = endings,

@@ -14,7 +14,7 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
              [this] { return services_.goals.rewards.starsToday(); }),
       surfaces_({
           .log = platform.log,
-          .windowManager = platform.windowManager,
+          .windowSystem = platform.windowSystem,
           .desktop = platform.desktop,
           .theme = services_.theme,
           .clock = clock_,
@@ -32,7 +32,7 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
           platform.files, platform.log),
       statistics_(
           {
-              .windowManager = platform.windowManager,
+              .windowSystem = platform.windowSystem,
               .screens = platform.screens,
               .memory = platform.memory,
               .theme = services_.theme,

@@ -19,7 +19,7 @@ class Randomness;
 class RunningInstance;
 class Screens;
 class UserNotifications;
-class WindowManager;
+class WindowSystem;
 
 /// All that the program needs of the machine, for the composition root to hand on. Owns nothing; what it
 /// refers to must outlive every user.
@@ -34,7 +34,7 @@ struct Platform {
     Applications& applications;
     Desktop& desktop;
     Screens& screens;
-    WindowManager& windowManager;
+    WindowSystem& windowSystem;
     LoginItem& loginItem;
     RunningInstance& runningInstance;
     ProcessEndings& endings;

@@ -20,7 +20,7 @@
 #include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
 #include "platform/fake/fake_user_notifications.h"
-#include "platform/fake/fake_window_manager.h"
+#include "platform/fake/fake_window_system.h"
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_preferences.h"
 
@@ -42,7 +42,7 @@ struct FakeMachine {
     FakeApplications applications;
     FakeDesktop desktop;
     FakeScreens screens;
-    FakeWindowManager windowManager;
+    FakeWindowSystem windowSystem;
     FakeLoginItem loginItem;
     FakeRunningInstance runningInstance;
     FakeProcessEndings endings;
@@ -66,7 +66,7 @@ struct FakeMachine {
             .applications = applications,
             .desktop = desktop,
             .screens = screens,
-            .windowManager = windowManager,
+            .windowSystem = windowSystem,
             .loginItem = loginItem,
             .runningInstance = runningInstance,
             .endings = endings,

@@ -52,7 +52,7 @@ std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
         .setTranslucent = [this](bool translucent) { with_.clock.setTranslucent(translucent); },
         .setOnScreen = [this](bool onScreen) { with_.clock.setOnScreen(onScreen); },
     };
-    auto window = std::make_unique<QuickPanelWindow>(with_.windowManager, std::move(content), size);
+    auto window = std::make_unique<QuickPanelWindow>(with_.windowSystem, std::move(content), size);
     panel_ = window.get();
     return window;
 }

@@ -9,7 +9,7 @@
 
 #include "platform/api/desktop.h"
 #include "platform/api/log.h"
-#include "platform/api/window_manager.h"
+#include "platform/api/window_system.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/views/clock_presenter.h"
@@ -24,7 +24,7 @@ public:
     /// What the surfaces work with; all of it must outlive them and what they make.
     struct Needs {
         platform::Log& log;
-        platform::WindowManager& windowManager;
+        platform::WindowSystem& windowSystem;
         const platform::Desktop& desktop;
         ThemeController& theme;
         ClockPresenter& clock;

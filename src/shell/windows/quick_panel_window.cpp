@@ -43,8 +43,11 @@ PanelSize withinScreens(const PanelSize& size) {
 
 }  // namespace
 
-QuickPanelWindow::QuickPanelWindow(platform::WindowManager& manager, Content content, PanelSize size)
-    : manager_(manager), content_(std::move(content)), panel_(withinScreens(size)), shadow_(contentItem()) {
+QuickPanelWindow::QuickPanelWindow(platform::WindowSystem& windowSystem, Content content, PanelSize size)
+    : windowSystem_(windowSystem),
+      content_(std::move(content)),
+      panel_(withinScreens(size)),
+      shadow_(contentItem()) {
     setTitle("Tidewatch");
     setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus);
     setColor(Qt::transparent);
@@ -57,8 +60,8 @@ QuickPanelWindow::QuickPanelWindow(platform::WindowManager& manager, Content con
         layOut(origin());
     });
     create();
-    compositing_ = manager_.onCompositingChanged([this] { adaptToCompositor(); });
-    covering_ = manager_.onCovered(winId(), [this](bool covered) {
+    compositing_ = windowSystem_.onCompositingChanged([this] { adaptToCompositor(); });
+    covering_ = windowSystem_.onCovered(winId(), [this](bool covered) {
         covered_ = covered;
         updateOnScreen();
     });
@@ -94,7 +97,7 @@ void QuickPanelWindow::resize(PanelSize wanted) {
 
 void QuickPanelWindow::orderFrontRegardless() {
     // A window manager forgets its hints when a window goes.
-    if (!isVisible()) manager_.prepareFloating(winId());
+    if (!isVisible()) windowSystem_.prepareFloating(winId());
     show();
     raise();
     updateOnScreen();
@@ -140,7 +143,7 @@ void QuickPanelWindow::closeEvent(QCloseEvent* event) {
 
 void QuickPanelWindow::adaptToCompositor() {
     const auto place = origin();
-    const bool compositing = manager_.isCompositing();
+    const bool compositing = windowSystem_.isCompositing();
     margin_ = compositing ? PanelShadow::reach : 0;
     shadow_.setVisible(compositing);
     content_.setTranslucent(compositing);
@@ -163,12 +166,12 @@ void QuickPanelWindow::cutToShape(double radius) {
     const double ratio = devicePixelRatio();
     if (margin_ > 0) {
         setMask({});
-        manager_.setInputRegion(
+        windowSystem_.setInputRegion(
             winId(), {margin_ * ratio, margin_ * ratio, panel_.width * ratio, panel_.height * ratio});
         return;
     }
     setMask(roundedRegion(size(), radius));
-    manager_.setInputRegion(winId(), {0, 0, width() * ratio, height() * ratio});
+    windowSystem_.setInputRegion(winId(), {0, 0, width() * ratio, height() * ratio});
 }
 
 void QuickPanelWindow::updateOnScreen() {

@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/api/window_manager.h"
+#include "platform/api/window_system.h"
 #include "shell/surfaces.h"
 #include "shell/windows/panel_shadow.h"
 
@@ -24,8 +24,8 @@ public:
         std::function<void(bool)> setOnScreen;          ///< whether anything of it can be seen
     };
 
-    /// `manager` must outlive this object.
-    QuickPanelWindow(platform::WindowManager& manager, Content content, PanelSize size);
+    /// `windowSystem` must outlive this object.
+    QuickPanelWindow(platform::WindowSystem& windowSystem, Content content, PanelSize size);
     ~QuickPanelWindow() override;
 
     [[nodiscard]] PanelSize panelSize() const override;
@@ -50,7 +50,7 @@ private:
     void cutToShape(double radius);
     void updateOnScreen();
 
-    platform::WindowManager& manager_;
+    platform::WindowSystem& windowSystem_;
     Content content_;
     Gestures gestures_;
     PanelSize panel_;

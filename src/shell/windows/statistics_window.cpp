@@ -59,7 +59,7 @@ void QuickStatisticsWindow::showWindow() {
         auto window = std::make_unique<Frame>([this] { close(); });
         window->create();
         // While the view is being made, the desktop has time to answer.
-        with_.windowManager.requestFrame(window->winId());
+        with_.windowSystem.requestFrame(window->winId());
         auto view = content_.makeView();
         if (!view) return;
         window->setView(std::move(view));
@@ -73,7 +73,7 @@ void QuickStatisticsWindow::showWindow() {
     window_->showNormal();
     window_->raise();
     window_->requestActivate();
-    with_.windowManager.activate(window_->winId());
+    with_.windowSystem.activate(window_->winId());
     with_.broadcaster.post(DashboardWillShow{});
 }
 
@@ -93,9 +93,9 @@ void QuickStatisticsWindow::wearTheme() {
     if (!window_) return;
     const auto& style = with_.theme.active().dashboard;
     window_->setColor(toQColor(style.nsBackground));
-    with_.windowManager.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
-                                                            ? platform::FrameShade::dark
-                                                            : platform::FrameShade::light);
+    with_.windowSystem.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
+                                                           ? platform::FrameShade::dark
+                                                           : platform::FrameShade::light);
 }
 
 QRect QuickStatisticsWindow::placement() {
@@ -103,7 +103,7 @@ QRect QuickStatisticsWindow::placement() {
     // A window that fills the screen has another frame until the window manager has taken it back.
     const auto filling = Qt::WindowMaximized | Qt::WindowFullScreen;
     if ((window_->windowStates() & filling) == 0 || !margins_) {
-        margins_ = with_.windowManager.frameMargins(window_->winId());
+        margins_ = with_.windowSystem.frameMargins(window_->winId());
     }
     const auto& margins = *margins_;
     const double ratio = window_->devicePixelRatio();

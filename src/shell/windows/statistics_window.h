@@ -10,7 +10,7 @@
 #include "core/broadcaster.h"
 #include "platform/api/process_memory.h"
 #include "platform/api/screens.h"
-#include "platform/api/window_manager.h"
+#include "platform/api/window_system.h"
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
 
@@ -30,7 +30,7 @@ public:
 
     /// What the window works with; all of it must outlive this object.
     struct Needs {
-        platform::WindowManager& windowManager;
+        platform::WindowSystem& windowSystem;
         const platform::Screens& screens;
         platform::ProcessMemory& memory;
         const ThemeController& theme;

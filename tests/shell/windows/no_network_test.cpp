@@ -85,7 +85,7 @@ TEST(NoNetwork, APictureInAViewStaysAway) {
 
 struct QtSurfacesTest : testing::Test, ClockWorld {
     QtSurfaces surfaces_{{.log = machine_.log,
-                          .windowManager = machine_.windowManager,
+                          .windowSystem = machine_.windowSystem,
                           .desktop = machine_.desktop,
                           .theme = theme_,
                           .clock = *presenter_}};

@@ -49,7 +49,7 @@ protected:
     ThemeController theme_{themes_, rooms_.settings, broadcaster_};
     ClockPresenter clock_{rooms_.engine, theme_, machine_.clock, [] { return 0; }};
     QtSurfaces surfaces_{{.log = machine_.log,
-                          .windowManager = machine_.windowManager,
+                          .windowSystem = machine_.windowSystem,
                           .desktop = machine_.desktop,
                           .theme = theme_,
                           .clock = clock_}};

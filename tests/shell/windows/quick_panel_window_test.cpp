@@ -15,7 +15,7 @@ namespace {
 class QuickPanelWindowTest : public testing::Test {
 protected:
     std::unique_ptr<QuickPanelWindow> make(PanelSize size) {
-        return std::make_unique<QuickPanelWindow>(machine_.windowManager,
+        return std::make_unique<QuickPanelWindow>(machine_.windowSystem,
                                                   QuickPanelWindow::Content{
                                                       .item = std::make_unique<QQuickItem>(),
                                                       .cornerRadius = [](PanelSize) { return 8.0; },

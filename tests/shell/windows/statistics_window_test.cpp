@@ -45,7 +45,7 @@ protected:
     int announced_ = 0;
     Connection announcements_ =
         broadcaster_.observe<DashboardWillShow>([this](const auto&) { ++announced_; });
-    QuickStatisticsWindow window_{{.windowManager = machine_.windowManager,
+    QuickStatisticsWindow window_{{.windowSystem = machine_.windowSystem,
                                    .screens = machine_.screens,
                                    .memory = machine_.memory,
                                    .theme = theme_,
@@ -73,7 +73,7 @@ TEST_F(StatisticsWindowTest, IsAnOrdinaryWindowInTheMiddleOfTheMainScreen) {
 }
 
 TEST_F(StatisticsWindowTest, TheDesktopsFrameStaysWithinItsPlace) {
-    machine_.windowManager.setFrameMargins({.left = 1, .right = 1, .top = 22, .bottom = 5});
+    machine_.windowSystem.setFrameMargins({.left = 1, .right = 1, .top = 22, .bottom = 5});
     window_.showWindow();
     EXPECT_EQ(shown()->geometry(), QRect(281, 77, 1358, 973));
 }
@@ -94,7 +94,7 @@ TEST_F(StatisticsWindowTest, EachShowingCentresActivatesAndAnnouncesIt) {
     window_.showWindow();
     EXPECT_EQ(shown()->geometry(), QRect(280, 55, 1360, 1000));
     EXPECT_EQ(announced_, 2);
-    EXPECT_EQ(machine_.windowManager.activated(), 2);
+    EXPECT_EQ(machine_.windowSystem.activated(), 2);
     EXPECT_EQ(viewsMade_, 1);
 }
 
@@ -109,7 +109,7 @@ TEST_F(StatisticsWindowTest, OneThatFillsTheScreenComesBackToItsOwnSize) {
 }
 
 TEST_F(StatisticsWindowTest, WithoutAViewThereIsNoWindowAndNothingElseHappens) {
-    QuickStatisticsWindow broken({.windowManager = machine_.windowManager,
+    QuickStatisticsWindow broken({.windowSystem = machine_.windowSystem,
                                   .screens = machine_.screens,
                                   .memory = machine_.memory,
                                   .theme = theme_,
@@ -180,11 +180,11 @@ TEST_F(StatisticsWindowTest, WearsTheThemeFromBeforeItsFirstFrameAndFollowsIt) {
     window_.showWindow();
     const auto& light = theme_.active().dashboard;
     EXPECT_EQ(shown()->color(), toQColor(light.nsBackground));
-    EXPECT_EQ(machine_.windowManager.frameShade(), platform::FrameShade::light);
+    EXPECT_EQ(machine_.windowSystem.frameShade(), platform::FrameShade::light);
     theme_.switchTo("hacker");
     EXPECT_NE(theme_.active().dashboard.nsBackground, light.nsBackground);
     EXPECT_EQ(shown()->color(), toQColor(theme_.active().dashboard.nsBackground));
-    EXPECT_EQ(machine_.windowManager.frameShade(), platform::FrameShade::dark);
+    EXPECT_EQ(machine_.windowSystem.frameShade(), platform::FrameShade::dark);
 }
 
 TEST_F(StatisticsWindowTest, AMinimisedWindowIsNotVisibleAndComesUpAgain) {

@@ -1,4 +1,4 @@
-#include "platform/x11/x11_window_manager.h"
+#include "platform/x11/x11_window_system.h"
 
 #include <fmt/format.h>
 #include <poll.h>
@@ -31,7 +31,7 @@ xcb_window_t xWindow(WindowHandle window) {
 
 }  // namespace
 
-X11WindowManager::X11WindowManager()
+X11WindowSystem::X11WindowSystem()
     : compositorSelection_(connection_.atom(fmt::format("_NET_WM_CM_S{}", connection_.screenNumber()))),
       desktopAtom_(connection_.atom("_NET_WM_DESKTOP")),
       stateAtom_(connection_.atom("_NET_WM_STATE")),
@@ -52,9 +52,9 @@ X11WindowManager::X11WindowManager()
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { readEvents(); });
 }
 
-X11WindowManager::~X11WindowManager() = default;
+X11WindowSystem::~X11WindowSystem() = default;
 
-void X11WindowManager::prepareFloating(WindowHandle window) {
+void X11WindowSystem::prepareFloating(WindowHandle window) {
     if (!connection_.alive()) return;
     setCardinal(xWindow(window), desktopAtom_, everyDesktop);
     setCardinal(xWindow(window), shadowAtom_, 0);
@@ -62,11 +62,11 @@ void X11WindowManager::prepareFloating(WindowHandle window) {
     waitForServer();
 }
 
-Connection X11WindowManager::onCompositingChanged(std::function<void()> changed) {
+Connection X11WindowSystem::onCompositingChanged(std::function<void()> changed) {
     return compositingChanged_.connect(std::move(changed));
 }
 
-void X11WindowManager::setInputRegion(WindowHandle window, Rectangle region) {
+void X11WindowSystem::setInputRegion(WindowHandle window, Rectangle region) {
     if (!connection_.hasExtension(&xcb_shape_id)) return;
     const xcb_rectangle_t rectangle{static_cast<std::int16_t>(region.x), static_cast<std::int16_t>(region.y),
                                     static_cast<std::uint16_t>(region.width),
@@ -76,7 +76,7 @@ void X11WindowManager::setInputRegion(WindowHandle window, Rectangle region) {
     xcb_flush(connection_.get());
 }
 
-Connection X11WindowManager::onCovered(WindowHandle window, std::function<void(bool covered)> changed) {
+Connection X11WindowSystem::onCovered(WindowHandle window, std::function<void(bool covered)> changed) {
     auto& signal = covered_[xWindow(window)];
     if (!signal) signal = std::make_unique<Signal<bool>>();
     if (connection_.alive()) {
@@ -85,14 +85,14 @@ Connection X11WindowManager::onCovered(WindowHandle window, std::function<void(b
     return signal->connect(std::move(changed));
 }
 
-void X11WindowManager::requestFrame(WindowHandle window) {
+void X11WindowSystem::requestFrame(WindowHandle window) {
     if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return;
     setWatched(xWindow(window), XCB_EVENT_MASK_PROPERTY_CHANGE);
     sendToRoot(xWindow(window), requestFrameExtentsAtom_, {});
     xcb_flush(connection_.get());
 }
 
-FrameMargins X11WindowManager::frameMargins(WindowHandle window) {
+FrameMargins X11WindowSystem::frameMargins(WindowHandle window) {
     if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return {};
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + framePatience;
@@ -109,7 +109,7 @@ FrameMargins X11WindowManager::frameMargins(WindowHandle window) {
     return {.left = side(0), .right = side(1), .top = side(2), .bottom = side(3)};
 }
 
-void X11WindowManager::setFrameShade(WindowHandle window, FrameShade shade) {
+void X11WindowSystem::setFrameShade(WindowHandle window, FrameShade shade) {
     if (!connection_.alive()) return;
     const std::string_view variant = shade == FrameShade::dark ? "dark" : "light";
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, xWindow(window), themeVariantAtom_,
@@ -117,13 +117,13 @@ void X11WindowManager::setFrameShade(WindowHandle window, FrameShade shade) {
     waitForServer();
 }
 
-void X11WindowManager::activate(WindowHandle window) {
+void X11WindowSystem::activate(WindowHandle window) {
     if (!connection_.alive()) return;
     sendToRoot(xWindow(window), activeWindowAtom_, {actsForTheUser, XCB_CURRENT_TIME});
     xcb_flush(connection_.get());
 }
 
-void X11WindowManager::watchCompositor() {
+void X11WindowSystem::watchCompositor() {
     if (!connection_.hasExtension(&xcb_xfixes_id)) return;
     selectionEvent_ =
         xcb_get_extension_data(connection_.get(), &xcb_xfixes_id)->first_event + XCB_XFIXES_SELECTION_NOTIFY;
@@ -136,7 +136,7 @@ void X11WindowManager::watchCompositor() {
     xcb_flush(connection_.get());
 }
 
-void X11WindowManager::readEvents() {
+void X11WindowSystem::readEvents() {
     while (const auto event = connection_.pollEvent()) {
         const auto type = event->response_type & 0x7f;
         if (type == selectionEvent_) {
@@ -153,26 +153,26 @@ void X11WindowManager::readEvents() {
     if (!connection_.alive()) notifier_->setEnabled(false);
 }
 
-void X11WindowManager::setWatched(xcb_window_t window, std::uint32_t events) {
+void X11WindowSystem::setWatched(xcb_window_t window, std::uint32_t events) {
     xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
     xcb_flush(connection_.get());
 }
 
-void X11WindowManager::updateCompositing() {
+void X11WindowSystem::updateCompositing() {
     const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
         connection_.get(), xcb_get_selection_owner(connection_.get(), compositorSelection_), nullptr));
     const bool compositing = reply && reply->owner != XCB_WINDOW_NONE;
     if (std::exchange(compositing_, compositing) != compositing) compositingChanged_.emit();
 }
 
-void X11WindowManager::keepOutOfTaskbar(xcb_window_t window) {
+void X11WindowSystem::keepOutOfTaskbar(xcb_window_t window) {
     // The toolkit adds its own states to these when it shows the window.
     const std::array states = {skipTaskbarAtom_, skipPagerAtom_};
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, stateAtom_, XCB_ATOM_ATOM, 32,
                         states.size(), states.data());
 }
 
-void X11WindowManager::waitForServer() {
+void X11WindowSystem::waitForServer() {
     // The server must have seen what was sent before the toolkit's connection goes on.
     const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
         xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
@@ -180,13 +180,12 @@ void X11WindowManager::waitForServer() {
     QTimer::singleShot(0, notifier_.get(), [this] { readEvents(); });
 }
 
-bool X11WindowManager::supports(xcb_atom_t feature) const {
+bool X11WindowSystem::supports(xcb_atom_t feature) const {
     const auto supported = connection_.cardinals(connection_.root(), supportedAtom_);
     return std::ranges::find(supported, feature) != supported.end();
 }
 
-void X11WindowManager::sendToRoot(xcb_window_t window, xcb_atom_t message,
-                                  std::array<std::uint32_t, 5> data) {
+void X11WindowSystem::sendToRoot(xcb_window_t window, xcb_atom_t message, std::array<std::uint32_t, 5> data) {
     xcb_client_message_event_t event{};
     event.response_type = XCB_CLIENT_MESSAGE;
     event.format = 32;
@@ -198,7 +197,7 @@ void X11WindowManager::sendToRoot(xcb_window_t window, xcb_atom_t message,
                    reinterpret_cast<const char*>(&event));
 }
 
-void X11WindowManager::setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value) {
+void X11WindowSystem::setCardinal(xcb_window_t window, xcb_atom_t property, std::uint32_t value) {
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, property, XCB_ATOM_CARDINAL, 32, 1,
                         &value);
 }

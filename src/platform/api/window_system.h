@@ -24,9 +24,9 @@ struct FrameMargins {
 enum class FrameShade { light, dark };
 
 /// What is asked of the desktop about windows beyond what the toolkit offers. Main thread only.
-class WindowManager {
+class WindowSystem {
 public:
-    virtual ~WindowManager() = default;
+    virtual ~WindowSystem() = default;
 
     /// Puts the window on every workspace and into no taskbar, and keeps the desktop from drawing a shadow or
     /// a frame of its own around it. To be called after the window exists and before each time it is shown.

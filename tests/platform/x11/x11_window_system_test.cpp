@@ -1,4 +1,4 @@
-#include "platform/x11/x11_window_manager.h"
+#include "platform/x11/x11_window_system.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 namespace tidewatch::platform {
 namespace {
 
-class X11WindowManagerTest : public testing::Test {
+class X11WindowSystemTest : public testing::Test {
 protected:
     /// Says on the root window that a window manager tells of frames beforehand.
     void announceFrames() const {
@@ -36,41 +36,43 @@ protected:
     PrivateXServer server_;
 };
 
-TEST_F(X11WindowManagerTest, AFrameThatWasToldIsKnown) {
+TEST_F(X11WindowSystemTest, AFrameThatWasToldIsKnown) {
     announceFrames();
-    X11WindowManager manager;
+    X11WindowSystem windowSystem;
     const auto window = server_.openWindow("Statistics");
-    manager.requestFrame(window);
+    windowSystem.requestFrame(window);
     tellFrame(window);
-    EXPECT_EQ(manager.frameMargins(window), (FrameMargins{.left = 1, .right = 2, .top = 20, .bottom = 4}));
+    EXPECT_EQ(windowSystem.frameMargins(window),
+              (FrameMargins{.left = 1, .right = 2, .top = 20, .bottom = 4}));
 }
 
-TEST_F(X11WindowManagerTest, AWindowManagerThatHasStoppedHoldsUpNobody) {
+TEST_F(X11WindowSystemTest, AWindowManagerThatHasStoppedHoldsUpNobody) {
     announceFrames();
-    X11WindowManager manager;
+    X11WindowSystem windowSystem;
     const auto window = server_.openWindow("Statistics");
-    manager.requestFrame(window);
+    windowSystem.requestFrame(window);
     // The quickest of several: the machine may be busy, the program must not wait.
     qint64 quickest = 1000;
     for (int i = 0; i < 5; ++i) {
         QElapsedTimer timer;
         timer.start();
-        EXPECT_EQ(manager.frameMargins(window), FrameMargins{});
+        EXPECT_EQ(windowSystem.frameMargins(window), FrameMargins{});
         quickest = std::min(quickest, timer.elapsed());
     }
     EXPECT_LT(quickest, 60);
 }
 
-TEST_F(X11WindowManagerTest, WhoWatchesAWindowIsLetGoWithIt) {
-    X11WindowManager manager;
+TEST_F(X11WindowSystemTest, WhoWatchesAWindowIsLetGoWithIt) {
+    X11WindowSystem windowSystem;
     std::vector<std::weak_ptr<int>> watchers;
     std::vector<Connection> connections;
     for (int i = 0; i < 20; ++i) {
         const auto window = server_.openWindow("Clock");
         auto held = std::make_shared<int>(i);
         watchers.push_back(held);
-        connections.push_back(manager.onCovered(window, [held](bool) {}));
-        manager.setFrameShade(window, FrameShade::dark);  // returns once the server has seen all before it
+        connections.push_back(windowSystem.onCovered(window, [held](bool) {}));
+        windowSystem.setFrameShade(window,
+                                   FrameShade::dark);  // returns once the server has seen all before it
         xcb_destroy_window(server_.client(), window);
     }
     server_.sync();

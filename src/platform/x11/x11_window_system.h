@@ -4,7 +4,7 @@
 #include <map>
 #include <memory>
 
-#include "platform/api/window_manager.h"
+#include "platform/api/window_system.h"
 #include "platform/x11/x11_connection.h"
 
 class QSocketNotifier;
@@ -12,10 +12,10 @@ class QSocketNotifier;
 namespace tidewatch::platform {
 
 /// What the X server and an EWMH window manager offer about windows beyond the toolkit.
-class X11WindowManager final : public WindowManager {
+class X11WindowSystem final : public WindowSystem {
 public:
-    X11WindowManager();
-    ~X11WindowManager() override;
+    X11WindowSystem();
+    ~X11WindowSystem() override;
 
     void prepareFloating(WindowHandle window) override;
     [[nodiscard]] bool isCompositing() const override { return compositing_; }

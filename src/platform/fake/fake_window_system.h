@@ -3,12 +3,12 @@
 #include <optional>
 #include <utility>
 
-#include "platform/api/window_manager.h"
+#include "platform/api/window_system.h"
 
 namespace tidewatch::platform {
 
 /// A desktop without a compositor, until a test starts one.
-class FakeWindowManager final : public WindowManager {
+class FakeWindowSystem final : public WindowSystem {
 public:
     void prepareFloating(WindowHandle) override { ++prepared_; }
     [[nodiscard]] bool isCompositing() const override { return compositing_; }
