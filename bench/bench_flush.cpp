@@ -58,7 +58,7 @@ struct FlushBench {
 
     [[nodiscard]] std::vector<std::string> contents() const {
         std::vector<std::string> result;
-        for (const auto& path : paths) result.push_back(world.files.readWhole(path).value());
+        for (const auto& path : paths) result.push_back(world.files.readFile(path).value());
         return result;
     }
 
@@ -119,9 +119,9 @@ int main() {
         });
     const auto working = costOfAMinute(bench, [&] { bench.bookAndFlush(); });
     const auto idle = costOfAMinute(bench, [&] { bench.flush(); });
-    constexpr double mostMilliseconds = 120;
+    constexpr double maxMilliseconds = 120;
     verdicts.amount("processor time of a minute's two flushes while working, ten years", working.milliseconds,
-                    mostMilliseconds, "ms", "what they may cost");
+                    maxMilliseconds, "ms", "what they may cost");
     verdicts.amount("written by them", working.megabytes, 100, "MB", "two of a record of some 40 MB");
     verdicts.amount("processor time of a minute's two flushes while idle, ten years", idle.milliseconds, 2,
                     "ms", "next to nothing");

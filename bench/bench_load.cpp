@@ -29,8 +29,8 @@ double megabytesOnDisk(const BenchWorld& world) {
 }
 
 // Ten years are to take 80 ms and 15 MB for 40 MB in files; more or less of it, in proportion.
-constexpr double mostMillisecondsAMegabyte = 80.0 / 40;
-constexpr double mostHeapAMegabyte = 15.0 / 40;
+constexpr double maxMillisecondsPerMegabyte = 80.0 / 40;
+constexpr double maxHeapPerMegabyte = 15.0 / 40;
 
 void measure(int years, Verdicts& verdicts) {
     RecordSize size;
@@ -45,14 +45,14 @@ void measure(int years, Verdicts& verdicts) {
             stores.reset();
             stores.emplace(world);
         },
-        mostMillisecondsAMegabyte * onDisk);
+        maxMillisecondsPerMegabyte * onDisk);
     if (stores->daily.allDays().size() != static_cast<std::size_t>(years * size.daysPerYear)) {
         giveUp("the record was not loaded");
     }
     stores.reset();
     const auto before = heapMegabytes();
     stores.emplace(world);
-    verdicts.amount("heap of " + what, heapMegabytes() - before, mostHeapAMegabyte * onDisk, "MB",
+    verdicts.amount("heap of " + what, heapMegabytes() - before, maxHeapPerMegabyte * onDisk, "MB",
                     "0.375 MB a MB");
 }
 

@@ -24,7 +24,7 @@ constexpr int daysThatCount = 400;
 // cheaper than a working day.
 void fillGaps(LargeRecord& record, const std::vector<AppSeconds>& fullDay) {
     for (int i = 0; i <= daysThatCount; ++i) {
-        const auto day = dayKeyOf(today - std::chrono::days(i));
+        const auto day = toDayKey(today - std::chrono::days(i));
         const std::array<std::string_view, 1> dayPath{day.text()};
         if (record.today.seconds(dayPath) > Seconds()) continue;
         for (const auto& [app, seconds] : fullDay) {
@@ -34,8 +34,8 @@ void fillGaps(LargeRecord& record, const std::vector<AppSeconds>& fullDay) {
     }
 }
 
-struct Rooms {
-    explicit Rooms(BenchWorld& world)
+struct Fixture {
+    explicit Fixture(BenchWorld& world)
         : settings(world.preferences),
           dayRule(world.clock, settings),
           daily(world.files, world.log, dayRule),
@@ -59,9 +59,9 @@ struct Rooms {
 
 std::vector<AppSeconds> everyApplication(const LargeRecord& record) {
     BenchWorld world(record);
-    const Rooms rooms(world);
-    const auto days = rooms.apps.allDayKeys();
-    auto applications = rooms.apps.aggregate(days);
+    const Fixture fixture(world);
+    const auto days = fixture.apps.allDayKeys();
+    auto applications = fixture.apps.aggregate(days);
     for (auto& application : applications) application.seconds = Seconds(600);
     return applications;
 }
@@ -73,16 +73,16 @@ int main() {
     const auto applications = everyApplication(record);
     fillGaps(record, applications);
     BenchWorld world(record);
-    Rooms rooms(world);
+    Fixture fixture(world);
     for (std::size_t i = 0; i < applications.size(); i += 2) {
-        rooms.categories.setCategory(Category::development, applications[i].app);
+        fixture.categories.setCategory(Category::development, applications[i].app);
     }
 
     Verdicts verdicts;
     verdicts.computation(
         "streak of 400 days, ten years",
         [&] {
-            if (rooms.rewards.currentStreak() != daysThatCount) giveUp("the streak is not the longest");
+            if (fixture.rewards.currentStreak() != daysThatCount) giveUp("the streak is not the longest");
         },
         10);
     return verdicts.exitCode();

@@ -5,7 +5,7 @@
 
 #include "bench/support/bench_world.h"
 #include "bench/support/ratio.h"
-#include "platform/fake/fake_background.h"
+#include "platform/fake/fake_job_queue_factory.h"
 
 namespace {
 
@@ -13,8 +13,8 @@ using namespace tidewatch;
 using namespace tidewatch::bench;
 using namespace std::chrono_literals;
 
-constexpr double mostMillisecondsATick = 0.2;
-constexpr double mostMillisecondsDuringAFlush = 5;
+constexpr double maxMillisecondsPerTick = 0.2;
+constexpr double maxMillisecondsDuringFlush = 5;
 
 void ordinaryTicks(Verdicts& verdicts, BenchWorld& world) {
     BenchCore core(world);
@@ -23,7 +23,7 @@ void ordinaryTicks(Verdicts& verdicts, BenchWorld& world) {
     const auto before = core.engine.todaySeconds();
     verdicts.computation(
         "five ticks without a flush, ten years", [&] { world.loop.runFor(ticks * 1s); },
-        ticks * mostMillisecondsATick);
+        ticks * maxMillisecondsPerTick);
     if ((core.engine.todaySeconds() - before).count() % ticks != 0 || core.engine.todaySeconds() == before) {
         giveUp("ticks were not booked");
     }
@@ -31,7 +31,7 @@ void ordinaryTicks(Verdicts& verdicts, BenchWorld& world) {
 
 void snapshots(Verdicts& verdicts, BenchWorld& world) {
     BenchStores stores(world);
-    platform::FakeBackground background(world.loop);
+    platform::FakeJobQueueFactory background(world.loop);
     const auto held = background.makeQueue("record");
     background.hold();
     verdicts.computation(
@@ -40,7 +40,7 @@ void snapshots(Verdicts& verdicts, BenchWorld& world) {
             stores.flushOn(*held);
             stores.bookSecond(world.clock);
         },
-        mostMillisecondsDuringAFlush);
+        maxMillisecondsDuringFlush);
 }
 
 void ticksDuringAFlush(Verdicts& verdicts, BenchWorld& world) {
@@ -56,7 +56,7 @@ void ticksDuringAFlush(Verdicts& verdicts, BenchWorld& world) {
         core.disk.finish();
     }
     verdicts.amount("a tick during a flush, the slower of two at their best, ten years", best.count(),
-                    mostMillisecondsDuringAFlush, "ms", "nobody sees it");
+                    maxMillisecondsDuringFlush, "ms", "nobody sees it");
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ public:
 private:
     void makeDay(const std::string& day) {
         for (int bucket = 0; bucket < size_.bucketsPerDay; ++bucket) {
-            const auto several = between(size_.fewestPerBucket, size_.mostPerBucket);
+            const auto several = between(size_.minPerBucket, size_.maxPerBucket);
             int left = bucketSeconds;
             for (int i = 0; i < several; ++i) {
                 const int share = i + 1 == several ? left : between(0, left / 2);
@@ -71,9 +71,9 @@ private:
 
     // The one place that knows which files a second of work reaches.
     void book(const std::string& dayText, int bucket, std::string_view app, int count) {
-        constexpr int firstBucket = 9 * bucketsAnHour;
-        const int hour = (firstBucket + bucket) / bucketsAnHour;
-        const int minute = (firstBucket + bucket) % bucketsAnHour * minutesABucket;
+        constexpr int firstBucket = 9 * bucketsPerHour;
+        const int hour = (firstBucket + bucket) / bucketsPerHour;
+        const int minute = (firstBucket + bucket) % bucketsPerHour * minutesPerBucket;
         const DayKey day(dayText);
         const auto hourText = hourKey(day, hour).text();
         const auto bucketText = bucketKey(day, {hour, minute}).text();
@@ -105,7 +105,7 @@ private:
 
 void writeFile(const std::string& path, const CounterRecord& record) {
     std::ofstream file(path, std::ios::binary);
-    file << writeCounters(record).view();
+    file << serializeCounters(record).view();
     if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "base/uuid.h"
 #include "core/counter_record.h"
 
@@ -15,8 +15,8 @@ struct RecordSize {
     int daysPerYear = 260;   ///< Mondays to Fridays
     int bucketsPerDay = 51;  ///< of ten minutes, from nine o'clock: eight and a half hours
     int applications = 40;
-    int fewestPerBucket = 3;  ///< applications in one bucket
-    int mostPerBucket = 6;
+    int minPerBucket = 3;  ///< applications in one bucket
+    int maxPerBucket = 6;
     int projects = 2;  ///< one after the other, half a day each
     std::uint32_t seed = 20260115;
 };

@@ -47,11 +47,10 @@ Verdicts::Verdicts() : run_(wantedRun()), countsPath_(variable("TIDEWATCH_COUNTS
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
 }
 
-void Verdicts::computation(std::string_view name, const std::function<void()>& work,
-                           double mostMilliseconds) {
+void Verdicts::computation(std::string_view name, const std::function<void()>& work, double maxMilliseconds) {
     if (run_ == Run::counted) {
-        judge(name, millionsOfInstructions(work), millionsAMillisecond * mostMilliseconds,
-              "million instructions", fmt::format("{} ms at 10 million each", mostMilliseconds));
+        judge(name, millionsOfInstructions(work), millionsAMillisecond * maxMilliseconds,
+              "million instructions", fmt::format("{} ms at 10 million each", maxMilliseconds));
         return;
     }
     Milliseconds best = timed(work);

@@ -32,7 +32,7 @@ public:
 
     /// Pure computation, for which a processor that does ten million instructions a millisecond (as one of
     /// 3 GHz does) takes at most so long. The first call of `work` warms up and does not count.
-    void computation(std::string_view name, const std::function<void()>& work, double mostMilliseconds);
+    void computation(std::string_view name, const std::function<void()>& work, double maxMilliseconds);
 
     /// Work that the machine has a part in, a disk above all: at its best it takes at most `ratio` times what
     /// `peer` takes at its best. `peerName` says what the peer does.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/app_info_resolver.h"
 #include "classification/category_store.h"
 #include "core/app_usage_store.h"

@@ -37,10 +37,10 @@ std::string_view rawValue(DashboardTab tab) {
     return tabNames[static_cast<std::size_t>(tab)];
 }
 
-DashboardModel::DashboardModel(const Sources& from)
-    : from_(from),
-      namingZone_(from.clock.timeZone()),
-      selectedDate_(from.clock.now()),
+DashboardModel::DashboardModel(const Sources& sources)
+    : sources_(sources),
+      namingZone_(sources.clock.timeZone()),
+      selectedDate_(sources.clock.now()),
       tierFilter_(allTiers().begin(), allTiers().end()) {}
 
 DashboardModel::~DashboardModel() = default;
@@ -60,9 +60,9 @@ DayKey DashboardModel::selectedDayKey() const {
 }
 
 bool DashboardModel::isSelectedToday() const {
-    const auto zone = from_.clock.timeZone();
+    const auto zone = sources_.clock.timeZone();
     const auto dayOf = [&](Instant instant) { return calendarDay(instant, zone->utcOffset(instant)); };
-    return dayOf(selectedDate_) == dayOf(from_.clock.now());
+    return dayOf(selectedDate_) == dayOf(sources_.clock.now());
 }
 
 void DashboardModel::previousDay() {
@@ -74,12 +74,12 @@ void DashboardModel::nextDay() {
 }
 
 void DashboardModel::today() {
-    assign(selectedDate_, from_.clock.now(), Field::selectedDate);
+    assign(selectedDate_, sources_.clock.now(), Field::selectedDate);
     reload();
 }
 
 void DashboardModel::moveByDays(int count) {
-    assign(selectedDate_, plusDays(selectedDate_, std::chrono::days(count), *from_.clock.timeZone()),
+    assign(selectedDate_, plusDays(selectedDate_, std::chrono::days(count), *sources_.clock.timeZone()),
            Field::selectedDate);
     reload();
 }
@@ -121,13 +121,13 @@ Seconds DashboardModel::seconds(Tier tier) const {
 void DashboardModel::reload() {
     const auto day = selectedDayKey();
     assign(allDayApps_, readApps(day), Field::allDayApps);
-    assign(hourSummaries_, dayHourSummaries(from_.hours, from_.categories, from_.keys, day),
+    assign(hourSummaries_, dayHourSummaries(sources_.hours, sources_.categories, sources_.keys, day),
            Field::hourSummaries);
     assign(hourGroups_,
-           tidewatch::hourGroups(from_.minutes, from_.categories, from_.appInfo, from_.keys, day),
+           tidewatch::hourGroups(sources_.minutes, sources_.categories, sources_.appInfo, sources_.keys, day),
            Field::hourGroups);
     assign(projectRows_, readProjectRows(day), Field::projectRows);
-    assign(score_, from_.scorer.compute({&day, 1}), Field::score);
+    assign(score_, sources_.scorer.compute({&day, 1}), Field::score);
     assign(totalActiveToday_, score_.totalActive(), Field::totalActiveToday);
     assign(prevScore_, scoreOfDayBefore(1), Field::prevScore);
     assign(avg7Score_, meanOfSevenDaysBefore(), Field::avg7Score);
@@ -135,7 +135,8 @@ void DashboardModel::reload() {
 
 void DashboardModel::startLiveRefresh() {
     if (liveTimer_) return;
-    liveTimer_ = from_.mainLoop.repeat(refreshInterval, platform::TimerMode::common, [this] { refresh(); });
+    liveTimer_ =
+        sources_.mainLoop.repeat(refreshInterval, platform::TimerMode::common, [this] { refresh(); });
 }
 
 void DashboardModel::refresh() {
@@ -149,31 +150,31 @@ void DashboardModel::stopLiveRefresh() {
 }
 
 DayKey DashboardModel::keyOf(Instant instant) const {
-    return dayKeyOf(calendarDay(instant, namingZone_->utcOffset(instant)));
+    return toDayKey(calendarDay(instant, namingZone_->utcOffset(instant)));
 }
 
 AppEntry DashboardModel::entry(const AppSeconds& app) const {
-    const auto& info = from_.appInfo.info(app.app);
-    const auto category = from_.categories.category(app.app);
-    return {app.app, app.seconds, info.name, info.icon, category, from_.categories.tier(category)};
+    const auto& info = sources_.appInfo.info(app.app);
+    const auto category = sources_.categories.category(app.app);
+    return {app.app, app.seconds, info.name, info.icon, category, sources_.categories.tier(category)};
 }
 
 std::vector<AppEntry> DashboardModel::readApps(const DayKey& day) const {
     std::vector<AppEntry> apps;
-    for (const auto& app : from_.apps.aggregate({&day, 1})) apps.push_back(entry(app));
+    for (const auto& app : sources_.apps.aggregate({&day, 1})) apps.push_back(entry(app));
     return apps;
 }
 
 std::vector<ProjectRow> DashboardModel::readProjectRows(const DayKey& day) const {
     std::vector<ProjectRow> rows;
     Seconds tagged;
-    for (const auto& project : from_.projects.activeProjects()) {
+    for (const auto& project : sources_.projects.activeProjects()) {
         auto row = readProjectRow(day, project);
         if (row.seconds < Seconds(1)) continue;
         tagged += row.seconds;
         rows.push_back(std::move(row));
     }
-    const auto rest = from_.days.seconds(day) - tagged;
+    const auto rest = sources_.days.seconds(day) - tagged;
     if (rest > Seconds()) rows.push_back({std::string(ProjectRow::untaggedId), std::nullopt, rest, {}});
     std::ranges::stable_sort(rows, std::ranges::greater(), &ProjectRow::seconds);
     return rows;
@@ -181,7 +182,7 @@ std::vector<ProjectRow> DashboardModel::readProjectRows(const DayKey& day) const
 
 ProjectRow DashboardModel::readProjectRow(const DayKey& day, const Project& project) const {
     ProjectRow row{project.id.text(), project, Seconds(), {}};
-    for (const auto& app : from_.projectTime.aggregate({&day, 1}, project.id)) {
+    for (const auto& app : sources_.projectTime.aggregate({&day, 1}, project.id)) {
         row.seconds += app.seconds;
         if (row.topApps.size() < maxTopAppsOfProject) row.topApps.push_back(entry(app));
     }
@@ -189,8 +190,9 @@ ProjectRow DashboardModel::readProjectRow(const DayKey& day, const Project& proj
 }
 
 ProductivityScore DashboardModel::scoreOfDayBefore(int daysBefore) const {
-    const auto day = keyOf(plusDays(selectedDate_, std::chrono::days(-daysBefore), *from_.clock.timeZone()));
-    return from_.scorer.compute({&day, 1});
+    const auto day =
+        keyOf(plusDays(selectedDate_, std::chrono::days(-daysBefore), *sources_.clock.timeZone()));
+    return sources_.scorer.compute({&day, 1});
 }
 
 double DashboardModel::meanOfSevenDaysBefore() const {
@@ -198,7 +200,7 @@ double DashboardModel::meanOfSevenDaysBefore() const {
     int count = 0;
     for (int daysBefore = 1; daysBefore <= daysOfTheMean; ++daysBefore) {
         const auto score = scoreOfDayBefore(daysBefore);
-        if (!score.isTelling()) continue;
+        if (!score.isSignificant()) continue;
         sum += score.score();
         ++count;
     }

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "base/instant.h"
-#include "base/named_string.h"
 #include "base/seconds.h"
 #include "base/signal.h"
+#include "base/tagged_string.h"
 #include "classification/app_info_resolver.h"
 #include "classification/category_store.h"
 #include "classification/hour_group.h"
@@ -78,7 +78,7 @@ public:
     };
 
     /// On the day of now, with every tier listed and nothing else: it is empty until reload().
-    explicit DashboardModel(const Sources& from);
+    explicit DashboardModel(const Sources& sources);
     ~DashboardModel();
     DashboardModel(const DashboardModel&) = delete;
     DashboardModel& operator=(const DashboardModel&) = delete;
@@ -165,7 +165,7 @@ private:
     [[nodiscard]] ProductivityScore scoreOfDayBefore(int daysBefore) const;
     [[nodiscard]] double meanOfSevenDaysBefore() const;
 
-    Sources from_;
+    Sources sources_;
     std::shared_ptr<const platform::TimeZone> namingZone_;
     DashboardTab tab_ = DashboardTab::overview;
     Instant selectedDate_;

@@ -32,7 +32,7 @@ GoalProgress productivityRow(double score, double target) {
 
 std::vector<DayKey> keysFromThrough(sys_days first, sys_days last) {
     std::vector<DayKey> keys;
-    for (auto day = first; day <= last; day += days(1)) keys.push_back(dayKeyOf(day));
+    for (auto day = first; day <= last; day += days(1)) keys.push_back(toDayKey(day));
     return keys;
 }
 

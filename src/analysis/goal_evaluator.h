@@ -7,8 +7,8 @@
 
 #include "analysis/goal_store.h"
 #include "base/instant.h"
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "classification/productivity_score.h"
 #include "core/daily_store.h"
 #include "platform/api/clock.h"

@@ -36,7 +36,7 @@ constexpr std::array goalFields{
 };
 
 // Beyond it nothing can be meant, and texts and sums of it need not be thought of.
-constexpr double largestGoal = 1e6;
+constexpr double maxGoal = 1e6;
 
 // Each tells whether the value is of the field's type and range.
 struct Read {
@@ -45,7 +45,7 @@ struct Read {
 
     [[nodiscard]] bool operator()(double GoalSettings::*field) const {
         return value.get_double().get(settings.*field) == simdjson::SUCCESS &&
-               std::abs(settings.*field) <= largestGoal;
+               std::abs(settings.*field) <= maxGoal;
     }
     [[nodiscard]] bool operator()(bool GoalSettings::*field) const {
         return value.get_bool().get(settings.*field) == simdjson::SUCCESS;
@@ -71,7 +71,7 @@ struct CanBeWritten {
 
 }  // namespace
 
-std::optional<GoalSettings> readGoalSettings(std::string text) {
+std::optional<GoalSettings> parseGoalSettings(std::string text) {
     const auto document = JsonDocument::parse(std::move(text));
     json::object object;
     if (!document || document->root().get_object().get(object) != simdjson::SUCCESS) return std::nullopt;
@@ -87,7 +87,7 @@ std::optional<GoalSettings> readGoalSettings(std::string text) {
     return settings;
 }
 
-std::optional<std::string> writeGoalSettings(const GoalSettings& settings) {
+std::optional<std::string> serializeGoalSettings(const GoalSettings& settings) {
     const auto canBeWritten = [&](const GoalField& row) {
         return std::visit(CanBeWritten{settings}, row.field);
     };

@@ -5,7 +5,7 @@
 namespace tidewatch {
 
 GoalStore::GoalStore(platform::FileSystem& files, platform::Log& log) : file_(files, log, "goals.json") {
-    settings_ = file_.read(readGoalSettings).value_or(GoalSettings());
+    settings_ = file_.read(parseGoalSettings).value_or(GoalSettings());
 }
 
 void GoalStore::setSettings(const GoalSettings& settings) {
@@ -15,7 +15,7 @@ void GoalStore::setSettings(const GoalSettings& settings) {
 }
 
 void GoalStore::save() {
-    if (const auto text = writeGoalSettings(settings_)) file_.write(*text);
+    if (const auto text = serializeGoalSettings(settings_)) file_.write(*text);
 }
 
 }  // namespace tidewatch

@@ -11,7 +11,7 @@ namespace tidewatch {
 /// The goals, how near they are, and the stars for them, built together. Main thread only.
 struct GoalTracking final {
     /// All of it must outlive the bundle.
-    struct Needs {
+    struct Dependencies {
         const platform::Clock& clock;
         platform::FileSystem& files;
         platform::Log& log;
@@ -19,10 +19,10 @@ struct GoalTracking final {
         const ProductivityScorer& scorer;
     };
 
-    explicit GoalTracking(const Needs& needs)
-        : store(needs.files, needs.log),
-          evaluator(needs.clock, store, needs.days, needs.scorer),
-          rewards(needs.clock, store, needs.days, needs.scorer, evaluator) {}
+    explicit GoalTracking(const Dependencies& dependencies)
+        : store(dependencies.files, dependencies.log),
+          evaluator(dependencies.clock, store, dependencies.days, dependencies.scorer),
+          rewards(dependencies.clock, store, dependencies.days, dependencies.scorer, evaluator) {}
 
     GoalStore store;
     GoalEvaluator evaluator;

@@ -1,6 +1,6 @@
 #include "analysis/insights.h"
 
-#include "classification/closed_list.h"
+#include "classification/enum_table.h"
 
 namespace tidewatch {
 namespace {

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "base/instant.h"
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "core/clock_keys.h"
 
 namespace tidewatch {
@@ -43,7 +43,7 @@ struct Insights {
     std::optional<int> peakHour;  ///< 0 to 23, the hour of the day with most seconds
     Seconds peakHourSeconds;
     std::optional<double> avgPeakHour;  ///< mean of the days' own busiest hours
-    std::array<Seconds, hoursADay> hourHistogram{};
+    std::array<Seconds, hoursPerDay> hourHistogram{};
     double bestScore = 0;  ///< a fraction from 0 to 1
     std::optional<DayKey> bestScoreDayKey;
     std::optional<DayKey> firstDayKey;  ///< the earliest day on record, whatever the range

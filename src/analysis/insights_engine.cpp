@@ -1,6 +1,6 @@
 #include "analysis/insights_engine.h"
 
-#include "analysis/hour_review.h"
+#include "analysis/hour_insights.h"
 #include "analysis/longest_session.h"
 #include "analysis/spanish_dates.h"
 #include "base/calendar_day.h"
@@ -10,22 +10,22 @@
 namespace tidewatch {
 namespace {
 
-constexpr Seconds leastActive(60);
+constexpr Seconds minActive(60);
 
 // Days from the first to the last, both included; 0 if one of them is no date.
 int daysFromThrough(const DayKey& first, const DayKey& last) {
-    const auto firstDay = dayOfKey(first.text());
-    const auto lastDay = dayOfKey(last.text());
+    const auto firstDay = parseDayKey(first.text());
+    const auto lastDay = parseDayKey(last.text());
     return firstDay && lastDay ? static_cast<int>((*lastDay - *firstDay).count()) + 1 : 0;
 }
 
-void reviewDays(const std::vector<DaySeconds>& days, std::string_view cutoffKey, Insights& insights) {
+void addDayInsights(const std::vector<DaySeconds>& days, std::string_view cutoffKey, Insights& insights) {
     const DayKey* firstOfRange = nullptr;
     for (const auto& [day, seconds] : days) {
         if (day.text() < cutoffKey) continue;
         if (!firstOfRange) firstOfRange = &day;
         insights.totalSeconds += seconds;
-        if (seconds >= leastActive) ++insights.activeDays;
+        if (seconds >= minActive) ++insights.activeDays;
         if (seconds > insights.bestDaySeconds) {
             insights.bestDaySeconds = seconds;
             insights.bestDayKey = day;
@@ -53,8 +53,8 @@ Insights InsightsEngine::compute(InsightsRange range, Instant now) const {
     const auto cutoff = cutoffKey(range, now);
     Insights insights;
     insights.range = range;
-    reviewDays(days_.allDays(), cutoff, insights);
-    reviewHours(hours_.snapshot(), cutoff, categories_, insights);
+    addDayInsights(days_.allDays(), cutoff, insights);
+    addHourInsights(hours_.snapshot(), cutoff, categories_, insights);
     insights.longest = longestSession(minutes_.snapshot(), cutoff, *namingZone_);
     return insights;
 }
@@ -63,11 +63,11 @@ std::string InsightsEngine::cutoffKey(InsightsRange range, Instant now) const {
     const auto count = days(range);
     if (!count) return {};
     const auto first = plusDays(now, std::chrono::days(1 - *count), *clock_.timeZone());
-    return dayKeyOf(calendarDay(first, namingZone_->utcOffset(first))).text();
+    return toDayKey(calendarDay(first, namingZone_->utcOffset(first))).text();
 }
 
 std::string InsightsEngine::shortDate(const DayKey& day) const {
-    const auto date = dayOfKey(day.text());
+    const auto date = parseDayKey(day.text());
     return date ? spanish::weekdayAndDay(*date) : day.text();
 }
 
@@ -81,7 +81,7 @@ std::string InsightsEngine::clockTime(Instant instant) const {
 }
 
 std::string InsightsEngine::hourLabel(int hour) {
-    return spanish::hourOfDay((hour % hoursADay + hoursADay) % hoursADay);
+    return spanish::hourOfDay((hour % hoursPerDay + hoursPerDay) % hoursPerDay);
 }
 
 }  // namespace tidewatch

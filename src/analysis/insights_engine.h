@@ -5,7 +5,7 @@
 
 #include "analysis/insights.h"
 #include "base/instant.h"
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/category_store.h"
 #include "core/daily_store.h"
 #include "core/hourly_store.h"

@@ -12,7 +12,7 @@ namespace tidewatch {
 namespace {
 
 constexpr std::chrono::seconds bucketLength(bucketSize.count());
-constexpr Seconds leastBusy(bucketSize.count() / 2);
+constexpr Seconds minBusy(bucketSize.count() / 2);
 
 struct BusyBucket {
     Instant start;
@@ -35,7 +35,7 @@ public:
 
     std::optional<Instant> instantOf(std::string_view key) {
         if (key.size() != 16 || key[10] != ' ' || key[13] != ':') return std::nullopt;
-        const auto hour = twoDigits(key.substr(11, 2), hoursADay);
+        const auto hour = twoDigits(key.substr(11, 2), hoursPerDay);
         const auto minute = twoDigits(key.substr(14, 2), 60);
         if (const auto dayText = key.substr(0, 10); dayText != dayText_) turnTo(dayText);
         if (!day_ || !hour || !minute) return std::nullopt;
@@ -48,7 +48,7 @@ private:
         dayText_ = dayText;
         day_.reset();
         midnight_.reset();
-        const auto day = dayOfKey(dayText);
+        const auto day = parseDayKey(dayText);
         if (!day) return;
         day_ = std::chrono::local_days(day->time_since_epoch());
         if (const auto offset = offsets_.allDay(*day_)) midnight_ = *day - *offset;
@@ -76,7 +76,7 @@ std::vector<BusyBucket> busyBuckets(const UsageSnapshot& minutes, std::string_vi
         if (isBefore(key, cutoffKey)) continue;
         Seconds total;
         minutes.forEachApp(i, [&](std::uint32_t, Seconds seconds) { total += seconds; });
-        if (total < leastBusy) continue;
+        if (total < minBusy) continue;
         if (const auto start = reader.instantOf(key)) buckets.push_back({*start, total});
     }
     // Keys ascend, and so do their instants but for the nights in which the clock changes.

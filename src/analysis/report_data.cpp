@@ -27,30 +27,30 @@ void reviewDays(const DailyStore& days, std::span<const DayKey> keys, ReportData
     if (data.activeDays > 0) data.avgDailySeconds = Seconds(data.totalSeconds.count() / data.activeDays);
 }
 
-std::vector<ReportApp> topApps(const ReportSources& from, std::span<const DayKey> keys) {
+std::vector<ReportApp> topApps(const ReportSources& sources, std::span<const DayKey> keys) {
     std::vector<ReportApp> apps;
-    for (const auto& [app, seconds] : from.apps.aggregate(keys)) {
+    for (const auto& [app, seconds] : sources.apps.aggregate(keys)) {
         if (apps.size() == maxTopAppsOfMonth) break;
-        apps.push_back({from.appInfo.info(app).name, seconds});
+        apps.push_back({sources.appInfo.info(app).name, seconds});
     }
     return apps;
 }
 
 }  // namespace
 
-ReportData buildReportData(const ReportSources& from) {
-    const auto now = from.clock.now();
-    const auto time = civilTime(now, from.clock.timeZone()->utcOffset(now));
-    const auto keys = from.goalEvaluator.dayKeysInSameMonthAs(now);
+ReportData buildReportData(const ReportSources& sources) {
+    const auto now = sources.clock.now();
+    const auto time = civilTime(now, sources.clock.timeZone()->utcOffset(now));
+    const auto keys = sources.goalEvaluator.dayKeysInSameMonthAs(now);
     ReportData data;
     data.periodTitle = "MES · " + spanish::monthTitle(time.date.year() / time.date.month());
-    data.totalSeconds = from.goalEvaluator.sumSeconds(keys);
-    reviewDays(from.days, keys, data);
-    data.scorePct = from.scorer.compute(keys).score();
-    data.topApps = topApps(from, keys);
-    data.goals = from.goalEvaluator.evaluate(now);
-    data.starsMonth = from.rewards.starsThisMonth();
-    data.streak = from.rewards.currentStreak();
+    data.totalSeconds = sources.goalEvaluator.sumSeconds(keys);
+    reviewDays(sources.days, keys, data);
+    data.scorePct = sources.scorer.compute(keys).score();
+    data.topApps = topApps(sources, keys);
+    data.goals = sources.goalEvaluator.evaluate(now);
+    data.starsMonth = sources.rewards.starsThisMonth();
+    data.streak = sources.rewards.currentStreak();
     data.generated = spanish::dateAndTime(time);
     return data;
 }

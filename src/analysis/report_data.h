@@ -49,6 +49,6 @@ struct ReportSources {
 };
 
 /// The report of the month of now. Main thread only.
-[[nodiscard]] ReportData buildReportData(const ReportSources& from);
+[[nodiscard]] ReportData buildReportData(const ReportSources& sources);
 
 }  // namespace tidewatch

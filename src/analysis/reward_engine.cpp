@@ -10,14 +10,14 @@ namespace {
 
 constexpr double starsForTime = 3.0;
 constexpr double starsForProductivity = 2.0;
-constexpr double mostStars = 5.0;
+constexpr double maxStars = 5.0;
 constexpr int starsOfAGoodDay = 3;
-constexpr int longestStreak = 400;
+constexpr int maxStreak = 400;
 constexpr Seconds minClassifiedForStar(30);
 
 // Halves away from zero. Below 0 for time below 0, which only an edited file can hold.
-double starsFor(double reached, double target, double most) {
-    return target > 0 ? std::round(std::min(1.0, reached / target) * most) : 0.0;
+double starsFor(double reached, double target, double max) {
+    return target > 0 ? std::round(std::min(1.0, reached / target) * max) : 0.0;
 }
 
 }  // namespace
@@ -34,7 +34,7 @@ int RewardEngine::stars(const DayKey& day) const {
     if (score.classified() >= minClassifiedForStar) {
         stars += starsFor(score.score(), goals.dailyProductivity, starsForProductivity);
     }
-    return static_cast<int>(std::clamp(stars, 0.0, mostStars));
+    return static_cast<int>(std::clamp(stars, 0.0, maxStars));
 }
 
 int RewardEngine::starsToday() const {
@@ -42,13 +42,13 @@ int RewardEngine::starsToday() const {
 }
 
 int RewardEngine::currentStreak() const {
-    const auto isGood = [this](std::chrono::sys_days day) { return stars(dayKeyOf(day)) >= starsOfAGoodDay; };
+    const auto isGood = [this](std::chrono::sys_days day) { return stars(toDayKey(day)) >= starsOfAGoodDay; };
     const auto now = clock_.now();
     auto day = calendarDay(now, clock_.timeZone()->utcOffset(now));
     // Today does not break a streak yet.
     if (!isGood(day)) day -= std::chrono::days(1);
     int streak = 0;
-    while (streak < longestStreak && isGood(day)) {
+    while (streak < maxStreak && isGood(day)) {
         ++streak;
         day -= std::chrono::days(1);
     }

@@ -2,7 +2,7 @@
 
 #include "analysis/goal_evaluator.h"
 #include "analysis/goal_store.h"
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/productivity_score.h"
 #include "core/daily_store.h"
 #include "platform/api/clock.h"

@@ -25,7 +25,7 @@ Program::Program(const platform::Platform& platform, Services& services, const S
       delegate_({
           .mainLoop = platform.mainLoop,
           .screens = platform.screens,
-          .olderNotifications = platform.notifications,
+          .legacyNotifications = platform.notifications,
           .settings = services.counting.settings,
           .broadcaster = services.broadcaster,
           .engine = services.engine,

@@ -1,6 +1,6 @@
 #include "app/services.h"
 
-#include "platform/api/background.h"
+#include "platform/api/job_queue_factory.h"
 
 namespace tidewatch {
 
@@ -43,7 +43,7 @@ Services::Services(const platform::Platform& platform)
           .days = counting.days,
           .goals = goals.store,
       }),
-      disk(platform.background.makeQueue("record")),
+      disk(platform.queues.makeQueue("record")),
       engine(platform.clock, platform.mainLoop, counting.settings, counting.idleMonitor, counting.keys,
              counting.stores(), *disk, {&wellbeing.gameGate, &wellbeing.breakReminder, &projects.booking}),
       theme(themes, counting.settings, broadcaster) {}

@@ -23,13 +23,13 @@ std::chrono::sys_days calendarDay(Instant instant, std::chrono::seconds utcOffse
     return std::chrono::floor<std::chrono::days>(instant + utcOffset);
 }
 
-DayKey dayKeyOf(std::chrono::sys_days day) {
+DayKey toDayKey(std::chrono::sys_days day) {
     const std::chrono::year_month_day date(day);
     return DayKey(fmt::format("{:04}-{:02}-{:02}", static_cast<int>(date.year()),
                               static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day())));
 }
 
-std::optional<std::chrono::sys_days> dayOfKey(std::string_view text) {
+std::optional<std::chrono::sys_days> parseDayKey(std::string_view text) {
     if (text.size() != 10 || text[4] != '-' || text[7] != '-') return std::nullopt;
     const auto year = text.substr(0, 4);
     const auto month = text.substr(5, 2);

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "base/instant.h"
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 
 namespace tidewatch {
 
@@ -14,10 +14,10 @@ namespace tidewatch {
 [[nodiscard]] std::chrono::sys_days calendarDay(Instant instant, std::chrono::seconds utcOffset);
 
 /// The key of the logical day that begins on `day`.
-[[nodiscard]] DayKey dayKeyOf(std::chrono::sys_days day);
+[[nodiscard]] DayKey toDayKey(std::chrono::sys_days day);
 
 /// The day that a key names; nothing if `text` is not four, two and two digits with hyphens between them, or
 /// no day of the calendar.
-[[nodiscard]] std::optional<std::chrono::sys_days> dayOfKey(std::string_view text);
+[[nodiscard]] std::optional<std::chrono::sys_days> parseDayKey(std::string_view text);
 
 }  // namespace tidewatch

@@ -5,7 +5,7 @@
 namespace tidewatch {
 namespace {
 
-constexpr std::size_t mostCodePoints = 32;
+constexpr std::size_t maxCodePoints = 32;
 
 /// A code point at the beginning of a text; one of -1 stands for a byte that is none.
 struct CodePoint {
@@ -27,7 +27,7 @@ std::size_t sizeOfFirstCharacter(std::string_view text) {
     auto last = firstCodePoint(text);
     std::size_t size = last.size;
     utf8proc_int32_t state = 0;
-    for (std::size_t points = 1; size < text.size() && last.value >= 0 && points < mostCodePoints; ++points) {
+    for (std::size_t points = 1; size < text.size() && last.value >= 0 && points < maxCodePoints; ++points) {
         const auto next = firstCodePoint(text.substr(size));
         if (next.value < 0 || utf8proc_grapheme_break_stateful(last.value, next.value, &state)) break;
         size += next.size;

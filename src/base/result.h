@@ -32,10 +32,10 @@ private:
     std::variant<T, E> state_;
 };
 
-/// The outcome of an operation that gives nothing back when it succeeds.
-using Outcome = Result<std::monostate>;
+/// The status of an operation that gives nothing back when it succeeds.
+using Status = Result<std::monostate>;
 
-[[nodiscard]] inline Outcome success() {
+[[nodiscard]] inline Status success() {
     return std::monostate{};
 }
 

@@ -5,7 +5,7 @@
 
 namespace tidewatch {
 
-void Seconds::endOverflown() {
+void Seconds::abortOnOverflow() {
     std::fputs("Tidewatch: a counter of seconds overflowed\n", stderr);
     std::abort();
 }

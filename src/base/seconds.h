@@ -15,11 +15,11 @@ public:
     [[nodiscard]] constexpr std::int64_t count() const noexcept { return count_; }
 
     Seconds& operator+=(Seconds other) {
-        if (__builtin_add_overflow(count_, other.count_, &count_)) endOverflown();
+        if (__builtin_add_overflow(count_, other.count_, &count_)) abortOnOverflow();
         return *this;
     }
     Seconds& operator-=(Seconds other) {
-        if (__builtin_sub_overflow(count_, other.count_, &count_)) endOverflown();
+        if (__builtin_sub_overflow(count_, other.count_, &count_)) abortOnOverflow();
         return *this;
     }
     [[nodiscard]] friend Seconds operator+(Seconds left, Seconds right) { return left += right; }
@@ -28,7 +28,7 @@ public:
     constexpr auto operator<=>(const Seconds&) const = default;
 
 private:
-    [[noreturn]] static void endOverflown();
+    [[noreturn]] static void abortOnOverflow();
 
     std::int64_t count_ = 0;
 };

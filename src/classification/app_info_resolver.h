@@ -4,7 +4,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "platform/api/applications.h"
 
 namespace tidewatch {

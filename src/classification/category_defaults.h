@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/category.h"
 
 namespace tidewatch {

@@ -54,7 +54,7 @@ bool readTiers(json::array array, std::map<Category, Tier>& tiers) {
 
 }  // namespace
 
-std::string writeCategoryOverrides(const CategoryOverrides& overrides) {
+std::string serializeCategoryOverrides(const CategoryOverrides& overrides) {
     JsonWriter writer;
     writer.beginObject();
     writer.key(appsKey).beginObject();
@@ -70,7 +70,7 @@ std::string writeCategoryOverrides(const CategoryOverrides& overrides) {
     return writer.take();
 }
 
-std::optional<CategoryOverrides> readCategoryOverrides(std::string text) {
+std::optional<CategoryOverrides> parseCategoryOverrides(std::string text) {
     const auto document = JsonDocument::parse(std::move(text));
     if (!document) return std::nullopt;
     json::object apps;

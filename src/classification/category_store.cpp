@@ -10,7 +10,7 @@ CategoryStore::CategoryStore(platform::FileSystem& files, platform::Log& log,
                              platform::Applications& applications)
     : registered_(files, log, applications),
       file_(files, log, "categories.json", "Tidewatch: failed to write categories.json: ") {
-    if (auto overrides = file_.read(readCategoryOverrides)) overrides_ = std::move(*overrides);
+    if (auto overrides = file_.read(parseCategoryOverrides)) overrides_ = std::move(*overrides);
 }
 
 Category CategoryStore::category(const AppId& app) const {
@@ -47,7 +47,7 @@ void CategoryStore::clearTierOverride(Category category) {
 }
 
 void CategoryStore::flush() {
-    file_.write(writeCategoryOverrides(overrides_));
+    file_.write(serializeCategoryOverrides(overrides_));
 }
 
 }  // namespace tidewatch

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/category.h"
 #include "classification/category_overrides.h"
 #include "classification/registered_category.h"

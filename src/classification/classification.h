@@ -10,17 +10,17 @@ namespace tidewatch {
 /// What the counted seconds count as, built together. Main thread only.
 struct Classification final {
     /// All of it must outlive the bundle.
-    struct Needs {
+    struct Dependencies {
         platform::FileSystem& files;
         platform::Log& log;
         platform::Applications& applications;
         const AppUsageStore& apps;
     };
 
-    explicit Classification(const Needs& needs)
-        : categories(needs.files, needs.log, needs.applications),
-          appInfo(needs.applications),
-          scorer(needs.apps, categories) {}
+    explicit Classification(const Dependencies& dependencies)
+        : categories(dependencies.files, dependencies.log, dependencies.applications),
+          appInfo(dependencies.applications),
+          scorer(dependencies.apps, categories) {}
 
     CategoryStore categories;
     AppInfoResolver appInfo;

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "core/record_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"

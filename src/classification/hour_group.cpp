@@ -11,8 +11,8 @@
 namespace tidewatch {
 namespace {
 
-constexpr std::size_t mostActivities = 6;
-constexpr std::size_t mostCategories = 5;
+constexpr std::size_t maxActivities = 6;
+constexpr std::size_t maxCategories = 5;
 
 using SecondsByApp = std::map<AppId, Seconds>;
 
@@ -34,7 +34,7 @@ public:
         group.day = day;
         group.hour = hour;
         SecondsByApp byApp;
-        for (int minute = 0; minute < 60; minute += minutesABucket) {
+        for (int minute = 0; minute < 60; minute += minutesPerBucket) {
             group.buckets.push_back(readBucket(day, {hour, minute}, byApp));
         }
         for (const auto& bucket : group.buckets) {
@@ -70,7 +70,7 @@ private:
     std::vector<TopActivity> topActivities(const SecondsByApp& byApp) const {
         std::vector<TopActivity> activities;
         for (const auto& [app, seconds] : byApp) activities.push_back({app, "", {}, seconds, {}});
-        keepTop(activities, mostActivities);
+        keepTop(activities, maxActivities);
         for (auto& activity : activities) {
             const auto& info = apps_.info(activity.app);
             activity.name = info.name;
@@ -87,7 +87,7 @@ private:
         for (const auto& [category, seconds] : byCategory) {
             top.push_back({category, seconds, categories_.tier(category)});
         }
-        keepTop(top, mostCategories);
+        keepTop(top, maxCategories);
         return top;
     }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "classification/app_info_resolver.h"
 #include "classification/category.h"
 #include "classification/category_store.h"

@@ -15,7 +15,7 @@ bool HourSummary::isSparse() const {
 std::vector<HourSummary> dayHourSummaries(const HourlyStore& hours, const CategoryStore& categories,
                                           const ClockKeys& keys, const DayKey& day) {
     std::vector<HourSummary> summaries;
-    summaries.reserve(hoursADay);
+    summaries.reserve(hoursPerDay);
     for (const int hour : keys.hoursOfDay()) {
         const auto key = hourKey(day, hour);
         ProductivityScore byTier;

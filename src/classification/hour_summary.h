@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "classification/category_store.h"
 #include "core/clock_keys.h"
 #include "core/hourly_store.h"

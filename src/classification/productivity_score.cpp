@@ -7,8 +7,8 @@
 namespace tidewatch {
 namespace {
 
-constexpr Seconds leastActive(60);
-constexpr Seconds leastClassified(30);
+constexpr Seconds minActive(60);
+constexpr Seconds minClassified(30);
 
 }  // namespace
 
@@ -37,12 +37,12 @@ double ProductivityScore::score() const {
     return productiveShare(productiveSeconds, distractingSeconds);
 }
 
-bool ProductivityScore::isTelling() const {
-    return totalActive() >= leastActive && classified() >= leastClassified;
+bool ProductivityScore::isSignificant() const {
+    return totalActive() >= minActive && classified() >= minClassified;
 }
 
 std::string ProductivityScore::displayString() const {
-    return isTelling() ? fmt::format("{}%", std::llround(score() * 100)) : "—";
+    return isSignificant() ? fmt::format("{}%", std::llround(score() * 100)) : "—";
 }
 
 double productiveShare(Seconds productive, Seconds distracting) {

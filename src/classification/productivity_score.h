@@ -3,8 +3,8 @@
 #include <span>
 #include <string>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "classification/category_store.h"
 #include "classification/tier.h"
 #include "core/app_usage_store.h"
@@ -33,7 +33,7 @@ struct ProductivityScore {
 
     /// Whether there is enough time, 60 seconds in all and 30 classified ones, for the figure to mean
     /// something.
-    [[nodiscard]] bool isTelling() const;
+    [[nodiscard]] bool isSignificant() const;
 
     /// The figure in whole per cent, halves rounded up: "70%"; "—" if it is not telling.
     [[nodiscard]] std::string displayString() const;

@@ -6,7 +6,7 @@
 #include <string>
 #include <unordered_map>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/category.h"
 #include "classification/first_registrations.h"
 #include "platform/api/applications.h"

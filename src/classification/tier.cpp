@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "classification/closed_list.h"
+#include "classification/enum_table.h"
 
 namespace tidewatch {
 namespace {

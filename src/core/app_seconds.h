@@ -1,7 +1,7 @@
 #pragma once
 
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 
 namespace tidewatch {
 

@@ -40,28 +40,28 @@ HourKey ClockKeys::hourKey(Instant instant) const {
 BucketKey ClockKeys::bucketKey(Instant instant) const {
     const auto time = timeOnClock(instant);
     return tidewatch::bucketKey(dayRule_.dayKey(instant),
-                                {time.hour, time.minute / minutesABucket * minutesABucket});
+                                {time.hour, time.minute / minutesPerBucket * minutesPerBucket});
 }
 
-std::array<int, hoursADay> ClockKeys::hoursOfDay() const {
-    std::array<int, hoursADay> hours{};
+std::array<int, hoursPerDay> ClockKeys::hoursOfDay() const {
+    std::array<int, hoursPerDay> hours{};
     int next = settings_.dayStartHour();
-    for (auto& hour : hours) hour = next++ % hoursADay;
+    for (auto& hour : hours) hour = next++ % hoursPerDay;
     return hours;
 }
 
-std::array<HourKey, hoursADay> ClockKeys::hourKeys(const DayKey& day) const {
-    std::array<HourKey, hoursADay> keys;
+std::array<HourKey, hoursPerDay> ClockKeys::hourKeys(const DayKey& day) const {
+    std::array<HourKey, hoursPerDay> keys;
     std::ranges::transform(hoursOfDay(), keys.begin(),
                            [&](int hour) { return tidewatch::hourKey(day, hour); });
     return keys;
 }
 
-std::array<BucketKey, hoursADay * bucketsAnHour> ClockKeys::bucketKeys(const DayKey& day) const {
-    std::array<BucketKey, hoursADay * bucketsAnHour> keys;
+std::array<BucketKey, hoursPerDay * bucketsPerHour> ClockKeys::bucketKeys(const DayKey& day) const {
+    std::array<BucketKey, hoursPerDay * bucketsPerHour> keys;
     auto next = keys.begin();
     for (const int hour : hoursOfDay()) {
-        for (int minute = 0; minute < 60; minute += minutesABucket) {
+        for (int minute = 0; minute < 60; minute += minutesPerBucket) {
             *next++ = tidewatch::bucketKey(day, {hour, minute});
         }
     }

@@ -5,18 +5,18 @@
 #include <optional>
 
 #include "base/instant.h"
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "core/day_rule.h"
 #include "core/settings.h"
 #include "platform/api/clock.h"
 
 namespace tidewatch {
 
-inline constexpr int hoursADay = 24;
-inline constexpr int minutesABucket = 10;
-inline constexpr int bucketsAnHour = 60 / minutesABucket;
-inline constexpr Seconds bucketSize(60 * minutesABucket);
+inline constexpr int hoursPerDay = 24;
+inline constexpr int minutesPerBucket = 10;
+inline constexpr int bucketsPerHour = 60 / minutesPerBucket;
+inline constexpr Seconds bucketSize(60 * minutesPerBucket);
 
 /// What a bucket's key says of the time on the clock.
 struct ClockMinute {
@@ -37,12 +37,12 @@ public:
     [[nodiscard]] BucketKey bucketKey(Instant instant) const;
 
     /// The clock hours, 0 to 23, in the order in which a day passes them: from Settings::dayStartHour on.
-    [[nodiscard]] std::array<int, hoursADay> hoursOfDay() const;
+    [[nodiscard]] std::array<int, hoursPerDay> hoursOfDay() const;
 
     /// The keys of a day in the order of hoursOfDay(). Which keys they are does not depend on the day's
     /// start.
-    [[nodiscard]] std::array<HourKey, hoursADay> hourKeys(const DayKey& day) const;
-    [[nodiscard]] std::array<BucketKey, hoursADay * bucketsAnHour> bucketKeys(const DayKey& day) const;
+    [[nodiscard]] std::array<HourKey, hoursPerDay> hourKeys(const DayKey& day) const;
+    [[nodiscard]] std::array<BucketKey, hoursPerDay * bucketsPerHour> bucketKeys(const DayKey& day) const;
 
 private:
     [[nodiscard]] CivilTime timeOnClock(Instant instant) const;

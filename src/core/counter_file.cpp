@@ -6,7 +6,7 @@ namespace tidewatch {
 
 CounterFile::CounterFile(platform::FileSystem& files, platform::Log& log, const CounterFormat& format)
     : record_(format.depth), file_(files, log, format.fileName, format.flushFailed) {
-    const auto parse = [&](std::string text) { return readCounters(std::move(text), format.depth); };
+    const auto parse = [&](std::string text) { return parseCounters(std::move(text), format.depth); };
     auto record = file_.read(parse);
     // A missing file is read as an empty one, so that what the JSON library keeps for the whole process is
     // older than any exit handler that flushes, and outlives it.
@@ -46,7 +46,7 @@ void CounterFile::flushWaiting() {
 }
 
 void CounterFile::write(const Snapshot& snapshot) {
-    if (file_.write(writeCounters(snapshot.record).view())) writtenRevision_ = snapshot.revision;
+    if (file_.write(serializeCounters(snapshot.record).view())) writtenRevision_ = snapshot.revision;
 }
 
 }  // namespace tidewatch

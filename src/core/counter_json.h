@@ -29,22 +29,22 @@ private:
 /// The largest number that is read as a counter, either way from 0: more seconds than any life has. A record
 /// holds fewer than 2^32 counters, so whatever a file holds, no sum over it can overflow; that is left to
 /// sums that a running program makes.
-constexpr std::int64_t largestCounter = (std::int64_t(1) << 31) - 1;
+constexpr std::int64_t maxCounter = (std::int64_t(1) << 31) - 1;
 
 /// Reads the text of a counter file: any JSON whose top level is an object that holds, `depth` objects deep,
 /// nothing but whole numbers. Nothing if the text is not JSON or has another shape.
 ///
-/// - A number is taken if its value is an integer from -largestCounter to largestCounter, however it is
+/// - A number is taken if its value is an integer from -maxCounter to maxCounter, however it is
 ///   spelled: 60, 6e1 and 60.0 are one; 60.5, 2147483648, "60", true and null are of another shape, and so is
 ///   a file that holds one of them anywhere.
 /// - Of equal keys in one object the last stands. Keys are compared as bytes, after their escapes are read.
 /// - A byte order mark before the text is passed over.
-[[nodiscard]] std::optional<CounterRecord> readCounters(std::string text, std::size_t depth);
+[[nodiscard]] std::optional<CounterRecord> parseCounters(std::string text, std::size_t depth);
 
 /// The exact text of a counter file: two blanks of indent a level, a blank on both sides of the colon, keys
 /// in ascending order of their bytes, no end of line after the last brace. An object without members is an
 /// open brace, an empty line and a closing brace. In keys the quote, the backslash, the forward slash and
 /// what lies below U+0020 are escaped; everything else stands as UTF-8.
-[[nodiscard]] CounterText writeCounters(const CounterRecord& record);
+[[nodiscard]] CounterText serializeCounters(const CounterRecord& record);
 
 }  // namespace tidewatch

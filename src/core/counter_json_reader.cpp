@@ -16,7 +16,7 @@ namespace json = simdjson::ondemand;
 std::optional<Seconds> counterIn(json::value value) {
     std::int64_t integer = 0;
     if (value.get_int64().get(integer) == simdjson::SUCCESS) {
-        const bool isCounter = integer >= -largestCounter && integer <= largestCounter;
+        const bool isCounter = integer >= -maxCounter && integer <= maxCounter;
         return isCounter ? std::optional(Seconds(integer)) : std::nullopt;
     }
     // An integer of more than 64 bits would be rounded to one that fits.
@@ -24,7 +24,7 @@ std::optional<Seconds> counterIn(json::value value) {
     if (value.is_integer().get(isInteger) != simdjson::SUCCESS || isInteger) return std::nullopt;
     double real = 0;
     if (value.get_double().get(real) != simdjson::SUCCESS) return std::nullopt;
-    if (std::trunc(real) != real || std::abs(real) > double{largestCounter}) return std::nullopt;
+    if (std::trunc(real) != real || std::abs(real) > double{maxCounter}) return std::nullopt;
     return Seconds(static_cast<std::int64_t>(real));
 }
 
@@ -80,13 +80,13 @@ private:
 
 }  // namespace
 
-std::optional<CounterRecord> readCounters(std::string text, std::size_t depth) {
+std::optional<CounterRecord> parseCounters(std::string text, std::size_t depth) {
     text.reserve(text.size() + simdjson::SIMDJSON_PADDING);
     std::string_view content = text;
     if (content.starts_with(byteOrderMark)) content.remove_prefix(byteOrderMark.size());
     CounterRecord record(depth);
     if (!Reader(content, record).read()) return std::nullopt;
-    record.settle();
+    record.finishLoading();
     return record;
 }
 

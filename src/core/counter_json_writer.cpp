@@ -45,8 +45,8 @@ public:
     void text(std::string_view text) { size_ += text.size(); }
     void text(const PaddedText& text) { size_ += text.size(); }
     void number(std::int64_t) {
-        constexpr std::size_t mostDigits = 20;
-        size_ += mostDigits;
+        constexpr std::size_t maxDigits = 20;
+        size_ += maxDigits;
     }
 
     [[nodiscard]] std::size_t size() const { return size_ + stride; }
@@ -149,7 +149,7 @@ private:
 
 }  // namespace
 
-CounterText writeCounters(const CounterRecord& record) {
+CounterText serializeCounters(const CounterRecord& record) {
     return Writer(record).write();
 }
 

@@ -42,7 +42,7 @@ void CounterRecord::appendLeaf(std::string_view text, Seconds seconds) {
     counters_.append(seconds.count());
 }
 
-void CounterRecord::settle() {
+void CounterRecord::finishLoading() {
     if (inOrder_) return;
     CounterRecord ordered(depth());
     copyInOrder(0, top(), ordered);
@@ -98,7 +98,7 @@ CounterRecord::Leaf CounterRecord::makeLeaf(Path path) {
 void CounterRecord::insert(std::size_t level, Index index, std::string_view text) {
     auto& [texts, firstChildren] = levels_[level];
     const bool atEnd = index == texts.size();
-    texts.insert(index, keepText(level, text));
+    texts.insert(index, storeText(level, text));
     if (level == lastLevel()) {
         counters_.insert(index, 0);
     } else {
@@ -107,7 +107,7 @@ void CounterRecord::insert(std::size_t level, Index index, std::string_view text
 }
 
 void CounterRecord::append(std::size_t level, std::string_view newText) {
-    const auto id = keepText(level, newText);
+    const auto id = storeText(level, newText);
     const auto textOf = [&](std::uint32_t kept) { return level == 0 ? keys_[kept] : names_[kept]; };
     const auto firstSibling = level == 0 ? 0 : levels_[level - 1].firstChildren.back();
     auto& texts = levels_[level].texts;
@@ -115,7 +115,7 @@ void CounterRecord::append(std::size_t level, std::string_view newText) {
     texts.append(id);
 }
 
-std::uint32_t CounterRecord::keepText(std::size_t level, std::string_view text) {
+std::uint32_t CounterRecord::storeText(std::size_t level, std::string_view text) {
     return level == 0 ? keys_.add(text) : names_.intern(text);
 }
 

@@ -10,8 +10,8 @@
 #include "base/seconds.h"
 #include "core/column.h"
 #include "core/counter_column.h"
-#include "core/name_table.h"
-#include "core/text_pool.h"
+#include "core/string_interner.h"
+#include "core/string_pool.h"
 
 namespace tidewatch {
 
@@ -86,13 +86,14 @@ public:
     [[nodiscard]] Seconds seconds(Index leaf) const { return Seconds(counters_[leaf]); }
 
     /// For building a whole record, node by node as they stand in a text: a new last node of `level` under
-    /// the last node above it. Valid UTF-8 only. To be followed by settle() before anything is looked up.
+    /// the last node above it. Valid UTF-8 only. To be followed by finishLoading() before anything is looked
+    /// up.
     void appendBranch(std::size_t level, std::string_view text);
     void appendLeaf(std::string_view text, Seconds seconds);
 
     /// Brings appended nodes into order. Of siblings with the same text the one
     /// appended last stays, with its own children only.
-    void settle();
+    void finishLoading();
 
 private:
     struct Level {
@@ -118,13 +119,13 @@ private:
     Leaf makeLeaf(Path path);
     void insert(std::size_t level, Index index, std::string_view text);
     void append(std::size_t level, std::string_view text);
-    std::uint32_t keepText(std::size_t level, std::string_view text);
+    std::uint32_t storeText(std::size_t level, std::string_view text);
     void copyInOrder(std::size_t level, Range siblings, CounterRecord& target) const;
 
     std::vector<Level> levels_;
     CounterColumn counters_;
-    TextPool keys_;
-    NameTable names_;
+    StringPool keys_;
+    StringInterner names_;
     bool inOrder_ = true;
 };
 

@@ -15,7 +15,7 @@ namespace tidewatch {
 /// The settings, the rule of the day and the four counters, built together. Main thread only.
 struct Counting final {
     /// All of it must outlive the bundle.
-    struct Needs {
+    struct Dependencies {
         const platform::Clock& clock;
         platform::FileSystem& files;
         platform::Log& log;
@@ -24,15 +24,15 @@ struct Counting final {
         platform::FrontmostApplication& frontmost;
     };
 
-    explicit Counting(const Needs& needs)
-        : settings(needs.preferences),
-          dayRule(needs.clock, settings),
-          keys(needs.clock, settings, dayRule),
-          idleMonitor(needs.inputActivity),
-          days(needs.files, needs.log, dayRule),
-          apps(needs.files, needs.log, needs.frontmost),
-          hours(needs.files, needs.log, needs.frontmost),
-          minutes(needs.files, needs.log, needs.frontmost) {}
+    explicit Counting(const Dependencies& dependencies)
+        : settings(dependencies.preferences),
+          dayRule(dependencies.clock, settings),
+          keys(dependencies.clock, settings, dayRule),
+          idleMonitor(dependencies.inputActivity),
+          days(dependencies.files, dependencies.log, dayRule),
+          apps(dependencies.files, dependencies.log, dependencies.frontmost),
+          hours(dependencies.files, dependencies.log, dependencies.frontmost),
+          minutes(dependencies.files, dependencies.log, dependencies.frontmost) {}
 
     [[nodiscard]] CounterStores stores() { return {days, apps, hours, minutes}; }
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "base/instant.h"
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "core/counter_file.h"
 #include "core/day_rule.h"
 #include "platform/api/file_system.h"

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "base/instant.h"
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "core/settings.h"
 #include "platform/api/clock.h"
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "platform/api/frontmost_application.h"
 
 namespace tidewatch {

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "core/app_counters.h"
 #include "core/app_seconds.h"
 #include "core/usage_snapshot.h"

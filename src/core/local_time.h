@@ -9,14 +9,14 @@
 namespace tidewatch {
 
 /// A date and a time of day as a clock on the wall shows them, proleptic Gregorian.
-using WallTime = std::chrono::local_time<std::chrono::milliseconds>;
+using LocalTime = std::chrono::local_time<std::chrono::milliseconds>;
 
 /// What a clock in `zone` shows at `instant`.
-[[nodiscard]] WallTime wallTime(Instant instant, const platform::TimeZone& zone);
+[[nodiscard]] LocalTime localTime(Instant instant, const platform::TimeZone& zone);
 
 /// When a clock in `zone` shows `time`. Of a time that comes twice, the first; a time that the zone skips is
 /// as much later as the zone skips.
-[[nodiscard]] Instant instantOf(WallTime time, const platform::TimeZone& zone);
+[[nodiscard]] Instant instantOf(LocalTime time, const platform::TimeZone& zone);
 
 /// The offsets of a zone on many days: quick if one lies near the one before it. Takes a zone's offset as the
 /// same for two weeks if it is the same at both of its ends.

@@ -14,7 +14,7 @@ RecordFile::RecordFile(platform::FileSystem& files, platform::Log& log, std::str
 
 bool RecordFile::write(std::string_view content) {
     written_.reset();
-    if (hold() == platform::RecordHold::anothers) return false;
+    if (ensureLock() == platform::RecordLock::heldByAnother) return false;
     const auto replaced = replace(content);
     if (!replaced) {
         if (!failure_.empty()) log_.warning(failure_ + replaced.error().message);
@@ -29,35 +29,35 @@ bool RecordFile::write(std::string_view content) {
 }
 
 bool RecordFile::isAsWritten() {
-    if (hold() == platform::RecordHold::anothers || !written_) return false;
+    if (ensureLock() == platform::RecordLock::heldByAnother || !written_) return false;
     const auto info = files_.inspect(path_);
     return info && info.value() == *written_;
 }
 
-platform::RecordHold RecordFile::hold() {
-    const auto hold = files_.holdRecord(directory_);
-    if (hold == platform::RecordHold::anothers) unread_ = Unread::anothers;
-    return hold;
+platform::RecordLock RecordFile::ensureLock() {
+    const auto lock = files_.ensureRecordLock(directory_);
+    if (lock == platform::RecordLock::heldByAnother) unread_ = Unread::foreign;
+    return lock;
 }
 
 std::optional<std::string> RecordFile::readText() {
     // Without the directory there is no file either, and the first write will say so.
     static_cast<void>(files_.createDirectories(directory_));
-    auto text = files_.readWhole(path_);
+    auto text = files_.readFile(path_);
     return text ? std::optional(std::move(text).value()) : std::nullopt;
 }
 
-Outcome RecordFile::replace(std::string_view content) {
+Status RecordFile::replace(std::string_view content) {
     if (auto kept = setUnreadAside(); !kept) return kept;
     return files_.replaceAtomically(path_, content);
 }
 
-Outcome RecordFile::setUnreadAside() {
-    if (unread_ == Unread::nothing) return success();
+Status RecordFile::setUnreadAside() {
+    if (unread_ == Unread::none) return success();
     const bool damaged = unread_ == Unread::damaged;
     const auto kept = files_.setAside(path_, damaged ? "damaged" : "other");
     if (!kept) return kept.error();
-    unread_ = Unread::nothing;
+    unread_ = Unread::none;
     if (const auto& name = kept.value()) {
         log_.info(
             "Tidewatch: " + path_ +

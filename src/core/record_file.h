@@ -30,7 +30,7 @@ public:
         auto text = readText();
         decltype(parse(std::string())) content;
         if (text) content = std::forward<Parse>(parse)(*std::move(text));
-        if (content) unread_ = Unread::nothing;
+        if (content) unread_ = Unread::none;
         return content;
     }
 
@@ -45,13 +45,13 @@ public:
     [[nodiscard]] const std::string& path() const { return path_; }
 
 private:
-    // What the file may hold that this object has not read.
-    enum class Unread { nothing, damaged, anothers };
+    // What the file may lock that this object has not read.
+    enum class Unread { none, damaged, foreign };
 
-    [[nodiscard]] platform::RecordHold hold();
+    [[nodiscard]] platform::RecordLock ensureLock();
     [[nodiscard]] std::optional<std::string> readText();
-    [[nodiscard]] Outcome replace(std::string_view content);
-    [[nodiscard]] Outcome setUnreadAside();
+    [[nodiscard]] Status replace(std::string_view content);
+    [[nodiscard]] Status setUnreadAside();
 
     platform::FileSystem& files_;
     platform::Log& log_;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/named_string.h"
 #include "base/seconds.h"
 #include "base/serial_queue.h"
+#include "base/tagged_string.h"
 
 namespace tidewatch {
 

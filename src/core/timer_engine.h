@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
 #include "base/signal.h"
+#include "base/tagged_string.h"
 #include "core/app_usage_store.h"
 #include "core/clock_keys.h"
 #include "core/daily_store.h"

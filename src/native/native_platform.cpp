@@ -12,13 +12,13 @@
 #include "platform/freedesktop/xdg_desktop.h"
 #include "platform/linux/linux_process_memory.h"
 #include "platform/posix/directory_lock.h"
-#include "platform/posix/locked_running_instance.h"
+#include "platform/posix/locked_single_instance.h"
 #include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_process_endings.h"
+#include "platform/posix/posix_process_termination.h"
 #include "platform/posix/private_directory.h"
 #include "platform/posix/stderr_log.h"
 #include "platform/posix/system_randomness.h"
-#include "platform/posix/threads.h"
+#include "platform/posix/threaded_job_queue_factory.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/qt/qt_preferences.h"
@@ -39,13 +39,13 @@ std::string configDirectory() {
 
 // A file from before, or one that was copied here, may be open to others.
 void makePreferencesPrivate() {
-    narrowFile(configDirectory() + "/brightlooms/tidewatch.conf");
+    restrictFile(configDirectory() + "/brightlooms/tidewatch.conf");
 }
 
 }  // namespace
 
-struct NativePlatform::Parts {
-    explicit Parts(const ProcessEnvironment& prepared) : environment(prepared) {}
+struct NativePlatform::Impl {
+    explicit Impl(const ProcessEnvironment& prepared) : environment(prepared) {}
 
     const ProcessEnvironment& environment;
     StderrLog log;
@@ -66,12 +66,12 @@ struct NativePlatform::Parts {
     X11WindowSystem windowSystem;
     AutostartLoginItem loginItem{files, configDirectory(),
                                  QCoreApplication::applicationFilePath().toStdString()};
-    LockedRunningInstance runningInstance{recordLock, log};
-    PosixProcessEndings endings{[this] { preferences.sync(); }};
+    LockedSingleInstance singleInstance{recordLock, log};
+    PosixProcessTermination termination{[this] { preferences.sync(); }};
     SystemRandomness randomness;
     DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;
-    Threads background{mainLoop};
+    ThreadedJobQueueFactory queues{mainLoop};
     Platform all{
         .log = log,
         .clock = clock,
@@ -85,23 +85,23 @@ struct NativePlatform::Parts {
         .screens = screens,
         .windowSystem = windowSystem,
         .loginItem = loginItem,
-        .runningInstance = runningInstance,
-        .endings = endings,
+        .singleInstance = singleInstance,
+        .termination = termination,
         .randomness = randomness,
         .notifications = notifications,
         .memory = memory,
-        .background = background,
+        .queues = queues,
     };
 };
 
 NativePlatform::NativePlatform(const ProcessEnvironment& environment)
-    : parts_(std::make_unique<Parts>(environment)) {
+    : impl_(std::make_unique<Impl>(environment)) {
     makePreferencesPrivate();
 }
 NativePlatform::~NativePlatform() = default;
 
 const Platform& NativePlatform::platform() const {
-    return parts_->all;
+    return impl_->all;
 }
 
 }  // namespace tidewatch::platform

@@ -18,8 +18,8 @@ public:
     [[nodiscard]] const Platform& platform() const;
 
 private:
-    struct Parts;
-    std::unique_ptr<Parts> parts_;
+    struct Impl;
+    std::unique_ptr<Impl> impl_;
 };
 
 }  // namespace tidewatch::platform

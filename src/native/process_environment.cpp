@@ -10,9 +10,9 @@
 #include <chrono>
 #include <string_view>
 
-#include "platform/freedesktop/bus_guard.h"
+#include "platform/freedesktop/bus_proxy.h"
 #include "platform/freedesktop/session_probes.h"
-#include "platform/posix/guarded_file.h"
+#include "platform/posix/regular_file.h"
 #include "platform/posix/stderr_log.h"
 #include "platform/x11/x11_connection.h"
 
@@ -22,9 +22,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr int keptAllocations = 256 * 1024;        // bytes
-constexpr std::size_t longestAnnouncement = 4096;  // bytes
-constexpr auto sessionPatience = 1s;
+constexpr int keptAllocations = 256 * 1024;          // bytes
+constexpr std::size_t maxAnnouncementLength = 4096;  // bytes
+constexpr auto sessionTimeout = 1s;
 
 /// Toolkit variables that are the user's own affair: how large, how it is typed and read aloud.
 constexpr std::array<std::string_view, 11> harmlessVariables = {
@@ -43,15 +43,15 @@ constexpr std::array<std::string_view, 11> harmlessVariables = {
 
 constexpr std::array<std::string_view, 4> toolkitPrefixes = {"QT_", "QML", "QSG_", "QV4_"};
 
-bool choosesCode(std::string_view variable) {
+bool loadsCode(std::string_view variable) {
     const auto begins = [variable](std::string_view prefix) { return variable.starts_with(prefix); };
     return std::ranges::any_of(toolkitPrefixes, begins) &&
            std::ranges::find(harmlessVariables, variable) == harmlessVariables.end();
 }
 
-void dropWhatChoosesCode(const QProcessEnvironment& inherited) {
+void removeCodeLoadingVariables(const QProcessEnvironment& inherited) {
     for (const auto& name : inherited.keys()) {
-        if (const auto variable = name.toStdString(); choosesCode(variable)) qunsetenv(variable.c_str());
+        if (const auto variable = name.toStdString(); loadsCode(variable)) qunsetenv(variable.c_str());
     }
 }
 
@@ -73,7 +73,7 @@ std::string accessibilityAddress(const X11Connection& server) {
 void keepSessionManager() {
     const auto managers = qgetenv("SESSION_MANAGER");
     if (managers.isEmpty()) return;
-    const auto answering = answeringSessionManagers(managers.toStdString(), sessionPatience);
+    const auto answering = responsiveSessionManagers(managers.toStdString(), sessionTimeout);
     if (answering.empty()) {
         qunsetenv("SESSION_MANAGER");
     } else {
@@ -82,34 +82,35 @@ void keepSessionManager() {
 }
 
 /// Whether each input method that has announced itself with an address of its own answers.
-bool inputMethodAnswers() {
+bool isInputMethodResponsive() {
     auto configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
     if (configuration.isEmpty()) configuration = QDir::homePath() + "/.config";
     const QDir announcements(configuration + "/ibus/bus");
     constexpr std::string_view key = "IBUS_ADDRESS=";
     for (const auto& name : announcements.entryList(QDir::Files)) {
         const auto announced =
-            readRegularFile(announcements.filePath(name).toStdString(), longestAnnouncement);
+            readRegularFile(announcements.filePath(name).toStdString(), maxAnnouncementLength);
         if (!announced) continue;
         for (const auto& line : QByteArray::fromStdString(announced.value()).split('\n')) {
             const auto text = line.trimmed().toStdString();
-            if (text.starts_with(key) && !busAnswers(text.substr(key.size()), sessionPatience)) return false;
+            if (text.starts_with(key) && !isBusResponsive(text.substr(key.size()), sessionTimeout))
+                return false;
         }
     }
     return true;
 }
 
 void keepInputMethod() {
-    if (qgetenv("QT_IM_MODULE") == "ibus" && !inputMethodAnswers()) qunsetenv("QT_IM_MODULE");
+    if (qgetenv("QT_IM_MODULE") == "ibus" && !isInputMethodResponsive()) qunsetenv("QT_IM_MODULE");
 }
 
 }  // namespace
 
-struct ProcessEnvironment::Parts {
+struct ProcessEnvironment::Impl {
     QProcessEnvironment inherited = QProcessEnvironment::systemEnvironment();
     bool hasDisplay = false;
     std::string sessionBus;
-    BusGuard guard;
+    BusProxy busProxy;
 };
 
 ProcessEnvironment::ProcessEnvironment() {
@@ -118,24 +119,24 @@ ProcessEnvironment::ProcessEnvironment() {
     // for ever.
     mallopt(M_MMAP_THRESHOLD, keptAllocations);
     mallopt(M_TRIM_THRESHOLD, keptAllocations);
-    parts_ = std::make_unique<Parts>();
+    impl_ = std::make_unique<Impl>();
 
-    dropWhatChoosesCode(parts_->inherited);
+    removeCodeLoadingVariables(impl_->inherited);
     qputenv("QT_QPA_PLATFORM", "xcb");
     const X11Connection server;
-    parts_->hasDisplay = server.alive();
-    if (!parts_->hasDisplay) {
-        const auto display = parts_->inherited.value("DISPLAY").toStdString();
+    impl_->hasDisplay = server.alive();
+    if (!impl_->hasDisplay) {
+        const auto display = impl_->inherited.value("DISPLAY").toStdString();
         StderrLog().warning("Tidewatch: no X server answers at \"" + display +
                             "\" (DISPLAY), and the clock needs one");
         return;
     }
-    parts_->sessionBus = parts_->guard.guarded(busAddress());
-    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(parts_->sessionBus));
+    impl_->sessionBus = impl_->busProxy.proxiedAddress(busAddress());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(impl_->sessionBus));
     // One that answers is left to the toolkit, which goes to it past the session bus and without a guard.
     if (const auto address = accessibilityAddress(server);
-        !address.empty() && !busAnswers(address, sessionPatience)) {
-        qputenv("AT_SPI_BUS_ADDRESS", QByteArray::fromStdString(parts_->guard.guarded(address)));
+        !address.empty() && !isBusResponsive(address, sessionTimeout)) {
+        qputenv("AT_SPI_BUS_ADDRESS", QByteArray::fromStdString(impl_->busProxy.proxiedAddress(address)));
     }
     keepSessionManager();
     keepInputMethod();
@@ -144,15 +145,15 @@ ProcessEnvironment::ProcessEnvironment() {
 ProcessEnvironment::~ProcessEnvironment() = default;
 
 bool ProcessEnvironment::hasDisplay() const {
-    return parts_->hasDisplay;
+    return impl_->hasDisplay;
 }
 
 const QProcessEnvironment& ProcessEnvironment::inherited() const {
-    return parts_->inherited;
+    return impl_->inherited;
 }
 
 QString ProcessEnvironment::sessionBusAddress() const {
-    return QString::fromStdString(parts_->sessionBus);
+    return QString::fromStdString(impl_->sessionBus);
 }
 
 }  // namespace tidewatch::platform

@@ -27,8 +27,8 @@ public:
     [[nodiscard]] QString sessionBusAddress() const;
 
 private:
-    struct Parts;
-    std::unique_ptr<Parts> parts_;
+    struct Impl;
+    std::unique_ptr<Impl> impl_;
 };
 
 }  // namespace tidewatch::platform

@@ -48,7 +48,7 @@ bool hasValue(json::element object, std::string_view key) {
 
 }  // namespace
 
-std::string writeProjects(const ProjectList& list) {
+std::string serializeProjects(const ProjectList& list) {
     JsonWriter writer;
     writer.beginObject();
     if (list.activeId) writer.key(activeKey).string(list.activeId->text());
@@ -66,7 +66,7 @@ std::string writeProjects(const ProjectList& list) {
     return writer.take();
 }
 
-std::optional<ProjectList> readProjects(std::string text) {
+std::optional<ProjectList> parseProjects(std::string text) {
     const auto document = JsonDocument::parse(std::move(text));
     json::array projects;
     if (!document || document->root().at_key(projectsKey).get_array().get(projects) != simdjson::SUCCESS) {

@@ -18,10 +18,10 @@ struct ProjectList {
 
 /// The text of "projects.json": an object with "activeProjectID", left out without an active project, and
 /// "projects", an array of objects with "archived", "colorHex", "id" and "name".
-[[nodiscard]] std::string writeProjects(const ProjectList& list);
+[[nodiscard]] std::string serializeProjects(const ProjectList& list);
 
 /// Reads such a text, strictly: nothing if it is not JSON, or if anything in it is missing or of another
 /// type. "activeProjectID" may be missing or null, and keys beside those named are passed over.
-[[nodiscard]] std::optional<ProjectList> readProjects(std::string text);
+[[nodiscard]] std::optional<ProjectList> parseProjects(std::string text);
 
 }  // namespace tidewatch

@@ -14,7 +14,7 @@ ProjectStore::ProjectStore(platform::FileSystem& files, platform::Log& log, plat
     : randomness_(randomness),
       broadcaster_(broadcaster),
       file_(files, log, "projects.json", "Tidewatch: failed to save projects: ") {
-    if (auto list = file_.read(readProjects)) list_ = std::move(*list);
+    if (auto list = file_.read(parseProjects)) list_ = std::move(*list);
 }
 
 std::optional<Project> ProjectStore::activeProject() const {
@@ -102,7 +102,7 @@ void ProjectStore::finishChange() {
 }
 
 void ProjectStore::save() {
-    file_.write(writeProjects(list_));
+    file_.write(serializeProjects(list_));
 }
 
 }  // namespace tidewatch

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
+#include "base/tagged_string.h"
 #include "base/uuid.h"
 #include "core/app_counters.h"
 #include "core/app_seconds.h"

@@ -10,7 +10,7 @@ namespace tidewatch {
 /// The projects, their time, and what books it, built together. Main thread only.
 struct ProjectTracking final {
     /// All of it must outlive the bundle.
-    struct Needs {
+    struct Dependencies {
         platform::FileSystem& files;
         platform::Log& log;
         platform::Randomness& randomness;
@@ -18,9 +18,9 @@ struct ProjectTracking final {
         const Broadcaster& broadcaster;
     };
 
-    explicit ProjectTracking(const Needs& needs)
-        : store(needs.files, needs.log, needs.randomness, needs.broadcaster),
-          times(needs.files, needs.log, needs.frontmost),
+    explicit ProjectTracking(const Dependencies& dependencies)
+        : store(dependencies.files, dependencies.log, dependencies.randomness, dependencies.broadcaster),
+          times(dependencies.files, dependencies.log, dependencies.frontmost),
           booking(store, times) {}
 
     ProjectStore store;

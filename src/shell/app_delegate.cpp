@@ -12,51 +12,53 @@ namespace {
 
 /// How long a tray may take to appear before its absence is told, in seconds; at the start of a session
 /// the program may well be faster than the tray.
-constexpr int trayPatience = 10;
+constexpr int trayTimeout = 10;
 
 }  // namespace
 
-AppDelegate::AppDelegate(Parts parts) : with_(std::move(parts)) {}
+AppDelegate::AppDelegate(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
-    with_.surfaces.registerFonts();
-    window_ = with_.surfaces.makePanelWindow(panelSize());
-    panel_ = std::make_unique<FloatingPanel>(*window_, with_.settings, with_.screens, with_.broadcaster);
+    dependencies_.surfaces.registerFonts();
+    window_ = dependencies_.surfaces.makePanelWindow(panelSize());
+    panel_ = std::make_unique<FloatingPanel>(*window_, dependencies_.settings, dependencies_.screens,
+                                             dependencies_.broadcaster);
     connectPanel();
-    if (with_.settings.windowVisible()) panel_->orderFrontRegardless();
-    statusItem_ = with_.surfaces.makeStatusItem();
+    if (dependencies_.settings.windowVisible()) panel_->orderFrontRegardless();
+    statusItem_ = dependencies_.surfaces.makeStatusItem();
     refreshStatusBarTitle();
-    serveOlderNotifications();
+    serveLegacyNotifications();
     statusItem_->onClick([this](StatusItem::Click click) { handleStatusClick(click); });
     observeBroadcasts();
-    with_.engine.start();
-    with_.notifications.requestAuthorization();
+    dependencies_.engine.start();
+    dependencies_.notifications.requestAuthorization();
     // Posted, as the engine posts its tick: each second's tick has run before.
-    menuRefreshTimer_ = with_.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
-                                              [this] { later(&AppDelegate::refreshTimerFired); });
+    menuRefreshTimer_ =
+        dependencies_.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
+                                      [this] { postLater(&AppDelegate::refreshTimerFired); });
 }
 
 void AppDelegate::applicationWillTerminate() {
-    with_.engine.stop();
-    with_.categories.flushRegistered();
+    dependencies_.engine.stop();
+    dependencies_.categories.flushRegistered();
 }
 
 void AppDelegate::applicationShouldHandleReopen() {
     setDayUnderCurrentKey();
-    with_.counters.daily.flush();
-    with_.counters.apps.flush();
-    with_.counters.hours.flush();
-    with_.statistics.showWindow();
+    dependencies_.counters.daily.flush();
+    dependencies_.counters.apps.flush();
+    dependencies_.counters.hours.flush();
+    dependencies_.statistics.showWindow();
 }
 
 void AppDelegate::flushAllStores() {
     setDayUnderCurrentKey();
-    with_.counters.daily.flush();
-    with_.counters.apps.flush();
-    with_.counters.hours.flush();
-    with_.counters.minutes.flush();
-    with_.projectTime.flush();
+    dependencies_.counters.daily.flush();
+    dependencies_.counters.apps.flush();
+    dependencies_.counters.hours.flush();
+    dependencies_.counters.minutes.flush();
+    dependencies_.projectTime.flush();
 }
 
 void AppDelegate::toggleVisible() {
@@ -66,7 +68,7 @@ void AppDelegate::toggleVisible() {
     } else {
         panel_->orderFrontRegardless();
     }
-    with_.settings.setWindowVisible(!wasVisible);
+    dependencies_.settings.setWindowVisible(!wasVisible);
 }
 
 void AppDelegate::connectPanel() {
@@ -78,15 +80,15 @@ void AppDelegate::connectPanel() {
     });
 }
 
-void AppDelegate::serveOlderNotifications() {
-    with_.olderNotifications.setOlderService([this](const platform::UserNotification& message) {
+void AppDelegate::serveLegacyNotifications() {
+    dependencies_.legacyNotifications.setLegacyService([this](const platform::UserNotification& message) {
         statusItem_->showMessage(message.title, message.body);
     });
 }
 
 void AppDelegate::observeBroadcasts() {
-    auto& broadcaster = with_.broadcaster;
-    const auto doing = [this](Work work) { return [this, work](const auto&) { later(work); }; };
+    auto& broadcaster = dependencies_.broadcaster;
+    const auto doing = [this](Work work) { return [this, work](const auto&) { postLater(work); }; };
     observers_.push_back(broadcaster.observe<ThemeChanged>(doing(&AppDelegate::applyLayoutChange)));
     observers_.push_back(broadcaster.observe<SizeChanged>(doing(&AppDelegate::applyLayoutChange)));
     observers_.push_back(broadcaster.observe<ProjectsChanged>(doing(&AppDelegate::refreshStatusBarTitle)));
@@ -94,8 +96,8 @@ void AppDelegate::observeBroadcasts() {
         broadcaster.observe<FloatingPanelClicked>(doing(&AppDelegate::floatingPanelClicked)));
 }
 
-void AppDelegate::later(Work work) {
-    with_.mainLoop.post([self = std::weak_ptr(self_), work] {
+void AppDelegate::postLater(Work work) {
+    dependencies_.mainLoop.post([self = std::weak_ptr(self_), work] {
         if (const auto alive = self.lock()) ((*alive)->*work)();
     });
 }
@@ -106,55 +108,56 @@ void AppDelegate::applyLayoutChange() {
 }
 
 void AppDelegate::floatingPanelClicked() {
-    if (with_.statistics.isVisible()) {
-        with_.statistics.close();
+    if (dependencies_.statistics.isVisible()) {
+        dependencies_.statistics.close();
         return;
     }
     flushAllStores();
-    with_.statistics.showWindow();
+    dependencies_.statistics.showWindow();
 }
 
 void AppDelegate::handleStatusClick(StatusItem::Click click) {
-    if (click == StatusItem::Click::left && !with_.statistics.isVisible()) {
+    if (click == StatusItem::Click::left && !dependencies_.statistics.isVisible()) {
         flushAllStores();
-        with_.statistics.showWindow();
+        dependencies_.statistics.showWindow();
     } else {
         openMenu();
     }
 }
 
 void AppDelegate::openMenu() {
-    statusItem_->popUpMenu(with_.menu());
+    statusItem_->popUpMenu(dependencies_.menu());
 }
 
 void AppDelegate::refreshStatusBarTitle() {
-    statusItem_->setTitle(with_.title());
+    statusItem_->setTitle(dependencies_.title());
 }
 
 void AppDelegate::refreshTimerFired() {
     refreshStatusBarTitle();
     setDayUnderCurrentKey();
-    with_.notifications.checkDailyMilestones();
-    with_.categories.flushRegistered();
-    sayOnceThatThereIsNoTray();
+    dependencies_.notifications.checkDailyMilestones();
+    dependencies_.categories.flushRegistered();
+    warnOnceWithoutTray();
 }
 
 void AppDelegate::setDayUnderCurrentKey() {
-    with_.counters.daily.set(with_.engine.todaySeconds(), with_.counters.daily.today());
+    dependencies_.counters.daily.set(dependencies_.engine.todaySeconds(),
+                                     dependencies_.counters.daily.today());
 }
 
-void AppDelegate::sayOnceThatThereIsNoTray() {
-    if (secondsWithoutTray_ > trayPatience) return;
+void AppDelegate::warnOnceWithoutTray() {
+    if (secondsWithoutTray_ > trayTimeout) return;
     secondsWithoutTray_ = statusItem_->isShown() ? 0 : secondsWithoutTray_ + 1;
-    if (secondsWithoutTray_ > trayPatience) {
-        with_.surfaces.showHint(
+    if (secondsWithoutTray_ > trayTimeout) {
+        dependencies_.surfaces.showHint(
             "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj.");
     }
 }
 
 PanelSize AppDelegate::panelSize() const {
-    const auto& base = with_.theme.active().size;
-    const auto scale = with_.settings.sizeScale();
+    const auto& base = dependencies_.theme.active().size;
+    const auto scale = dependencies_.settings.sizeScale();
     return {base.width * scale, base.height * scale};
 }
 

@@ -27,10 +27,10 @@ namespace tidewatch {
 class AppDelegate final {
 public:
     /// What the delegate works with; all of it must outlive it.
-    struct Parts {
+    struct Dependencies {
         platform::MainLoop& mainLoop;
         const platform::Screens& screens;
-        platform::UserNotifications& olderNotifications;
+        platform::UserNotifications& legacyNotifications;
         Settings& settings;
         Broadcaster& broadcaster;
         TimerEngine& engine;
@@ -47,7 +47,7 @@ public:
         std::function<MenuRows()> menu;
     };
 
-    explicit AppDelegate(Parts parts);
+    explicit AppDelegate(Dependencies dependencies);
     ~AppDelegate();
 
     /// Once, when the main loop is about to run.
@@ -72,20 +72,20 @@ private:
 
     /// Does `work` in a job of its own, after those that are waiting already; not at all if this object is
     /// gone by then.
-    void later(Work work);
+    void postLater(Work work);
     void applyLayoutChange();
     void observeBroadcasts();
     void connectPanel();
-    void serveOlderNotifications();
+    void serveLegacyNotifications();
     void floatingPanelClicked();
     void handleStatusClick(StatusItem::Click click);
     void openMenu();
     void refreshTimerFired();
     void setDayUnderCurrentKey();
-    void sayOnceThatThereIsNoTray();
+    void warnOnceWithoutTray();
     [[nodiscard]] PanelSize panelSize() const;
 
-    Parts with_;
+    Dependencies dependencies_;
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<FloatingPanel> panel_;
     std::unique_ptr<StatusItem> statusItem_;

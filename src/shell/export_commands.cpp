@@ -8,9 +8,9 @@
 namespace tidewatch {
 namespace {
 
-std::string_view wordsFor(platform::ExportFault fault) {
-    using enum platform::ExportFault;
-    switch (fault) {
+std::string_view wordsFor(platform::ExportErrorKind kind) {
+    using enum platform::ExportErrorKind;
+    switch (kind) {
         case noPermission:
             return "No tienes permiso para escribir en esa carpeta.";
         case readOnlyDisk:
@@ -31,33 +31,34 @@ std::string_view wordsFor(platform::ExportFault fault) {
 
 }  // namespace
 
-ExportCommands::ExportCommands(Targets targets)
-    : to_(std::move(targets)), csv_(to_.apps, to_.projectTime, to_.categories, to_.appInfo) {}
+ExportCommands::ExportCommands(Dependencies dependencies)
+    : dependencies_(std::move(dependencies)),
+      csv_(dependencies_.apps, dependencies_.projectTime, dependencies_.categories, dependencies_.appInfo) {}
 
 void ExportCommands::exportCSV() {
-    const auto day = to_.days.today();
-    to_.days.set(to_.engine.todaySeconds(), day);
-    to_.days.flush();
-    to_.apps.flush();
+    const auto day = dependencies_.days.today();
+    dependencies_.days.set(dependencies_.engine.todaySeconds(), day);
+    dependencies_.days.flush();
+    dependencies_.apps.flush();
     const SaveRequest request{
         .title = "Exportar día",
         .proposedName = CsvExport::fileName(day),
         .kind = SaveKind::csv,
     };
-    to_.dialogs.chooseSaveLocation(request,
-                                   [this, day](const std::string& path) { write(path, csv_.day(day)); });
+    dependencies_.dialogs.chooseSaveLocation(
+        request, [this, day](const std::string& path) { write(path, csv_.day(day)); });
 }
 
 void ExportCommands::exportProjectCSV(const Uuid& id) {
-    const auto project = to_.projects.project(id);
+    const auto project = dependencies_.projects.project(id);
     if (!project) return;
-    to_.projectTime.flush();
+    dependencies_.projectTime.flush();
     const SaveRequest request{
         .title = "Exportar proyecto",
         .proposedName = CsvExport::fileName(*project),
         .kind = SaveKind::csv,
     };
-    to_.dialogs.chooseSaveLocation(
+    dependencies_.dialogs.chooseSaveLocation(
         request, [this, project = *project](const std::string& path) { write(path, csv_.project(project)); });
 }
 
@@ -67,19 +68,19 @@ void ExportCommands::exportReport() {
         .proposedName = "fathom-reporte.pdf",
         .kind = SaveKind::pdf,
     };
-    to_.dialogs.chooseSaveLocation(request, [this](const std::string& path) {
-        if (to_.generateReport(path)) {
-            revealFile(to_.desktop, to_.dialogs, path, "No se pudo mostrar el reporte");
+    dependencies_.dialogs.chooseSaveLocation(request, [this](const std::string& path) {
+        if (dependencies_.generateReport(path)) {
+            revealFile(dependencies_.desktop, dependencies_.dialogs, path, "No se pudo mostrar el reporte");
         } else {
             // A report that could not be written is only logged; its place is shown all the same.
-            to_.desktop.reveal(path, [](const Outcome&) {});
+            dependencies_.desktop.reveal(path, [](const Status&) {});
         }
     });
 }
 
 void ExportCommands::write(const std::string& path, const std::string& text) {
-    if (const auto failure = to_.files.exportFile(path, text)) {
-        to_.dialogs.warn("No se pudo escribir el archivo", std::string(wordsFor(failure->fault)));
+    if (const auto failure = dependencies_.files.exportFile(path, text)) {
+        dependencies_.dialogs.warn("No se pudo escribir el archivo", std::string(wordsFor(failure->kind)));
     }
 }
 

@@ -22,7 +22,7 @@ namespace tidewatch {
 class ExportCommands final {
 public:
     /// What the commands work on; all of it must outlive this object.
-    struct Targets {
+    struct Dependencies {
         const TimerEngine& engine;
         DailyStore& days;
         AppUsageStore& apps;
@@ -37,7 +37,7 @@ public:
         std::function<bool(const std::string& path)> generateReport;
     };
 
-    explicit ExportCommands(Targets targets);
+    explicit ExportCommands(Dependencies dependencies);
 
     /// Today's applications, whatever day is on show.
     void exportCSV();
@@ -51,7 +51,7 @@ public:
 private:
     void write(const std::string& path, const std::string& text);
 
-    Targets to_;
+    Dependencies dependencies_;
     CsvExport csv_;
 };
 

@@ -79,7 +79,7 @@ void appendInputCoverage(MenuRows& rows, platform::InputCoverage coverage) {
 }
 
 /// The least uncategorised time that is worth a row.
-constexpr Seconds tellingUncategorized{60};
+constexpr Seconds significantUncategorized{60};
 
 ProductivityScore scoreOfToday(const DailyStore& days, const ProductivityScorer& scorer) {
     const std::array today = {days.today()};
@@ -90,7 +90,7 @@ void appendTiers(MenuRows& rows, const ProductivityScore& score) {
     rows.push_back(information("Productivo: " + formatShort(score.productiveSeconds)));
     rows.push_back(information("Neutral: " + formatShort(score.neutralSeconds)));
     rows.push_back(information("Distrayendo: " + formatShort(score.distractingSeconds)));
-    if (score.uncategorizedSeconds >= tellingUncategorized) {
+    if (score.uncategorizedSeconds >= significantUncategorized) {
         rows.push_back(information("Sin categorizar: " + formatShort(score.uncategorizedSeconds)));
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/dashboard_model.h"
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 #include "classification/category_store.h"
 #include "shell/menu_row.h"
 

@@ -11,7 +11,7 @@ namespace tidewatch {
 /// says where the file lies. Both must outlive the main loop.
 inline void revealFile(platform::Desktop& desktop, Dialogs& dialogs, const std::string& path,
                        const std::string& title) {
-    desktop.reveal(path, [&dialogs, path, title](const Outcome& shown) {
+    desktop.reveal(path, [&dialogs, path, title](const Status& shown) {
         if (!shown)
             dialogs.warn(title, "No respondió ningún gestor de archivos. El archivo está aquí:\n" + path);
     });

@@ -7,10 +7,10 @@ namespace tidewatch {
 namespace {
 
 constexpr double margins = 28;  // both sides together
-constexpr double leastWidth = 900;
-constexpr double mostWidth = 1360;
-constexpr double leastHeight = 620;
-constexpr double mostHeight = 1000;
+constexpr double minWidth = 900;
+constexpr double maxWidth = 1360;
+constexpr double minHeight = 620;
+constexpr double maxHeight = 1000;
 constexpr platform::Rectangle frameWithoutScreen{0, 0, 1440, 900};
 
 platform::Rectangle visibleFrame(const platform::Screens& screens) {
@@ -22,8 +22,8 @@ platform::Rectangle visibleFrame(const platform::Screens& screens) {
 }  // namespace
 
 platform::Rectangle statisticsFrame(const platform::Rectangle& visible) {
-    const double width = std::clamp(visible.width - margins, leastWidth, mostWidth);
-    const double height = std::clamp(visible.height - margins, leastHeight, mostHeight);
+    const double width = std::clamp(visible.width - margins, minWidth, maxWidth);
+    const double height = std::clamp(visible.height - margins, minHeight, maxHeight);
     return {visible.x + visible.width / 2 - width / 2, visible.y + visible.height / 2 - height / 2, width,
             height};
 }

@@ -6,64 +6,65 @@
 
 namespace tidewatch {
 
-StatusCommands::StatusCommands(Targets targets) : to_(std::move(targets)) {}
+StatusCommands::StatusCommands(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 
 void StatusCommands::switchTheme(std::string_view id) {
-    to_.theme.switchTo(id);
+    dependencies_.theme.switchTo(id);
 }
 
 void StatusCommands::switchSize(double scale) {
-    to_.settings.setSizeScale(scale);
-    to_.broadcaster.post(SizeChanged{});
+    dependencies_.settings.setSizeScale(scale);
+    dependencies_.broadcaster.post(SizeChanged{});
 }
 
 void StatusCommands::switchIdle(std::int64_t seconds) {
-    to_.settings.setIdleThresholdSeconds(seconds);
-    to_.refreshStatusBarTitle();
+    dependencies_.settings.setIdleThresholdSeconds(seconds);
+    dependencies_.refreshStatusBarTitle();
 }
 
 void StatusCommands::switchDayStart(int hour) {
-    to_.settings.setDayStartHour(hour);
-    to_.refreshStatusBarTitle();
-    to_.refreshStatusBarTitle();
+    dependencies_.settings.setDayStartHour(hour);
+    dependencies_.refreshStatusBarTitle();
+    dependencies_.refreshStatusBarTitle();
 }
 
 void StatusCommands::toggleVisible() {
-    to_.toggleVisible();
-    to_.refreshStatusBarTitle();
+    dependencies_.toggleVisible();
+    dependencies_.refreshStatusBarTitle();
 }
 
 void StatusCommands::resetToday() {
-    to_.engine.resetToday();
+    dependencies_.engine.resetToday();
 }
 
 void StatusCommands::showStats() {
     writeDay();
-    to_.statistics.showWindow();
+    dependencies_.statistics.showWindow();
 }
 
 void StatusCommands::revealData() {
     writeDay();
-    revealFile(to_.desktop, to_.dialogs, to_.days.dataFilePath(), "No se pudo mostrar el archivo de datos");
+    revealFile(dependencies_.desktop, dependencies_.dialogs, dependencies_.days.dataFilePath(),
+               "No se pudo mostrar el archivo de datos");
 }
 
 void StatusCommands::toggleLoginItem() {
-    const auto changed =
-        to_.loginItem.isEnabled() ? to_.loginItem.unregisterItem() : to_.loginItem.registerItem();
+    const auto changed = dependencies_.loginItem.isEnabled() ? dependencies_.loginItem.unregisterItem()
+                                                             : dependencies_.loginItem.registerItem();
     if (changed) {
-        to_.refreshStatusBarTitle();
+        dependencies_.refreshStatusBarTitle();
     } else {
-        to_.dialogs.warn("No se pudo cambiar el ajuste de inicio", changed.error().message);
+        dependencies_.dialogs.warn("No se pudo cambiar el ajuste de inicio", changed.error().message);
     }
 }
 
 void StatusCommands::quit() {
-    to_.terminate();
+    dependencies_.terminate();
 }
 
 void StatusCommands::writeDay() {
-    to_.days.set(to_.engine.todaySeconds(), to_.days.today());
-    to_.days.flush();
+    dependencies_.days.set(dependencies_.engine.todaySeconds(), dependencies_.days.today());
+    dependencies_.days.flush();
 }
 
 }  // namespace tidewatch

@@ -20,7 +20,7 @@ namespace tidewatch {
 class StatusCommands final {
 public:
     /// What the commands work on; all of it must outlive this object.
-    struct Targets {
+    struct Dependencies {
         Settings& settings;
         const Broadcaster& broadcaster;
         TimerEngine& engine;
@@ -36,7 +36,7 @@ public:
         std::function<void()> terminate;
     };
 
-    explicit StatusCommands(Targets targets);
+    explicit StatusCommands(Dependencies dependencies);
 
     void switchTheme(std::string_view id);
     void switchSize(double scale);
@@ -56,7 +56,7 @@ public:
 private:
     void writeDay();
 
-    Targets to_;
+    Dependencies dependencies_;
 };
 
 }  // namespace tidewatch

@@ -61,7 +61,7 @@ public:
 
 /// A sentence around a name that the user once gave. The name may be of any length: whoever shows the
 /// sentence cuts the name to its place, and nothing else.
-struct NamingText {
+struct TextWithName {
     std::string before;
     std::string name{};
     std::string after{};
@@ -72,7 +72,7 @@ struct NamingText {
 /// A question that is answered by a line of text.
 struct TextPrompt {
     std::string title;
-    NamingText text;
+    TextWithName text;
     std::string accept;       ///< what the button that acts says
     std::string placeholder;  ///< shown while nothing is typed
     std::string initial;      ///< what the field holds at first
@@ -81,7 +81,7 @@ struct TextPrompt {
 
 /// A question that is answered by yes or no.
 struct Confirmation {
-    NamingText title;
+    TextWithName title;
     std::string text;
     std::string accept;  ///< what the button that acts says
 };

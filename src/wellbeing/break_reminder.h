@@ -5,9 +5,9 @@
 #include <string>
 #include <variant>
 
-#include "base/named_string.h"
 #include "base/seconds.h"
 #include "base/signal.h"
+#include "base/tagged_string.h"
 #include "core/day_rule.h"
 #include "core/tick_listeners.h"
 #include "platform/api/main_loop.h"

@@ -38,7 +38,7 @@ std::optional<Instant> lockEnd(double stored) {
 GameGate::GameGate(const platform::Clock& clock, platform::Preferences& preferences, Notifier& notifier)
     : clock_(clock), preferences_(preferences), notifier_(notifier) {
     if (preferences_.contains(key::initialized)) {
-        takeUp();
+        load();
     } else {
         setUp();
     }
@@ -52,7 +52,7 @@ void GameGate::setUp() {
     preferences_.setReal(key::lockedUntil, 0.0);
 }
 
-void GameGate::takeUp() {
+void GameGate::load() {
     workSeconds_ = std::max(Seconds(preferences_.integer(key::workSeconds)), Seconds());
     ready_ = preferences_.boolean(key::ready);
     lockedUntil_ = lockEnd(preferences_.real(key::lockedUntil));

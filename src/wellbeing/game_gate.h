@@ -87,7 +87,7 @@ private:
     enum class Lock { asItWas, ended };
 
     void setUp();
-    void takeUp();
+    void load();
     Lock endLockIfOver();
     void charge();
     void persist();

@@ -31,19 +31,19 @@ NotificationManager::NotificationManager(platform::UserNotifications& service, p
       alive_(std::make_shared<NotificationManager*>(this)) {}
 
 void NotificationManager::requestAuthorization() {
-    if (!service_.hasNewerService()) {
+    if (!service_.hasModernService()) {
         useFallback_ = true;
         return;
     }
     service_.requestAuthorization([&mainLoop = mainLoop_, manager = std::weak_ptr(alive_)](
-                                      const platform::AuthorizationAnswer& answer) {
+                                      const platform::AuthorizationResult& answer) {
         mainLoop.post([manager, answer] {
-            if (const auto alive = manager.lock()) (*alive)->takeAnswer(answer);
+            if (const auto alive = manager.lock()) (*alive)->onAuthorizationResult(answer);
         });
     });
 }
 
-void NotificationManager::takeAnswer(const platform::AuthorizationAnswer& answer) {
+void NotificationManager::onAuthorizationResult(const platform::AuthorizationResult& answer) {
     if (answer.error) {
         log_.warning("Notif auth error: " + answer.error->message);
         useFallback_ = true;
@@ -52,16 +52,16 @@ void NotificationManager::takeAnswer(const platform::AuthorizationAnswer& answer
 }
 
 void NotificationManager::deliver(const platform::UserNotification& notification) {
-    if (useFallback_ || !service_.hasNewerService()) {
-        service_.deliverOlder(notification);
+    if (useFallback_ || !service_.hasModernService()) {
+        service_.deliverLegacy(notification);
         return;
     }
     service_.deliver(notification, [&mainLoop = mainLoop_, &log = log_, manager = std::weak_ptr(alive_),
-                                    notification](const Outcome& outcome) {
-        if (outcome.ok()) return;
-        log.warning("Notif deliver error: " + outcome.error().message);
+                                    notification](const Status& status) {
+        if (status.ok()) return;
+        log.warning("Notif deliver error: " + status.error().message);
         mainLoop.post([manager, notification] {
-            if (const auto alive = manager.lock()) (*alive)->service_.deliverOlder(notification);
+            if (const auto alive = manager.lock()) (*alive)->service_.deliverLegacy(notification);
         });
     });
 }

@@ -48,7 +48,7 @@ public:
     [[nodiscard]] bool useFallback() const { return useFallback_; }
 
 private:
-    void takeAnswer(const platform::AuthorizationAnswer& answer);
+    void onAuthorizationResult(const platform::AuthorizationResult& answer);
     void deliver(const platform::UserNotification& notification);
 
     platform::UserNotifications& service_;

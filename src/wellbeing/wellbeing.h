@@ -12,7 +12,7 @@ namespace tidewatch {
 /// Messages to the user, the charge for games and the reminder of breaks, built together. Main thread only.
 struct Wellbeing final {
     /// All of it must outlive the bundle; `mainLoop` and `log` also what `service` still has to report.
-    struct Needs {
+    struct Dependencies {
         const platform::Clock& clock;
         platform::MainLoop& mainLoop;
         platform::Preferences& preferences;
@@ -23,10 +23,11 @@ struct Wellbeing final {
         const GoalStore& goals;
     };
 
-    explicit Wellbeing(const Needs& needs)
-        : notifications(needs.service, needs.mainLoop, needs.preferences, needs.log, needs.goals, needs.days),
-          gameGate(needs.clock, needs.preferences, notifications),
-          breakReminder(needs.dayRule, needs.mainLoop, notifications) {}
+    explicit Wellbeing(const Dependencies& dependencies)
+        : notifications(dependencies.service, dependencies.mainLoop, dependencies.preferences,
+                        dependencies.log, dependencies.goals, dependencies.days),
+          gameGate(dependencies.clock, dependencies.preferences, notifications),
+          breakReminder(dependencies.dayRule, dependencies.mainLoop, notifications) {}
 
     NotificationManager notifications;
     GameGate gameGate;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "analysis/dashboard_rooms.h"
+#include "analysis/dashboard_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -19,15 +19,15 @@ protected:
 
     // Reads the files that were put before.
     [[nodiscard]] std::string day(const char* key) {
-        const test::DashboardRooms rooms(world_);
-        return exportOf(rooms).day(DayKey(key));
+        const test::DashboardFixture fixture(world_);
+        return exportOf(fixture).day(DayKey(key));
     }
     [[nodiscard]] std::string project() {
-        const test::DashboardRooms rooms(world_);
-        return exportOf(rooms).project(project_);
+        const test::DashboardFixture fixture(world_);
+        return exportOf(fixture).project(project_);
     }
-    [[nodiscard]] static CsvExport exportOf(const test::DashboardRooms& rooms) {
-        return {rooms.apps, rooms.projectTime, rooms.categories, rooms.appInfo};
+    [[nodiscard]] static CsvExport exportOf(const test::DashboardFixture& fixture) {
+        return {fixture.apps, fixture.projectTime, fixture.categories, fixture.appInfo};
     }
 
     test::FakeWorld world_;
@@ -102,13 +102,13 @@ TEST_F(CsvExportTest, FilesAreNamedAfterTheDayAndTheProject) {
 
 TEST_F(CsvExportTest, AnotherTierChangesPastDaysInTheProjectsFile) {
     putProjectTime(R"({"2024-02-29":{"0F8FAD5B-D9CB-469F-A165-70867728950E":{"com.spotify.client":5}}})");
-    test::DashboardRooms rooms(world_);
-    const auto exporter = exportOf(rooms);
+    test::DashboardFixture fixture(world_);
+    const auto exporter = exportOf(fixture);
     constexpr auto neutral = "2024-02-29,com.spotify.client,com.spotify.client,Música,neutral,5,00:00:05\n";
     constexpr auto productive =
         "2024-02-29,com.spotify.client,com.spotify.client,Música,productivo,5,00:00:05\n";
     EXPECT_NE(exporter.project(project_).find(neutral), std::string::npos);
-    rooms.categories.setTier(Tier::productive, Category::music);
+    fixture.categories.setTier(Tier::productive, Category::music);
     EXPECT_EQ(exporter.project(project_).find(neutral), std::string::npos);
     EXPECT_NE(exporter.project(project_).find(productive), std::string::npos);
 }

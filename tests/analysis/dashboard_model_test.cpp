@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "analysis/dashboard_rooms.h"
+#include "analysis/dashboard_fixture.h"
 #include "platform/fake/fake_time_zone.h"
 
 namespace tidewatch {
@@ -29,11 +29,11 @@ constexpr auto unknown = "org.example.Unheard-of";  // uncategorized
 class DashboardModelTest : public testing::Test {
 protected:
     void book(const char* app, const char* day, int seconds) {
-        for (int i = 0; i < seconds; ++i) rooms_.apps.incrementApp(AppId(app), DayKey(day));
+        for (int i = 0; i < seconds; ++i) fixture_.apps.incrementApp(AppId(app), DayKey(day));
     }
     void bookProject(const Project& project, const char* app, const char* day, int seconds) {
         world_.putAppInFront(app);
-        for (int i = 0; i < seconds; ++i) rooms_.projectTime.incrementCurrentApp(DayKey(day), project.id);
+        for (int i = 0; i < seconds; ++i) fixture_.projectTime.incrementCurrentApp(DayKey(day), project.id);
     }
     void registerApplication(const char* app, const char* name) {
         world_.applications.registerApplication(AppId(app), {name, "icon-of-it", {}});
@@ -62,8 +62,8 @@ protected:
     }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
-    test::DashboardRooms rooms_{world_};
-    DashboardModel model_{rooms_.sources()};
+    test::DashboardFixture fixture_{world_};
+    DashboardModel model_{fixture_.sources()};
 };
 
 TEST_F(DashboardModelTest, IsEmptyUntilItIsReloadedAndListsEveryTier) {
@@ -98,8 +98,8 @@ TEST_F(DashboardModelTest, AReloadReadsTheDayWithItsNamesAndClasses) {
     book(player, "2026-01-15", 30);
     book(editor, "2026-01-15", 60);
     book(music, "2026-01-14", 500);
-    rooms_.hours.incrementApp(AppId(editor), HourKey("2026-01-15 08"));
-    rooms_.minutes.incrementApp(AppId(editor), BucketKey("2026-01-15 08:30"));
+    fixture_.hours.incrementApp(AppId(editor), HourKey("2026-01-15 08"));
+    fixture_.minutes.incrementApp(AppId(editor), BucketKey("2026-01-15 08:30"));
     model_.reload();
     EXPECT_THAT(model_.allDayApps(), ElementsAre(AppEntry{AppId(editor), Seconds(60), "Editor",
                                                           AppIcon{AppIcon::Source::desktop, "icon-of-it", ""},
@@ -145,7 +145,7 @@ TEST_F(DashboardModelTest, EveryAssignmentIsAnnouncedWhetherItDiffersOrNot) {
 
 TEST_F(DashboardModelTest, ADayWithoutDataEndsEmptyWithTheMeanOfTheDaysBeforeIt) {
     book(editor, "2026-01-14", 60);
-    rooms_.daily.set(Seconds(60), DayKey("2026-01-14"));
+    fixture_.daily.set(Seconds(60), DayKey("2026-01-14"));
     model_.reload();
     EXPECT_THAT(model_.allDayApps(), IsEmpty());
     EXPECT_THAT(model_.hourGroups(), IsEmpty());
@@ -156,27 +156,27 @@ TEST_F(DashboardModelTest, ADayWithoutDataEndsEmptyWithTheMeanOfTheDaysBeforeIt)
 }
 
 TEST_F(DashboardModelTest, ADayWithoutProjectTimeIsOneUntaggedRow) {
-    rooms_.projects.addProject("Casa");
-    rooms_.daily.set(Seconds(100), DayKey("2026-01-15"));
+    fixture_.projects.addProject("Casa");
+    fixture_.daily.set(Seconds(100), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(model_.projectRows(),
                 ElementsAre(ProjectRow{"__untagged__", std::nullopt, Seconds(100), {}}));
 }
 
 TEST_F(DashboardModelTest, ProjectTimeBeyondTheDaysTotalLeavesNoUntaggedRow) {
-    const auto casa = rooms_.projects.addProject("Casa");
+    const auto casa = fixture_.projects.addProject("Casa");
     bookProject(casa, editor, "2026-01-15", 10);
-    rooms_.daily.set(Seconds(9), DayKey("2026-01-15"));
+    fixture_.daily.set(Seconds(9), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("Casa 10"));
-    rooms_.daily.set(Seconds(10), DayKey("2026-01-15"));
+    fixture_.daily.set(Seconds(10), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("Casa 10"));
 }
 
 TEST_F(DashboardModelTest, OneSecondGivesAProjectARowAndNoneGivesItNone) {
-    rooms_.projects.addProject("Nada");
-    const auto casa = rooms_.projects.addProject("Casa");
+    fixture_.projects.addProject("Nada");
+    const auto casa = fixture_.projects.addProject("Casa");
     bookProject(casa, editor, "2026-01-15", 1);
     bookProject(casa, editor, "2026-01-14", 5);
     model_.reload();
@@ -186,18 +186,18 @@ TEST_F(DashboardModelTest, OneSecondGivesAProjectARowAndNoneGivesItNone) {
 }
 
 TEST_F(DashboardModelTest, TheTimeOfAnArchivedProjectLandsInTheRest) {
-    const auto casa = rooms_.projects.addProject("Casa");
-    const auto old = rooms_.projects.addProject("Viejo");
+    const auto casa = fixture_.projects.addProject("Casa");
+    const auto old = fixture_.projects.addProject("Viejo");
     bookProject(casa, editor, "2026-01-15", 10);
     bookProject(old, editor, "2026-01-15", 50);
-    rooms_.daily.set(Seconds(70), DayKey("2026-01-15"));
-    rooms_.projects.setArchived(ProjectStore::Archived::yes, old.id);
+    fixture_.daily.set(Seconds(70), DayKey("2026-01-15"));
+    fixture_.projects.setArchived(ProjectStore::Archived::yes, old.id);
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("__untagged__ 60", "Casa 10"));
 }
 
 TEST_F(DashboardModelTest, AProjectShowsTheFirstSixOfItsApplications) {
-    const auto casa = rooms_.projects.addProject("Casa");
+    const auto casa = fixture_.projects.addProject("Casa");
     for (int i = 1; i <= 8; ++i) {
         bookProject(casa, fmt::format("app{}", i).c_str(), "2026-01-15", i);
     }
@@ -210,26 +210,26 @@ TEST_F(DashboardModelTest, AProjectShowsTheFirstSixOfItsApplications) {
 }
 
 TEST_F(DashboardModelTest, EqualRowsKeepTheOrderOfTheProjectsAndTheRestComesAfterThem) {
-    const auto a = rooms_.projects.addProject("A");
-    const auto b = rooms_.projects.addProject("B");
-    const auto c = rooms_.projects.addProject("C");
+    const auto a = fixture_.projects.addProject("A");
+    const auto b = fixture_.projects.addProject("B");
+    const auto c = fixture_.projects.addProject("C");
     bookProject(c, editor, "2026-01-15", 20);
     bookProject(b, editor, "2026-01-15", 10);
     bookProject(a, editor, "2026-01-15", 10);
-    rooms_.daily.set(Seconds(50), DayKey("2026-01-15"));
+    fixture_.daily.set(Seconds(50), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("C 20", "A 10", "B 10", "__untagged__ 10"));
 }
 
 TEST_F(DashboardModelTest, TheScoreAndTheDaysTotalNeedNotAgree) {
-    rooms_.daily.set(Seconds(1000), DayKey("2026-01-15"));
+    fixture_.daily.set(Seconds(1000), DayKey("2026-01-15"));
     book(editor, "2026-01-15", 60);
     model_.reload();
     EXPECT_EQ(model_.totalActiveToday(), Seconds(60));
     EXPECT_THAT(rowsOfProjects(), ElementsAre("__untagged__ 1000"));
 }
 
-TEST_F(DashboardModelTest, TheMeanIsZeroWithoutADayThatTells) {
+TEST_F(DashboardModelTest, TheMeanIsZeroWithoutASignificantDay) {
     EXPECT_EQ(meanAfterReload(), 0.0);
     book(editor, "2026-01-14", 59);
     book(editor, "2026-01-13", 29);
@@ -292,7 +292,7 @@ TEST_F(DashboardModelTest, AStepAnnouncesTheDateAndThenReloads) {
 TEST_F(DashboardModelTest, StepsKeepTheTimeOnTheClockWhenTheClockChanges) {
     world_.clock.setZone(platform::madridZone());
     world_.clock.setNow(sys_days(2026y / 3 / 30) + 22h + 30min);  // half past midnight on the 31st
-    DashboardModel model(rooms_.sources());
+    DashboardModel model(fixture_.sources());
     for (const auto* day : {"2026-03-30", "2026-03-29", "2026-03-28"}) {
         model.previousDay();
         EXPECT_EQ(model.selectedDayKey(), DayKey(day));
@@ -304,9 +304,9 @@ TEST_F(DashboardModelTest, StepsKeepTheTimeOnTheClockWhenTheClockChanges) {
 }
 
 TEST_F(DashboardModelTest, TheDayIsThatOfTheCalendarWhereverTheUsersDayMayStart) {
-    rooms_.settings.setDayStartHour(5);
+    fixture_.settings.setDayStartHour(5);
     world_.clock.setNow(sys_days(2026y / 1 / 16) + 2h);
-    DashboardModel model(rooms_.sources());
+    DashboardModel model(fixture_.sources());
     EXPECT_EQ(model.selectedDayKey(), DayKey("2026-01-16"));
     EXPECT_TRUE(model.isSelectedToday());
     model.reload();
@@ -395,7 +395,7 @@ TEST_F(DashboardModelTest, AnotherClassificationCountsForPastDaysAtTheNextReload
     book(music, "2026-01-14", 60);
     model_.previousDay();
     EXPECT_EQ(model_.score().neutralSeconds, Seconds(60));
-    rooms_.categories.setTier(Tier::productive, Category::music);
+    fixture_.categories.setTier(Tier::productive, Category::music);
     model_.reload();
     EXPECT_EQ(model_.score().productiveSeconds, Seconds(60));
     EXPECT_EQ(model_.allDayApps()[0].tier, Tier::productive);
@@ -429,7 +429,7 @@ TEST_F(DashboardModelTest, APastDayIsStaticWhileTheTimerRunsOn) {
 
 TEST_F(DashboardModelTest, MidnightMakesTheDayOnShowAPastOne) {
     world_.clock.setNow(sys_days(2026y / 1 / 15) + 23h + 59min + 59s);
-    DashboardModel model(rooms_.sources());
+    DashboardModel model(fixture_.sources());
     model.startLiveRefresh();
     book(editor, "2026-01-15", 60);
     world_.mainLoop.runFor(10s);
@@ -451,7 +451,7 @@ TEST_F(DashboardModelTest, TheLiveRefreshIsOneTimerThatStops) {
 
 TEST_F(DashboardModelTest, TheTimerEndsWithTheModelAndMayBeStoppedFromWithinAReload) {
     {
-        DashboardModel model(rooms_.sources());
+        DashboardModel model(fixture_.sources());
         model.startLiveRefresh();
         EXPECT_EQ(world_.mainLoop.timerCount(), 1U);
     }
@@ -464,7 +464,7 @@ TEST_F(DashboardModelTest, TheTimerEndsWithTheModelAndMayBeStoppedFromWithinARel
 
 TEST_F(DashboardModelTest, WritesNothing) {
     book(editor, "2026-01-15", 60);
-    rooms_.projects.addProject("Casa");
+    fixture_.projects.addProject("Casa");
     const auto written = world_.files.writeCount();
     model_.reload();
     model_.previousDay();

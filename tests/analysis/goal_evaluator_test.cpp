@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "analysis/analysis_rooms.h"
+#include "analysis/analysis_fixture.h"
 #include "platform/fake/fake_time_zone.h"
 #include "tests/support/fake_world.h"
 
@@ -21,11 +21,11 @@ std::vector<std::string> texts(const std::vector<DayKey>& keys) {
 
 class GoalEvaluatorTest : public testing::Test {
 protected:
-    void setGoals(const GoalSettings& goals) { rooms_.goals.setSettings(goals); }
+    void setGoals(const GoalSettings& goals) { fixture_.goals.setSettings(goals); }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
-    test::AnalysisRooms rooms_{world_};
-    const GoalEvaluator& evaluator_ = rooms_.evaluator;
+    test::AnalysisFixture fixture_{world_};
+    const GoalEvaluator& evaluator_ = fixture_.evaluator;
 };
 
 TEST_F(GoalEvaluatorTest, OnAMondayTheWeekHasOneDayOnASundaySeven) {
@@ -46,7 +46,7 @@ TEST_F(GoalEvaluatorTest, OnTheFirstOfAMonthTheMonthHasOneDay) {
 
 TEST_F(GoalEvaluatorTest, ForASundayTheFirstTheWeekSumsSixDaysOfTheFormerMonth) {
     for (auto day = sys_days(2026y / 1 / 20); day <= sys_days(2026y / 2 / 1); day += days(1)) {
-        rooms_.setTime(day, 100);
+        fixture_.setTime(day, 100);
     }
     const auto rows = evaluator_.evaluate(sys_days(2026y / 2 / 1) + 12h);
     EXPECT_EQ(rows[2].currentSeconds, Seconds(700));
@@ -54,8 +54,8 @@ TEST_F(GoalEvaluatorTest, ForASundayTheFirstTheWeekSumsSixDaysOfTheFormerMonth) 
 }
 
 TEST_F(GoalEvaluatorTest, TheFutureOfAPeriodDoesNotCount) {
-    rooms_.setTime(2026y / 1 / 15, 10);
-    rooms_.setTime(2026y / 1 / 16, 1000);
+    fixture_.setTime(2026y / 1 / 15, 10);
+    fixture_.setTime(2026y / 1 / 16, 1000);
     const auto rows = evaluator_.evaluate(world_.clock.now());
     EXPECT_EQ(rows[2].currentSeconds, Seconds(10));
     EXPECT_EQ(rows[3].currentSeconds, Seconds(10));
@@ -63,7 +63,7 @@ TEST_F(GoalEvaluatorTest, TheFutureOfAPeriodDoesNotCount) {
 
 TEST_F(GoalEvaluatorTest, TargetsAreHoursInSecondsTruncated) {
     setGoals({.dailyHours = 7.5, .weeklyHours = 0.0001, .monthlyHours = -0.0005});
-    rooms_.setTime(2026y / 1 / 15, 13500);
+    fixture_.setTime(2026y / 1 / 15, 13500);
     const auto rows = evaluator_.evaluate();
     EXPECT_EQ(rows[0].targetSeconds, Seconds(27000));
     EXPECT_EQ(rows[0].fraction, 0.5);
@@ -75,7 +75,7 @@ TEST_F(GoalEvaluatorTest, TargetsAreHoursInSecondsTruncated) {
 
 TEST_F(GoalEvaluatorTest, ATargetBeyondAllReasonDoesNoHarm) {
     setGoals({.dailyHours = 1e300, .weeklyHours = -1e300});
-    rooms_.setTime(2026y / 1 / 15, 3600);
+    fixture_.setTime(2026y / 1 / 15, 3600);
     const auto rows = evaluator_.evaluate();
     EXPECT_GT(rows[0].targetSeconds, Seconds(1'000'000'000'000));
     EXPECT_LT(rows[0].fraction, 1e-9);
@@ -84,7 +84,7 @@ TEST_F(GoalEvaluatorTest, ATargetBeyondAllReasonDoesNoHarm) {
 
 TEST_F(GoalEvaluatorTest, AProductivityGoalOfZeroIsNeverReached) {
     setGoals({.dailyProductivity = 0});
-    rooms_.addClassified(2026y / 1 / 15, 40, 10);
+    fixture_.addClassified(2026y / 1 / 15, 40, 10);
     const auto row = evaluator_.evaluate()[1];
     EXPECT_EQ(row.currentScore, 0.8);
     EXPECT_EQ(row.targetScore, 0);
@@ -102,10 +102,10 @@ TEST_F(GoalEvaluatorTest, AnEmptyRecordGivesFourRowsToo) {
 
 TEST_F(GoalEvaluatorTest, FractionsAreNotLimited) {
     setGoals({.dailyHours = 1, .dailyProductivity = 0.5, .weeklyHours = 2, .monthlyHours = 4});
-    rooms_.setTime(2026y / 1 / 15, 5400);
-    rooms_.setTime(2026y / 1 / 14, 5400);
-    rooms_.setTime(2026y / 1 / 2, 3600);
-    rooms_.addClassified(2026y / 1 / 15, 30, 10);
+    fixture_.setTime(2026y / 1 / 15, 5400);
+    fixture_.setTime(2026y / 1 / 14, 5400);
+    fixture_.setTime(2026y / 1 / 2, 3600);
+    fixture_.addClassified(2026y / 1 / 15, 30, 10);
     const auto rows = evaluator_.evaluate();
     EXPECT_EQ(rows[0].fraction, 1.5);
     EXPECT_EQ(rows[1].fraction, 1.5);
@@ -114,7 +114,7 @@ TEST_F(GoalEvaluatorTest, FractionsAreNotLimited) {
 }
 
 TEST_F(GoalEvaluatorTest, ThreeFifthsOfTheDefaultGoalAreALastBitShortOfThreeQuarters) {
-    rooms_.addClassified(2026y / 1 / 15, 60, 40);
+    fixture_.addClassified(2026y / 1 / 15, 60, 40);
     const auto row = evaluator_.evaluate()[1];
     EXPECT_EQ(row.currentScore, 0.6);
     EXPECT_EQ(row.fraction, 0.6 / 0.8);
@@ -122,20 +122,20 @@ TEST_F(GoalEvaluatorTest, ThreeFifthsOfTheDefaultGoalAreALastBitShortOfThreeQuar
 }
 
 TEST_F(GoalEvaluatorTest, TheScoreIsTakenAsItIsWithoutTheGatesOfItsDisplay) {
-    rooms_.addClassified(2026y / 1 / 15, 3, 1);
+    fixture_.addClassified(2026y / 1 / 15, 3, 1);
     EXPECT_EQ(evaluator_.evaluate()[1].currentScore, 0.75);
 }
 
 TEST_F(GoalEvaluatorTest, ASumTakesAbsentDaysAsZero) {
-    rooms_.setTime(2026y / 1 / 14, 5);
+    fixture_.setTime(2026y / 1 / 14, 5);
     const std::vector days{DayKey("2026-01-13"), DayKey("2026-01-14"), DayKey("no day")};
     EXPECT_EQ(evaluator_.sumSeconds(days), Seconds(5));
     EXPECT_EQ(evaluator_.sumSeconds({}), Seconds(0));
-    EXPECT_EQ(rooms_.daily.allDays().size(), 1u) << "asking made a day";
+    EXPECT_EQ(fixture_.daily.allDays().size(), 1u) << "asking made a day";
 }
 
 TEST_F(GoalEvaluatorTest, NewGoalsAreSeenAtOnce) {
-    rooms_.setTime(2026y / 1 / 15, 3600);
+    fixture_.setTime(2026y / 1 / 15, 3600);
     setGoals({.dailyHours = 1});
     EXPECT_EQ(evaluator_.evaluate()[0].fraction, 1.0);
 }
@@ -159,7 +159,7 @@ TEST_F(GoalEvaluatorTest, ANightThatChangesTheClockNeitherSkipsNorRepeatsADay) {
             const auto week = evaluator_.dayKeysInSameWeekAs(sys_days(sunday) + hours(hour));
             ASSERT_EQ(week.size(), 7u);
             for (int day = 0; day < 7; ++day) {
-                EXPECT_EQ(week[static_cast<std::size_t>(day)], dayKeyOf(sys_days(sunday) - days(6 - day)));
+                EXPECT_EQ(week[static_cast<std::size_t>(day)], toDayKey(sys_days(sunday) - days(6 - day)));
             }
         }
     }
@@ -167,11 +167,11 @@ TEST_F(GoalEvaluatorTest, ANightThatChangesTheClockNeitherSkipsNorRepeatsADay) {
 }
 
 TEST_F(GoalEvaluatorTest, TheDayIsTheLogicalOneAndThePeriodsAreThoseOfTheCalendar) {
-    rooms_.settings.setDayStartHour(4);
+    fixture_.settings.setDayStartHour(4);
     const Instant night = sys_days(2026y / 2 / 2) + 2h;  // a Monday
-    rooms_.setTime(2026y / 2 / 1, 100);
-    rooms_.setTime(2026y / 2 / 2, 7);
-    rooms_.addClassified(2026y / 2 / 1, 3, 1);
+    fixture_.setTime(2026y / 2 / 1, 100);
+    fixture_.setTime(2026y / 2 / 2, 7);
+    fixture_.addClassified(2026y / 2 / 1, 3, 1);
     const auto rows = evaluator_.evaluate(night);
     EXPECT_EQ(rows[0].currentSeconds, Seconds(100));
     EXPECT_EQ(rows[1].currentScore, 0.75);

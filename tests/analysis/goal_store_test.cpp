@@ -5,7 +5,7 @@
 #include <limits>
 #include <string>
 
-#include "analysis/analysis_rooms.h"
+#include "analysis/analysis_fixture.h"
 #include "tests/support/fake_world.h"
 
 namespace tidewatch {
@@ -116,7 +116,7 @@ TEST_F(GoalStoreTest, AnyValidJsonOfTheSameShapeIsRead) {
     EXPECT_EQ(load(std::string("\xEF\xBB\xBF") + busyText), busy);
 }
 
-TEST_F(GoalStoreTest, OtherKeysArePassedOverAndOfEqualOnesTheLastCounts) {
+TEST_F(GoalStoreTest, OtherKeysAreIgnoredAndOfEqualOnesTheLastCounts) {
     EXPECT_EQ(load(R"({"later":[1,{}],"dailyHours":1,"dailyProductivity":0.65,"monthlyHours":160,
                        "notificationsEnabled":false,"weeklyHours":40,"dailyHours":7.5})"),
               busy);

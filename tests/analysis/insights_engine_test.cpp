@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/fake/fake_time_zone.h"
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -20,18 +20,19 @@ constexpr auto music = "com.spotify.client";    // neutral
 
 class InsightsEngineTest : public testing::Test {
 protected:
-    void day(const char* key, int seconds) { rooms_.daily.set(Seconds(seconds), DayKey(key)); }
+    void day(const char* key, int seconds) { fixture_.daily.set(Seconds(seconds), DayKey(key)); }
     void hour(const char* key, int seconds, const char* app = music) {
-        for (int i = 0; i < seconds; ++i) rooms_.hours.incrementApp(AppId(app), HourKey(key));
+        for (int i = 0; i < seconds; ++i) fixture_.hours.incrementApp(AppId(app), HourKey(key));
     }
     void bucket(const char* key, int seconds, const char* app = music) {
-        for (int i = 0; i < seconds; ++i) rooms_.minutes.incrementApp(AppId(app), BucketKey(key));
+        for (int i = 0; i < seconds; ++i) fixture_.minutes.incrementApp(AppId(app), BucketKey(key));
     }
     [[nodiscard]] static Instant utc(year_month_day date, minutes time) { return sys_days(date) + time; }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
-    test::ClassifiedRooms rooms_{world_};
-    const InsightsEngine engine_{world_.clock, rooms_.daily, rooms_.hours, rooms_.minutes, rooms_.categories};
+    test::ClassificationFixture fixture_{world_};
+    const InsightsEngine engine_{world_.clock, fixture_.daily, fixture_.hours, fixture_.minutes,
+                                 fixture_.categories};
 };
 
 TEST_F(InsightsEngineTest, TheRangesHaveTheirNamesAndLengths) {
@@ -166,7 +167,7 @@ TEST_F(InsightsEngineTest, ADayWithoutProductiveSecondsIsNeverTheBestScore) {
     EXPECT_EQ(insights.bestScore, 0.0);
 }
 
-TEST_F(InsightsEngineTest, HoursOutsideTheRangeAndKeysOfOddShapeAreLeftOut) {
+TEST_F(InsightsEngineTest, HoursOutsideTheRangeAndMalformedKeysAreLeftOut) {
     hour("2026-01-08 09", 70);
     hour("2026-01-15", 80);
     hour("2026-01-15 24", 80);
@@ -241,7 +242,8 @@ TEST_F(InsightsEngineTest, ABucketKeyWithoutABlankIsADayAndThenNoDate) {
 TEST_F(InsightsEngineTest, AnHourThatTheClockSkipsDoesNotInterruptASession) {
     world_.clock.setZone(platform::madridZone());
     world_.clock.setNow(utc(2026y / 3 / 29, 12h));
-    const InsightsEngine engine(world_.clock, rooms_.daily, rooms_.hours, rooms_.minutes, rooms_.categories);
+    const InsightsEngine engine(world_.clock, fixture_.daily, fixture_.hours, fixture_.minutes,
+                                fixture_.categories);
     bucket("2026-03-29 01:50", 600);
     bucket("2026-03-29 03:00", 600);
     EXPECT_EQ(engine.compute(InsightsRange::week).longest,
@@ -252,7 +254,8 @@ TEST_F(InsightsEngineTest, AnHourThatTheClockSkipsDoesNotInterruptASession) {
 TEST_F(InsightsEngineTest, TheWeekKeepsItsDaysWhenTheClockChanges) {
     world_.clock.setZone(platform::madridZone());
     world_.clock.setNow(utc(2026y / 3 / 30, 22h + 30min));  // half past midnight on the 31st
-    const InsightsEngine engine(world_.clock, rooms_.daily, rooms_.hours, rooms_.minutes, rooms_.categories);
+    const InsightsEngine engine(world_.clock, fixture_.daily, fixture_.hours, fixture_.minutes,
+                                fixture_.categories);
     day("2026-03-24", 1000);
     day("2026-03-25", 100);
     EXPECT_EQ(engine.compute(InsightsRange::week).totalSeconds, Seconds(100));
@@ -261,7 +264,7 @@ TEST_F(InsightsEngineTest, TheWeekKeepsItsDaysWhenTheClockChanges) {
 TEST_F(InsightsEngineTest, AnotherClassificationChangesTheBestScore) {
     hour("2026-01-15 09", 300, music);
     EXPECT_EQ(engine_.compute(InsightsRange::week).bestScoreDayKey, std::nullopt);
-    rooms_.categories.setTier(Tier::productive, Category::music);
+    fixture_.categories.setTier(Tier::productive, Category::music);
     EXPECT_EQ(engine_.compute(InsightsRange::week).bestScore, 1.0);
 }
 

@@ -17,7 +17,7 @@
 #include "analysis/insights_engine.h"
 #include "platform/fake/fake_time_zone.h"
 #include "tests/support/chance.h"
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -176,8 +176,8 @@ public:
         result_ = Insights();
         result_.range = range;
         cutoff_ = range == InsightsRange::all ? "" : dayBeforeToday(range == InsightsRange::week ? 6 : 29);
-        reviewDays();
-        reviewHours();
+        addDayInsights();
+        addHourInsights();
         reviewBuckets();
         return result_;
     }
@@ -185,7 +185,7 @@ public:
 private:
     std::string dayBeforeToday(int count) const { return *std::prev(almanac_.days.find(today_), count); }
 
-    void reviewDays() {
+    void addDayInsights() {
         std::vector<std::string> inRange;
         for (const auto& [day, seconds] : record_.days) {
             if (day < cutoff_) continue;
@@ -209,7 +209,7 @@ private:
                             1;
     }
 
-    void reviewHours() {
+    void addHourInsights() {
         Counters productive;
         Counters distracting;
         std::map<std::string, std::pair<int, int>> busiest;
@@ -308,11 +308,12 @@ TEST(InsightsPropertyTest, GivesWhatTheSlowComputationGives) {
         world.files.put(world.todayJson, jsonOf(record.days));
         world.files.put(world.hoursJson, jsonOf(record.hours));
         world.files.put(world.minutesJson, jsonOf(record.minutes));
-        test::ClassifiedRooms rooms(world);
-        if (seed % 3 == 0) rooms.categories.setCategory(Category::games, AppId("org.example.Unknown"));
-        if (seed % 4 == 0) rooms.categories.setTier(Tier::distracting, Category::design);
-        const InsightsEngine engine(world.clock, rooms.daily, rooms.hours, rooms.minutes, rooms.categories);
-        SlowInsights slow(record, rooms.categories, almanacs[seed % all.size()],
+        test::ClassificationFixture fixture(world);
+        if (seed % 3 == 0) fixture.categories.setCategory(Category::games, AppId("org.example.Unknown"));
+        if (seed % 4 == 0) fixture.categories.setTier(Tier::distracting, Category::design);
+        const InsightsEngine engine(world.clock, fixture.daily, fixture.hours, fixture.minutes,
+                                    fixture.categories);
+        SlowInsights slow(record, fixture.categories, almanacs[seed % all.size()],
                           dayText(place.now, *place.zone));
         for (const auto range : allInsightsRanges()) {
             const auto expected = slow.compute(range);

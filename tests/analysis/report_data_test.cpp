@@ -3,7 +3,7 @@
 #include <fmt/format.h>
 #include <gmock/gmock.h>
 
-#include "analysis/analysis_rooms.h"
+#include "analysis/analysis_fixture.h"
 #include "classification/app_info_resolver.h"
 #include "platform/fake/fake_time_zone.h"
 
@@ -19,19 +19,19 @@ using testing::SizeIs;
 class ReportDataTest : public testing::Test {
 protected:
     [[nodiscard]] ReportData build() const {
-        return buildReportData({world_.clock, rooms_.daily, rooms_.apps, appInfo_, rooms_.scorer,
-                                rooms_.evaluator, rooms_.rewards});
+        return buildReportData({world_.clock, fixture_.daily, fixture_.apps, appInfo_, fixture_.scorer,
+                                fixture_.evaluator, fixture_.rewards});
     }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
-    test::AnalysisRooms rooms_{world_};
+    test::AnalysisFixture fixture_{world_};
     const AppInfoResolver appInfo_{world_.applications};
 };
 
 TEST_F(ReportDataTest, TheFirstOfAMonthWithoutTimeIsAnEmptyReport) {
     world_.clock.setNow(sys_days(2026y / 11 / 1) + 8h);
-    rooms_.setTime(2026y / 10 / 31, 5000);
-    rooms_.addClassified(2026y / 10 / 31, 100, 0);
+    fixture_.setTime(2026y / 10 / 31, 5000);
+    fixture_.addClassified(2026y / 10 / 31, 100, 0);
     const auto data = build();
     EXPECT_EQ(data.totalSeconds, Seconds());
     EXPECT_EQ(data.activeDays, 0);
@@ -46,16 +46,16 @@ TEST_F(ReportDataTest, TheFirstOfAMonthWithoutTimeIsAnEmptyReport) {
 
 TEST_F(ReportDataTest, AnEmptyRecordHasTheFourRowsOfGoals) {
     const auto data = build();
-    EXPECT_EQ(data.goals, rooms_.evaluator.evaluate());
+    EXPECT_EQ(data.goals, fixture_.evaluator.evaluate());
     EXPECT_EQ(data.goals[0].label, "Hoy");
     EXPECT_EQ(data.goals[3].label, "Mes");
     EXPECT_EQ(data.streak, 0);
 }
 
 TEST_F(ReportDataTest, ADayWithOneSecondIsAnActiveDay) {
-    rooms_.setTime(2026y / 1 / 1, 1);
-    rooms_.setTime(2026y / 1 / 2, 0);
-    rooms_.setTime(2026y / 1 / 15, 100);
+    fixture_.setTime(2026y / 1 / 1, 1);
+    fixture_.setTime(2026y / 1 / 2, 0);
+    fixture_.setTime(2026y / 1 / 15, 100);
     const auto data = build();
     EXPECT_EQ(data.activeDays, 2);
     EXPECT_EQ(data.totalSeconds, Seconds(101));
@@ -63,25 +63,25 @@ TEST_F(ReportDataTest, ADayWithOneSecondIsAnActiveDay) {
 }
 
 TEST_F(ReportDataTest, TheMonthGoesThroughToday) {
-    rooms_.setTime(2025y / 12 / 31, 1000);
-    rooms_.setTime(2026y / 1 / 1, 10);
-    rooms_.setTime(2026y / 1 / 15, 20);
-    rooms_.setTime(2026y / 1 / 16, 2000);
+    fixture_.setTime(2025y / 12 / 31, 1000);
+    fixture_.setTime(2026y / 1 / 1, 10);
+    fixture_.setTime(2026y / 1 / 15, 20);
+    fixture_.setTime(2026y / 1 / 16, 2000);
     EXPECT_EQ(build().totalSeconds, Seconds(30));
 }
 
 TEST_F(ReportDataTest, OfEqualDaysTheEarliestIsTheRecord) {
-    rooms_.setTime(2026y / 1 / 3, 50);
-    rooms_.setTime(2026y / 1 / 7, 100);
-    rooms_.setTime(2026y / 1 / 9, 100);
+    fixture_.setTime(2026y / 1 / 3, 50);
+    fixture_.setTime(2026y / 1 / 7, 100);
+    fixture_.setTime(2026y / 1 / 9, 100);
     const auto data = build();
     EXPECT_EQ(data.recordDay, "2026-01-07");
     EXPECT_EQ(data.recordSeconds, Seconds(100));
 }
 
 TEST_F(ReportDataTest, TheScoreIsThatOfTheWholeMonthAndNoMeanOfDays) {
-    rooms_.addClassified(2026y / 1 / 5, 100, 0);
-    rooms_.addClassified(2026y / 1 / 6, 0, 300);
+    fixture_.addClassified(2026y / 1 / 5, 100, 0);
+    fixture_.addClassified(2026y / 1 / 6, 0, 300);
     EXPECT_EQ(build().scorePct, 0.25);
 }
 
@@ -89,8 +89,8 @@ TEST_F(ReportDataTest, ShowsTheEightApplicationsWithMostTimeUnderTheirNames) {
     world_.applications.registerApplication(AppId("app9"), {"La novena", "", {}});
     for (int i = 1; i <= 9; ++i) {
         for (int n = 0; n < i; ++n) {
-            rooms_.apps.incrementApp(AppId(fmt::format("app{}", i)), DayKey("2026-01-05"));
-            rooms_.apps.incrementApp(AppId(fmt::format("app{}", i)), DayKey("2026-01-15"));
+            fixture_.apps.incrementApp(AppId(fmt::format("app{}", i)), DayKey("2026-01-05"));
+            fixture_.apps.incrementApp(AppId(fmt::format("app{}", i)), DayKey("2026-01-15"));
         }
     }
     const auto data = build();
@@ -100,14 +100,14 @@ TEST_F(ReportDataTest, ShowsTheEightApplicationsWithMostTimeUnderTheirNames) {
 }
 
 TEST_F(ReportDataTest, FewerThanEightApplicationsAreAShorterList) {
-    rooms_.addClassified(2026y / 1 / 15, 5, 3);
+    fixture_.addClassified(2026y / 1 / 15, 5, 3);
     EXPECT_THAT(build().topApps, ElementsAre(ReportApp{"com.apple.dt.Xcode", Seconds(5)},
                                              ReportApp{"com.netflix.Netflix", Seconds(3)}));
 }
 
 TEST_F(ReportDataTest, StarsAndStreakAreThoseOfTheRewards) {
-    rooms_.setTime(2026y / 1 / 13, 6 * 3600);
-    rooms_.setTime(2026y / 1 / 14, 6 * 3600);
+    fixture_.setTime(2026y / 1 / 13, 6 * 3600);
+    fixture_.setTime(2026y / 1 / 14, 6 * 3600);
     const auto data = build();
     EXPECT_EQ(data.starsMonth, 6);
     EXPECT_EQ(data.streak, 2);
@@ -116,7 +116,7 @@ TEST_F(ReportDataTest, StarsAndStreakAreThoseOfTheRewards) {
 TEST_F(ReportDataTest, TitleAndTimeAreInTheZoneOfTheMoment) {
     world_.clock.setZone(platform::fixedZone(-6h));
     world_.clock.setNow(sys_days(2026y / 12 / 1) + 5h + 5min);
-    rooms_.setTime(2026y / 11 / 30, 100);
+    fixture_.setTime(2026y / 11 / 30, 100);
     const auto data = build();
     EXPECT_EQ(data.periodTitle, "MES · Noviembre 2026");
     EXPECT_EQ(data.generated, "30 nov 2026 · 23:05");

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/analysis_rooms.h"
+#include "analysis/analysis_fixture.h"
 #include "platform/fake/fake_time_zone.h"
 #include "tests/support/fake_world.h"
 
@@ -17,25 +17,25 @@ constexpr int hour = 3600;
 class RewardEngineTest : public testing::Test {
 protected:
     int starsForTime(int seconds) {
-        rooms_.setTime(today_, seconds);
+        fixture_.setTime(today_, seconds);
         return rewards_.stars(today_);
     }
 
     /// Stars of a day without any time but with these classified seconds.
     int starsForScore(int productive, int distracting) {
-        const auto day = dayKeyOf(nextDay_++);
-        rooms_.addClassified(day, productive, distracting);
+        const auto day = toDayKey(nextDay_++);
+        fixture_.addClassified(day, productive, distracting);
         return rewards_.stars(day);
     }
 
     /// Gives the days from `first` through `last` three stars each, for their time.
     void makeGood(sys_days first, sys_days last) {
-        for (auto day = first; day <= last; day += days(1)) rooms_.setTime(day, 6 * hour);
+        for (auto day = first; day <= last; day += days(1)) fixture_.setTime(day, 6 * hour);
     }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
-    test::AnalysisRooms rooms_{world_};
-    const RewardEngine& rewards_ = rooms_.rewards;
+    test::AnalysisFixture fixture_{world_};
+    const RewardEngine& rewards_ = fixture_.rewards;
     const DayKey today_{"2026-01-15"};
     sys_days nextDay_ = 2020y / 1 / 1;
 };
@@ -64,7 +64,7 @@ TEST_F(RewardEngineTest, StarsForProductivityBeginAtAQuarterAndThreeQuarters) {
 
 TEST_F(RewardEngineTest, ThreeFifthsAgainstTheGoalOfFourFifthsFallShortByARoundingAndGiveOneStar) {
     // As numbers of the machine 0.6 / 0.8 is a last bit below three quarters, whatever the seconds are.
-    ASSERT_EQ(rooms_.goals.settings().dailyProductivity, 0.8);
+    ASSERT_EQ(fixture_.goals.settings().dailyProductivity, 0.8);
     EXPECT_EQ(starsForScore(60, 40), 1);
     EXPECT_EQ(starsForScore(18, 12), 1);
     EXPECT_EQ(starsForScore(10800, 7200), 1);
@@ -72,7 +72,7 @@ TEST_F(RewardEngineTest, ThreeFifthsAgainstTheGoalOfFourFifthsFallShortByARoundi
 }
 
 TEST_F(RewardEngineTest, WhereTheQuotientIsExactThreeQuartersOfTheGoalGiveTwoStars) {
-    rooms_.goals.setSettings({.dailyProductivity = 0.5});
+    fixture_.goals.setSettings({.dailyProductivity = 0.5});
     EXPECT_EQ(starsForScore(375, 625), 2);
     EXPECT_EQ(starsForScore(374, 626), 1);
     EXPECT_EQ(starsForScore(125, 875), 1);
@@ -80,37 +80,37 @@ TEST_F(RewardEngineTest, WhereTheQuotientIsExactThreeQuartersOfTheGoalGiveTwoSta
 }
 
 TEST_F(RewardEngineTest, BothGoalsReachedGiveFiveStarsAndExceededNoMore) {
-    rooms_.setTime(today_, 6 * hour);
-    rooms_.addClassified(today_, 80, 20);
+    fixture_.setTime(today_, 6 * hour);
+    fixture_.addClassified(today_, 80, 20);
     EXPECT_EQ(rewards_.starsToday(), 5);
-    rooms_.setTime(today_, 16 * hour);
-    rooms_.addClassified(today_, 900, 0);
+    fixture_.setTime(today_, 16 * hour);
+    fixture_.addClassified(today_, 900, 0);
     EXPECT_EQ(rewards_.starsToday(), 5);
 }
 
 TEST_F(RewardEngineTest, TwentyNineClassifiedSecondsGiveNoStarAndKeepAStreakAliveByTheTime) {
-    rooms_.setTime(today_, 6 * hour);
-    rooms_.addClassified(today_, 29, 0);
-    rooms_.addNeutral(today_, 100);
+    fixture_.setTime(today_, 6 * hour);
+    fixture_.addClassified(today_, 29, 0);
+    fixture_.addNeutral(today_, 100);
     EXPECT_EQ(rewards_.starsToday(), 3);
     EXPECT_EQ(rewards_.currentStreak(), 1);
-    rooms_.addClassified(today_, 1, 0);
+    fixture_.addClassified(today_, 1, 0);
     EXPECT_EQ(rewards_.starsToday(), 5);
 }
 
 TEST_F(RewardEngineTest, AStreakLastsWhileTodayIsNotThereYet) {
     makeGood(2026y / 1 / 13, 2026y / 1 / 14);
-    rooms_.setTime(today_, 3 * hour);
+    fixture_.setTime(today_, 3 * hour);
     ASSERT_EQ(rewards_.starsToday(), 2);
     EXPECT_EQ(rewards_.currentStreak(), 2);
-    rooms_.setTime(today_, 5 * hour);
+    fixture_.setTime(today_, 5 * hour);
     ASSERT_EQ(rewards_.starsToday(), 3);
     EXPECT_EQ(rewards_.currentStreak(), 3);
 }
 
 TEST_F(RewardEngineTest, ADayBeforeThatFellShortEndsTheStreak) {
     makeGood(2026y / 1 / 10, 2026y / 1 / 15);
-    rooms_.setTime(2026y / 1 / 14, 3 * hour);
+    fixture_.setTime(2026y / 1 / 14, 3 * hour);
     EXPECT_EQ(rewards_.currentStreak(), 1);
 }
 
@@ -125,40 +125,40 @@ TEST_F(RewardEngineTest, FourHundredAndOneGoodDaysAreAStreakOfFourHundred) {
     EXPECT_EQ(rewards_.currentStreak(), 399);
     makeGood(today - days(400), today);
     EXPECT_EQ(rewards_.currentStreak(), 400);
-    rooms_.setTime(today, 0);
+    fixture_.setTime(today, 0);
     EXPECT_EQ(rewards_.currentStreak(), 400) << "four hundred up to yesterday";
 }
 
 TEST_F(RewardEngineTest, ALowerGoalMakesPastDaysGoodAtOnce) {
     for (auto day = sys_days(2026y / 1 / 6); day <= sys_days(2026y / 1 / 15); day += days(1)) {
-        rooms_.setTime(day, 3 * hour);
+        fixture_.setTime(day, 3 * hour);
     }
     EXPECT_EQ(rewards_.currentStreak(), 0);
     GoalSettings goals;
     goals.dailyHours = 3.5;
-    rooms_.goals.setSettings(goals);
+    fixture_.goals.setSettings(goals);
     EXPECT_EQ(rewards_.currentStreak(), 10);
 }
 
 TEST_F(RewardEngineTest, AnotherClassificationChangesPastDays) {
     const DayKey yesterday("2026-01-14");
-    rooms_.setTime(yesterday, 3 * hour);
-    for (int i = 0; i < 60; ++i) rooms_.apps.incrementApp(AppId("org.example.Editor"), yesterday);
+    fixture_.setTime(yesterday, 3 * hour);
+    for (int i = 0; i < 60; ++i) fixture_.apps.incrementApp(AppId("org.example.Editor"), yesterday);
     EXPECT_EQ(rewards_.stars(yesterday), 2);
     EXPECT_EQ(rewards_.currentStreak(), 0);
-    rooms_.categories.setCategory(Category::development, AppId("org.example.Editor"));
+    fixture_.categories.setCategory(Category::development, AppId("org.example.Editor"));
     EXPECT_EQ(rewards_.stars(yesterday), 4);
     EXPECT_EQ(rewards_.currentStreak(), 1);
 }
 
 TEST_F(RewardEngineTest, AGoalThatIsNotAboveZeroSwitchesOffItsStars) {
-    rooms_.setTime(today_, 6 * hour);
-    rooms_.addClassified(today_, 60, 0);
-    rooms_.goals.setSettings({.dailyHours = 0});
+    fixture_.setTime(today_, 6 * hour);
+    fixture_.addClassified(today_, 60, 0);
+    fixture_.goals.setSettings({.dailyHours = 0});
     EXPECT_EQ(rewards_.starsToday(), 2);
-    rooms_.goals.setSettings({.dailyProductivity = -1});
+    fixture_.goals.setSettings({.dailyProductivity = -1});
     EXPECT_EQ(rewards_.starsToday(), 3);
-    rooms_.goals.setSettings({.dailyHours = 0, .dailyProductivity = 0});
+    fixture_.goals.setSettings({.dailyHours = 0, .dailyProductivity = 0});
     EXPECT_EQ(rewards_.starsToday(), 0);
     EXPECT_EQ(rewards_.currentStreak(), 0);
 }
@@ -170,16 +170,16 @@ TEST_F(RewardEngineTest, ADayWithoutARecordHasNoStars) {
 }
 
 TEST_F(RewardEngineTest, TheMonthCountsFromTheFirstThroughToday) {
-    rooms_.setTime(2025y / 12 / 31, 6 * hour);
-    rooms_.setTime(2026y / 1 / 1, 6 * hour);
-    rooms_.setTime(2026y / 1 / 14, 3 * hour);
-    rooms_.setTime(today_, 1 * hour);
-    rooms_.setTime(2026y / 1 / 16, 6 * hour);
+    fixture_.setTime(2025y / 12 / 31, 6 * hour);
+    fixture_.setTime(2026y / 1 / 1, 6 * hour);
+    fixture_.setTime(2026y / 1 / 14, 3 * hour);
+    fixture_.setTime(today_, 1 * hour);
+    fixture_.setTime(2026y / 1 / 16, 6 * hour);
     EXPECT_EQ(rewards_.starsThisMonth(), 3 + 2 + 1);
 }
 
 TEST_F(RewardEngineTest, AStreakGoesByTheCalendarAndTodaysStarsByTheLogicalDay) {
-    rooms_.settings.setDayStartHour(4);
+    fixture_.settings.setDayStartHour(4);
     world_.clock.setNow(sys_days(2026y / 1 / 15) + 2h);
     makeGood(2026y / 1 / 12, 2026y / 1 / 14);
     EXPECT_EQ(rewards_.starsToday(), 3) << "still the 14th";
@@ -197,7 +197,7 @@ TEST_F(RewardEngineTest, AStreakCrossesTheNightsThatChangeTheClock) {
 }
 
 TEST_F(RewardEngineTest, TimeBelowZeroDoesNoHarm) {
-    rooms_.setTime(today_, -6 * hour);
+    fixture_.setTime(today_, -6 * hour);
     EXPECT_EQ(rewards_.starsToday(), 0);
 }
 

@@ -50,7 +50,7 @@ TEST_F(WiringTest, AChangeOfSizeIsHandedOn) {
     EXPECT_EQ(panelSize(), (PanelSize{220, 124}));
 }
 
-TEST_F(WiringTest, ASizeThatIsStoredWithoutAWordWaitsForTheNextChange) {
+TEST_F(WiringTest, ASizeThatIsStoredSilentlyWaitsForTheNextChange) {
     program_->services.counting.settings.setSizeScale(1);
     runFor(5s);
     EXPECT_EQ(panelSize(), ochre_);

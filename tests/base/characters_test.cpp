@@ -40,7 +40,7 @@ TEST(CharactersTest, MarksWithoutEndAreNotOneCharacter) {
     EXPECT_EQ(firstCharacters(1, marked).size(), 1U + 31 * 2);
 }
 
-TEST(CharactersTest, EachByteThatIsNoTextIsOne) {
+TEST(CharactersTest, EachByteOfInvalidUtf8IsOne) {
     EXPECT_EQ(firstCharacters(2, "\xFF\xC3x"), "\xFF\xC3");
     EXPECT_EQ(firstCharacters(1, "a\x80\x80"), "a");
     EXPECT_EQ(firstCharacters(2, "a\xE2\x80"), "a\xE2");
@@ -63,7 +63,7 @@ TEST(CharactersTest, OnOneLineEveryRunOfWhiteSpaceIsOneBlank) {
     EXPECT_EQ(onOneLine(""), "");
 }
 
-TEST(CharactersTest, OnOneLineJoinersMarksAndBytesThatAreNoTextStay) {
+TEST(CharactersTest, OnOneLineJoinersMarksAndInvalidUtf8Stay) {
     EXPECT_EQ(onOneLine(family + "\n" + accented + "\xFF"), family + " " + accented + "\xFF");
 }
 

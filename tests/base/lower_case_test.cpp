@@ -16,7 +16,7 @@ TEST(LowerCaseTest, KnowsTheLettersOfAllScripts) {
     EXPECT_EQ(lowerCased("日本 🎮 ß"), "日本 🎮 ß");
 }
 
-TEST(LowerCaseTest, LeavesWhatIsNoText) {
+TEST(LowerCaseTest, LeavesInvalidUtf8) {
     EXPECT_EQ(lowerCased("A\xFF\xC3Z"), "a\xFF\xC3z");
     EXPECT_EQ(lowerCased("Ñ\xE2\x80"), "ñ\xE2\x80");
 }

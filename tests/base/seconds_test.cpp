@@ -16,9 +16,9 @@ TEST(Seconds, Subtract) {
 }
 
 TEST(SecondsDeathTest, AnOverflowEndsTheProcessWithAMessage) {
-    const Seconds most(std::numeric_limits<std::int64_t>::max());
-    EXPECT_DEATH((void)(most + Seconds(1)), "a counter of seconds overflowed");
-    EXPECT_DEATH((void)(Seconds(-2) - most), "a counter of seconds overflowed");
+    const Seconds max(std::numeric_limits<std::int64_t>::max());
+    EXPECT_DEATH((void)(max + Seconds(1)), "a counter of seconds overflowed");
+    EXPECT_DEATH((void)(Seconds(-2) - max), "a counter of seconds overflowed");
 }
 
 }  // namespace

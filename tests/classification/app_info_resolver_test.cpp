@@ -39,7 +39,7 @@ TEST_F(AppInfoResolverTest, AKnownApplicationKeepsItsNameThoughItIsRemoved) {
     const auto before = resolver.info(AppId("gimp"));
     applications.removeApplication(AppId("gimp"));
     EXPECT_EQ(resolver.info(AppId("gimp")), before);
-    EXPECT_EQ(applications.questions(), 1);
+    EXPECT_EQ(applications.lookupCount(), 1);
 }
 
 TEST_F(AppInfoResolverTest, TheBuiltInGamesHaveTheirOwnNameAndSymbol) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -88,18 +88,18 @@ TEST_F(CategoryStoreTest, SettingUncategorizedIsKeptAsAnOverride) {
 }
 
 TEST_F(CategoryStoreTest, ATierOfACategoryChangesAllItsApplicationsAtOncePastDaysIncluded) {
-    test::ClassifiedRooms rooms(world);
+    test::ClassificationFixture fixture(world);
     for (int i = 0; i < 60; ++i) {
-        rooms.apps.incrementApp(chrome, monday);
-        rooms.apps.incrementApp(AppId("com.apple.Safari"), monday);
+        fixture.apps.incrementApp(chrome, monday);
+        fixture.apps.incrementApp(AppId("com.apple.Safari"), monday);
     }
-    EXPECT_EQ(rooms.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(120));
-    rooms.categories.setTier(Tier::neutral, Category::browser);
-    const auto after = rooms.scorer.compute(std::vector{monday});
+    EXPECT_EQ(fixture.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(120));
+    fixture.categories.setTier(Tier::neutral, Category::browser);
+    const auto after = fixture.scorer.compute(std::vector{monday});
     EXPECT_EQ(after.productiveSeconds, Seconds(0));
     EXPECT_EQ(after.neutralSeconds, Seconds(120));
-    rooms.categories.clearTierOverride(Category::browser);
-    EXPECT_EQ(rooms.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(120));
+    fixture.categories.clearTierOverride(Category::browser);
+    EXPECT_EQ(fixture.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(120));
 }
 
 TEST_F(CategoryStoreTest, TheFileIsWrittenExactlySo) {
@@ -203,7 +203,7 @@ TEST_F(CategoryStoreTest, AnythingOfAnotherShapeReadsAsEmpty) {
     }
 }
 
-TEST_F(CategoryStoreTest, KeysBesideTheTwoArePassedOver) {
+TEST_F(CategoryStoreTest, KeysBesideTheTwoAreIgnored) {
     restartWith(R"({"version":2,"appOverrides":{"com.example.Editor":"Desarrollo"},"tierOverrides":[]})");
     EXPECT_EQ(store->category(editor), Category::development);
 }

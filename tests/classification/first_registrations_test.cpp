@@ -6,7 +6,7 @@
 #include <string>
 
 #include "classification/registered_category.h"
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -78,15 +78,15 @@ TEST_F(FirstRegistrationsTest, APackageWhoseUpdateRegistersSomethingElseLeavesIt
 TEST_F(FirstRegistrationsTest, APastDaysScoreOutlivesTheRemovalOfItsApplications) {
     install(terminal, {"TerminalEmulator"});
     {
-        test::ClassifiedRooms rooms(world);
-        for (int i = 0; i < 60; ++i) rooms.apps.incrementApp(terminal, monday);
-        EXPECT_EQ(rooms.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(60));
-        rooms.apps.flush();
-        rooms.categories.flushRegistered();
+        test::ClassificationFixture fixture(world);
+        for (int i = 0; i < 60; ++i) fixture.apps.incrementApp(terminal, monday);
+        EXPECT_EQ(fixture.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(60));
+        fixture.apps.flush();
+        fixture.categories.flushRegistered();
     }
     world.applications.removeApplication(terminal);
-    test::ClassifiedRooms rooms(world);
-    EXPECT_EQ(rooms.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(60));
+    test::ClassificationFixture fixture(world);
+    EXPECT_EQ(fixture.scorer.compute(std::vector{monday}).productiveSeconds, Seconds(60));
 }
 
 TEST_F(FirstRegistrationsTest, TheUsersChoiceWinsOverWhatIsRemembered) {
@@ -114,21 +114,21 @@ TEST_F(FirstRegistrationsTest, AnEntryThatSaidNothingOfUseIsAskedForAgainAfterAC
 
 TEST_F(FirstRegistrationsTest, AnUnknownApplicationIsAskedForAgainOnlyWhenTheRegistryHasChanged) {
     for (int i = 0; i < 10; ++i) static_cast<void>(store->category(chess));
-    EXPECT_EQ(world.applications.questions(), 1);
+    EXPECT_EQ(world.applications.lookupCount(), 1);
     install(terminal, {"TerminalEmulator"});
     for (int i = 0; i < 10; ++i) static_cast<void>(store->category(chess));
-    EXPECT_EQ(world.applications.questions(), 2);
+    EXPECT_EQ(world.applications.lookupCount(), 2);
 }
 
 TEST_F(FirstRegistrationsTest, AKnownApplicationIsAskedForOnce) {
     meetBoth();
     for (int i = 0; i < 10; ++i) meetBoth();
-    EXPECT_EQ(world.applications.questions(), 2);
+    EXPECT_EQ(world.applications.lookupCount(), 2);
     restart();
     world.files.put(registeredJson, bothOnDisk);
     restart();
     meetBoth();
-    EXPECT_EQ(world.applications.questions(), 2);
+    EXPECT_EQ(world.applications.lookupCount(), 2);
 }
 
 TEST_F(FirstRegistrationsTest, NothingIsWrittenWithoutNews) {
@@ -182,7 +182,7 @@ TEST_F(FirstRegistrationsTest, WhatCannotBeReadIsKeptBeforeItIsReplaced) {
 
 TEST_F(FirstRegistrationsTest, NothingIsWrittenIntoAnotherInstancesDirectory) {
     meetBoth();
-    world.files.setHold(platform::RecordHold::anothers);
+    world.files.setRecordLock(platform::RecordLock::heldByAnother);
     store->flushRegistered();
     EXPECT_THAT(world.files.writes(), IsEmpty());
 }

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -55,10 +55,10 @@ TEST(BucketSummaryTest, TheFillRatioHasNoUpperLimit) {
 
 struct HourGroupTest : testing::Test {
     test::FakeWorld world;
-    test::ClassifiedRooms rooms{world};
+    test::ClassificationFixture fixture{world};
 
     void book(const char* app, const char* key, int seconds) {
-        for (int i = 0; i < seconds; ++i) rooms.minutes.incrementApp(AppId(app), BucketKey(key));
+        for (int i = 0; i < seconds; ++i) fixture.minutes.incrementApp(AppId(app), BucketKey(key));
     }
     [[nodiscard]] std::vector<int> hoursOf(const std::vector<HourGroup>& groups) const {
         std::vector<int> hours;
@@ -68,15 +68,15 @@ struct HourGroupTest : testing::Test {
 };
 
 TEST_F(HourGroupTest, ADayWithoutSecondsGivesNoGroups) {
-    EXPECT_THAT(rooms.groups(today), IsEmpty());
+    EXPECT_THAT(fixture.groups(today), IsEmpty());
     world.files.put(world.minutesJson, R"({"2026-01-15 09:00":{"xterm":0}})");
-    const test::ClassifiedRooms zero(world);
+    const test::ClassificationFixture zero(world);
     EXPECT_THAT(zero.groups(today), IsEmpty());
 }
 
 TEST_F(HourGroupTest, AnHourWithActivityHasAllSixBucketsByMinute) {
     book("com.apple.dt.Xcode", "2026-01-15 09:20", 30);
-    const auto groups = rooms.groups(today);
+    const auto groups = fixture.groups(today);
     ASSERT_THAT(groups, SizeIs(1));
     EXPECT_EQ(groups[0].id(), "2026-01-15-9");
     EXPECT_TRUE(groups[0].hasActivity());
@@ -95,9 +95,9 @@ TEST_F(HourGroupTest, OnlyHoursWithActivityAppearInTheOrderOfTheDay) {
     book("xterm", "2026-01-15 09:00", 1);
     book("xterm", "2026-01-15 22:50", 1);
     book("xterm", "2026-01-16 12:00", 1);
-    EXPECT_THAT(hoursOf(rooms.groups(today)), ElementsAre(3, 9, 22));
-    rooms.settings.setDayStartHour(5);
-    EXPECT_THAT(hoursOf(rooms.groups(today)), ElementsAre(9, 22, 3));
+    EXPECT_THAT(hoursOf(fixture.groups(today)), ElementsAre(3, 9, 22));
+    fixture.settings.setDayStartHour(5);
+    EXPECT_THAT(hoursOf(fixture.groups(today)), ElementsAre(9, 22, 3));
 }
 
 TEST_F(HourGroupTest, TheTiersOfBucketsAndHourAreSummed) {
@@ -105,7 +105,7 @@ TEST_F(HourGroupTest, TheTiersOfBucketsAndHourAreSummed) {
     book("com.apple.finder", "2026-01-15 09:00", 5);
     book("com.hnc.Discord", "2026-01-15 09:50", 3);
     book("com.example.unknown", "2026-01-15 09:50", 20);
-    const auto group = rooms.groups(today).at(0);
+    const auto group = fixture.groups(today).at(0);
     EXPECT_EQ(group.totalSeconds, Seconds(38));
     EXPECT_EQ(group.productive, Seconds(10));
     EXPECT_EQ(group.neutral, Seconds(5));
@@ -121,7 +121,7 @@ TEST_F(HourGroupTest, WithSevenApplicationsInAnHourTopActivitiesHoldsSix) {
     for (int i = 1; i <= 7; ++i) {
         book(("app" + std::to_string(i)).c_str(), "2026-01-15 09:00", i);
     }
-    const auto group = rooms.groups(today).at(0);
+    const auto group = fixture.groups(today).at(0);
     ASSERT_THAT(group.topActivities, SizeIs(6));
     EXPECT_EQ(group.topActivities.front().app, AppId("app7"));
     EXPECT_EQ(group.topActivities.back().app, AppId("app2"));
@@ -133,7 +133,7 @@ TEST_F(HourGroupTest, AnActivityIsSummedOverTheHourAndHasNameIconAndTier) {
     world.applications.registerApplication(editor, {"Editor", "editor-icon", {"Development", "IDE"}});
     book("org.example.Editor", "2026-01-15 09:00", 4);
     book("org.example.Editor", "2026-01-15 09:50", 5);
-    const auto group = rooms.groups(today).at(0);
+    const auto group = fixture.groups(today).at(0);
     EXPECT_THAT(
         group.topActivities,
         ElementsAre(TopActivity{editor, "Editor", AppIcon{AppIcon::Source::desktop, "editor-icon", ""},
@@ -148,7 +148,7 @@ TEST_F(HourGroupTest, TopCategoriesSumTheirApplicationsAndHoldFive) {
     book("com.spotify.client", "2026-01-15 09:00", 3);
     book("com.example.unknown", "2026-01-15 09:00", 2);
     book("com.hnc.Discord", "2026-01-15 09:00", 1);
-    const auto group = rooms.groups(today).at(0);
+    const auto group = fixture.groups(today).at(0);
     EXPECT_THAT(group.topCategories,
                 ElementsAre(TopCategory{Category::development, Seconds(11), Tier::productive},
                             TopCategory{Category::browser, Seconds(10), Tier::productive},
@@ -161,7 +161,7 @@ TEST_F(HourGroupTest, EqualOnesStandInTheOrderOfIdentifiersAndOfCategories) {
     book("b", "2026-01-15 09:00", 2);
     book("a", "2026-01-15 09:10", 2);
     book("com.google.Chrome", "2026-01-15 09:00", 4);
-    const auto group = rooms.groups(today).at(0);
+    const auto group = fixture.groups(today).at(0);
     EXPECT_EQ(group.topActivities[1].app, AppId("a"));
     EXPECT_EQ(group.topActivities[2].app, AppId("b"));
     EXPECT_EQ(group.topCategories[0].category, Category::browser);
@@ -170,8 +170,8 @@ TEST_F(HourGroupTest, EqualOnesStandInTheOrderOfIdentifiersAndOfCategories) {
 
 TEST_F(HourGroupTest, TheTierOfACategoryFollowsTheUsersChoice) {
     book("com.google.Chrome", "2026-01-15 09:00", 4);
-    rooms.categories.setTier(Tier::distracting, Category::browser);
-    const auto group = rooms.groups(today).at(0);
+    fixture.categories.setTier(Tier::distracting, Category::browser);
+    const auto group = fixture.groups(today).at(0);
     EXPECT_EQ(group.distracting, Seconds(4));
     EXPECT_EQ(group.topActivities[0].tier, Tier::distracting);
     EXPECT_EQ(group.topCategories[0].tier, Tier::distracting);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -20,15 +20,15 @@ HourSummary summary(std::int64_t productive, std::int64_t neutral, std::int64_t 
 
 struct HourSummaryTest : testing::Test {
     test::FakeWorld world;
-    test::ClassifiedRooms rooms{world};
+    test::ClassificationFixture fixture{world};
 
     void book(const char* app, const char* hour, int seconds) {
-        for (int i = 0; i < seconds; ++i) rooms.hours.incrementApp(AppId(app), HourKey(hour));
+        for (int i = 0; i < seconds; ++i) fixture.hours.incrementApp(AppId(app), HourKey(hour));
     }
 };
 
 TEST_F(HourSummaryTest, AnEmptyDayGives24SummariesOfZerosThatAreSparse) {
-    const auto hours = rooms.hourSummaries(today);
+    const auto hours = fixture.hourSummaries(today);
     ASSERT_EQ(hours.size(), 24u);
     for (int i = 0; i < 24; ++i) {
         const auto& hour = hours[static_cast<std::size_t>(i)];
@@ -39,8 +39,8 @@ TEST_F(HourSummaryTest, AnEmptyDayGives24SummariesOfZerosThatAreSparse) {
 }
 
 TEST_F(HourSummaryTest, WithDayStart5TheFirstIsHour5AndTheLastHour4) {
-    rooms.settings.setDayStartHour(5);
-    const auto hours = rooms.hourSummaries(today);
+    fixture.settings.setDayStartHour(5);
+    const auto hours = fixture.hourSummaries(today);
     ASSERT_EQ(hours.size(), 24u);
     EXPECT_EQ(hours.front().hour, 5);
     EXPECT_EQ(hours.front().id, HourKey("2026-01-15 05"));
@@ -70,7 +70,7 @@ TEST_F(HourSummaryTest, EachApplicationCountsInItsTierAndUncategorizedOnesInTheS
     book("com.hnc.Discord", "2026-01-15 09", 3);
     book("com.example.unknown", "2026-01-15 09", 20);
     book("com.apple.dt.Xcode", "2026-01-14 09", 99);
-    const auto hours = rooms.hourSummaries(today);
+    const auto hours = fixture.hourSummaries(today);
     EXPECT_EQ(hours[9],
               (HourSummary{HourKey("2026-01-15 09"), 9, Seconds(39), Seconds(11), Seconds(5), Seconds(3)}));
     EXPECT_EQ(hours[8].seconds, Seconds(0));
@@ -80,8 +80,8 @@ TEST_F(HourSummaryTest, EachApplicationCountsInItsTierAndUncategorizedOnesInTheS
 TEST_F(HourSummaryTest, AChangeOfDayStartFindsAllHoursAndOnlyReordersThem) {
     book("com.apple.dt.Xcode", "2026-01-15 02", 7);
     book("com.apple.dt.Xcode", "2026-01-15 22", 9);
-    rooms.settings.setDayStartHour(5);
-    const auto hours = rooms.hourSummaries(today);
+    fixture.settings.setDayStartHour(5);
+    const auto hours = fixture.hourSummaries(today);
     EXPECT_EQ(hours[21].id, HourKey("2026-01-15 02"));
     EXPECT_EQ(hours[21].seconds, Seconds(7));
     EXPECT_EQ(hours[17].seconds, Seconds(9));
@@ -89,8 +89,8 @@ TEST_F(HourSummaryTest, AChangeOfDayStartFindsAllHoursAndOnlyReordersThem) {
 
 TEST_F(HourSummaryTest, AChangeOfClassificationChangesPastHours) {
     book("com.apple.dt.Xcode", "2026-01-15 09", 40);
-    rooms.categories.setCategory(Category::games, AppId("com.apple.dt.Xcode"));
-    const auto hours = rooms.hourSummaries(today);
+    fixture.categories.setCategory(Category::games, AppId("com.apple.dt.Xcode"));
+    const auto hours = fixture.hourSummaries(today);
     EXPECT_EQ(hours[9].productive, Seconds(0));
     EXPECT_EQ(hours[9].distracting, Seconds(40));
 }

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -57,10 +57,10 @@ TEST(ProductivityScoreTest, HalvesAreRoundedAwayFromZero) {
 
 struct ProductivityScorerTest : testing::Test {
     test::FakeWorld world;
-    test::ClassifiedRooms rooms{world};
+    test::ClassificationFixture fixture{world};
 
     void book(const char* app, const DayKey& day, int seconds) {
-        for (int i = 0; i < seconds; ++i) rooms.apps.incrementApp(AppId(app), day);
+        for (int i = 0; i < seconds; ++i) fixture.apps.incrementApp(AppId(app), day);
     }
 };
 
@@ -70,24 +70,24 @@ TEST_F(ProductivityScorerTest, AddsEachApplicationToItsTier) {
     book("com.apple.finder", monday, 7);
     book("com.brightlooms.fathom.games", monday, 5);
     book("com.example.unknown", monday, 11);
-    EXPECT_EQ(rooms.scorer.compute(std::vector{monday}), score(42, 7, 5, 11));
+    EXPECT_EQ(fixture.scorer.compute(std::vector{monday}), score(42, 7, 5, 11));
 }
 
 TEST_F(ProductivityScorerTest, SumsOverTheDaysGiven) {
     book("com.apple.dt.Xcode", monday, 3);
     book("com.apple.dt.Xcode", tuesday, 4);
-    EXPECT_EQ(rooms.scorer.compute(std::vector{monday, tuesday}), score(7, 0, 0));
-    EXPECT_EQ(rooms.scorer.compute(std::vector{tuesday, tuesday}), score(8, 0, 0));
-    EXPECT_EQ(rooms.scorer.compute({}), ProductivityScore());
-    EXPECT_EQ(rooms.scorer.compute(std::vector{DayKey("2020-01-01")}), ProductivityScore());
+    EXPECT_EQ(fixture.scorer.compute(std::vector{monday, tuesday}), score(7, 0, 0));
+    EXPECT_EQ(fixture.scorer.compute(std::vector{tuesday, tuesday}), score(8, 0, 0));
+    EXPECT_EQ(fixture.scorer.compute({}), ProductivityScore());
+    EXPECT_EQ(fixture.scorer.compute(std::vector{DayKey("2020-01-01")}), ProductivityScore());
 }
 
 TEST_F(ProductivityScorerTest, SecondsThatNoApplicationGotAreOutside) {
     world.putAppInFront("com.brightlooms.tidewatch");
-    rooms.engine.start();
+    fixture.engine.start();
     world.mainLoop.runFor(std::chrono::seconds(70));
-    EXPECT_EQ(rooms.engine.todaySeconds(), Seconds(70));
-    EXPECT_EQ(rooms.scorer.compute(std::vector{rooms.daily.today()}), ProductivityScore());
+    EXPECT_EQ(fixture.engine.todaySeconds(), Seconds(70));
+    EXPECT_EQ(fixture.scorer.compute(std::vector{fixture.daily.today()}), ProductivityScore());
 }
 
 }  // namespace

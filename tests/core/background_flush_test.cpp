@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -19,7 +19,7 @@ const DayKey today("2026-01-15");
 
 struct BackgroundFlushTest : testing::Test {
     test::FakeWorld world;
-    std::unique_ptr<JobQueue> queue = world.background.makeQueue("record");
+    std::unique_ptr<JobQueue> queue = world.queues.makeQueue("record");
     AppUsageStore apps{world.files, world.log, world.frontmost};
 
     void book(int seconds) {
@@ -32,7 +32,7 @@ struct BackgroundFlushTest : testing::Test {
 };
 
 TEST_F(BackgroundFlushTest, WritesTheStateOfTheMomentAtWhichItWasAskedFor) {
-    world.background.hold();
+    world.queues.hold();
     book(3);
     apps.flushOn(*queue);
     book(4);
@@ -42,7 +42,7 @@ TEST_F(BackgroundFlushTest, WritesTheStateOfTheMomentAtWhichItWasAskedFor) {
 }
 
 TEST_F(BackgroundFlushTest, OfSeveralThatWaitTheNewestAloneIsWritten) {
-    world.background.hold();
+    world.queues.hold();
     for (int i = 0; i < 3; ++i) {
         book(1);
         apps.flushOn(*queue);
@@ -53,7 +53,7 @@ TEST_F(BackgroundFlushTest, OfSeveralThatWaitTheNewestAloneIsWritten) {
 }
 
 TEST_F(BackgroundFlushTest, AnOlderStateIsNotWrittenAfterANewerOne) {
-    world.background.hold();
+    world.queues.hold();
     book(1);
     apps.flushOn(*queue);
     book(1);
@@ -65,7 +65,7 @@ TEST_F(BackgroundFlushTest, AnOlderStateIsNotWrittenAfterANewerOne) {
 }
 
 TEST_F(BackgroundFlushTest, AnOlderStateIsBetterThanTheOneBeforeIfTheNewerOneCouldNotBeWritten) {
-    world.background.hold();
+    world.queues.hold();
     book(1);
     apps.flushOn(*queue);
     book(1);
@@ -139,10 +139,10 @@ TEST_F(BackgroundFlushTest, AWriteThatFailedIsTriedAgainAlthoughNothingHasChange
 TEST_F(BackgroundFlushTest, WhatAnotherProcessPutThereIsReplacedAlthoughNothingHasChanged) {
     book(5);
     apps.flush();
-    world.files.setHold(platform::RecordHold::anothers);
+    world.files.setRecordLock(platform::RecordLock::heldByAnother);
     apps.flushOn(*queue);
     world.files.put(world.appsJson, "theirs");
-    world.files.setHold(platform::RecordHold::ours);
+    world.files.setRecordLock(platform::RecordLock::held);
     apps.flushOn(*queue);
     EXPECT_EQ(onDisk(), withSeconds(5));
     EXPECT_EQ(world.files.content(world.appsJson + ".other-2026-01-15"), "theirs");
@@ -151,15 +151,15 @@ TEST_F(BackgroundFlushTest, WhatAnotherProcessPutThereIsReplacedAlthoughNothingH
 // The tick on a disk that does not get on.
 struct StalledTickTest : testing::Test {
     test::FakeWorld world;
-    std::optional<test::CoreRooms> rooms;
+    std::optional<test::CoreFixture> fixture;
     const std::vector<std::string> allFiles{world.todayJson, world.appsJson, world.hoursJson,
                                             world.minutesJson};
 
     StalledTickTest() {
         world.putAppInFront("xterm");
-        rooms.emplace(world);
-        rooms->engine.start();
-        world.background.hold();
+        fixture.emplace(world);
+        fixture->engine.start();
+        world.queues.hold();
     }
     void tick(int times) { world.mainLoop.runFor(std::chrono::seconds(times)); }
     void expectOnDisk(int seconds) const {
@@ -172,25 +172,25 @@ struct StalledTickTest : testing::Test {
 
 TEST_F(StalledTickTest, NoTickWaitsAndNoSecondIsLost) {
     tick(95);
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(95));
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(95));
     EXPECT_THAT(world.files.writes(), IsEmpty());
-    rooms->disk->finish();
+    fixture->disk->finish();
     expectOnDisk(90);
     EXPECT_THAT(world.files.writes(), ElementsAreArray(allFiles)) << "the newest of three, in the order told";
 }
 
 TEST_F(StalledTickTest, TheEndWritesTheNewestStateOnce) {
     tick(35);
-    rooms->engine.stop();
+    fixture->engine.stop();
     expectOnDisk(35);
     EXPECT_THAT(world.files.writes(), ElementsAreArray(allFiles));
 }
 
 TEST_F(StalledTickTest, AResetIsOnTheDiskWhenItReturns) {
     tick(35);
-    rooms->engine.resetToday();
+    fixture->engine.resetToday();
     EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 0\n}");
-    rooms->disk->finish();
+    fixture->disk->finish();
     EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 0\n}");
 }
 
@@ -199,14 +199,14 @@ TEST_F(StalledTickTest, TheDayThatEndsIsHandedOverWithItsOwnTotal) {
                        std::chrono::seconds(3));
     tick(4);
     EXPECT_THAT(world.files.writes(), IsEmpty());
-    rooms->disk->finish();
+    fixture->disk->finish();
     EXPECT_THAT(world.files.writes(), ElementsAre(world.todayJson));
     EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 2\n}");
 }
 
 TEST_F(StalledTickTest, WhatWaitsIsWrittenBeforeTheStoresAreGone) {
     tick(30);
-    rooms.reset();
+    fixture.reset();
     expectOnDisk(30);
 }
 

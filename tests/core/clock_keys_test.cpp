@@ -7,7 +7,7 @@
 #include <set>
 
 #include "platform/fake/fake_time_zone.h"
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -20,11 +20,11 @@ const DayKey today("2026-01-15");
 
 struct ClockKeysTest : testing::Test {
     test::FakeWorld world;
-    test::CoreRooms rooms{world};
+    test::CoreFixture fixture{world};
 
     [[nodiscard]] static Instant at(milliseconds timeOfDay) { return sys_days(2026y / 1 / 15) + timeOfDay; }
-    [[nodiscard]] std::string hour(Instant instant) const { return rooms.keys.hourKey(instant).text(); }
-    [[nodiscard]] std::string bucket(Instant instant) const { return rooms.keys.bucketKey(instant).text(); }
+    [[nodiscard]] std::string hour(Instant instant) const { return fixture.keys.hourKey(instant).text(); }
+    [[nodiscard]] std::string bucket(Instant instant) const { return fixture.keys.bucketKey(instant).text(); }
 };
 
 TEST_F(ClockKeysTest, AnHourIsNamedAfterTheDayAndTheHourOfTheClock) {
@@ -35,7 +35,7 @@ TEST_F(ClockKeysTest, AnHourIsNamedAfterTheDayAndTheHourOfTheClock) {
 }
 
 TEST_F(ClockKeysTest, WithDayStart5TheNightBelongsToTheDayBefore) {
-    rooms.settings.setDayStartHour(5);
+    fixture.settings.setDayStartHour(5);
     EXPECT_EQ(hour(at(2h + 30min)), "2026-01-14 02");
     EXPECT_EQ(hour(at(4h + 59min)), "2026-01-14 04");
     EXPECT_EQ(hour(at(5h)), "2026-01-15 05");
@@ -67,7 +67,7 @@ TEST_F(ClockKeysTest, BeforeTheEpochToo) {
 
 TEST_F(ClockKeysTest, TheHourThatADaylightSavingNightRepeatsIsOneHour) {
     world.clock.setZone(platform::madridZone());
-    const test::CoreRooms madrid(world);
+    const test::CoreFixture madrid(world);
     const auto firstTwo = sys_days(2026y / 10 / 25) + 0h + 30min;
     EXPECT_EQ(madrid.keys.hourKey(firstTwo).text(), "2026-10-25 02");
     EXPECT_EQ(madrid.keys.hourKey(firstTwo + 1h).text(), "2026-10-25 02");
@@ -76,19 +76,19 @@ TEST_F(ClockKeysTest, TheHourThatADaylightSavingNightRepeatsIsOneHour) {
 
 TEST_F(ClockKeysTest, TheHourThatADaylightSavingNightSkipsIsNeverNamed) {
     world.clock.setZone(platform::madridZone());
-    const test::CoreRooms madrid(world);
+    const test::CoreFixture madrid(world);
     const auto lastOne = sys_days(2026y / 3 / 29) + 0h + 30min;
     EXPECT_EQ(madrid.keys.hourKey(lastOne).text(), "2026-03-29 01");
     EXPECT_EQ(madrid.keys.hourKey(lastOne + 1h).text(), "2026-03-29 03");
 }
 
 TEST_F(ClockKeysTest, ADayHas24HoursInTheOrderOfTheDay) {
-    const auto hours = rooms.keys.hourKeys(today);
+    const auto hours = fixture.keys.hourKeys(today);
     EXPECT_EQ(hours.size(), 24u);
     EXPECT_EQ(hours.front(), HourKey("2026-01-15 00"));
     EXPECT_EQ(hours.back(), HourKey("2026-01-15 23"));
-    rooms.settings.setDayStartHour(5);
-    const auto later = rooms.keys.hourKeys(today);
+    fixture.settings.setDayStartHour(5);
+    const auto later = fixture.keys.hourKeys(today);
     EXPECT_EQ(later.front(), HourKey("2026-01-15 05"));
     EXPECT_EQ(later[18], HourKey("2026-01-15 23"));
     EXPECT_EQ(later[19], HourKey("2026-01-15 00"));
@@ -96,8 +96,8 @@ TEST_F(ClockKeysTest, ADayHas24HoursInTheOrderOfTheDay) {
 }
 
 TEST_F(ClockKeysTest, ADayHas144BucketsInTheOrderOfTheDay) {
-    rooms.settings.setDayStartHour(5);
-    const auto buckets = rooms.keys.bucketKeys(today);
+    fixture.settings.setDayStartHour(5);
+    const auto buckets = fixture.keys.bucketKeys(today);
     EXPECT_EQ(buckets.size(), 144u);
     EXPECT_EQ(buckets[0], BucketKey("2026-01-15 05:00"));
     EXPECT_EQ(buckets[1], BucketKey("2026-01-15 05:10"));
@@ -108,26 +108,26 @@ TEST_F(ClockKeysTest, ADayHas144BucketsInTheOrderOfTheDay) {
 
 TEST_F(ClockKeysTest, WhicheverTheDayStartTheKeysOfADayAreTheSame) {
     const auto asSet = [&] {
-        const auto keys = rooms.keys.bucketKeys(today);
+        const auto keys = fixture.keys.bucketKeys(today);
         return std::set(keys.begin(), keys.end());
     };
     const auto atMidnight = asSet();
     EXPECT_EQ(atMidnight.size(), 144u);
     for (int start = 1; start < 24; ++start) {
-        rooms.settings.setDayStartHour(start);
+        fixture.settings.setDayStartHour(start);
         EXPECT_EQ(asSet(), atMidnight) << start;
     }
 }
 
 TEST_F(ClockKeysTest, EveryMomentsKeysAreAmongThoseOfItsDay) {
     for (const int start : {0, 4, 23}) {
-        rooms.settings.setDayStartHour(start);
+        fixture.settings.setDayStartHour(start);
         for (auto instant = at(0h); instant < at(48h); instant += 7min) {
-            const auto day = rooms.dayRule.dayKey(instant);
-            const auto hours = rooms.keys.hourKeys(day);
-            const auto buckets = rooms.keys.bucketKeys(day);
-            EXPECT_NE(std::ranges::find(hours, rooms.keys.hourKey(instant)), hours.end());
-            EXPECT_NE(std::ranges::find(buckets, rooms.keys.bucketKey(instant)), buckets.end());
+            const auto day = fixture.dayRule.dayKey(instant);
+            const auto hours = fixture.keys.hourKeys(day);
+            const auto buckets = fixture.keys.bucketKeys(day);
+            EXPECT_NE(std::ranges::find(hours, fixture.keys.hourKey(instant)), hours.end());
+            EXPECT_NE(std::ranges::find(buckets, fixture.keys.bucketKey(instant)), buckets.end());
         }
     }
 }

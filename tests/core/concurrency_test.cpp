@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/fake/fake_time_zone.h"
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -120,12 +120,12 @@ TEST_F(ConcurrencyTest, TheDayRuleFollowsSettingsAndZoneFromAnyThread) {
 // The tick with a real thread that writes, on a disk that stops while it does.
 struct StallTest : testing::Test {
     test::FakeWorld world;
-    std::optional<test::CoreRooms> rooms;
+    std::optional<test::CoreFixture> fixture;
 
     StallTest() {
         world.putAppInFront("xterm");
-        rooms.emplace(world, TickListeners(), std::make_unique<SerialQueue>([](JobQueue::Job) {}));
-        rooms->engine.start();
+        fixture.emplace(world, TickListeners(), std::make_unique<SerialQueue>([](JobQueue::Job) {}));
+        fixture->engine.start();
         tick(29);
         world.files.stall();
         tick(1);
@@ -144,20 +144,20 @@ struct StallTest : testing::Test {
 
 TEST_F(StallTest, FiveSecondsOfAStalledDiskCostNone) {
     tick(5);
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(35));
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(35));
     EXPECT_EQ(world.files.content(world.todayJson), std::nullopt);
     world.files.resume();
-    rooms->disk->finish();
+    fixture->disk->finish();
     expectOnDisk(30);
     tick(25);
-    rooms->disk->finish();
+    fixture->disk->finish();
     expectOnDisk(60);
 }
 
 TEST_F(StallTest, AMinuteAndAHalfOfItBringsTheNewestStateAloneOnceItIsOver) {
     tick(90);
     world.files.resume();
-    rooms->disk->finish();
+    fixture->disk->finish();
     expectOnDisk(120);
     // The state that was being written, and the newest one; the other files had not been begun.
     EXPECT_EQ(std::ranges::count(world.files.writes(), world.todayJson), 2);
@@ -171,16 +171,16 @@ TEST_F(StallTest, TheEndWaitsForTheWriteAndThenWritesTheNewestState) {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
         world.files.resume();
     });
-    rooms->engine.stop();
+    fixture->engine.stop();
     expectOnDisk(35);
     disk.join();
 }
 
 TEST_F(StallTest, ReadersAndBookingsDoNotWaitEither) {
-    EXPECT_EQ(rooms->apps.aggregate(std::vector{today}).front().seconds, Seconds(30));
-    rooms->apps.incrementApp(AppId("firefox"), today);
-    EXPECT_EQ(rooms->daily.seconds(today), Seconds(30));
-    EXPECT_EQ(rooms->minutes.snapshot().keyCount(), 1u);
+    EXPECT_EQ(fixture->apps.aggregate(std::vector{today}).front().seconds, Seconds(30));
+    fixture->apps.incrementApp(AppId("firefox"), today);
+    EXPECT_EQ(fixture->daily.seconds(today), Seconds(30));
+    EXPECT_EQ(fixture->minutes.snapshot().keyCount(), 1u);
 }
 
 TEST_F(ConcurrencyTest, FlushesOfTheQueueAndOfOthersNeverPutAnOlderStateLast) {

@@ -11,12 +11,12 @@ namespace {
 using namespace std::string_literals;
 
 std::string write(const CounterRecord& record) {
-    return std::string(writeCounters(record).view());
+    return std::string(serializeCounters(record).view());
 }
 
 // What a reader makes of `text` and writes again; nothing if it is refused.
 std::optional<std::string> reread(std::string text, std::size_t depth) {
-    const auto record = readCounters(std::move(text), depth);
+    const auto record = parseCounters(std::move(text), depth);
     return record ? std::optional(write(*record)) : std::nullopt;
 }
 
@@ -116,8 +116,8 @@ TEST(CounterJson, EveryIntegerOf64BitsIsWritten) {
 
 TEST(CounterJson, CountersOfALifetimeAreReadBackAndNegativeOnesToo) {
     CounterRecord record(1);
-    set(record, {"most"}, largestCounter);
-    set(record, {"least"}, -largestCounter);
+    set(record, {"most"}, maxCounter);
+    set(record, {"least"}, -maxCounter);
     set(record, {"zero"}, 0);
     const auto text = write(record);
     EXPECT_EQ(text, "{\n  \"least\" : -2147483647,\n  \"most\" : 2147483647,\n  \"zero\" : 0\n}");
@@ -125,8 +125,8 @@ TEST(CounterJson, CountersOfALifetimeAreReadBackAndNegativeOnesToo) {
 }
 
 TEST(CounterJson, NoSumOverWhatAFileCanHoldOverflows) {
-    constexpr std::uint64_t mostCounters = std::uint64_t(1) << 32;
-    static_assert(largestCounter <= std::numeric_limits<std::int64_t>::max() / mostCounters);
+    constexpr std::uint64_t maxCounters = std::uint64_t(1) << 32;
+    static_assert(maxCounter <= std::numeric_limits<std::int64_t>::max() / maxCounters);
 }
 
 TEST(CounterJson, AKeyWithANulIsWrittenAndReadBack) {

@@ -78,8 +78,8 @@ TEST_P(CounterRecordOfDepth, IsTheSameAfterAFile) {
     CounterRecord record(GetParam());
     for (int step = 0; step < 500; ++step)
         record.add(views(randomPath()), Seconds(static_cast<std::int64_t>(random() % 100)));
-    const std::string text(writeCounters(record).view());
-    auto reread = readCounters(text, GetParam());
+    const std::string text(serializeCounters(record).view());
+    auto reread = parseCounters(text, GetParam());
     ASSERT_TRUE(reread);
     EXPECT_EQ(modelOf(*reread), modelOf(record));
     for (int step = 0; step < 500; ++step) {
@@ -87,7 +87,7 @@ TEST_P(CounterRecordOfDepth, IsTheSameAfterAFile) {
         record.add(views(path), Seconds(1));
         reread->add(views(path), Seconds(1));
     }
-    EXPECT_EQ(writeCounters(*reread).view(), writeCounters(record).view());
+    EXPECT_EQ(serializeCounters(*reread).view(), serializeCounters(record).view());
 }
 
 TEST_P(CounterRecordOfDepth, ReadingAMissingPathMakesNothing) {
@@ -99,7 +99,7 @@ TEST_P(CounterRecordOfDepth, ReadingAMissingPathMakesNothing) {
     EXPECT_EQ(modelOf(record).size(), 1u);
 }
 
-TEST_P(CounterRecordOfDepth, AppendedOutOfOrderAndTwiceItSettles) {
+TEST_P(CounterRecordOfDepth, AppendedOutOfOrderAndTwiceItIsSortedAndWithoutDuplicates) {
     Model model;
     std::string text = "{";
     for (int i = 0; i < 200; ++i) {
@@ -113,7 +113,7 @@ TEST_P(CounterRecordOfDepth, AppendedOutOfOrderAndTwiceItSettles) {
         }
         text += (i == 0 ? "" : ",") + value;
     }
-    const auto record = readCounters(text + "}", GetParam());
+    const auto record = parseCounters(text + "}", GetParam());
     ASSERT_TRUE(record);
     EXPECT_EQ(modelOf(*record), model);
 }
@@ -151,7 +151,7 @@ TEST(CounterRecord, TextsThatAreNotUtf8AreTakenAsTheirRepairedForm) {
     record.add(repaired, Seconds(1));
     EXPECT_EQ(record.seconds(raw), Seconds(2));
     EXPECT_EQ(record.top().size(), 1u);
-    EXPECT_TRUE(readCounters(std::string(writeCounters(record).view()), 2));
+    EXPECT_TRUE(parseCounters(std::string(serializeCounters(record).view()), 2));
 }
 
 TEST(CounterRecord, CountersLeaveAndReenterTheRangeOfAClock) {

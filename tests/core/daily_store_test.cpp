@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -34,12 +34,12 @@ constexpr auto minutesFailed = "Tidewatch: failed to flush minute store: ";
 
 struct FaultTest : testing::Test {
     test::FakeWorld world;
-    std::optional<test::CoreRooms> rooms;
+    std::optional<test::CoreFixture> fixture;
 
     void start() {
         world.putAppInFront("xterm");
-        rooms.emplace(world);
-        rooms->engine.start();
+        fixture.emplace(world);
+        fixture->engine.start();
     }
     void tick(int times) { world.mainLoop.runFor(std::chrono::seconds(times)); }
 
@@ -101,14 +101,14 @@ TEST_F(FaultTest, AFailureKeepsWhatAnEarlierFlushWrote) {
     expectOnDisk(30, 60);
 }
 
-TEST_F(FaultTest, AFailureAtTheDayChangeIsMadeGoodByTheNextFlush) {
+TEST_F(FaultTest, AFailureAtTheDayChangeIsRetriedByTheNextFlush) {
     world.clock.setNow(std::chrono::sys_days(std::chrono::January / 14 / 2026) + 23h + 59min + 50s);
     start();
     tick(9);
     world.files.failWrite(1);
     world.log.expectWarning(dailyFailed);
     tick(2);
-    rooms->engine.stop();
+    fixture->engine.stop();
     EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-14\" : 9,\n  \"2026-01-15\" : 2\n}");
 }
 
@@ -117,7 +117,7 @@ TEST_F(FaultTest, AFailureAtTheEndIsLogged) {
     tick(3);
     world.files.failWrite(1);
     world.log.expectWarning(dailyFailed);
-    rooms->engine.stop();
+    fixture->engine.stop();
     EXPECT_EQ(world.files.content(world.todayJson), std::nullopt);
 }
 
@@ -131,7 +131,7 @@ TEST_F(FaultTest, AFullDiskCostsALogLineAFlushAndMemoryKeepsTheTruth) {
         world.log.expectWarning(std::string(minutesFailed) + "write: No space left on device");
     }
     tick(90);
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(90));
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(90));
     world.files.setDisk(MemoryFileSystem::Disk::roomy);
     tick(30);
     expectOnDisk(120, 120);
@@ -146,8 +146,8 @@ TEST_F(FaultTest, ADirectoryThatCannotBeMadeShowsUpOnlyInTheFlushes) {
     world.log.expectWarning(hoursFailed);
     world.log.expectWarning(minutesFailed);
     tick(30);
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(30));
-    EXPECT_THAT(rooms->apps.aggregate(std::vector{today}),
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(30));
+    EXPECT_THAT(fixture->apps.aggregate(std::vector{today}),
                 ElementsAre(AppSeconds{AppId("xterm"), Seconds(30)}));
 }
 
@@ -156,8 +156,8 @@ TEST_F(FaultTest, EveryTruncationOfTodayIsReadAsNoDataAndReplaced) {
         world.files.put(world.todayJson, goodToday);
         world.files.truncate(world.todayJson, length);
         start();
-        EXPECT_THAT(rooms->daily.allDays(), IsEmpty()) << length;
-        rooms->engine.stop();
+        EXPECT_THAT(fixture->daily.allDays(), IsEmpty()) << length;
+        fixture->engine.stop();
         EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 0\n}") << length;
     }
 }
@@ -167,8 +167,8 @@ TEST_F(FaultTest, EveryTruncationOfAppsIsReadAsNoDataAndReplaced) {
         world.files.put(world.appsJson, goodApps);
         world.files.truncate(world.appsJson, length);
         start();
-        EXPECT_THAT(rooms->apps.allDayKeys(), IsEmpty()) << length;
-        rooms->engine.stop();
+        EXPECT_THAT(fixture->apps.allDayKeys(), IsEmpty()) << length;
+        fixture->engine.stop();
         EXPECT_EQ(world.files.content(world.appsJson), "{\n\n}") << length;
     }
 }
@@ -178,8 +178,8 @@ TEST_F(FaultTest, EveryTruncationOfHoursIsReadAsNoDataAndReplaced) {
         world.files.put(world.hoursJson, goodHours);
         world.files.truncate(world.hoursJson, length);
         start();
-        EXPECT_EQ(rooms->hours.snapshot().keyCount(), 0u) << length;
-        rooms->engine.stop();
+        EXPECT_EQ(fixture->hours.snapshot().keyCount(), 0u) << length;
+        fixture->engine.stop();
         EXPECT_EQ(world.files.content(world.hoursJson), "{\n\n}") << length;
     }
 }
@@ -189,8 +189,8 @@ TEST_F(FaultTest, EveryTruncationOfMinutesIsReadAsNoDataAndReplaced) {
         world.files.put(world.minutesJson, goodMinutes);
         world.files.truncate(world.minutesJson, length);
         start();
-        EXPECT_EQ(rooms->minutes.snapshot().keyCount(), 0u) << length;
-        rooms->engine.stop();
+        EXPECT_EQ(fixture->minutes.snapshot().keyCount(), 0u) << length;
+        fixture->engine.stop();
         EXPECT_EQ(world.files.content(world.minutesJson), "{\n\n}") << length;
     }
 }
@@ -201,9 +201,9 @@ TEST_F(FaultTest, GarbledHoursAndMinutesAreReadAsNoDataAndReplaced) {
         world.files.put(world.hoursJson, garbage);
         world.files.put(world.minutesJson, garbage);
         start();
-        EXPECT_EQ(rooms->hours.snapshot().keyCount(), 0u) << garbage;
-        EXPECT_EQ(rooms->minutes.snapshot().keyCount(), 0u) << garbage;
-        rooms->engine.stop();
+        EXPECT_EQ(fixture->hours.snapshot().keyCount(), 0u) << garbage;
+        EXPECT_EQ(fixture->minutes.snapshot().keyCount(), 0u) << garbage;
+        fixture->engine.stop();
         EXPECT_EQ(world.files.content(world.hoursJson), "{\n\n}") << garbage;
         EXPECT_EQ(world.files.content(world.minutesJson), "{\n\n}") << garbage;
     }
@@ -215,8 +215,8 @@ TEST_F(FaultTest, WholeFilesAreReadAndWrittenBackByteForByte) {
     world.files.put(world.hoursJson, goodHours);
     world.files.put(world.minutesJson, goodMinutes);
     start();
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(1840));
-    rooms->engine.stop();
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(1840));
+    fixture->engine.stop();
     EXPECT_EQ(world.files.content(world.todayJson), goodToday);
     EXPECT_EQ(world.files.content(world.appsJson), goodApps);
     EXPECT_EQ(world.files.content(world.hoursJson), goodHours);
@@ -243,8 +243,8 @@ TEST_F(FaultTest, ADamagedFileOfOneStoreLeavesTheOtherAlone) {
     world.files.put(world.todayJson, "[]");
     world.files.put(world.appsJson, goodApps);
     start();
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(0));
-    EXPECT_EQ(rooms->apps.allDayKeys().size(), 2u);
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(0));
+    EXPECT_EQ(fixture->apps.allDayKeys().size(), 2u);
 }
 
 }  // namespace

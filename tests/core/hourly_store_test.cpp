@@ -117,7 +117,7 @@ TEST_F(HourlyStoreTest, ASnapshotOutlivesTheStore) {
     EXPECT_EQ(snapshot.app(0), xterm.text());
 }
 
-TEST_F(HourlyStoreTest, KeysOfOddShapeAreKept) {
+TEST_F(HourlyStoreTest, MalformedKeysAreKept) {
     world.files.put(world.hoursJson, R"({"yesterday":{"xterm":5},"2026-01-15 09":{},"":{"":-1}})");
     HourlyStore odd(world.files, world.log, world.frontmost);
     EXPECT_EQ(odd.snapshot().keyCount(), 3u);

@@ -2,12 +2,12 @@
 
 #include <gmock/gmock.h>
 
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
 
-using platform::RecordHold;
+using platform::RecordLock;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -38,7 +38,7 @@ TEST_F(RecordFileTest, AFileThatWasReadIsReplaced) {
     EXPECT_THAT(world.log.infos(), IsEmpty());
 }
 
-TEST_F(RecordFileTest, AMissingFileIsMadeWithoutAWord) {
+TEST_F(RecordFileTest, AMissingFileIsCreatedSilently) {
     EXPECT_EQ(file.read(goodText), std::nullopt);
     EXPECT_TRUE(file.write("good"));
     EXPECT_EQ(content(path), "good");
@@ -112,7 +112,7 @@ TEST_F(RecordFileTest, ADirectoryThatWasRemovedIsMadeAgain) {
 TEST_F(RecordFileTest, WhileAnotherProcessHasTheDirectoryNothingIsWrittenAndNothingSaid) {
     world.files.put(path, "good of both");
     EXPECT_EQ(file.read(goodText), "good of both");
-    world.files.setHold(RecordHold::anothers);
+    world.files.setRecordLock(RecordLock::heldByAnother);
     EXPECT_FALSE(file.write("good of ours"));
     EXPECT_EQ(content(path), "good of both");
     EXPECT_THAT(world.log.infos(), IsEmpty());
@@ -121,10 +121,10 @@ TEST_F(RecordFileTest, WhileAnotherProcessHasTheDirectoryNothingIsWrittenAndNoth
 TEST_F(RecordFileTest, WhatAnotherProcessWroteIsSetAsideWhenTheDirectoryIsOursAgain) {
     world.files.put(path, "good of both");
     EXPECT_EQ(file.read(goodText), "good of both");
-    world.files.setHold(RecordHold::anothers);
+    world.files.setRecordLock(RecordLock::heldByAnother);
     EXPECT_FALSE(file.write("good of ours"));
     world.files.put(path, "good of theirs");
-    world.files.setHold(RecordHold::ours);
+    world.files.setRecordLock(RecordLock::held);
     EXPECT_TRUE(file.write("good of ours"));
     EXPECT_EQ(content(path), "good of ours");
     EXPECT_EQ(content(others), "good of theirs");
@@ -135,8 +135,8 @@ TEST(DamagedRecord, EachCounterStoreSetsItsOwnFileAside) {
     test::FakeWorld world;
     const std::vector files{world.todayJson, world.appsJson, world.hoursJson, world.minutesJson};
     for (const auto& file : files) world.files.put(file, "garbage of " + file);
-    test::CoreRooms rooms(world);
-    rooms.engine.stop();
+    test::CoreFixture fixture(world);
+    fixture.engine.stop();
     for (const auto& file : files) {
         EXPECT_EQ(world.files.content(file + ".damaged-2026-01-15"), "garbage of " + file);
     }
@@ -145,10 +145,10 @@ TEST(DamagedRecord, EachCounterStoreSetsItsOwnFileAside) {
 
 TEST(DamagedRecord, AStoreWithoutADirectoryMakesOneAtTheNextFlush) {
     test::FakeWorld world;
-    test::CoreRooms rooms(world);
-    rooms.engine.stop();
+    test::CoreFixture fixture(world);
+    fixture.engine.stop();
     world.files.removeDirectory("/home/user/.tidewatch");
-    rooms.engine.stop();
+    fixture.engine.stop();
     EXPECT_NE(world.files.content(world.todayJson), std::nullopt);
     EXPECT_NE(world.files.content(world.minutesJson), std::nullopt);
 }
@@ -162,12 +162,12 @@ TEST(DamagedRecord, ANumberThatIsNoCounterEndsNeitherStartNorSums) {
         world.files.put(world.appsJson,
                         "{\"2026-01-15\":{\"a\":" + n + ",\"b\":" + n + ",\"xterm\":" + n + "}}");
         world.files.put(world.hoursJson, "{\"2026-01-15 09\":{\"a\":" + n + ",\"xterm\":" + n + "}}");
-        test::CoreRooms rooms(world);
-        rooms.engine.start();
+        test::CoreFixture fixture(world);
+        fixture.engine.start();
         world.mainLoop.runFor(std::chrono::seconds(2));
-        EXPECT_EQ(rooms.engine.todaySeconds(), Seconds(2)) << number;
-        EXPECT_EQ(rooms.hours.seconds(HourKey("2026-01-15 09")), Seconds(2)) << number;
-        EXPECT_EQ(rooms.apps.aggregate(std::vector{DayKey("2026-01-15")}).size(), 1u) << number;
+        EXPECT_EQ(fixture.engine.todaySeconds(), Seconds(2)) << number;
+        EXPECT_EQ(fixture.hours.seconds(HourKey("2026-01-15 09")), Seconds(2)) << number;
+        EXPECT_EQ(fixture.apps.aggregate(std::vector{DayKey("2026-01-15")}).size(), 1u) << number;
     }
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -44,27 +44,27 @@ struct Listeners final : GameGateListener, BreakListener, ProjectTimeListener {
 
 struct TimerEngineTest : testing::Test {
     test::FakeWorld world;
-    std::optional<test::CoreRooms> rooms;
+    std::optional<test::CoreFixture> fixture;
     const std::vector<std::string> allFiles{world.todayJson, world.appsJson, world.hoursJson,
                                             world.minutesJson};
 
     TimerEngine& start(TickListeners listeners = {}) {
-        rooms.emplace(world, listeners);
-        rooms->engine.start();
-        return rooms->engine;
+        fixture.emplace(world, listeners);
+        fixture->engine.start();
+        return fixture->engine;
     }
     void tick(int times = 1) { world.mainLoop.runFor(seconds(times)); }
     void setTimeOfDay(milliseconds time) { world.clock.setNow(sys_days(2026y / 1 / 15) + time); }
 
-    [[nodiscard]] Seconds stored(const DayKey& day) const { return rooms->daily.seconds(day); }
+    [[nodiscard]] Seconds stored(const DayKey& day) const { return fixture->daily.seconds(day); }
     [[nodiscard]] std::vector<AppSeconds> apps(const DayKey& day) const {
-        return rooms->apps.aggregate(std::vector{day});
+        return fixture->apps.aggregate(std::vector{day});
     }
     [[nodiscard]] std::vector<AppSeconds> hour(const char* key) const {
-        return rooms->hours.entries(HourKey(key));
+        return fixture->hours.entries(HourKey(key));
     }
     [[nodiscard]] std::vector<AppSeconds> bucket(const char* key) const {
-        return rooms->minutes.entries(BucketKey(key));
+        return fixture->minutes.entries(BucketKey(key));
     }
     [[nodiscard]] std::string onDisk(const std::string& path) const {
         return world.files.content(path).value_or("no file");
@@ -77,7 +77,7 @@ struct TimerEngineTest : testing::Test {
 
 TEST_F(TimerEngineTest, StartsWithTheStoredTotalAndWithoutTicking) {
     world.files.put(world.todayJson, R"({"2026-01-15":500})");
-    const test::CoreRooms unstarted(world);
+    const test::CoreFixture unstarted(world);
     EXPECT_EQ(unstarted.engine.todaySeconds(), Seconds(500));
     EXPECT_EQ(unstarted.engine.liveSeconds(), Seconds(0));
     EXPECT_EQ(unstarted.engine.status(), Status::active);
@@ -102,8 +102,8 @@ TEST_F(TimerEngineTest, HoursAndBucketsAreNamedAfterTheMoment) {
     setTimeOfDay(9h + 59min + 57s);
     start();
     tick(5);
-    EXPECT_EQ(rooms->hours.seconds(HourKey("2026-01-15 09")), Seconds(2));
-    EXPECT_EQ(rooms->hours.seconds(HourKey("2026-01-15 10")), Seconds(3));
+    EXPECT_EQ(fixture->hours.seconds(HourKey("2026-01-15 09")), Seconds(2));
+    EXPECT_EQ(fixture->hours.seconds(HourKey("2026-01-15 10")), Seconds(3));
     EXPECT_THAT(bucket("2026-01-15 09:50"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(2)}));
     EXPECT_THAT(bucket("2026-01-15 10:00"), ElementsAre(AppSeconds{AppId("xterm"), Seconds(3)}));
 }
@@ -123,7 +123,7 @@ TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
     AppUsageStore appsStore(world.files, world.log, frontmost);
     HourlyStore hours(world.files, world.log, frontmost);
     MinuteStore minutes(world.files, world.log, frontmost);
-    const auto disk = world.background.makeQueue("record");
+    const auto disk = world.queues.makeQueue("record");
     TimerEngine engine(world.clock, world.mainLoop, settings, idleMonitor, keys,
                        {daily, appsStore, hours, minutes}, *disk, {});
     engine.start();
@@ -206,7 +206,7 @@ TEST_F(TimerEngineTest, WhatIsSetUnderTheNewDaysKeyInTheGapBecomesItsStart) {
     auto& engine = start();
     tick();
     world.clock.advance(600ms);  // past the boundary, the engine's next tick still to come
-    rooms->daily.set(engine.todaySeconds(), rooms->daily.today());
+    fixture->daily.set(engine.todaySeconds(), fixture->daily.today());
     EXPECT_EQ(stored(tomorrow), Seconds(5001));
     world.mainLoop.runFor(400ms);
     EXPECT_EQ(engine.todaySeconds(), Seconds(5002));
@@ -220,13 +220,13 @@ TEST_F(TimerEngineTest, AChangeOfDayStartIsFoundByTheNextTickBackwardAndForward)
     auto& engine = start();
     tick(5);
     EXPECT_EQ(engine.todaySeconds(), Seconds(25));
-    rooms->settings.setDayStartHour(4);
+    fixture->settings.setDayStartHour(4);
     EXPECT_EQ(engine.todaySeconds(), Seconds(25));
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(301));
     EXPECT_EQ(engine.liveSeconds(), Seconds(1));
     EXPECT_EQ(stored(today), Seconds(25));
-    rooms->settings.setDayStartHour(0);
+    fixture->settings.setDayStartHour(0);
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(26));
     EXPECT_EQ(stored(yesterday), Seconds(301));
@@ -236,7 +236,7 @@ TEST_F(TimerEngineTest, AChangeOfDayStartThatKeepsTheKeyChangesNothing) {
     auto& engine = start();
     tick(3);
     const auto writes = world.files.writes().size();
-    rooms->settings.setDayStartHour(4);
+    fixture->settings.setDayStartHour(4);
     tick();
     EXPECT_EQ(engine.liveSeconds(), Seconds(4));
     EXPECT_THAT(writtenSince(writes), IsEmpty());
@@ -275,7 +275,7 @@ TEST_F(TimerEngineTest, AChangeOfThresholdTakesEffectOnTheNextTick) {
     world.inputActivity.set(100);
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
-    rooms->settings.setIdleThresholdSeconds(60);
+    fixture->settings.setIdleThresholdSeconds(60);
     tick();
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
     EXPECT_EQ(engine.status(), Status::idle);
@@ -473,7 +473,7 @@ TEST_F(TimerEngineTest, ARestartContinuesTheDayWithANewSession) {
     world.putAppInFront("xterm");
     start();
     tick(5);
-    rooms->engine.stop();
+    fixture->engine.stop();
     auto& engine = start();
     EXPECT_EQ(engine.todaySeconds(), Seconds(5));
     EXPECT_EQ(engine.liveSeconds(), Seconds(0));
@@ -489,7 +489,7 @@ TEST_F(TimerEngineTest, ACrashCostsAtMostTheLast29Ticks) {
     EXPECT_EQ(start().todaySeconds(), Seconds(30));
 }
 
-TEST_F(TimerEngineTest, ASleepIsNotMadeGood) {
+TEST_F(TimerEngineTest, ASleepIsNotCaughtUp) {
     auto& engine = start();
     tick(2);
     world.clock.suspend(3h);
@@ -508,7 +508,7 @@ TEST_F(TimerEngineTest, ADayChangeDuringASleepIsFoundByTheFirstTick) {
     EXPECT_EQ(engine.todaySeconds(), Seconds(1));
 }
 
-TEST_F(TimerEngineTest, ABlockedThreadIsNotMadeGood) {
+TEST_F(TimerEngineTest, ABlockedThreadIsNotCaughtUp) {
     auto& engine = start();
     world.clock.advance(10min);
     world.mainLoop.run();
@@ -556,9 +556,9 @@ TEST_F(TimerEngineTest, ItTicksWhileAMenuIsOpen) {
 
 TEST_F(TimerEngineTest, ATickThatWasPostedDoesNothingOnceTheEngineIsGone) {
     start();
-    world.mainLoop.post([this] { rooms.reset(); });
+    world.mainLoop.post([this] { fixture.reset(); });
     tick();
-    EXPECT_FALSE(rooms);
+    EXPECT_FALSE(fixture);
 }
 
 TEST_F(TimerEngineTest, AnnouncesEveryChangeOnceAndAfterIt) {
@@ -583,16 +583,16 @@ TEST_F(TimerEngineTest, AnnouncesTheTurnToIdleAndThenKeepsSilent) {
 
 TEST_F(TimerEngineTest, ItCanBeEndedByWhoeverListensToIt) {
     start();
-    const auto listening = rooms->engine.changed.connect([this] { rooms->engine.stop(); });
+    const auto listening = fixture->engine.changed.connect([this] { fixture->engine.stop(); });
     tick(3);
-    EXPECT_EQ(rooms->engine.todaySeconds(), Seconds(1));
+    EXPECT_EQ(fixture->engine.todaySeconds(), Seconds(1));
 }
 
 using TimerEngineDeathTest = TimerEngineTest;
 
 TEST_F(TimerEngineDeathTest, AnOverflowOfTheDayEndsTheProcess) {
     start();
-    rooms->daily.set(Seconds(std::numeric_limits<std::int64_t>::max()), tomorrow);
+    fixture->daily.set(Seconds(std::numeric_limits<std::int64_t>::max()), tomorrow);
     world.clock.setNow(sys_days(2026y / 1 / 16));
     EXPECT_DEATH(tick(), "overflow");
 }

@@ -40,7 +40,7 @@ std::map<std::string, Seconds> sums(const CounterRecord& record, std::size_t lev
 }
 
 CounterRecord parsed(const test::TemporaryDirectory& home, const std::string& name, std::size_t depth) {
-    auto record = readCounters(home.read(".tidewatch/" + name), depth);
+    auto record = parseCounters(home.read(".tidewatch/" + name), depth);
     EXPECT_TRUE(record.has_value()) << name;
     return record ? std::move(*record) : CounterRecord(depth);
 }
@@ -54,9 +54,9 @@ TEST(DemoRecord, EveryFileOfTheHomeCanBeReadAndHoldsTheRecord) {
     EXPECT_EQ(sums(parsed(home, "hours.json", 2)), sums(record.hours));
     EXPECT_EQ(sums(parsed(home, "minutes.json", 2)), sums(record.minutes));
     EXPECT_EQ(sums(parsed(home, "project_time.json", 3)), sums(record.projectTime));
-    EXPECT_EQ(readProjects(home.read(".tidewatch/projects.json")), record.projects);
-    EXPECT_EQ(readCategoryOverrides(home.read(".tidewatch/categories.json")), record.overrides);
-    EXPECT_EQ(readGoalSettings(home.read(".tidewatch/goals.json")), record.goals);
+    EXPECT_EQ(parseProjects(home.read(".tidewatch/projects.json")), record.projects);
+    EXPECT_EQ(parseCategoryOverrides(home.read(".tidewatch/categories.json")), record.overrides);
+    EXPECT_EQ(parseGoalSettings(home.read(".tidewatch/goals.json")), record.goals);
 }
 
 TEST(DemoRecord, TheFilesAgreeOnEveryDay) {
@@ -94,7 +94,7 @@ TEST(DemoRecord, WeeksAreWorkedAndWeekendsMostlyFree) {
     int weekdays = 0;
     int weekends = 0;
     for (auto day = afternoon.day - days(364); day <= afternoon.day; day += days(1)) {
-        if (!worked.contains(dayKeyOf(day).text())) continue;
+        if (!worked.contains(toDayKey(day).text())) continue;
         const weekday name(day);
         ++(name == Saturday || name == Sunday ? weekends : weekdays);
     }

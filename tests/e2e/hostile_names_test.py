@@ -121,7 +121,7 @@ class HostileNames(unittest.TestCase):
             entry = f"[Desktop Entry]\nType=Application\nName={name}\nIcon={icon}\nExec=true\nCategories=IDE;\n"
             (folder / f"{identifier}.desktop").write_text(entry, encoding="utf-8")
 
-    def spoken(self, tab):
+    def accessible_text(self, tab):
         return "\n".join(self.window.select(tab).texts())
 
     def test_every_tab_says_them_letter_by_letter_and_nobody_is_asked(self):
@@ -130,9 +130,9 @@ class HostileNames(unittest.TestCase):
             self.world.screenshot(tab)
         for tab in (DETAILS, TIMESHEET):
             for name in [name for name, _ in self.entries.values()] + self.unnamed:
-                self.assertIn(name, self.spoken(tab), tab)
+                self.assertIn(name, self.accessible_text(tab), tab)
         for name in self.projects.values():
-            self.assertIn(name or "Sin nombre", self.spoken(PROJECTS))
+            self.assertIn(name or "Sin nombre", self.accessible_text(PROJECTS))
         self.window.select(OVERVIEW)
         self.assertEqual(self.listener.visitors(), [])
         self.assertEqual(network_sockets(self.program.pid), [])

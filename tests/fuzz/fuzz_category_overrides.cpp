@@ -9,7 +9,7 @@
 namespace tidewatch::fuzz {
 
 void check(std::string_view input) {
-    const auto overrides = readCategoryOverrides(std::string(input));
+    const auto overrides = parseCategoryOverrides(std::string(input));
     if (!overrides) return;
     const auto json = parseStrictly(input);
     require(json.has_value(), "what is not JSON is refused");
@@ -25,9 +25,9 @@ void check(std::string_view input) {
         }
     }
 
-    const auto written = writeCategoryOverrides(*overrides);
+    const auto written = serializeCategoryOverrides(*overrides);
     require(parseStrictly(written).has_value(), "what is written is JSON");
-    require(readCategoryOverrides(written) == overrides, "what is written reads back the same");
+    require(parseCategoryOverrides(written) == overrides, "what is written reads back the same");
 }
 
 }  // namespace tidewatch::fuzz

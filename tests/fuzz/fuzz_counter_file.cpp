@@ -104,18 +104,18 @@ void check(std::string_view input) {
     input.remove_prefix(1);
     const auto json = parseStrictly(input);
     const auto expected = json ? toNode(*json, depth) : std::nullopt;
-    const auto record = readCounters(std::string(input), depth);
+    const auto record = parseCounters(std::string(input), depth);
     require(record.has_value() == expected.has_value(),
             "what is no counter file is refused, and nothing else");
     if (!record) return;
 
     std::vector<std::string_view> path;
     requireFound(*record, *expected, path);
-    const std::string written(writeCounters(*record).view());
+    const std::string written(serializeCounters(*record).view());
     require(written == textOf(*expected, depth), "what is written has the exact form");
-    const auto again = readCounters(written, depth);
+    const auto again = parseCounters(written, depth);
     require(again.has_value(), "what is written can be read");
-    require(writeCounters(*again).view() == written, "what is read back is written the same");
+    require(serializeCounters(*again).view() == written, "what is read back is written the same");
 }
 
 }  // namespace tidewatch::fuzz

@@ -10,7 +10,7 @@ namespace tidewatch::fuzz {
 namespace {
 
 using platform::ApplicationInfo;
-using platform::readDesktopEntry;
+using platform::parseDesktopEntry;
 
 bool same(const std::optional<ApplicationInfo>& one, const std::optional<ApplicationInfo>& other) {
     if (!one || !other) return one.has_value() == other.has_value();
@@ -32,7 +32,7 @@ void check(std::string_view input) {
     const auto end = std::min(input.find('\n'), input.size());
     const auto locale = input.substr(0, end);
     const auto text = input.substr(std::min(end + 1, input.size()));
-    const auto entry = readDesktopEntry(text, locale);
+    const auto entry = parseDesktopEntry(text, locale);
     if (text.find("[Desktop Entry]") == std::string_view::npos) {
         require(!entry, "a text without the group is no entry");
     }
@@ -40,10 +40,11 @@ void check(std::string_view input) {
         require(std::ranges::none_of(entry->categories, &std::string::empty),
                 "no category is without a name");
     }
-    require(same(entry, readDesktopEntry("# a remark\n" + std::string(text), locale)), "remarks say nothing");
-    require(same(entry, readDesktopEntry(withWideLineEnds(text), locale)), "both kinds of line end are one");
-    require(same(entry, readDesktopEntry(std::string(text) + "\n[Desktop Action new]\nName=New\nHidden=true",
-                                         locale)),
+    require(same(entry, parseDesktopEntry("# a remark\n" + std::string(text), locale)),
+            "remarks say nothing");
+    require(same(entry, parseDesktopEntry(withWideLineEnds(text), locale)), "both kinds of line end are one");
+    require(same(entry, parseDesktopEntry(std::string(text) + "\n[Desktop Action new]\nName=New\nHidden=true",
+                                          locale)),
             "what stands in another group says nothing");
 }
 

@@ -18,7 +18,7 @@ void requireNumber(const Json& json, std::string_view key, double value) {
 }  // namespace
 
 void check(std::string_view input) {
-    const auto goals = readGoalSettings(std::string(input));
+    const auto goals = parseGoalSettings(std::string(input));
     if (!goals) return;
     const auto json = parseStrictly(input);
     require(json.has_value(), "what is not JSON is refused");
@@ -31,10 +31,10 @@ void check(std::string_view input) {
                 *wished.back()->as<bool>() == goals->notificationsEnabled,
             "the wish for messages is read as it stands, the last one given");
 
-    const auto written = writeGoalSettings(*goals);
+    const auto written = serializeGoalSettings(*goals);
     require(written.has_value(), "what was read is finite");
     require(parseStrictly(*written).has_value(), "what is written is JSON");
-    require(readGoalSettings(*written) == goals, "what is written reads back the same");
+    require(parseGoalSettings(*written) == goals, "what is written reads back the same");
 }
 
 }  // namespace tidewatch::fuzz

@@ -23,9 +23,9 @@ std::string upperCased(std::string_view text) {
 }  // namespace
 
 void check(std::string_view input) {
-    if (const auto day = dayOfKey(input)) {
-        require(dayKeyOf(*day).text() == input, "the key of a key's day is the key");
-        const auto next = dayOfKey(dayKeyOf(*day + std::chrono::days(1)).text());
+    if (const auto day = parseDayKey(input)) {
+        require(toDayKey(*day).text() == input, "the key of a key's day is the key");
+        const auto next = parseDayKey(toDayKey(*day + std::chrono::days(1)).text());
         require(!next || *next == *day + std::chrono::days(1), "one day follows another");
     }
     if (const auto time = components(BucketKey(std::string(input)))) {

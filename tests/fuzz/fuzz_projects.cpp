@@ -54,16 +54,16 @@ void requireSame(const Json& json, const ProjectList& list) {
 }  // namespace
 
 void check(std::string_view input) {
-    const auto list = readProjects(std::string(input));
+    const auto list = parseProjects(std::string(input));
     if (!list) return;
     const auto json = parseStrictly(input);
     require(json.has_value(), "what is not JSON is refused");
     if (!givesAKeyTwice(*json)) requireSame(*json, *list);
     for (const auto& project : list->projects) (void)project.color();
 
-    const auto written = writeProjects(*list);
+    const auto written = serializeProjects(*list);
     require(parseStrictly(written).has_value(), "what is written is JSON");
-    require(readProjects(written) == list, "what is written reads back the same");
+    require(parseProjects(written) == list, "what is written reads back the same");
 }
 
 }  // namespace tidewatch::fuzz

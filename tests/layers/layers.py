@@ -300,7 +300,7 @@ def check_labels(path, code):
     return [Violation(path, line_of(code, last.start()), f"{what} may take words for markup and fetch its pictures")]
 
 
-def circle_in(graph):
+def cycle_in(graph):
     """Rooms that lead back to themselves, in order, as a list; empty if there are none."""
     done, trail = set(), []
 
@@ -342,7 +342,7 @@ def check_tree(source_root):
             found, neighbours = check_cpp(source_root, path, own_room)
             violations += found
             graph.setdefault(own_room, set()).update(neighbours)
-    circle = circle_in(graph)
+    circle = cycle_in(graph)
     if circle:
         violations.append(Violation(".", 0, "rooms in a circle: " + " -> ".join(circle)))
     return violations, count

@@ -360,14 +360,14 @@ class Events(Tree):
         self.assertEqual(self.violations(), [])
 
 
-class Circles(Tree):
-    def test_a_circle_of_rooms_is_found(self):
-        self.assertEqual(layers.circle_in({"a": {"b"}, "b": {"c"}, "c": {"a"}}), ["a", "b", "c", "a"])
+class Cycles(Tree):
+    def test_a_cycle_of_rooms_is_found(self):
+        self.assertEqual(layers.cycle_in({"a": {"b"}, "b": {"c"}, "c": {"a"}}), ["a", "b", "c", "a"])
 
     def test_a_graph_without_one_has_none(self):
-        self.assertEqual(layers.circle_in({"a": {"b", "c"}, "b": {"c"}}), [])
+        self.assertEqual(layers.cycle_in({"a": {"b", "c"}, "b": {"c"}}), [])
 
-    def test_a_circle_in_the_tree_is_told(self):
+    def test_a_cycle_in_the_tree_is_reported(self):
         self.write("core/a.h", '#include "core/views/b.h"')
         self.write("core/views/b.h", '#include "core/a.h"')
         self.assertIn(".:0: rooms in a circle: core -> core/views -> core",
@@ -384,7 +384,7 @@ class Circles(Tree):
 
     def test_the_plan_itself_has_none(self):
         graph = {name: set(plan.knows) for name, plan in layers.ROOMS.items()}
-        self.assertEqual(layers.circle_in(graph), [])
+        self.assertEqual(layers.cycle_in(graph), [])
 
 
 class CommandLine(Tree):

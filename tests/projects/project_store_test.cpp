@@ -248,7 +248,7 @@ TEST_F(ProjectStoreTest, TheActiveIdMayBeMissingOrNullOrOfNoProject) {
     EXPECT_EQ(store->activeProjectId(), someId);
 }
 
-TEST_F(ProjectStoreTest, KeysBesideThoseNamedArePassedOver) {
+TEST_F(ProjectStoreTest, KeysBesideThoseNamedAreIgnored) {
     restartWith(
         R"({"version":1,"projects":[{"id":"0F8FAD5B-D9CB-469F-A165-70867728950E","name":"a","colorHex":"b",)"
         R"("archived":false,"notes":[1]}]})");

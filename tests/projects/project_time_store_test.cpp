@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "projects/active_project_booking.h"
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -192,11 +192,11 @@ struct ProjectBookingTest : testing::Test {
         void tickWorkSecond() override {}
         void flush() override {}
     } gate;
-    test::CoreRooms rooms{world, {&gate, nullptr, &booking}};
+    test::CoreFixture fixture{world, {&gate, nullptr, &booking}};
 
     ProjectBookingTest() {
         world.putAppInFront("firefox");
-        rooms.engine.start();
+        fixture.engine.start();
     }
     void tick(int seconds) { world.mainLoop.runFor(std::chrono::seconds(seconds)); }
     Uuid startProject(const char* name) {
@@ -257,7 +257,7 @@ TEST_F(ProjectBookingTest, APlayedSecondIsBookedToTheProjectAsTheApplicationInFr
     tick(5);
     EXPECT_THAT(times.aggregate(std::vector{today}, one),
                 ElementsAre(AppSeconds{AppId("firefox"), Seconds(2)}));
-    EXPECT_THAT(rooms.apps.aggregate(std::vector{today}),
+    EXPECT_THAT(fixture.apps.aggregate(std::vector{today}),
                 ElementsAre(AppSeconds{AppId("com.brightlooms.fathom.games"), Seconds(7)}));
 }
 

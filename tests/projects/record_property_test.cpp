@@ -13,7 +13,7 @@
 #include "platform/fake/fake_time_zone.h"
 #include "projects/active_project_booking.h"
 #include "tests/support/chance.h"
-#include "tests/support/classified_rooms.h"
+#include "tests/support/classification_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -32,19 +32,19 @@ struct WorkedSecond {
 using Sums = std::map<std::string, std::int64_t>;
 
 // All that lives for one run of the program.
-struct Rooms {
-    Rooms(test::FakeWorld& world, const Broadcaster& broadcaster)
+struct Fixture {
+    Fixture(test::FakeWorld& world, const Broadcaster& broadcaster)
         : projects(world.files, world.log, world.randomness, broadcaster),
           times(world.files, world.log, world.frontmost),
           booking(projects, times),
-          rooms(world, {nullptr, nullptr, &booking}) {
-        rooms.engine.start();
+          fixture(world, {nullptr, nullptr, &booking}) {
+        fixture.engine.start();
     }
 
     ProjectStore projects;
     ProjectTimeStore times;
     ActiveProjectBooking booking;
-    test::ClassifiedRooms rooms;
+    test::ClassificationFixture fixture;
 };
 
 class RecordPropertyTest : public testing::TestWithParam<std::uint32_t> {
@@ -69,12 +69,12 @@ protected:
         work();
     }
 
-    [[nodiscard]] test::ClassifiedRooms& record() { return running_->rooms; }
+    [[nodiscard]] test::ClassificationFixture& record() { return running_->fixture; }
 
     void start() { running_.emplace(world_, broadcaster_); }
 
     void restart() {
-        running_->rooms.engine.stop();
+        running_->fixture.engine.stop();
         start();
     }
 
@@ -283,7 +283,7 @@ protected:
     Broadcaster broadcaster_;
     std::vector<AppId> apps_;
     std::vector<Uuid> ids_;
-    std::optional<Rooms> running_;
+    std::optional<Fixture> running_;
     std::vector<WorkedSecond> worked_;
 };
 

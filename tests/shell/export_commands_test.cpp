@@ -130,7 +130,7 @@ TEST_F(ExportCommandsTest, AProjectThatIsGoneIsNotAskedFor) {
 }
 
 TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) {
-    machine_.desktop.setRevealOutcome(Error{"no file manager"});
+    machine_.desktop.setRevealStatus(Error{"no file manager"});
     program_->program.exports().exportReport();
     EXPECT_EQ(surfaces_.saveRequest().title, "Guardar reporte");
     EXPECT_EQ(surfaces_.saveRequest().proposedName, "fathom-reporte.pdf");
@@ -144,7 +144,7 @@ TEST_F(ExportCommandsTest, TheReportsPlaceIsShownAlsoAfterAFailureAndInSilence) 
 
 TEST_F(ExportCommandsTest, AReportThatIsWrittenButCannotBeShownIsTold) {
     reportsSucceed_ = true;
-    machine_.desktop.setRevealOutcome(Error{"no file manager"});
+    machine_.desktop.setRevealStatus(Error{"no file manager"});
     program_->program.exports().exportReport();
     surfaces_.place("/home/user/enero.pdf");
     EXPECT_EQ(

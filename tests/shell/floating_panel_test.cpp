@@ -34,7 +34,7 @@ TEST_F(FloatingPanelTest, WithoutAStoredOriginItStandsInTheTopRightCornerOfTheMa
     EXPECT_EQ(window_.origin(), (Point{1920 - 220 - 24, 30 + 24}));
 }
 
-TEST_F(FloatingPanelTest, AStoredOriginOnAScreenIsTakenUp) {
+TEST_F(FloatingPanelTest, AStoredOriginOnAScreenIsRestored) {
     screens_.set({{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}, {{1920, 0, 1280, 1024}, {1920, 0, 1280, 1024}}});
     settings_.setWindowOrigin(Point{2000, 500});
     panel();

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "analysis/dashboard_rooms.h"
+#include "analysis/dashboard_fixture.h"
 
 namespace tidewatch {
 namespace {
@@ -18,7 +18,7 @@ protected:
         });
     }
 
-    [[nodiscard]] MenuRows menu() { return reclassifyMenu(editor_, rooms_.categories, model_); }
+    [[nodiscard]] MenuRows menu() { return reclassifyMenu(editor_, fixture_.categories, model_); }
 
     void choose(const std::string& submenu, const std::string& title) {
         for (const auto& row : menu()) {
@@ -40,8 +40,8 @@ protected:
 
     const AppId editor_{"com.apple.dt.Xcode"};  // development, productive
     test::FakeWorld world_;
-    test::DashboardRooms rooms_{world_};
-    DashboardModel model_{rooms_.sources()};
+    test::DashboardFixture fixture_{world_};
+    DashboardModel model_{fixture_.sources()};
     Connection reloads_;
     int reloadCount_ = 0;
 };
@@ -64,34 +64,34 @@ TEST_F(ReclassifyMenuTest, AllTiersInTheirOrderWithThePresentOneChecked) {
 
 TEST_F(ReclassifyMenuTest, ACategoryIsOfTheApplicationAndReloads) {
     choose("Categoría", "Juegos");
-    EXPECT_EQ(rooms_.categories.category(editor_), Category::games);
-    EXPECT_EQ(rooms_.categories.category(AppId("com.microsoft.VSCode")), Category::development);
+    EXPECT_EQ(fixture_.categories.category(editor_), Category::games);
+    EXPECT_EQ(fixture_.categories.category(AppId("com.microsoft.VSCode")), Category::development);
     EXPECT_EQ(reloadCount_, 1);
     EXPECT_EQ(menu()[1].title, "Tier de Juegos");
 }
 
 TEST_F(ReclassifyMenuTest, ATierIsOfAllApplicationsOfTheCategoryAndReloads) {
     choose("Tier de Desarrollo", "Neutral");
-    EXPECT_EQ(rooms_.categories.tier(editor_), Tier::neutral);
-    EXPECT_EQ(rooms_.categories.tier(AppId("com.microsoft.VSCode")), Tier::neutral);
+    EXPECT_EQ(fixture_.categories.tier(editor_), Tier::neutral);
+    EXPECT_EQ(fixture_.categories.tier(AppId("com.microsoft.VSCode")), Tier::neutral);
     EXPECT_EQ(reloadCount_, 1);
 }
 
 TEST_F(ReclassifyMenuTest, TheDefaultsComeBackForTheApplicationAndForTheCategoryItHad) {
-    rooms_.categories.setTier(Tier::distracting, Category::development);
-    rooms_.categories.setTier(Tier::productive, Category::games);
-    rooms_.categories.setCategory(Category::games, editor_);
+    fixture_.categories.setTier(Tier::distracting, Category::development);
+    fixture_.categories.setTier(Tier::productive, Category::games);
+    fixture_.categories.setCategory(Category::games, editor_);
     menu()[2].action();
-    EXPECT_EQ(rooms_.categories.category(editor_), Category::development);
-    EXPECT_EQ(rooms_.categories.tier(Category::games), Tier::distracting);
-    EXPECT_EQ(rooms_.categories.tier(Category::development), Tier::distracting);
+    EXPECT_EQ(fixture_.categories.category(editor_), Category::development);
+    EXPECT_EQ(fixture_.categories.tier(Category::games), Tier::distracting);
+    EXPECT_EQ(fixture_.categories.tier(Category::development), Tier::distracting);
     EXPECT_EQ(reloadCount_, 1);
 }
 
 TEST_F(ReclassifyMenuTest, ThePresentChoiceMayBeChosenAgain) {
     choose("Categoría", "Desarrollo");
     EXPECT_EQ(reloadCount_, 1);
-    EXPECT_EQ(rooms_.categories.category(editor_), Category::development);
+    EXPECT_EQ(fixture_.categories.category(editor_), Category::development);
 }
 
 }  // namespace

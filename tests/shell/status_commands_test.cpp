@@ -72,7 +72,7 @@ TEST_F(StatusCommandsTest, RevealDataWritesTheDayAndShowsItsFile) {
 }
 
 TEST_F(StatusCommandsTest, AFileThatCannotBeShownIsTold) {
-    machine_.desktop.setRevealOutcome(Error{"no file manager"});
+    machine_.desktop.setRevealStatus(Error{"no file manager"});
     ASSERT_TRUE(choose("Revelar archivo de datos"));
     EXPECT_EQ(
         surfaces_.warnings(),

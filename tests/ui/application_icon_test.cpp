@@ -63,7 +63,7 @@ TEST_F(ApplicationIconTest, ALinkToADeviceWithoutAnEndIsNoPicture) {
     EXPECT_TRUE(applicationIcon(folder.filePath("icon.png")).isNull());
 }
 
-TEST_F(ApplicationIconTest, AFileOutOfAllProportionIsNoPicture) {
+TEST_F(ApplicationIconTest, AFileOfExcessiveSizeIsNoPicture) {
     const auto path = picture("icon.png");
     EXPECT_FALSE(applicationIcon(path).isNull());
     fs::resize_file(path.toStdString(), std::uintmax_t{1} << 40);  // takes no space

@@ -11,7 +11,7 @@
 
 #include "platform/fake/fake_clock.h"
 #include "ui/backgrounds/liquid_background.h"
-#include "ui/backgrounds/wall_time.h"
+#include "ui/backgrounds/wall_clock.h"
 #include "ui/symbols/app_icon_view.h"
 #include "ui/ui_scene.h"
 
@@ -68,12 +68,12 @@ TEST_F(ComponentsTest, AChildCanFillItsCard) {
     EXPECT_EQ(placeOf(the("child")), QRectF(20, 20, 160, 60));
 }
 
-TEST_F(ComponentsTest, ACardSpeaksOnlyIfItIsGivenWordsAndInTheirRole) {
+TEST_F(ComponentsTest, ACardIsAccessibleOnlyWithATextAndInItsRole) {
     show("Item { Accessible.role: Accessible.Pane; Card { Heading { text: 'Metas' } } }");
     EXPECT_EQ(accessible(*view_).child(0)->role(), QAccessible::Heading);
     show(R"(Item {
         Accessible.role: Accessible.Pane
-        Card { spoken: "9:00am, 19m"; spokenRole: Accessible.ListItem; Heading { text: "Metas" } }
+        Card { accessibleText: "9:00am, 19m"; accessibleRole: Accessible.ListItem; Heading { text: "Metas" } }
     })");
     ASSERT_EQ(accessible(*view_).childCount(), 1);
     auto* card = accessible(*view_).child(0);
@@ -82,12 +82,12 @@ TEST_F(ComponentsTest, ACardSpeaksOnlyIfItIsGivenWordsAndInTheirRole) {
     EXPECT_EQ(card->child(0)->role(), QAccessible::Heading);
 }
 
-TEST_F(ComponentsTest, HiddenAndEmptyWordsAreNotSpoken) {
+TEST_F(ComponentsTest, HiddenAndEmptyTextsAreNotAccessible) {
     show(R"(Column {
         Accessible.role: Accessible.Pane
-        SpokenText { text: "uno" }
-        SpokenText { text: "dos"; visible: false }
-        SpokenText {}
+        AccessibleText { text: "uno" }
+        AccessibleText { text: "dos"; visible: false }
+        AccessibleText {}
     })");
     ASSERT_EQ(accessible(*view_).childCount(), 1);
     EXPECT_EQ(accessible(*view_).child(0)->role(), QAccessible::StaticText);
@@ -481,7 +481,7 @@ TEST_F(ComponentsTest, AnIconMayBeAVectorDrawing) {
     EXPECT_EQ(picture().pixelColor(45, 45), QColor(0, 255, 0));
 }
 
-TEST_F(ComponentsTest, AnIconThatIsNoPictureButAPipeHoldsNobodyUp) {
+TEST_F(ComponentsTest, AnIconThatIsNoPictureButAPipeBlocksNobody) {
     const QTemporaryDir folder;
     const auto pipe = folder.filePath("icon.png");
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
@@ -552,7 +552,7 @@ TEST_F(ComponentsTest, WhatIsDisabledSaysSoAndCannotBePressedByTheBus) {
 
 TEST_F(ComponentsTest, TheGroundMovesOnlyInItsThemeAndWhileItIsWorthIt) {
     platform::FakeClock clock{Instant(std::chrono::seconds(1'764'000'000))};
-    WallTime time(clock);
+    WallClock time(clock);
     show("DashboardBackground { width: 200; height: 100 }");
     view_->setProperty("time", QVariant::fromValue(&time));
     EXPECT_EQ(item("liquid"), nullptr);

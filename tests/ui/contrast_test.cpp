@@ -17,9 +17,9 @@ TEST(Contrast, ReachesFromOneToTwentyOne) {
 }
 
 TEST(Contrast, ATranslucentColourIsMixedWithItsGround) {
-    EXPECT_EQ(laidOver(QColor::fromRgbF(1, 1, 1, 0.5F), Qt::black).rgb(),
+    EXPECT_EQ(blendedOver(QColor::fromRgbF(1, 1, 1, 0.5F), Qt::black).rgb(),
               QColor::fromRgbF(0.5F, 0.5F, 0.5F).rgb());
-    EXPECT_EQ(laidOver(Qt::blue, Qt::white), QColor(Qt::blue));
+    EXPECT_EQ(blendedOver(Qt::blue, Qt::white), QColor(Qt::blue));
 }
 
 TEST(Contrast, WhatCanBeReadStaysAsItIs) {
@@ -30,14 +30,14 @@ TEST(Contrast, WhatCannotBeReadIsBroughtJustFarEnoughAwayFromItsGround) {
     const QColor paper(0xF4, 0xF1, 0xEA);
     const QColor paleGreen(0x7B, 0xD8, 0x8F);
     const auto legible = legibleOn(paper, paleGreen);
-    EXPECT_GE(contrast(legible, paper), leastContrast);
-    EXPECT_LT(contrast(legible, paper), leastContrast + 1);
+    EXPECT_GE(contrast(legible, paper), minContrast);
+    EXPECT_LT(contrast(legible, paper), minContrast + 1);
     EXPECT_NEAR(legible.hueF(), paleGreen.hueF(), 0.02);
 }
 
 TEST(Contrast, AGreyInTheMiddleGetsWhatHelps) {
     const QColor grey(0x70, 0x70, 0x70);
-    EXPECT_GE(contrast(legibleOn(grey, grey), grey), leastContrast);
+    EXPECT_GE(contrast(legibleOn(grey, grey), grey), minContrast);
 }
 
 TEST(Contrast, EveryTierIsLegibleOnTheCardsOfEveryTheme) {
@@ -46,16 +46,16 @@ TEST(Contrast, EveryTierIsLegibleOnTheCardsOfEveryTheme) {
         const Palette palette(theme.dashboard);
         // What lies behind the cards may be anything between the plain ground and the brightest.
         for (const auto& card :
-             {palette.textGround, laidOver(palette.card, laidOver(palette.ground, palette.bg))}) {
+             {palette.textGround, blendedOver(palette.card, blendedOver(palette.ground, palette.bg))}) {
             for (const auto& color :
                  {palette.tierProductive, palette.tierNeutral, palette.tierDistracting, palette.amber}) {
-                EXPECT_GE(contrast(legibleOn(palette.textGround, color), card), leastContrast);
+                EXPECT_GE(contrast(legibleOn(palette.textGround, color), card), minContrast);
             }
             for (const auto& color : {palette.primaryText, palette.strongMute}) {
-                EXPECT_GE(contrast(laidOver(color, card), card), leastContrast);
+                EXPECT_GE(contrast(blendedOver(color, card), card), minContrast);
             }
         }
-        EXPECT_GE(contrast(palette.onFill, palette.tierProductive), leastContrast);
+        EXPECT_GE(contrast(palette.onFill, palette.tierProductive), minContrast);
     }
 }
 
@@ -68,7 +68,7 @@ QColor brightestLiquid(const Palette& palette) {
         const auto picture = liquid.paint(liquidAngles(second));
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
-                const auto seen = laidOver(picture.pixelColor(x, y), palette.bg);
+                const auto seen = blendedOver(picture.pixelColor(x, y), palette.bg);
                 if (contrast(seen, Qt::black) > contrast(brightest, Qt::black)) brightest = seen;
             }
         }
@@ -79,19 +79,19 @@ QColor brightestLiquid(const Palette& palette) {
 TEST(Contrast, EveryWordIsLegibleWhereTheLiquidIsBrightest) {
     const Palette palette(ThemeRegistry().theme("liquid").dashboard);
     const auto brightest = brightestLiquid(palette);
-    EXPECT_LT(contrast(palette.primaryText, brightest), leastContrast)
+    EXPECT_LT(contrast(palette.primaryText, brightest), minContrast)
         << "the cards need no ground of their own";
-    const auto between = laidOver(palette.ground, brightest);
-    const auto card = laidOver(palette.card, between);
-    const auto chip = laidOver(palette.cardSubtle, between);
+    const auto between = blendedOver(palette.ground, brightest);
+    const auto card = blendedOver(palette.card, between);
+    const auto chip = blendedOver(palette.cardSubtle, between);
     for (const auto& ground : {between, card}) {
         for (const auto& color :
              {palette.primaryText, palette.strongMute, palette.secondaryText, palette.mute}) {
-            EXPECT_GE(contrast(laidOver(color, ground), ground), leastContrast);
+            EXPECT_GE(contrast(blendedOver(color, ground), ground), minContrast);
         }
     }
     for (const auto& color : {palette.primaryText, palette.strongMute}) {
-        EXPECT_GE(contrast(laidOver(color, chip), chip), leastContrast);
+        EXPECT_GE(contrast(blendedOver(color, chip), chip), minContrast);
     }
     EXPECT_LE(contrast(card, Qt::black), contrast(palette.textGround, Qt::black));
 }

@@ -54,7 +54,7 @@ TEST(NameText, OneCharacterOfEndlessAccentsIsCutAtTheEndOfAnAccent) {
     EXPECT_FALSE(name.contains(QChar::ReplacementCharacter));
 }
 
-TEST(NameText, BytesThatAreNoTextAreShownAsSuch) {
+TEST(NameText, InvalidUtf8AreShownAsSuch) {
     EXPECT_EQ(nameText("uno\xff"), QString("uno") + QChar(QChar::ReplacementCharacter));
     EXPECT_TRUE(nameText(repeated("\xbf", 50'000)).size() <= 201);
 }

@@ -34,14 +34,14 @@ protected:
     }
 
     platform::FakeClock clock_{sys_days(January / 15 / 2026)};
-    WallTime time_{clock_};
+    WallClock time_{clock_};
     QQuickWindow window_;
     LiquidBackground liquid_;
 };
 
-TEST(WallTime, CountsSecondsWithTheirFractionFromTheBeginningOf2001) {
+TEST(WallClock, CountsSecondsWithTheirFractionFromTheBeginningOf2001) {
     platform::FakeClock clock(sys_days(January / 1 / 2001));
-    const WallTime time(clock);
+    const WallClock time(clock);
     EXPECT_EQ(time.secondsSinceReferenceDate(), 0);
     clock.advance(milliseconds(90'250));
     EXPECT_DOUBLE_EQ(time.secondsSinceReferenceDate(), 90.25);

@@ -18,7 +18,7 @@ protected:
         component.setData(
             "import QtQuick\nimport Tidewatch.Ui\n"
             "QtObject { property color bg: Style.palette.bg; property bool dark: Style.dark\n"
-            "property int decoration: Style.decoration; property real radius: Style.measures.cardRadius\n"
+            "property int decoration: Style.decoration; property real radius: Style.metrics.cardRadius\n"
             "property font title: Style.serif(7.5, Style.Medium)\n"
             "property int pieces: Style.palette.gamePieces.length }",
             QUrl());
@@ -37,7 +37,7 @@ protected:
     std::unique_ptr<QObject> view_;
 };
 
-TEST_F(StyleTest, WearsOchreUntilToldOtherwise) {
+TEST_F(StyleTest, AppliesOchreUntilToldOtherwise) {
     EXPECT_EQ(seen("bg").value<QColor>(), toQColor(fathom::ink));
     EXPECT_TRUE(seen("dark").toBool());
     EXPECT_EQ(seen("pieces").toInt(), 7);
@@ -55,7 +55,7 @@ TEST_F(StyleTest, ViewsFollowTheController) {
 }
 
 TEST_F(StyleTest, MeasuresAndFontsReachTheViews) {
-    EXPECT_EQ(seen("radius").toReal(), Measures().cardRadius);
+    EXPECT_EQ(seen("radius").toReal(), Metrics().cardRadius);
     EXPECT_EQ(seen("title").value<QFont>().weight(), QFont::Medium);
 }
 

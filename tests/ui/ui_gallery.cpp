@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "platform/fake/fake_clock.h"
-#include "ui/backgrounds/wall_time.h"
+#include "ui/backgrounds/wall_clock.h"
 #include "ui/style/fonts.h"
 #include "ui/symbols/symbol_table.h"
 #include "ui/ui_scene.h"
@@ -166,7 +166,7 @@ int paintAll(const QString& path) {
     if (!folder.mkpath(".")) return 1;
     UiScene scene;
     platform::FakeClock clock{Instant(std::chrono::seconds(1'764'000'000))};
-    WallTime time(clock);
+    WallClock time(clock);
     for (const auto& theme : scene.themes_.themes()) {
         scene.theme_.switchTo(theme.id);
         scene.show(components, componentsSize);

@@ -65,7 +65,7 @@ TEST_F(GameGateTest, OnlyThePresenceOfTheMarkIsTested) {
     EXPECT_EQ(start().state(), State(Charging{Seconds(0)}));
 }
 
-TEST_F(GameGateTest, WhatIsStoredIsTakenUp) {
+TEST_F(GameGateTest, LoadsWhatIsStored) {
     world_.preferences.setReal("gate.lockedUntil", 1768471200.25);
     const auto& gate = startCharged(1234);
     EXPECT_EQ(gate.workSeconds(), Seconds(1234));

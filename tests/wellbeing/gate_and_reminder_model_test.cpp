@@ -43,8 +43,8 @@ class Chance {
 public:
     explicit Chance(std::uint64_t seed) : engine_(seed) {}
 
-    std::int64_t between(std::int64_t least, std::int64_t most) {
-        return std::uniform_int_distribution(least, most)(engine_);
+    std::int64_t between(std::int64_t min, std::int64_t max) {
+        return std::uniform_int_distribution(min, max)(engine_);
     }
     bool oneIn(int n) { return between(1, n) == 1; }
 

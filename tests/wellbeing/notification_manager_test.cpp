@@ -25,7 +25,7 @@ protected:
     }
 
     /// A start, with what the user or the service answers to the request.
-    void start(const platform::AuthorizationAnswer& answer) {
+    void start(const platform::AuthorizationResult& answer) {
         start();
         manager_->requestAuthorization();
         service_.answer(answer);
@@ -55,7 +55,7 @@ TEST_F(NotificationManagerTest, AMessageGoesToTheNewerService) {
     service_.report(success());
     world_.mainLoop.run();
     EXPECT_EQ(service_.delivered(), Messages{message});
-    EXPECT_TRUE(service_.deliveredOlder().empty());
+    EXPECT_TRUE(service_.deliveredLegacy().empty());
 }
 
 TEST_F(NotificationManagerTest, AMessageNeedsNoAnswerFirst) {
@@ -67,16 +67,16 @@ TEST_F(NotificationManagerTest, AMessageNeedsNoAnswerFirst) {
 }
 
 TEST_F(NotificationManagerTest, WithoutANewerServiceAllGoToTheOlderOneAndNobodyIsAsked) {
-    service_.setNewerService(false);
+    service_.setModernService(false);
     start();
     manager_->notify(message);
-    EXPECT_EQ(service_.deliveredOlder(), Messages{message}) << "even before the request";
+    EXPECT_EQ(service_.deliveredLegacy(), Messages{message}) << "even before the request";
     manager_->requestAuthorization();
     EXPECT_EQ(service_.waitingRequests(), 0u);
     EXPECT_TRUE(manager_->useFallback());
     manager_->fireOnce("key", message);
     check(goal_);
-    EXPECT_EQ(service_.deliveredOlder().size(), 3u);
+    EXPECT_EQ(service_.deliveredLegacy().size(), 3u);
     EXPECT_TRUE(service_.delivered().empty());
 }
 
@@ -94,7 +94,7 @@ TEST_F(NotificationManagerTest, AFailedRequestIsLoggedAndSwitchesTheRestOfTheRun
     EXPECT_TRUE(manager_->useFallback());
     EXPECT_TRUE(manager_->authorized()) << "recorded in all cases";
     manager_->notify(message);
-    EXPECT_EQ(service_.deliveredOlder(), Messages{message});
+    EXPECT_EQ(service_.deliveredLegacy(), Messages{message});
     EXPECT_TRUE(service_.delivered().empty());
 
     start({.granted = true, .error = {}});
@@ -115,9 +115,9 @@ TEST_F(NotificationManagerTest, AFailedDeliveryIsLoggedAndTakesTheOlderPathOnThe
     manager_->notify(message);
     world_.log.expectWarning("Notif deliver error: no service");
     std::thread([&] { service_.report(Error{"no service"}); }).join();
-    EXPECT_TRUE(service_.deliveredOlder().empty());
+    EXPECT_TRUE(service_.deliveredLegacy().empty());
     world_.mainLoop.run();
-    EXPECT_EQ(service_.deliveredOlder(), Messages{message});
+    EXPECT_EQ(service_.deliveredLegacy(), Messages{message});
 }
 
 TEST_F(NotificationManagerTest, AfterAFailedDeliveryTheNewerServiceIsTriedAgain) {
@@ -129,7 +129,7 @@ TEST_F(NotificationManagerTest, AfterAFailedDeliveryTheNewerServiceIsTriedAgain)
     EXPECT_FALSE(manager_->useFallback());
     manager_->notify(message);
     EXPECT_EQ(service_.delivered().size(), 2u);
-    EXPECT_EQ(service_.deliveredOlder().size(), 1u);
+    EXPECT_EQ(service_.deliveredLegacy().size(), 1u);
 }
 
 TEST_F(NotificationManagerTest, WhatIsReportedAfterTheEndIsDropped) {
@@ -141,7 +141,7 @@ TEST_F(NotificationManagerTest, WhatIsReportedAfterTheEndIsDropped) {
     service_.answer({.granted = false, .error = Error{"late"}});
     service_.report(Error{"late"});
     world_.mainLoop.run();
-    EXPECT_TRUE(service_.deliveredOlder().empty());
+    EXPECT_TRUE(service_.deliveredLegacy().empty());
 }
 
 TEST_F(NotificationManagerTest, NotifyRepeatsAndFireOnceDoesNot) {
@@ -165,7 +165,7 @@ TEST_F(NotificationManagerTest, AMessageCountsAsSeenAlthoughItsDeliveryFailed) {
     world_.mainLoop.run();
     manager_->fireOnce("key", message);
     EXPECT_EQ(service_.delivered().size(), 1u);
-    EXPECT_EQ(service_.deliveredOlder().size(), 1u);
+    EXPECT_EQ(service_.deliveredLegacy().size(), 1u);
 }
 
 TEST_F(NotificationManagerTest, AGoalOfZeroHoursHasNoMilestones) {

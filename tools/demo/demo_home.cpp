@@ -30,7 +30,7 @@ void write(const fs::path& path, std::string_view content) {
 }
 
 void write(const fs::path& path, const CounterRecord& record) {
-    write(path, writeCounters(record).view());
+    write(path, serializeCounters(record).view());
 }
 
 std::string desktopEntry(const DemoApplication& app, const std::string& iconFolder) {
@@ -49,9 +49,9 @@ void writeDemoHome(const DemoRecord& record, const std::string& home, const std:
     write(data / "hours.json", record.hours);
     write(data / "minutes.json", record.minutes);
     write(data / "project_time.json", record.projectTime);
-    write(data / "projects.json", writeProjects(record.projects));
-    write(data / "categories.json", writeCategoryOverrides(record.overrides));
-    write(data / "goals.json", writeGoalSettings(record.goals).value());
+    write(data / "projects.json", serializeProjects(record.projects));
+    write(data / "categories.json", serializeCategoryOverrides(record.overrides));
+    write(data / "goals.json", serializeGoalSettings(record.goals).value());
     write(fs::path(home) / ".config/brightlooms/tidewatch.conf", settings);
     for (const auto& app : demoApplications()) {
         write(fs::path(home) / ".local/share/applications" / (std::string(app.id) + ".desktop"),

@@ -20,7 +20,7 @@ using namespace std::chrono;
 
 constexpr int daysOfRecord = 365;
 constexpr int daysOfFinishedProject = 130;  // from the first day on
-constexpr minutes leastWorkedToday{4 * 60};
+constexpr minutes minWorkedToday{4 * 60};
 
 struct DemoProject {
     std::string_view name;
@@ -90,7 +90,7 @@ std::optional<DayPlan> planOf(sys_days day, std::uint32_t seed) {
 DayPlan planOfToday(minutes now, std::uint32_t seed) {
     auto plan = workingDay(seed);
     plan.mood = Mood::usual;
-    plan.start = std::max(minutes(0), std::min(plan.start, now - leastWorkedToday));
+    plan.start = std::max(minutes(0), std::min(plan.start, now - minWorkedToday));
     return plan;
 }
 
@@ -121,7 +121,7 @@ private:
     }
 
     void book(sys_days day, const DayPlan& plan, minutes until) {
-        const auto key = dayKeyOf(day);
+        const auto key = toDayKey(day);
         for (const auto& minute : liveThrough(plan)) {
             if (minute.sinceMidnight >= until) return;
             book(key, day, minute);
@@ -132,7 +132,7 @@ private:
     void book(const DayKey& day, sys_days date, const WorkedMinute& minute) {
         const auto sinceMidnight = static_cast<int>(minute.sinceMidnight.count());
         const int hour = sinceMidnight / 60;
-        const int tens = sinceMidnight % 60 / minutesABucket * minutesABucket;
+        const int tens = sinceMidnight % 60 / minutesPerBucket * minutesPerBucket;
         const auto hourText = hourKey(day, hour).text();
         const auto bucketText = bucketKey(day, {hour, tens}).text();
         const std::string_view dayText = day.text();

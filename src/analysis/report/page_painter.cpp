@@ -19,8 +19,8 @@ namespace tidewatch {
 namespace {
 
 // The toolkit places letters on whole dots in places: this makes them too small to matter.
-constexpr int dotsAPoint = 20;
-constexpr int pointsAnInch = 72;
+constexpr int dotsPerPoint = 20;
+constexpr int pointsPerInch = 72;
 
 QString lineText(std::string_view utf8) {
     // What comes from elsewhere may hold line ends, which a line cannot.
@@ -30,7 +30,7 @@ QString lineText(std::string_view utf8) {
 // In dots.
 QFont toPageFont(const FontSpec& spec) {
     auto font = toQFont(spec);
-    font.setPixelSize(static_cast<int>(std::lround(spec.size * dotsAPoint)));
+    font.setPixelSize(static_cast<int>(std::lround(spec.size * dotsPerPoint)));
     // A ligature is one glyph for two letters, and a search for them does not find it.
     font.setStyleStrategy(
         static_cast<QFont::StyleStrategy>(QFont::NoSubpixelAntialias | QFont::PreferNoShaping));
@@ -64,8 +64,8 @@ LaidOutLine layOut(const QString& text, const QFont& font, double tracking) {
 
 LaidOutLine layOut(const PageText& text) {
     const auto font = toPageFont(text.font);
-    const double tracking = text.tracking * dotsAPoint;
-    const double column = text.width * dotsAPoint;
+    const double tracking = text.tracking * dotsPerPoint;
+    const double column = text.width * dotsPerPoint;
     const auto whole = lineText(text.text);
     auto line = layOut(whole, font, tracking);
     if (line.width <= column) return line;
@@ -84,26 +84,26 @@ public:
 
 private:
     void fill(const PageBox& box) {
-        const QRectF rectangle(box.x * dotsAPoint, box.y * dotsAPoint, box.width * dotsAPoint,
-                               box.height * dotsAPoint);
+        const QRectF rectangle(box.x * dotsPerPoint, box.y * dotsPerPoint, box.width * dotsPerPoint,
+                               box.height * dotsPerPoint);
         if (box.radius <= 0) {
             painter_.fillRect(rectangle, toQColor(box.color));
             return;
         }
         painter_.setPen(Qt::NoPen);
         painter_.setBrush(toQColor(box.color));
-        const double radius = std::min(box.radius, box.width / 2) * dotsAPoint;
+        const double radius = std::min(box.radius, box.width / 2) * dotsPerPoint;
         painter_.drawRoundedRect(rectangle, radius, radius);
     }
 
     void write(const PageText& text) {
         const auto line = layOut(text);
-        const double free = text.width * dotsAPoint - line.width;
-        const double left = text.x * dotsAPoint + (text.alignment == PageText::Alignment::right ? free : 0);
+        const double free = text.width * dotsPerPoint - line.width;
+        const double left = text.x * dotsPerPoint + (text.alignment == PageText::Alignment::right ? free : 0);
         painter_.setPen(toQColor(text.color));
         painter_.setFont(line.font);
         for (const auto& run : line.runs) {
-            painter_.drawText(QPointF(left + run.x, text.baseline * dotsAPoint), run.text);
+            painter_.drawText(QPointF(left + run.x, text.baseline * dotsPerPoint), run.text);
         }
     }
 
@@ -121,7 +121,7 @@ QByteArray toPdf(const ReportPage& page) {
     writer.setCreator("Fathom");
     writer.setPageSize(QPageSize(QSizeF(ReportPage::width, ReportPage::height), QPageSize::Point));
     writer.setPageMargins(QMarginsF());
-    writer.setResolution(pointsAnInch * dotsAPoint);
+    writer.setResolution(pointsPerInch * dotsPerPoint);
     QPainter painter;
     if (!painter.begin(&writer)) return {};
     PagePainter(painter).draw(page);
@@ -130,7 +130,7 @@ QByteArray toPdf(const ReportPage& page) {
 
 TextWidth pageTextWidth() {
     return [](std::string_view text, const FontSpec& spec, double tracking) {
-        return layOut(lineText(text), toPageFont(spec), tracking * dotsAPoint).width / dotsAPoint;
+        return layOut(lineText(text), toPageFont(spec), tracking * dotsPerPoint).width / dotsPerPoint;
     };
 }
 

@@ -10,9 +10,9 @@ RowLayout {
     required property appRow app
     property bool dotted: false
 
-    spacing: Style.measures.spacing
+    spacing: Style.metrics.spacing
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.app.spoken
+    Accessible.name: root.app.accessibleText
 
     AppIconView {
         Layout.preferredWidth: 18

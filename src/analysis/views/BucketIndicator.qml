@@ -11,7 +11,7 @@ Item {
     implicitWidth: 12
     implicitHeight: 22
     Accessible.role: Accessible.StaticText
-    Accessible.name: root.bucket.spoken
+    Accessible.name: root.bucket.accessibleText
     Accessible.ignored: !root.bucket.filled
 
     Rectangle {

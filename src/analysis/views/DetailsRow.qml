@@ -12,7 +12,7 @@ T.ItemDelegate {
 
     signal menuRequested(point at)
 
-    function askForMenu(x: real, y: real) {
+    function requestMenu(x: real, y: real) {
         menuRequested(mapToGlobal(x, y));
     }
 
@@ -22,16 +22,16 @@ T.ItemDelegate {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.row.spoken
+    Accessible.name: root.row.accessibleText
     Accessible.focusable: true
-    Accessible.onPressAction: askForMenu(width / 2, height)
+    Accessible.onPressAction: requestMenu(width / 2, height)
 
-    Keys.onMenuPressed: askForMenu(48, height)
-    Keys.onReturnPressed: askForMenu(48, height)
-    Keys.onEnterPressed: askForMenu(48, height)
+    Keys.onMenuPressed: requestMenu(48, height)
+    Keys.onReturnPressed: requestMenu(48, height)
+    Keys.onEnterPressed: requestMenu(48, height)
     Keys.onPressed: event => {
         if (event.key === Qt.Key_F10 && event.modifiers & Qt.ShiftModifier) {
-            askForMenu(48, height);
+            requestMenu(48, height);
             event.accepted = true;
         }
     }
@@ -40,12 +40,12 @@ T.ItemDelegate {
         acceptedButtons: Qt.RightButton
         onTapped: eventPoint => {
             root.forceActiveFocus(Qt.MouseFocusReason);
-            root.askForMenu(eventPoint.position.x, eventPoint.position.y);
+            root.requestMenu(eventPoint.position.x, eventPoint.position.y);
         }
     }
 
     background: Rectangle {
-        radius: Style.measures.controlRadius
+        radius: Style.metrics.controlRadius
         color: root.hovered || root.activeFocus ? Style.palette.cardSubtle : "transparent"
     }
 

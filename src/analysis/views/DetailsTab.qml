@@ -13,14 +13,14 @@ ScrollPane {
 
     ColumnLayout {
         width: parent.width
-        spacing: Style.measures.wideSpacing
+        spacing: Style.metrics.wideSpacing
 
         Band {
             Layout.fillWidth: true
 
             RowLayout {
                 anchors.fill: parent
-                spacing: Style.measures.spacing
+                spacing: Style.metrics.spacing
 
                 Repeater {
                     model: root.presenter.tiers
@@ -124,7 +124,7 @@ ScrollPane {
         Band {
             Layout.fillWidth: true
 
-            SpokenText {
+            AccessibleText {
                 anchors.fill: parent
                 text: root.presenter.hint
                 elide: Text.ElideRight

@@ -13,7 +13,7 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
-        spacing: Style.measures.spacing
+        spacing: Style.metrics.spacing
 
         PlainText {
             Layout.fillWidth: true
@@ -44,6 +44,6 @@ ColumnLayout {
         fraction: root.goal.fraction
         color: root.goal.color
         track: Style.palette.stroke
-        accessibleName: root.goal.spoken
+        accessibleName: root.goal.accessibleText
     }
 }

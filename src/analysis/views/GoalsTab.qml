@@ -13,7 +13,7 @@ ScrollPane {
 
     ColumnLayout {
         width: parent.width
-        spacing: Style.measures.wideSpacing
+        spacing: Style.metrics.wideSpacing
 
         Card {
             Layout.fillWidth: true
@@ -36,7 +36,7 @@ ScrollPane {
                         side: 34
                         spacing: 10
                         Accessible.role: Accessible.StaticText
-                        Accessible.name: root.presenter.starsSpoken
+                        Accessible.name: root.presenter.starsAccessibleText
                     }
                     Item {
                         Layout.fillWidth: true

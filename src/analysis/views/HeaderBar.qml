@@ -9,7 +9,7 @@ RowLayout {
 
     required property HeaderPresenter presenter
 
-    spacing: Style.measures.spacing
+    spacing: Style.metrics.spacing
 
     ColumnLayout {
         spacing: 2
@@ -31,7 +31,7 @@ RowLayout {
                 Accessible.ignored: true
             }
         }
-        SpokenText {
+        AccessibleText {
             text: root.presenter.tagline
             font: Style.sans(12, Style.Regular)
             color: Style.palette.secondaryText
@@ -46,7 +46,7 @@ RowLayout {
         accessibleName: "Día anterior"
         onClicked: root.presenter.previousDay()
     }
-    SpokenText {
+    AccessibleText {
         objectName: "date"
         Layout.preferredWidth: 116
         horizontalAlignment: Text.AlignHCenter
@@ -63,7 +63,7 @@ RowLayout {
     }
     LinkButton {
         objectName: "today"
-        Layout.leftMargin: Style.measures.spacing
+        Layout.leftMargin: Style.metrics.spacing
         text: "hoy"
         onClicked: root.presenter.today()
     }

@@ -11,8 +11,8 @@ Card {
 
     required property hourSheet row
 
-    spokenRole: Accessible.ListItem
-    spoken: root.row.spoken
+    accessibleRole: Accessible.ListItem
+    accessibleText: root.row.accessibleText
 
     RowLayout {
         anchors.fill: parent

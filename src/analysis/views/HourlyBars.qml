@@ -11,8 +11,8 @@ Card {
 
     required property OverviewPresenter presenter
 
-    spokenRole: Accessible.Chart
-    spoken: root.presenter.hoursSpoken
+    accessibleRole: Accessible.Chart
+    accessibleText: root.presenter.hoursAccessibleText
 
     ColumnLayout {
         anchors.fill: parent
@@ -37,7 +37,7 @@ Card {
                     width: chart.width / 24
                     height: chart.height
                     Accessible.role: Accessible.StaticText
-                    Accessible.name: row.spoken
+                    Accessible.name: row.accessibleText
 
                     Rectangle {
                         id: bar

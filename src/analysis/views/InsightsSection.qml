@@ -11,7 +11,7 @@ ColumnLayout {
 
     required property InsightsPresenter presenter
 
-    spacing: Style.measures.wideSpacing
+    spacing: Style.metrics.wideSpacing
 
     Band {
         Layout.fillWidth: true
@@ -35,14 +35,14 @@ ColumnLayout {
     Card {
         objectName: "session"
         Layout.fillWidth: true
-        spoken: root.presenter.sessionSpoken
+        accessibleText: root.presenter.sessionAccessibleText
 
         ColumnLayout {
             anchors.fill: parent
-            spacing: Style.measures.spacing
+            spacing: Style.metrics.spacing
 
             RowLayout {
-                spacing: Style.measures.spacing
+                spacing: Style.metrics.spacing
 
                 Symbol {
                     name: "flame.fill"
@@ -64,7 +64,7 @@ ColumnLayout {
             }
             RowLayout {
                 visible: root.presenter.hasSession
-                spacing: Style.measures.spacing
+                spacing: Style.metrics.spacing
 
                 PlainText {
                     objectName: "sessionLength"
@@ -102,8 +102,8 @@ ColumnLayout {
     GridLayout {
         Layout.fillWidth: true
         columns: 3
-        columnSpacing: Style.measures.wideSpacing
-        rowSpacing: Style.measures.wideSpacing
+        columnSpacing: Style.metrics.wideSpacing
+        rowSpacing: Style.metrics.wideSpacing
 
         Repeater {
             model: root.presenter.tiles

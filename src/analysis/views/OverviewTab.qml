@@ -12,12 +12,12 @@ ScrollPane {
 
     ColumnLayout {
         width: parent.width
-        spacing: Style.measures.wideSpacing
+        spacing: Style.metrics.wideSpacing
 
         RowLayout {
             Layout.fillWidth: true
             Layout.preferredHeight: 320
-            spacing: Style.measures.wideSpacing
+            spacing: Style.metrics.wideSpacing
 
             ProductivityDonut {
                 Layout.fillHeight: true
@@ -51,7 +51,7 @@ ScrollPane {
         }
         InsightsSection {
             Layout.fillWidth: true
-            Layout.topMargin: Style.measures.spacing
+            Layout.topMargin: Style.metrics.spacing
             presenter: root.insights
         }
     }

@@ -8,7 +8,7 @@ Card {
 
     required property OverviewPresenter presenter
 
-    spoken: root.presenter.scoreSpoken
+    accessibleText: root.presenter.scoreAccessibleText
 
     Item {
         anchors.fill: parent

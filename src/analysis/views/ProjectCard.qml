@@ -11,8 +11,8 @@ Card {
 
     required property projectSheet row
 
-    spokenRole: Accessible.ListItem
-    spoken: root.row.spoken
+    accessibleRole: Accessible.ListItem
+    accessibleText: root.row.accessibleText
 
     ColumnLayout {
         anchors.fill: parent
@@ -66,7 +66,7 @@ Card {
             track: Style.palette.stroke
             Accessible.ignored: true
         }
-        SpokenText {
+        AccessibleText {
             Layout.fillWidth: true
             visible: root.row.note !== ""
             text: root.row.note

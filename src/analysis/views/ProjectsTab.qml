@@ -13,7 +13,7 @@ ScrollPane {
 
     ColumnLayout {
         width: parent.width
-        spacing: Style.measures.wideSpacing
+        spacing: Style.metrics.wideSpacing
 
         Card {
             Layout.fillWidth: true
@@ -37,7 +37,7 @@ ScrollPane {
             Layout.fillWidth: true
             visible: !root.presenter.isEmpty
 
-            SpokenText {
+            AccessibleText {
                 anchors.fill: parent
                 text: root.presenter.hint
                 wrapMode: Text.WordWrap

@@ -36,8 +36,8 @@ RowLayout {
         accessibleName: root.stepper.title
         valueText: root.stepper.value
         value: root.stepper.number
-        minimumValue: root.stepper.least
-        maximumValue: root.stepper.most
+        minimumValue: root.stepper.min
+        maximumValue: root.stepper.max
         stepSize: root.stepper.step
         canDecrease: root.stepper.canDecrease
         canIncrease: root.stepper.canIncrease

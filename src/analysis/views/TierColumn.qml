@@ -12,14 +12,14 @@ Card {
 
     required property TierColumnPresenter presenter
 
-    spoken: root.presenter.title + ": " + root.presenter.time
+    accessibleText: root.presenter.title + ": " + root.presenter.time
 
     ColumnLayout {
         anchors.fill: parent
         spacing: 2
 
         RowLayout {
-            spacing: Style.measures.spacing
+            spacing: Style.metrics.spacing
 
             Rectangle {
                 Layout.preferredWidth: 8
@@ -91,7 +91,7 @@ Card {
                 }
             }
         }
-        SpokenText {
+        AccessibleText {
             Layout.fillWidth: true
             Layout.fillHeight: true
             visible: root.presenter.isEmpty

@@ -9,7 +9,7 @@ RowLayout {
 
     required property namedTime time
 
-    spacing: Style.measures.spacing
+    spacing: Style.metrics.spacing
     Accessible.role: Accessible.StaticText
     Accessible.name: root.time.name + ", " + root.time.time
 

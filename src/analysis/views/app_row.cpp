@@ -22,7 +22,7 @@ std::vector<AppRow> appRows(const std::vector<AppEntry>& apps) {
                    .name = nameText(app.name),
                    .time = timeText(app.seconds),
                    .color = tierColor(app.tier)};
-        row.spoken = row.name + ", " + row.time;
+        row.accessibleText = row.name + ", " + row.time;
         rows.push_back(std::move(row));
     }
     return rows;

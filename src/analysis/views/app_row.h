@@ -28,7 +28,7 @@ class AppRow final {
     Q_PROPERTY(QString name MEMBER name FINAL)
     Q_PROPERTY(QString time MEMBER time FINAL)
     Q_PROPERTY(QColor color MEMBER color FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     QString id;
@@ -36,8 +36,8 @@ public:
     QString symbolName;
     QString name;
     QString time;
-    QColor color;      ///< of its tier
-    QString spoken{};  ///< the line as a sentence
+    QColor color;              ///< of its tier
+    QString accessibleText{};  ///< the line as a sentence
 
     bool operator==(const AppRow&) const = default;
 };

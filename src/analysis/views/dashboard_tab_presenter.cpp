@@ -5,7 +5,7 @@ namespace tidewatch {
 DashboardTabPresenter::DashboardTabPresenter(DashboardModel& model)
     : model_(model), modelChanged_(model.changed.connect([this](DashboardModel::Field field) {
           // The last assignment of a reload stands for all of it.
-          if (field == DashboardModel::Field::avg7Score) updateIfOnShow();
+          if (field == DashboardModel::Field::avg7Score) updateIfVisible();
       })) {}
 
 }  // namespace tidewatch

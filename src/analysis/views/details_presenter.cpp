@@ -21,7 +21,8 @@ AppDetails details(const AppEntry& app, Seconds total) {
                    .time = timeText(app.seconds),
                    .share = shareText(app.seconds, total),
                    .fraction = share(app.seconds, total)};
-    row.spoken = QString("%1, %2, %3, %4, %5").arg(row.name, row.tier, row.category, row.time, row.share);
+    row.accessibleText =
+        QString("%1, %2, %3, %4, %5").arg(row.name, row.tier, row.category, row.time, row.share);
     return row;
 }
 
@@ -33,7 +34,7 @@ DetailsPresenter::DetailsPresenter(DashboardModel& model, OpenMenu openMenu)
       filtersChanged_(model.changed.connect([this](DashboardModel::Field field) {
           if (field == DashboardModel::Field::searchText) Q_EMIT searchTextChanged();
           if (field == DashboardModel::Field::searchText || field == DashboardModel::Field::tierFilter) {
-              updateIfOnShow();
+              updateIfVisible();
           }
       })) {
     updateTiers();

@@ -44,7 +44,7 @@ class AppDetails final {
     Q_PROPERTY(QString time MEMBER time FINAL)
     Q_PROPERTY(QString share MEMBER share FINAL)
     Q_PROPERTY(double fraction MEMBER fraction FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     QString id;
@@ -57,7 +57,7 @@ public:
     QString time;
     QString share;
     double fraction = 0;  ///< the same share, 0 to 1
-    QString spoken{};
+    QString accessibleText{};
 
     bool operator==(const AppDetails&) const = default;
 };

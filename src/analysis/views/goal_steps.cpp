@@ -30,7 +30,7 @@ QString GoalStep::valueText(const GoalSettings& settings) const {
 }
 
 GoalSettings GoalStep::stepped(GoalSettings settings, int direction) const {
-    settings.*goal = std::clamp(shown(settings) + direction * step, least, most) / shownPerStored;
+    settings.*goal = std::clamp(shown(settings) + direction * step, min, max) / shownPerStored;
     return settings;
 }
 

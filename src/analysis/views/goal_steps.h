@@ -14,8 +14,8 @@ struct GoalStep {
     std::string_view title;
     double GoalSettings::*goal;
     double shownPerStored;  ///< hours are shown as they are stored, a fraction in per cent
-    double least;
-    double most;
+    double min;
+    double max;
     double step;
 
     /// Without the crumbs that per cents of a fraction leave.

@@ -29,7 +29,7 @@ GoalRow goalRow(const GoalProgress& goal) {
                 .mark = reached ? "✓" : "",
                 .fraction = std::clamp(goal.fraction, 0.0, 1.0),
                 .color = toQColor(reached ? green : green.at(unfinishedOpacity))};
-    row.spoken = row.label + ": " + row.figures + (reached ? ", cumplida" : "");
+    row.accessibleText = row.label + ": " + row.figures + (reached ? ", cumplida" : "");
     return row;
 }
 
@@ -40,45 +40,46 @@ std::vector<GoalStepper> stepperRows(const GoalSettings& settings) {
                         .title = text(step.title),
                         .value = step.valueText(settings),
                         .number = step.shown(settings),
-                        .least = step.least,
-                        .most = step.most,
+                        .min = step.min,
+                        .max = step.max,
                         .step = step.step,
-                        .canDecrease = step.shown(settings) > step.least,
-                        .canIncrease = step.shown(settings) < step.most});
+                        .canDecrease = step.shown(settings) > step.min,
+                        .canIncrease = step.shown(settings) < step.max});
     }
     return rows;
 }
 
 }  // namespace
 
-GoalsPresenter::GoalsPresenter(DashboardModel& model, const Sources& from, std::function<void()> exportReport)
+GoalsPresenter::GoalsPresenter(DashboardModel& model, const Sources& sources,
+                               std::function<void()> exportReport)
     : DashboardTabPresenter(model),
-      from_(from),
+      sources_(sources),
       exportReport_(std::move(exportReport)),
-      goalsChanged_(from_.goals.changed.connect([this] {
+      goalsChanged_(sources_.goals.changed.connect([this] {
           Q_EMIT settingsChanged();
-          updateIfOnShow();
+          updateIfVisible();
       })) {}
 
 void GoalsPresenter::update() {
     updateReward();
     std::vector<GoalRow> rows;
-    for (const auto& goal : from_.evaluator.evaluate()) rows.push_back(goalRow(goal));
+    for (const auto& goal : sources_.evaluator.evaluate()) rows.push_back(goalRow(goal));
     progress_.setRows(rows);
-    steppers_.setRows(stepperRows(from_.goals.settings()));
+    steppers_.setRows(stepperRows(sources_.goals.settings()));
 }
 
 void GoalsPresenter::updateReward() {
-    const int earned = std::clamp(from_.rewards.starsToday(), 0, starCount);
+    const int earned = std::clamp(sources_.rewards.starsToday(), 0, starCount);
     stars_.clear();
     starColors_.clear();
     for (int star = 0; star < starCount; ++star) {
         stars_.append(star < earned ? "star.fill" : "star");
         starColors_.append(toQColor(DashboardStyle::amber.at(star < earned ? 1 : unfinishedOpacity)));
     }
-    starsSpoken_ = QString("%1 de %2 estrellas").arg(earned).arg(starCount);
-    streak_ = QString::number(from_.rewards.currentStreak()) + " días";
-    monthStars_ = "★ " + QString::number(from_.rewards.starsThisMonth());
+    starsAccessibleText_ = QString("%1 de %2 estrellas").arg(earned).arg(starCount);
+    streak_ = QString::number(sources_.rewards.currentStreak()) + " días";
+    monthStars_ = "★ " + QString::number(sources_.rewards.starsThisMonth());
     Q_EMIT rewardChanged();
 }
 
@@ -94,18 +95,18 @@ void GoalsPresenter::step(const QString& id, int direction) {
     const auto& steps = goalSteps();
     const auto found =
         std::find_if(steps.begin(), steps.end(), [&](const GoalStep& step) { return text(step.id) == id; });
-    if (found != steps.end()) save(found->stepped(from_.goals.settings(), direction));
+    if (found != steps.end()) save(found->stepped(sources_.goals.settings(), direction));
 }
 
 void GoalsPresenter::setNotificationsEnabled(bool enabled) {
-    auto settings = from_.goals.settings();
+    auto settings = sources_.goals.settings();
     settings.notificationsEnabled = enabled;
     save(settings);
 }
 
 void GoalsPresenter::save(const GoalSettings& settings) {
-    from_.goals.setSettings(settings);
-    from_.goals.save();
+    sources_.goals.setSettings(settings);
+    sources_.goals.save();
 }
 
 void GoalsPresenter::exportReport() {

@@ -24,7 +24,7 @@ class GoalRow final {
     Q_PROPERTY(QString mark MEMBER mark FINAL)
     Q_PROPERTY(double fraction MEMBER fraction FINAL)
     Q_PROPERTY(QColor color MEMBER color FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     QString id;
@@ -33,7 +33,7 @@ public:
     QString mark;         ///< "✓" once it is reached
     double fraction = 0;  ///< 0 to 1
     QColor color;
-    QString spoken{};
+    QString accessibleText{};
 
     bool operator==(const GoalRow&) const = default;
 };
@@ -46,8 +46,8 @@ class GoalStepper final {
     Q_PROPERTY(QString title MEMBER title FINAL)
     Q_PROPERTY(QString value MEMBER value FINAL)
     Q_PROPERTY(double number MEMBER number FINAL)
-    Q_PROPERTY(double least MEMBER least FINAL)
-    Q_PROPERTY(double most MEMBER most FINAL)
+    Q_PROPERTY(double min MEMBER min FINAL)
+    Q_PROPERTY(double max MEMBER max FINAL)
     Q_PROPERTY(double step MEMBER step FINAL)
     Q_PROPERTY(bool canDecrease MEMBER canDecrease FINAL)
     Q_PROPERTY(bool canIncrease MEMBER canIncrease FINAL)
@@ -56,9 +56,9 @@ public:
     QString id;
     QString title;
     QString value;
-    double number = 0;  ///< what `value` says, as `least`, `most` and `step` in the same unit
-    double least = 0;
-    double most = 0;
+    double number = 0;  ///< what `value` says, as `min`, `max` and `step` in the same unit
+    double min = 0;
+    double max = 0;
     double step = 0;
     bool canDecrease = false;
     bool canIncrease = false;
@@ -74,7 +74,7 @@ class GoalsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_PROPERTY(QString rewardTitle READ rewardTitle CONSTANT FINAL)
     Q_PROPERTY(QStringList stars READ stars NOTIFY rewardChanged FINAL)
     Q_PROPERTY(QList<QColor> starColors READ starColors NOTIFY rewardChanged FINAL)
-    Q_PROPERTY(QString starsSpoken READ starsSpoken NOTIFY rewardChanged FINAL)
+    Q_PROPERTY(QString starsAccessibleText READ starsAccessibleText NOTIFY rewardChanged FINAL)
     Q_PROPERTY(QString streakTitle READ streakTitle CONSTANT FINAL)
     Q_PROPERTY(QString streak READ streak NOTIFY rewardChanged FINAL)
     Q_PROPERTY(QString monthTitle READ monthTitle CONSTANT FINAL)
@@ -96,12 +96,12 @@ public:
 
     /// All that is given must outlive it; `exportReport` asks for a place and writes the month's report
     /// there.
-    GoalsPresenter(DashboardModel& model, const Sources& from, std::function<void()> exportReport);
+    GoalsPresenter(DashboardModel& model, const Sources& sources, std::function<void()> exportReport);
 
     [[nodiscard]] QString rewardTitle() const { return "RECOMPENSA DE HOY"; }
     [[nodiscard]] QStringList stars() const { return stars_; }
     [[nodiscard]] QList<QColor> starColors() const { return starColors_; }
-    [[nodiscard]] QString starsSpoken() const { return starsSpoken_; }
+    [[nodiscard]] QString starsAccessibleText() const { return starsAccessibleText_; }
     [[nodiscard]] QString streakTitle() const { return "Racha"; }
     [[nodiscard]] QString streak() const { return streak_; }
     [[nodiscard]] QString monthTitle() const { return "Estrellas del mes"; }
@@ -111,7 +111,7 @@ public:
     [[nodiscard]] QString settingsTitle() const { return "FIJAR METAS"; }
     [[nodiscard]] RowListModel* steppers() { return &steppers_; }
     [[nodiscard]] QString notificationsTitle() const { return "Notificaciones de metas"; }
-    [[nodiscard]] bool notificationsEnabled() const { return from_.goals.settings().notificationsEnabled; }
+    [[nodiscard]] bool notificationsEnabled() const { return sources_.goals.settings().notificationsEnabled; }
     [[nodiscard]] QString reportTitle() const { return "Generar reporte PDF del mes…"; }
 
     /// One step of the stepper with this id, saved at once; within its range. An unknown id changes nothing.
@@ -130,11 +130,11 @@ private:
     void step(const QString& id, int direction);
     void save(const GoalSettings& settings);
 
-    Sources from_;
+    Sources sources_;
     std::function<void()> exportReport_;
     QStringList stars_;
     QList<QColor> starColors_;
-    QString starsSpoken_;
+    QString starsAccessibleText_;
     QString streak_;
     QString monthStars_;
     RowList<GoalRow> progress_;

@@ -9,7 +9,7 @@ namespace tidewatch {
 namespace {
 
 /// So that a quiet day's bars stay low.
-constexpr Seconds leastMaximum(600);
+constexpr Seconds minMaximum(600);
 constexpr double minBarHeight = 0.04;
 
 QString hourLabel(int hour) {
@@ -20,7 +20,7 @@ QString hourLabel(int hour) {
 }  // namespace
 
 std::vector<HourBar> hourBars(const std::vector<HourSummary>& hours) {
-    auto maximum = leastMaximum;
+    auto maximum = minMaximum;
     for (const auto& hour : hours) maximum = std::max(maximum, hour.seconds);
     std::vector<HourBar> bars;
     bars.reserve(hours.size());
@@ -32,12 +32,12 @@ std::vector<HourBar> hourBars(const std::vector<HourSummary>& hours) {
              .productive = share(hour.productive, hour.seconds),
              .neutral = share(hour.neutral, hour.seconds),
              .distracting = share(hour.distracting, hour.seconds),
-             .spoken = text(InsightsEngine::hourLabel(hour.hour)) + ", " + timeText(hour.seconds)});
+             .accessibleText = text(InsightsEngine::hourLabel(hour.hour)) + ", " + timeText(hour.seconds)});
     }
     return bars;
 }
 
-QString hourBarsSpoken(const std::vector<HourSummary>& hours) {
+QString hourBarsAccessibleText(const std::vector<HourSummary>& hours) {
     QStringList parts;
     for (const auto& hour : hours) {
         if (hour.seconds < Seconds(1)) continue;

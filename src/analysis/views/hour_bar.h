@@ -20,16 +20,16 @@ class HourBar final {
     Q_PROPERTY(double productive MEMBER productive FINAL)
     Q_PROPERTY(double neutral MEMBER neutral FINAL)
     Q_PROPERTY(double distracting MEMBER distracting FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     QString id;
-    QString label;           ///< "9a", "12p"
-    double height = 0;       ///< of the chart's height, 0.04 to 1
-    double productive = 0;   ///< 0 to 1
-    double neutral = 0;      ///< 0 to 1
-    double distracting = 0;  ///< 0 to 1
-    QString spoken{};        ///< the hour as a sentence
+    QString label;             ///< "9a", "12p"
+    double height = 0;         ///< of the chart's height, 0.04 to 1
+    double productive = 0;     ///< 0 to 1
+    double neutral = 0;        ///< 0 to 1
+    double distracting = 0;    ///< 0 to 1
+    QString accessibleText{};  ///< the hour as a sentence
 
     bool operator==(const HourBar&) const = default;
 };
@@ -38,6 +38,6 @@ public:
 [[nodiscard]] std::vector<HourBar> hourBars(const std::vector<HourSummary>& hours);
 
 /// "Actividad por hora: 9 am 25m, 10 am 1h 0m."
-[[nodiscard]] QString hourBarsSpoken(const std::vector<HourSummary>& hours);
+[[nodiscard]] QString hourBarsAccessibleText(const std::vector<HourSummary>& hours);
 
 }  // namespace tidewatch

@@ -48,7 +48,7 @@ QString InsightsPresenter::sessionTimes() const {
            text(engine_.clockTime(insights_.longest->end));
 }
 
-QString InsightsPresenter::sessionSpoken() const {
+QString InsightsPresenter::sessionAccessibleText() const {
     if (!hasSession()) return sessionTitle() + ": " + noSession();
     return sessionTitle() + ": " + QStringList{sessionLength(), sessionDay(), sessionTimes()}.join(", ");
 }
@@ -62,8 +62,8 @@ void InsightsPresenter::selectRange(int index) {
     compute();
 }
 
-void InsightsPresenter::setOnShow(bool onShow) {
-    if (!onShow) {
+void InsightsPresenter::setVisible(bool visible) {
+    if (!visible) {
         timer_.reset();
         return;
     }

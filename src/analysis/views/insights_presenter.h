@@ -28,7 +28,7 @@ class InsightsPresenter final : public QObject {
     Q_PROPERTY(QString sessionTimes READ sessionTimes NOTIFY sessionChanged FINAL)
     Q_PROPERTY(QString noSession READ noSession CONSTANT FINAL)
     /// All of the card as a sentence.
-    Q_PROPERTY(QString sessionSpoken READ sessionSpoken NOTIFY sessionChanged FINAL)
+    Q_PROPERTY(QString sessionAccessibleText READ sessionAccessibleText NOTIFY sessionChanged FINAL)
     Q_PROPERTY(tidewatch::RowListModel* tiles READ tiles CONSTANT FINAL)
 
 public:
@@ -47,14 +47,14 @@ public:
     [[nodiscard]] QString noSession() const {
         return "Aún no hay una sesión larga registrada en este rango.";
     }
-    [[nodiscard]] QString sessionSpoken() const;
+    [[nodiscard]] QString sessionAccessibleText() const;
     [[nodiscard]] RowListModel* tiles() { return &tiles_; }
 
     /// An index that is none of ranges() changes nothing.
     Q_INVOKABLE void selectRange(int index);
 
     /// Whether it is on show; false at first.
-    void setOnShow(bool onShow);
+    void setVisible(bool visible);
 
 Q_SIGNALS:
     void rangeChanged();

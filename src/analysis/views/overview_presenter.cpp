@@ -26,7 +26,7 @@ OverviewPresenter::OverviewPresenter(DashboardModel& model) : DashboardTabPresen
     updateScore();
 }
 
-QString OverviewPresenter::scoreSpoken() const {
+QString OverviewPresenter::scoreAccessibleText() const {
     QStringList parts{score_, total_};
     if (!comparison_.isEmpty()) parts.append(comparison_);
     return scoreTitle() + ": " + parts.join(", ");
@@ -38,13 +38,14 @@ void OverviewPresenter::update() {
     distracting_.update(model());
     updateScore();
     hours_.setRows(hourBars(model().hourSummaries()));
-    change(this, hoursSpoken_, hourBarsSpoken(model().hourSummaries()), &OverviewPresenter::hoursChanged);
+    change(this, hoursAccessibleText_, hourBarsAccessibleText(model().hourSummaries()),
+           &OverviewPresenter::hoursChanged);
 }
 
 void OverviewPresenter::updateScore() {
     const auto& score = model().score();
     score_ = text(score.displayString());
-    scoreFraction_ = score.isTelling() ? score.score() : 0;
+    scoreFraction_ = score.isSignificant() ? score.score() : 0;
     scoreColor_ = toQColor(DashboardStyle::tierProductive);
     total_ = timeText(model().totalActiveToday());
     updateComparison();
@@ -53,8 +54,8 @@ void OverviewPresenter::updateScore() {
 
 void OverviewPresenter::updateComparison() {
     comparison_.clear();
-    if (!model().score().isTelling()) return;
-    if (model().prevScore().isTelling()) {
+    if (!model().score().isSignificant()) return;
+    if (model().prevScore().isSignificant()) {
         compareWith(model().prevScore().score(), "ayer");
     } else if (model().avg7Score() > 0) {
         compareWith(model().avg7Score(), "prom 7d");

@@ -59,14 +59,14 @@ class OverviewPresenter final : public tidewatch::DashboardTabPresenter {
     Q_PROPERTY(QColor comparisonColor READ comparisonColor NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QString total READ total NOTIFY scoreChanged FINAL)
     /// Score, total and comparison as a sentence.
-    Q_PROPERTY(QString scoreSpoken READ scoreSpoken NOTIFY scoreChanged FINAL)
+    Q_PROPERTY(QString scoreAccessibleText READ scoreAccessibleText NOTIFY scoreChanged FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* productive READ productive CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* neutral READ neutral CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* distracting READ distracting CONSTANT FINAL)
     Q_PROPERTY(QString hoursTitle READ hoursTitle CONSTANT FINAL)
     Q_PROPERTY(tidewatch::RowListModel* hours READ hours CONSTANT FINAL)
     /// The chart as a sentence.
-    Q_PROPERTY(QString hoursSpoken READ hoursSpoken NOTIFY hoursChanged FINAL)
+    Q_PROPERTY(QString hoursAccessibleText READ hoursAccessibleText NOTIFY hoursChanged FINAL)
 
 public:
     explicit OverviewPresenter(DashboardModel& model);
@@ -78,13 +78,13 @@ public:
     [[nodiscard]] QString comparison() const { return comparison_; }
     [[nodiscard]] QColor comparisonColor() const { return comparisonColor_; }
     [[nodiscard]] QString total() const { return total_; }
-    [[nodiscard]] QString scoreSpoken() const;
+    [[nodiscard]] QString scoreAccessibleText() const;
     [[nodiscard]] TierColumnPresenter* productive() { return &productive_; }
     [[nodiscard]] TierColumnPresenter* neutral() { return &neutral_; }
     [[nodiscard]] TierColumnPresenter* distracting() { return &distracting_; }
     [[nodiscard]] QString hoursTitle() const { return "ACTIVIDAD POR HORA"; }
     [[nodiscard]] RowListModel* hours() { return &hours_; }
-    [[nodiscard]] QString hoursSpoken() const { return hoursSpoken_; }
+    [[nodiscard]] QString hoursAccessibleText() const { return hoursAccessibleText_; }
 
 Q_SIGNALS:
     void scoreChanged();
@@ -106,7 +106,7 @@ private:
     QColor comparisonColor_;
     QString total_;
     RowList<HourBar> hours_;
-    QString hoursSpoken_;
+    QString hoursAccessibleText_;
 };
 
 }  // namespace tidewatch

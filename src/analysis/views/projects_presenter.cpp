@@ -22,7 +22,7 @@ ProjectSheet sheet(const ProjectRow& row, Seconds totalDay) {
                        .share = shareText(row.seconds, totalDay),
                        .fraction = share(row.seconds, totalDay)};
     for (auto& app : appRows(row.topApps)) sheet.apps.append(app);
-    sheet.spoken = sheet.title + ", " + sheet.time + ", " + sheet.share;
+    sheet.accessibleText = sheet.title + ", " + sheet.time + ", " + sheet.share;
     return sheet;
 }
 

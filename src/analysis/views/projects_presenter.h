@@ -25,7 +25,7 @@ class ProjectSheet final {
     Q_PROPERTY(QString share MEMBER share FINAL)
     Q_PROPERTY(double fraction MEMBER fraction FINAL)
     Q_PROPERTY(QList<tidewatch::AppRow> apps MEMBER apps FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     QString id;
@@ -37,7 +37,7 @@ public:
     QString share;
     double fraction = 0;  ///< the same share, 0 to 1
     QList<AppRow> apps{};
-    QString spoken{};
+    QString accessibleText{};
 
     bool operator==(const ProjectSheet&) const = default;
 };

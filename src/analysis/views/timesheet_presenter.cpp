@@ -25,9 +25,10 @@ BucketCell cell(const BucketSummary& bucket) {
     auto color = bucketColor(bucket.dominantTier());
     // What has no tier is faint enough by itself.
     if (bucket.dominantTier() != Tier::uncategorized) color.setAlphaF(static_cast<float>(barOpacity));
-    const QStringList spoken{clockText(bucket.hour, bucket.minute), timeText(bucket.seconds),
-                             text(displayName(bucket.dominantTier()))};
-    return {true, std::max(fullHeight * bucket.fillRatio(), minBlockHeight), color, spoken.join(", ")};
+    const QStringList accessibleText{clockText(bucket.hour, bucket.minute), timeText(bucket.seconds),
+                                     text(displayName(bucket.dominantTier()))};
+    return {true, std::max(fullHeight * bucket.fillRatio(), minBlockHeight), color,
+            accessibleText.join(", ")};
 }
 
 QList<NamedTime> summary(const HourGroup& group) {
@@ -49,7 +50,7 @@ QList<AppRow> activities(const HourGroup& group) {
                      .name = nameText(activity.name),
                      .time = timeText(activity.seconds),
                      .color = tierColor(activity.tier),
-                     .spoken = nameText(activity.name) + ", " + timeText(activity.seconds)});
+                     .accessibleText = nameText(activity.name) + ", " + timeText(activity.seconds)});
     }
     return rows;
 }
@@ -68,10 +69,10 @@ HourSheet sheet(const HourGroup& group) {
     row.summary = summary(group);
     row.activities = activities(group);
     row.categories = categories(group);
-    QStringList spoken{row.hour};
-    for (const auto& line : row.summary) spoken.append(line.name + " " + line.time);
-    for (const auto& activity : row.activities) spoken.append(activity.name + " " + activity.time);
-    row.spoken = spoken.join(", ");
+    QStringList accessibleText{row.hour};
+    for (const auto& line : row.summary) accessibleText.append(line.name + " " + line.time);
+    for (const auto& activity : row.activities) accessibleText.append(activity.name + " " + activity.time);
+    row.accessibleText = accessibleText.join(", ");
     return row;
 }
 

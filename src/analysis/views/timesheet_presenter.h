@@ -18,13 +18,13 @@ class BucketCell final {
     Q_PROPERTY(bool filled MEMBER filled FINAL)
     Q_PROPERTY(double height MEMBER height FINAL)
     Q_PROPERTY(QColor color MEMBER color FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     bool filled = false;
     double height = 0;  ///< of the bar, in points; beyond the cell where its ten minutes came twice
     QColor color;
-    QString spoken;  ///< "9:10am, 9m, Productivo"; nothing while it is not filled
+    QString accessibleText;  ///< "9:10am, 9m, Productivo"; nothing while it is not filled
 
     bool operator==(const BucketCell&) const = default;
 };
@@ -55,7 +55,7 @@ class HourSheet final {
     Q_PROPERTY(QList<tidewatch::NamedTime> summary MEMBER summary FINAL)
     Q_PROPERTY(QList<tidewatch::AppRow> activities MEMBER activities FINAL)
     Q_PROPERTY(QList<tidewatch::NamedTime> categories MEMBER categories FINAL)
-    Q_PROPERTY(QString spoken MEMBER spoken FINAL)
+    Q_PROPERTY(QString accessibleText MEMBER accessibleText FINAL)
 
 public:
     QString id;
@@ -64,7 +64,7 @@ public:
     QList<NamedTime> summary{};
     QList<AppRow> activities{};
     QList<NamedTime> categories{};
-    QString spoken{};
+    QString accessibleText{};
 
     bool operator==(const HourSheet&) const = default;
 };

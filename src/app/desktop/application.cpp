@@ -9,9 +9,9 @@
 #include "core/data_directory.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
-#include "platform/api/process_endings.h"
 #include "platform/api/process_memory.h"
-#include "platform/api/running_instance.h"
+#include "platform/api/process_termination.h"
+#include "platform/api/single_instance.h"
 #include "shell/icons/fathom_icons.h"
 
 namespace tidewatch {
@@ -41,7 +41,7 @@ Application::Application(char* programPath)
     : arguments_{programPath, nullptr}, toolkit_(prepared(argumentCount_), arguments_.data()) {
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setWindowIcon(programIcon());
-    if (toolkitWords_.load()) QCoreApplication::installTranslator(&toolkitWords_);
+    if (toolkitTranslator_.load()) QCoreApplication::installTranslator(&toolkitTranslator_);
 }
 
 int Application::run(const platform::Platform& platform) {
@@ -49,7 +49,7 @@ int Application::run(const platform::Platform& platform) {
     if (const auto made = platform.files.createDirectories(directory); !made) {
         platform.log.warning("Tidewatch: " + made.error().message);
     }
-    switch (platform.runningInstance.claim(directory)) {
+    switch (platform.singleInstance.claim(directory)) {
         case platform::InstanceClaim::first:
             break;
         case platform::InstanceClaim::handedOver:
@@ -58,18 +58,18 @@ int Application::run(const platform::Platform& platform) {
             platform.log.warning("Tidewatch: another instance holds " + directory + " and does not answer");
             return EXIT_FAILURE;
     }
-    platform.endings.onAsked([] { QCoreApplication::quit(); });
+    platform.termination.onRequested([] { QCoreApplication::quit(); });
     DesktopComposition composition(platform, [] { QCoreApplication::quit(); });
     auto& delegate = composition.delegate();
     delegate.applicationDidFinishLaunching();
-    platform.runningInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
-    platform.endings.onSessionEnding([&] { delegate.flushAllStores(); });
-    platform.endings.onDisplayLost([&] { delegate.applicationWillTerminate(); });
+    platform.singleInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
+    platform.termination.onSessionEnding([&] { delegate.flushAllStores(); });
+    platform.termination.onDisplayLost([&] { delegate.applicationWillTerminate(); });
     // Most of what the start ran never runs again.
-    QTimer::singleShot(settlingTime, &toolkit_, [&] { platform.memory.giveBackUnused(); });
+    QTimer::singleShot(settlingTime, &toolkit_, [&] { platform.memory.releaseUnused(); });
     const int code = QApplication::exec();
     delegate.applicationWillTerminate();
-    platform.endings.onDisplayLost(nullptr);
+    platform.termination.onDisplayLost(nullptr);
     return code;
 }
 

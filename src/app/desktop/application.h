@@ -4,7 +4,7 @@
 #include <array>
 
 #include "platform/api/platform.h"
-#include "shell/windows/toolkit_words.h"
+#include "shell/windows/toolkit_translator.h"
 
 namespace tidewatch {
 
@@ -23,7 +23,7 @@ private:
     int argumentCount_ = 1;
     std::array<char*, 2> arguments_;
     QApplication toolkit_;
-    ToolkitWords toolkitWords_;
+    ToolkitTranslator toolkitTranslator_;
 };
 
 }  // namespace tidewatch

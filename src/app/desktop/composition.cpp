@@ -55,7 +55,7 @@ QuickStatisticsWindow::Content DesktopComposition::statisticsContent() {
                 return surfaces_.makeView("StatsView", *stats_);
             },
         .disappeared = [this] { stats_->disappear(); },
-        .viewDestroyed = [this] { surfaces_.forgetViews(); },
+        .viewDestroyed = [this] { surfaces_.clearViewCache(); },
     };
 }
 

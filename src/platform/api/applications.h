@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 
 namespace tidewatch::platform {
 

@@ -17,7 +17,7 @@ public:
 
     /// Shows the file at the absolute `path` in the desktop's file manager, and in nothing else. Returns at
     /// once; `done` is told later what came of it.
-    virtual void reveal(const std::string& path, std::function<void(const Outcome&)> done) = 0;
+    virtual void reveal(const std::string& path, std::function<void(const Status&)> done) = 0;
 };
 
 }  // namespace tidewatch::platform

@@ -41,13 +41,13 @@ struct FoundFile {
 };
 
 /// What an enumeration is to do after something that it has found.
-enum class NextStep {
-    enter,  ///< go on, into the directory if it is one
-    pass,   ///< go on, past the directory and all below it
-    stop,   ///< find nothing more
+enum class VisitAction {
+    proceed,  ///< go on, into the directory if it is one
+    skip,     ///< go on, past the directory and all below it
+    stop,     ///< find nothing more
 };
 
-using FileVisitor = std::function<NextStep(const FoundFile& found)>;
+using FileVisitor = std::function<VisitAction(const FoundFile& found)>;
 
 /// What an enumeration does about names that begin with a dot.
 enum class HiddenFiles { included, skipped };

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "base/named_string.h"
+#include "base/tagged_string.h"
 
 namespace tidewatch::platform {
 

@@ -10,8 +10,8 @@ public:
     virtual ~LoginItem() = default;
 
     [[nodiscard]] virtual bool isEnabled() const = 0;
-    virtual Outcome registerItem() = 0;
-    virtual Outcome unregisterItem() = 0;
+    virtual Status registerItem() = 0;
+    virtual Status unregisterItem() = 0;
 };
 
 }  // namespace tidewatch::platform

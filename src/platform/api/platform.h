@@ -3,7 +3,7 @@
 namespace tidewatch::platform {
 
 class Applications;
-class Background;
+class JobQueueFactory;
 class Clock;
 class Desktop;
 class FileSystem;
@@ -13,10 +13,10 @@ class Log;
 class LoginItem;
 class MainLoop;
 class Preferences;
-class ProcessEndings;
+class ProcessTermination;
 class ProcessMemory;
 class Randomness;
-class RunningInstance;
+class SingleInstance;
 class Screens;
 class UserNotifications;
 class WindowSystem;
@@ -36,12 +36,12 @@ struct Platform {
     Screens& screens;
     WindowSystem& windowSystem;
     LoginItem& loginItem;
-    RunningInstance& runningInstance;
-    ProcessEndings& endings;
+    SingleInstance& singleInstance;
+    ProcessTermination& termination;
     Randomness& randomness;
     UserNotifications& notifications;
     ProcessMemory& memory;
-    Background& background;
+    JobQueueFactory& queues;
 };
 
 }  // namespace tidewatch::platform

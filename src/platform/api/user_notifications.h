@@ -16,7 +16,7 @@ struct UserNotification {
 };
 
 /// What came of asking for the right to show notifications.
-struct AuthorizationAnswer {
+struct AuthorizationResult {
     bool granted = false;
     std::optional<Error> error;  ///< nobody could be asked
 };
@@ -30,21 +30,21 @@ public:
 
     /// Whether this process can use the newer service at all; the same for its life. If not, neither
     /// requestAuthorization() nor deliver() may be called.
-    [[nodiscard]] virtual bool hasNewerService() const = 0;
+    [[nodiscard]] virtual bool hasModernService() const = 0;
 
     /// Asks for the right to show messages with a sound. A refusal is an answer, not an error.
-    virtual void requestAuthorization(std::function<void(AuthorizationAnswer)> answered) = 0;
+    virtual void requestAuthorization(std::function<void(AuthorizationResult)> answered) = 0;
 
     /// Through the newer service, with its default sound, as a message of its own that replaces no other.
     /// `delivered` tells whether the service took it; one that the user has refused counts as taken.
-    virtual void deliver(const UserNotification& notification, std::function<void(Outcome)> delivered) = 0;
+    virtual void deliver(const UserNotification& notification, std::function<void(Status)> delivered) = 0;
 
     /// Through the older service, without a sound. Whether it is seen cannot be told.
-    virtual void deliverOlder(const UserNotification& notification) = 0;
+    virtual void deliverLegacy(const UserNotification& notification) = 0;
 
-    /// On a desktop that has no older service of its own, what is to serve as one: deliverOlder() calls
+    /// On a desktop that has no older service of its own, what is to serve as one: deliverLegacy() calls
     /// `show`. Until it is given, such messages are lost, with a line in the log.
-    virtual void setOlderService(std::function<void(const UserNotification&)> show) = 0;
+    virtual void setLegacyService(std::function<void(const UserNotification&)> show) = 0;
 };
 
 }  // namespace tidewatch::platform

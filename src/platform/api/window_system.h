@@ -21,7 +21,7 @@ struct FrameMargins {
 };
 
 /// How bright the frame around a window is to be.
-enum class FrameShade { light, dark };
+enum class FrameVariant { light, dark };
 
 /// What is asked of the desktop about windows beyond what the toolkit offers. Main thread only.
 class WindowSystem {
@@ -49,7 +49,7 @@ public:
 
     /// Asks for a frame that goes with the window's content. Holds from the next showing on at the latest; a
     /// desktop whose frames have one look only takes no notice.
-    virtual void setFrameShade(WindowHandle window, FrameShade shade) = 0;
+    virtual void setFrameVariant(WindowHandle window, FrameVariant shade) = 0;
 
     /// Gives a window that is shown the focus and brings it before all others, whatever the user is doing in
     /// another application.
@@ -57,7 +57,7 @@ public:
 
     /// Calls `changed` with true when other windows cover all of `window`, with false when they no longer
     /// do. On a composited desktop a covered window may go unnoticed.
-    virtual Connection onCovered(WindowHandle window, std::function<void(bool covered)> changed) = 0;
+    virtual Connection onOcclusionChanged(WindowHandle window, std::function<void(bool covered)> changed) = 0;
 };
 
 }  // namespace tidewatch::platform

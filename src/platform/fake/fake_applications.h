@@ -11,7 +11,7 @@ namespace tidewatch::platform {
 class FakeApplications final : public Applications {
 public:
     [[nodiscard]] std::optional<ApplicationInfo> info(const AppId& app) const override {
-        ++questions_;
+        ++lookupCount_;
         const auto found = registered_.find(app);
         return found == registered_.end() ? std::nullopt : std::optional(found->second);
     }
@@ -27,12 +27,12 @@ public:
     }
 
     /// How often an application was asked for.
-    [[nodiscard]] int questions() const { return questions_; }
+    [[nodiscard]] int lookupCount() const { return lookupCount_; }
 
 private:
     std::map<AppId, ApplicationInfo> registered_;
     std::uint64_t revision_ = 0;
-    mutable int questions_ = 0;
+    mutable int lookupCount_ = 0;
 };
 
 }  // namespace tidewatch::platform

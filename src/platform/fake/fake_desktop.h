@@ -11,18 +11,18 @@ namespace tidewatch::platform {
 class FakeDesktop final : public Desktop {
 public:
     [[nodiscard]] std::string documentsDirectory() const override { return "/home/user/Documentos"; }
-    void reveal(const std::string& path, std::function<void(const Outcome&)> done) override {
+    void reveal(const std::string& path, std::function<void(const Status&)> done) override {
         revealed_.push_back(path);
-        done(revealOutcome_);
+        done(revealStatus_);
     }
 
-    void setRevealOutcome(Outcome outcome) { revealOutcome_ = std::move(outcome); }
+    void setRevealStatus(Status status) { revealStatus_ = std::move(status); }
 
     /// Every path that was asked to be revealed.
     [[nodiscard]] const std::vector<std::string>& revealed() const { return revealed_; }
 
 private:
-    Outcome revealOutcome_ = success();
+    Status revealStatus_ = success();
     std::vector<std::string> revealed_;
 };
 

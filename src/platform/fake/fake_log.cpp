@@ -5,10 +5,11 @@
 
 namespace tidewatch::platform {
 
-FakeLog::FakeLog(std::function<void(const std::string&)> complain) : complain_(std::move(complain)) {}
+FakeLog::FakeLog(std::function<void(const std::string&)> reportFailure)
+    : reportFailure_(std::move(reportFailure)) {}
 
 FakeLog::~FakeLog() {
-    for (const auto& part : expected_) complain_("an announced warning never came: " + part);
+    for (const auto& part : expected_) reportFailure_("an announced warning never came: " + part);
 }
 
 void FakeLog::warning(std::string_view message) {
@@ -21,7 +22,7 @@ void FakeLog::warning(std::string_view message) {
         announced = match != expected_.end();
         if (announced) expected_.erase(match);
     }
-    if (!announced) complain_("a warning that was not announced: " + std::string(message));
+    if (!announced) reportFailure_("a warning that was not announced: " + std::string(message));
 }
 
 void FakeLog::info(std::string_view message) {

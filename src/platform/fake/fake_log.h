@@ -13,8 +13,8 @@ namespace tidewatch::platform {
 /// never came, when this object ends. Safe from any thread.
 class FakeLog final : public Log {
 public:
-    /// `complain` says in words what a test has to fail for; called on the thread that logs.
-    explicit FakeLog(std::function<void(const std::string&)> complain);
+    /// `reportFailure` says in words what a test has to fail for; called on the thread that logs.
+    explicit FakeLog(std::function<void(const std::string&)> reportFailure);
     FakeLog(const FakeLog&) = delete;
     FakeLog& operator=(const FakeLog&) = delete;
     ~FakeLog() override;
@@ -29,7 +29,7 @@ public:
     [[nodiscard]] std::vector<std::string> infos() const;
 
 private:
-    const std::function<void(const std::string&)> complain_;
+    const std::function<void(const std::string&)> reportFailure_;
     mutable std::mutex mutex_;
     std::vector<std::string> warnings_;
     std::vector<std::string> infos_;

@@ -11,14 +11,14 @@ namespace tidewatch::platform {
 class FakeLoginItem final : public LoginItem {
 public:
     [[nodiscard]] bool isEnabled() const override { return enabled_; }
-    Outcome registerItem() override { return set(true); }
-    Outcome unregisterItem() override { return set(false); }
+    Status registerItem() override { return set(true); }
+    Status unregisterItem() override { return set(false); }
 
     /// Every later registration and unregistration fails so, until nothing is set again.
     void setFailure(std::optional<Error> failure) { failure_ = std::move(failure); }
 
 private:
-    Outcome set(bool enabled) {
+    Status set(bool enabled) {
         if (failure_) return *failure_;
         enabled_ = enabled;
         return success();

@@ -6,19 +6,19 @@
 
 #include "platform/api/platform.h"
 #include "platform/fake/fake_applications.h"
-#include "platform/fake/fake_background.h"
 #include "platform/fake/fake_clock.h"
 #include "platform/fake/fake_desktop.h"
 #include "platform/fake/fake_frontmost_application.h"
 #include "platform/fake/fake_input_activity.h"
+#include "platform/fake/fake_job_queue_factory.h"
 #include "platform/fake/fake_log.h"
 #include "platform/fake/fake_login_item.h"
 #include "platform/fake/fake_main_loop.h"
-#include "platform/fake/fake_process_endings.h"
 #include "platform/fake/fake_process_memory.h"
+#include "platform/fake/fake_process_termination.h"
 #include "platform/fake/fake_randomness.h"
-#include "platform/fake/fake_running_instance.h"
 #include "platform/fake/fake_screens.h"
+#include "platform/fake/fake_single_instance.h"
 #include "platform/fake/fake_user_notifications.h"
 #include "platform/fake/fake_window_system.h"
 #include "platform/fake/memory_file_system.h"
@@ -28,9 +28,9 @@ namespace tidewatch::platform {
 
 /// Every operation of the seam on fakes.
 struct FakeMachine {
-    /// Starts at `now`, UTC; `complain` is for the log's unannounced warnings.
-    FakeMachine(Instant now, std::function<void(const std::string&)> complain)
-        : log(std::move(complain)), clock(now) {}
+    /// Starts at `now`, UTC; `reportFailure` is for the log's unannounced warnings.
+    FakeMachine(Instant now, std::function<void(const std::string&)> reportFailure)
+        : log(std::move(reportFailure)), clock(now) {}
 
     FakeLog log;
     FakeClock clock;
@@ -44,12 +44,12 @@ struct FakeMachine {
     FakeScreens screens;
     FakeWindowSystem windowSystem;
     FakeLoginItem loginItem;
-    FakeRunningInstance runningInstance;
-    FakeProcessEndings endings;
+    FakeSingleInstance singleInstance;
+    FakeProcessTermination termination;
     FakeRandomness randomness;
     FakeUserNotifications notifications;
     FakeProcessMemory memory;
-    FakeBackground background{mainLoop};
+    FakeJobQueueFactory queues{mainLoop};
 
     Platform platform = on(mainLoop);
 
@@ -68,12 +68,12 @@ struct FakeMachine {
             .screens = screens,
             .windowSystem = windowSystem,
             .loginItem = loginItem,
-            .runningInstance = runningInstance,
-            .endings = endings,
+            .singleInstance = singleInstance,
+            .termination = termination,
             .randomness = randomness,
             .notifications = notifications,
             .memory = memory,
-            .background = background,
+            .queues = queues,
         };
     }
 };

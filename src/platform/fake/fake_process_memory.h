@@ -7,12 +7,12 @@ namespace tidewatch::platform {
 /// Counts how often memory was given back.
 class FakeProcessMemory final : public ProcessMemory {
 public:
-    void giveBackUnused() override { ++timesGivenBack_; }
+    void releaseUnused() override { ++releaseCount_; }
 
-    [[nodiscard]] int timesGivenBack() const { return timesGivenBack_; }
+    [[nodiscard]] int releaseCount() const { return releaseCount_; }
 
 private:
-    int timesGivenBack_ = 0;
+    int releaseCount_ = 0;
 };
 
 }  // namespace tidewatch::platform

@@ -12,47 +12,47 @@ namespace tidewatch::platform {
 /// everything.
 class FakeUserNotifications final : public UserNotifications {
 public:
-    [[nodiscard]] bool hasNewerService() const override { return newer_; }
-    void requestAuthorization(std::function<void(AuthorizationAnswer)> answered) override {
+    [[nodiscard]] bool hasModernService() const override { return modern_; }
+    void requestAuthorization(std::function<void(AuthorizationResult)> answered) override {
         requests_.push_back(std::move(answered));
     }
-    void deliver(const UserNotification& notification, std::function<void(Outcome)> delivered) override {
+    void deliver(const UserNotification& notification, std::function<void(Status)> delivered) override {
         delivered_.push_back(notification);
         unreported_.push_back(std::move(delivered));
     }
-    void deliverOlder(const UserNotification& notification) override {
-        older_.push_back(notification);
-        if (showOlder_) showOlder_(notification);
+    void deliverLegacy(const UserNotification& notification) override {
+        legacy_.push_back(notification);
+        if (showLegacy_) showLegacy_(notification);
     }
-    void setOlderService(std::function<void(const UserNotification&)> show) override {
-        showOlder_ = std::move(show);
+    void setLegacyService(std::function<void(const UserNotification&)> show) override {
+        showLegacy_ = std::move(show);
     }
 
-    void setNewerService(bool newer) { newer_ = newer; }
+    void setModernService(bool newer) { modern_ = newer; }
 
     /// Answers every request for authorization that waits.
-    void answer(const AuthorizationAnswer& answer) {
+    void answer(const AuthorizationResult& answer) {
         for (const auto& answered : std::exchange(requests_, {})) answered(answer);
     }
 
-    /// Tells the same outcome for every delivery that waits for one.
-    void report(const Outcome& outcome) {
-        for (const auto& delivered : std::exchange(unreported_, {})) delivered(outcome);
+    /// Tells the same status for every delivery that waits for one.
+    void report(const Status& status) {
+        for (const auto& delivered : std::exchange(unreported_, {})) delivered(status);
     }
 
     [[nodiscard]] std::size_t waitingRequests() const { return requests_.size(); }
 
     /// What was handed to the newer service, failures included, and what to the older one.
     [[nodiscard]] const std::vector<UserNotification>& delivered() const { return delivered_; }
-    [[nodiscard]] const std::vector<UserNotification>& deliveredOlder() const { return older_; }
+    [[nodiscard]] const std::vector<UserNotification>& deliveredLegacy() const { return legacy_; }
 
 private:
-    bool newer_ = true;
-    std::function<void(const UserNotification&)> showOlder_;
-    std::deque<std::function<void(AuthorizationAnswer)>> requests_;
-    std::deque<std::function<void(Outcome)>> unreported_;
+    bool modern_ = true;
+    std::function<void(const UserNotification&)> showLegacy_;
+    std::deque<std::function<void(AuthorizationResult)>> requests_;
+    std::deque<std::function<void(Status)>> unreported_;
     std::vector<UserNotification> delivered_;
-    std::vector<UserNotification> older_;
+    std::vector<UserNotification> legacy_;
 };
 
 }  // namespace tidewatch::platform

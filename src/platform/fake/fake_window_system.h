@@ -16,16 +16,16 @@ public:
         return compositingChanged_.connect(std::move(changed));
     }
     void setInputRegion(WindowHandle, Rectangle region) override { inputRegion_ = region; }
-    Connection onCovered(WindowHandle, std::function<void(bool covered)> changed) override {
+    Connection onOcclusionChanged(WindowHandle, std::function<void(bool covered)> changed) override {
         return covered_.connect(std::move(changed));
     }
     void requestFrame(WindowHandle) override {}
     [[nodiscard]] FrameMargins frameMargins(WindowHandle) override { return margins_; }
-    void setFrameShade(WindowHandle, FrameShade shade) override { shade_ = shade; }
+    void setFrameVariant(WindowHandle, FrameVariant shade) override { shade_ = shade; }
     void activate(WindowHandle) override { ++activated_; }
 
     void setFrameMargins(FrameMargins margins) { margins_ = margins; }
-    [[nodiscard]] std::optional<FrameShade> frameShade() const { return shade_; }
+    [[nodiscard]] std::optional<FrameVariant> frameVariant() const { return shade_; }
     /// How often a window was activated.
     [[nodiscard]] int activated() const { return activated_; }
 
@@ -44,7 +44,7 @@ private:
     int prepared_ = 0;
     Rectangle inputRegion_;
     FrameMargins margins_;
-    std::optional<FrameShade> shade_;
+    std::optional<FrameVariant> shade_;
     int activated_ = 0;
     Signal<> compositingChanged_;
     Signal<bool> covered_;

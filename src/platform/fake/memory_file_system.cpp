@@ -11,11 +11,11 @@ std::string parentOf(const std::string& path) {
 }
 
 FileError absent(const std::string& operation, const std::string& path) {
-    return {{operation + " " + path + ": No such file or directory"}, FileFault::absent};
+    return {{operation + " " + path + ": No such file or directory"}, FileErrorKind::notFound};
 }
 
 FileError forbidden(const std::string& operation, const std::string& path) {
-    return {{operation + " " + path + ": Permission denied"}, FileFault::forbidden};
+    return {{operation + " " + path + ": Permission denied"}, FileErrorKind::permissionDenied};
 }
 
 // What a file held when it was opened.
@@ -37,7 +37,7 @@ private:
 
 }  // namespace
 
-Outcome MemoryFileSystem::createDirectories(const std::string& path) {
+Status MemoryFileSystem::createDirectories(const std::string& path) {
     const std::lock_guard lock(mutex_);
     if (!makeDirectories(path)) return Error{"make directory " + path + ": Permission denied"};
     return success();
@@ -53,13 +53,13 @@ bool MemoryFileSystem::makeDirectories(const std::string& path) {
     return true;
 }
 
-RecordHold MemoryFileSystem::holdRecord(const std::string& directory) {
+RecordLock MemoryFileSystem::ensureRecordLock(const std::string& directory) {
     const std::lock_guard lock(mutex_);
     static_cast<void>(makeDirectories(directory));
-    return hold_;
+    return recordLock_;
 }
 
-FileResult<std::string> MemoryFileSystem::readWhole(const std::string& path) const {
+FileResult<std::string> MemoryFileSystem::readFile(const std::string& path) const {
     const std::lock_guard lock(mutex_);
     const auto file = files_.find(path);
     if (file == files_.end()) return absent("open", path);
@@ -69,7 +69,7 @@ FileResult<std::string> MemoryFileSystem::readWhole(const std::string& path) con
 
 FileResult<std::unique_ptr<FileReader>> MemoryFileSystem::openForReading(const std::string& path,
                                                                          std::uint64_t offset) const {
-    auto content = readWhole(path);
+    auto content = readFile(path);
     if (!content) return content.error();
     return std::unique_ptr<FileReader>(
         std::make_unique<MemoryFileReader>(std::move(content).value(), offset));
@@ -90,8 +90,8 @@ FileResult<FileInfo> MemoryFileSystem::inspect(const std::string& path) const {
     return info;
 }
 
-FileOutcome MemoryFileSystem::enumerate(const std::string& directory, HiddenFiles hidden,
-                                        const FileVisitor& visit) const {
+FileStatus MemoryFileSystem::enumerate(const std::string& directory, HiddenFiles hidden,
+                                       const FileVisitor& visit) const {
     std::set<std::string> closed;
     {
         const std::lock_guard lock(mutex_);
@@ -109,8 +109,8 @@ FileOutcome MemoryFileSystem::enumerate(const std::string& directory, HiddenFile
         const auto info = inspect(path);
         if (!info) continue;  // removed meanwhile
         const auto next = visit({path, info.value(), info.value().modified});
-        if (next == NextStep::stop) break;
-        if (next == NextStep::pass) closed.insert(path);
+        if (next == VisitAction::stop) break;
+        if (next == VisitAction::skip) closed.insert(path);
     }
     return std::monostate{};
 }
@@ -128,7 +128,7 @@ std::vector<std::string> MemoryFileSystem::pathsBelow(const std::string& directo
     return {paths.begin(), paths.end()};
 }
 
-Outcome MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
+Status MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
     std::unique_lock lock(mutex_);
     ++stalledWrites_;
     stallChanged_.notify_all();
@@ -155,17 +155,17 @@ Result<std::optional<std::string>> MemoryFileSystem::setAside(const std::string&
     return std::optional(free);
 }
 
-std::optional<ExportFailure> MemoryFileSystem::exportFile(const std::string& path, std::string_view content) {
+std::optional<ExportError> MemoryFileSystem::exportFile(const std::string& path, std::string_view content) {
     const std::lock_guard lock(mutex_);
     if (auto written = write(path, content); !written) {
-        return ExportFailure{disk_ == Disk::full ? ExportFault::noSpace : ExportFault::other,
-                             written.error().message};
+        return ExportError{disk_ == Disk::full ? ExportErrorKind::noSpace : ExportErrorKind::other,
+                           written.error().message};
     }
     exports_.push_back(path);
     return std::nullopt;
 }
 
-Outcome MemoryFileSystem::write(const std::string& path, std::string_view content) {
+Status MemoryFileSystem::write(const std::string& path, std::string_view content) {
     writes_.push_back(path);
     if (const auto error = fault(content)) return *error;
     if (!directories_.contains(parentOf(path))) return Error{"open " + path + ": No such file or directory"};
@@ -266,9 +266,9 @@ void MemoryFileSystem::removeDirectory(const std::string& path) {
     std::erase_if(directories_, isGone);
 }
 
-void MemoryFileSystem::setHold(RecordHold hold) {
+void MemoryFileSystem::setRecordLock(RecordLock state) {
     const std::lock_guard lock(mutex_);
-    hold_ = hold;
+    recordLock_ = state;
 }
 
 void MemoryFileSystem::setDay(const std::string& day) {

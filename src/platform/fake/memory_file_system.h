@@ -19,19 +19,19 @@ namespace tidewatch::platform {
 class MemoryFileSystem final : public FileSystem {
 public:
     [[nodiscard]] std::string homeDirectory() const override { return "/home/user"; }
-    Outcome createDirectories(const std::string& path) override;
-    [[nodiscard]] FileResult<std::string> readWhole(const std::string& path) const override;
+    Status createDirectories(const std::string& path) override;
+    [[nodiscard]] FileResult<std::string> readFile(const std::string& path) const override;
     [[nodiscard]] FileResult<std::unique_ptr<FileReader>> openForReading(const std::string& path,
                                                                          std::uint64_t offset) const override;
     [[nodiscard]] FileResult<FileInfo> inspect(const std::string& path) const override;
-    [[nodiscard]] FileOutcome enumerate(const std::string& directory, HiddenFiles hidden,
-                                        const FileVisitor& visit) const override;
-    [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
-    Outcome replaceAtomically(const std::string& path, std::string_view content) override;
+    [[nodiscard]] FileStatus enumerate(const std::string& directory, HiddenFiles hidden,
+                                       const FileVisitor& visit) const override;
+    [[nodiscard]] RecordLock ensureRecordLock(const std::string& directory) override;
+    Status replaceAtomically(const std::string& path, std::string_view content) override;
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
                                                               std::string_view mark) override;
-    [[nodiscard]] std::optional<ExportFailure> exportFile(const std::string& path,
-                                                          std::string_view content) override;
+    [[nodiscard]] std::optional<ExportError> exportFile(const std::string& path,
+                                                        std::string_view content) override;
 
     /// Puts a file there, past all faults, with the directories above it. It is another file than the one
     /// that was there.
@@ -75,7 +75,7 @@ public:
     void removeDirectory(const std::string& path);
 
     /// Who has the data directory from now on; this process at first.
-    void setHold(RecordHold hold);
+    void setRecordLock(RecordLock state);
 
     /// The date in the names of files that are set aside, "2026-01-15" at first.
     void setDay(const std::string& day);
@@ -92,7 +92,7 @@ private:
 
     void replace(const std::string& path, std::string_view content);
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
-    [[nodiscard]] Outcome write(const std::string& path, std::string_view content);
+    [[nodiscard]] Status write(const std::string& path, std::string_view content);
     [[nodiscard]] bool makeDirectories(const std::string& path);
     [[nodiscard]] std::vector<std::string> pathsBelow(const std::string& directory) const;
 
@@ -108,7 +108,7 @@ private:
     std::vector<std::string> writes_;
     std::vector<std::string> exports_;
     std::string day_ = "2026-01-15";
-    RecordHold hold_ = RecordHold::ours;
+    RecordLock recordLock_ = RecordLock::held;
     std::size_t failingWrite_ = 0;
     Disk disk_ = Disk::roomy;
 };

@@ -34,7 +34,7 @@ AutostartLoginItem::AutostartLoginItem(FileSystem& files, const std::string& con
       program_(std::move(program)) {}
 
 bool AutostartLoginItem::isEnabled() const {
-    const auto entry = files_.readWhole(path_);
+    const auto entry = files_.readFile(path_);
     if (!entry) return false;
     std::istringstream lines(entry.value());
     for (std::string line; std::getline(lines, line);) {
@@ -43,7 +43,7 @@ bool AutostartLoginItem::isEnabled() const {
     return true;
 }
 
-Outcome AutostartLoginItem::registerItem() {
+Status AutostartLoginItem::registerItem() {
     if (auto made = files_.createDirectories(directory_); !made) return made;
     const auto failure = files_.exportFile(path_, fmt::format("[Desktop Entry]\n"
                                                               "Type=Application\n"
@@ -53,10 +53,10 @@ Outcome AutostartLoginItem::registerItem() {
                                                               "Icon=com.brightlooms.tidewatch\n"
                                                               "X-GNOME-Autostart-enabled=true\n",
                                                               quotedForExec(program_)));
-    return failure ? Outcome(Error{failure->message}) : success();
+    return failure ? Status(Error{failure->message}) : success();
 }
 
-Outcome AutostartLoginItem::unregisterItem() {
+Status AutostartLoginItem::unregisterItem() {
     if (std::remove(path_.c_str()) == 0 || errno == ENOENT) return success();
     return Error{fmt::format("{}: {}", path_, std::strerror(errno))};
 }

@@ -15,8 +15,8 @@ public:
 
     /// An entry that the desktop's own settings have switched off counts as not enabled.
     [[nodiscard]] bool isEnabled() const override;
-    Outcome registerItem() override;
-    Outcome unregisterItem() override;
+    Status registerItem() override;
+    Status unregisterItem() override;
 
 private:
     FileSystem& files_;

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t fixedHeader = 12;
 constexpr std::size_t fieldsBegin = 16;
-constexpr std::size_t largestMessage = 128 * 1024 * 1024;
+constexpr std::size_t maxMessageSize = 128 * 1024 * 1024;
 constexpr std::uint8_t noReplyExpected = 1;
 constexpr std::uint8_t protocol = 1;
 
@@ -168,10 +168,10 @@ std::optional<std::size_t> BusMessage::sizeAtFront(std::string_view bytes) {
     reader.seek(fixedHeader);
     const std::size_t fields = reader.number();
     const auto size = aligned(fieldsBegin + fields, 8) + body;
-    return size <= largestMessage ? std::optional(size) : std::nullopt;
+    return size <= maxMessageSize ? std::optional(size) : std::nullopt;
 }
 
-std::optional<BusMessage> BusMessage::read(std::string_view bytes) {
+std::optional<BusMessage> BusMessage::parse(std::string_view bytes) {
     const auto size = sizeAtFront(bytes);
     if (!size || *size == 0 || *size > bytes.size()) return std::nullopt;
     BusMessage message;

@@ -26,7 +26,7 @@ struct BusMessage {
     [[nodiscard]] static std::optional<std::size_t> sizeAtFront(std::string_view bytes);
 
     /// Reads one whole message; nothing if it is damaged.
-    [[nodiscard]] static std::optional<BusMessage> read(std::string_view bytes);
+    [[nodiscard]] static std::optional<BusMessage> parse(std::string_view bytes);
 
     /// The only text of a whole message whose body is one string; empty for any other body.
     [[nodiscard]] static std::string_view text(std::string_view bytes);

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "platform/freedesktop/desktop_entry.h"
-#include "platform/posix/guarded_file.h"
+#include "platform/posix/regular_file.h"
 
 namespace tidewatch::platform {
 
@@ -14,8 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::chrono::seconds betweenLooks(2);
-constexpr std::chrono::minutes betweenGrowths(1);
+constexpr std::chrono::seconds checkInterval(2);
+constexpr std::chrono::minutes growthInterval(1);
 
 std::string environment(const char* name, const std::string& otherwise) {
     const char* value = std::getenv(name);
@@ -29,14 +29,14 @@ public:
     std::optional<std::string> find(const std::string& folder, const std::string& id, int depth = 0) {
         // An id is what a window says of itself: with links that lead back, a long one would have no end of
         // ways.
-        constexpr int maximalTries = 200;
-        if (++tries_ > maximalTries) return std::nullopt;
-        if (auto text = readRegularFile(folder + "/" + id + ".desktop", maximalDesktopEntrySize)) {
+        constexpr int maxTries = 200;
+        if (++tries_ > maxTries) return std::nullopt;
+        if (auto text = readRegularFile(folder + "/" + id + ".desktop", maxDesktopEntrySize)) {
             return std::move(text).value();
         }
-        if (depth == maximalDesktopEntryDepth) return std::nullopt;
+        if (depth == maxDesktopEntryDepth) return std::nullopt;
         for (auto dash = id.find('-'); dash != std::string::npos; dash = id.find('-', dash + 1)) {
-            if (++tries_ > maximalTries) return std::nullopt;
+            if (++tries_ > maxTries) return std::nullopt;
             const auto name = id.substr(0, dash);
             std::error_code error;
             if (name.empty() || name == "." || name == ".." ||
@@ -54,12 +54,12 @@ private:
 
 }  // namespace
 
-DesktopEntries::DesktopEntries(std::vector<std::string> folders, Now now, std::chrono::milliseconds patience)
+DesktopEntries::DesktopEntries(std::vector<std::string> folders, Now now, std::chrono::milliseconds timeout)
     : folders_(std::move(folders)),
       now_(std::move(now)),
-      lastLook_(now_()),
-      lastGrowth_(lastLook_),
-      reader_(folders_, patience) {}
+      lastCheck_(now_()),
+      lastGrowth_(lastCheck_),
+      loader_(folders_, timeout) {}
 
 std::vector<std::string> DesktopEntries::standardFolders() {
     std::vector<std::string> folders{environment("XDG_DATA_HOME", environment("HOME", "") + "/.local/share") +
@@ -73,29 +73,29 @@ std::vector<std::string> DesktopEntries::standardFolders() {
 
 std::optional<std::string> DesktopEntries::idForWindow(std::string_view instance,
                                                        std::string_view windowClass) {
-    takeWhatWasRead();
+    adoptLoadedIndex();
     auto id = index_->idForWindow(instance, windowClass);
-    if (!id) lookAtFolders();
+    if (!id) checkFolders();
     return id;
 }
 
 bool DesktopEntries::isReading() {
-    takeWhatWasRead();
-    return reader_.isReading();
+    adoptLoadedIndex();
+    return loader_.isReading();
 }
 
-void DesktopEntries::waitUntilRead() {
-    reader_.waitUntilIdle();
-    takeWhatWasRead();
+void DesktopEntries::waitUntilLoaded() {
+    loader_.waitUntilIdle();
+    adoptLoadedIndex();
 }
 
 std::uint64_t DesktopEntries::revision() {
     const auto now = now_();
-    if (now - lastLook_ >= betweenLooks) {
-        lastLook_ = now;
-        takeWhatWasRead();
-        lookAtFolders();
-        if (now - lastGrowth_ >= betweenGrowths) {
+    if (now - lastCheck_ >= checkInterval) {
+        lastCheck_ = now;
+        adoptLoadedIndex();
+        checkFolders();
+        if (now - lastGrowth_ >= growthInterval) {
             lastGrowth_ = now;
             ++revision_;
         }
@@ -108,26 +108,26 @@ std::optional<ApplicationInfo> DesktopEntries::info(const std::string& id, std::
     for (const auto& folder : folders_) {
         const auto text = EntrySearch().find(folder, id);
         if (!text) continue;
-        auto info = readDesktopEntry(*text, locale);
+        auto info = parseDesktopEntry(*text, locale);
         if (info && info->name.empty()) info->name = id;
         return info;
     }
     return std::nullopt;
 }
 
-void DesktopEntries::lookAtFolders() {
-    reader_.look();
+void DesktopEntries::checkFolders() {
+    loader_.check();
     countChanges();
 }
 
 void DesktopEntries::countChanges() {
-    const int changes = reader_.changes();
+    const int changes = loader_.changes();
     if (changes != std::exchange(changes_, changes)) ++revision_;
 }
 
-void DesktopEntries::takeWhatWasRead() {
+void DesktopEntries::adoptLoadedIndex() {
     countChanges();
-    auto fresh = reader_.take();
+    auto fresh = loader_.take();
     if (!fresh) return;
     index_ = std::move(fresh);
     ++revision_;

@@ -11,7 +11,7 @@
 
 #include "platform/api/applications.h"
 #include "platform/freedesktop/desktop_entry_index.h"
-#include "platform/freedesktop/desktop_entry_reader.h"
+#include "platform/freedesktop/desktop_entry_loader.h"
 
 namespace tidewatch::platform {
 
@@ -24,10 +24,10 @@ public:
     using Now = std::function<std::chrono::steady_clock::time_point()>;
 
     /// `folders` as absolute paths, the most important first: an id found twice counts where it is found
-    /// first. Begins to read them. A look at the folders is waited for no longer than `patience`, and so is
+    /// first. Begins to read them. A look at the folders is waited for no longer than `timeout`, and so is
     /// the end of the thread; what takes longer is learned later.
     explicit DesktopEntries(std::vector<std::string> folders, Now now = std::chrono::steady_clock::now,
-                            std::chrono::milliseconds patience = std::chrono::milliseconds(100));
+                            std::chrono::milliseconds timeout = std::chrono::milliseconds(100));
     DesktopEntries(const DesktopEntries&) = delete;
     DesktopEntries& operator=(const DesktopEntries&) = delete;
 
@@ -46,30 +46,30 @@ public:
     [[nodiscard]] bool isReading();
 
     /// Waits until no entries are being read.
-    void waitUntilRead();
+    void waitUntilLoaded();
 
     /// Grows whenever applications may have come, gone or changed: when the folders have changed, when they
     /// have been read, and once a minute since an entry can be changed in its place. Looks at the folders
     /// every other second at most, so that it may be asked at any rate.
     [[nodiscard]] std::uint64_t revision();
 
-    /// What the entry of exactly this id tells, its name in Spanish as readDesktopEntry() has it; an entry
+    /// What the entry of exactly this id tells, its name in Spanish as parseDesktopEntry() has it; an entry
     /// without a name goes by its id. Nothing if there is no such entry. Reads the one file each time.
     [[nodiscard]] std::optional<ApplicationInfo> info(const std::string& id, std::string_view locale) const;
 
 private:
-    void lookAtFolders();
+    void checkFolders();
     void countChanges();
-    void takeWhatWasRead();
+    void adoptLoadedIndex();
 
     const std::vector<std::string> folders_;
     const Now now_;
-    std::chrono::steady_clock::time_point lastLook_;
+    std::chrono::steady_clock::time_point lastCheck_;
     std::chrono::steady_clock::time_point lastGrowth_;
     std::uint64_t revision_ = 0;
     int changes_ = 0;  // those of the folders that were taken into account
     std::shared_ptr<const DesktopEntryIndex> index_ = std::make_shared<const DesktopEntryIndex>();
-    DesktopEntryReader reader_;
+    DesktopEntryLoader loader_;
 };
 
 }  // namespace tidewatch::platform

@@ -99,7 +99,7 @@ std::optional<std::string_view> spanishName(const std::vector<Line>& lines, std:
 
 }  // namespace
 
-std::optional<ApplicationInfo> readDesktopEntry(std::string_view text, std::string_view locale) {
+std::optional<ApplicationInfo> parseDesktopEntry(std::string_view text, std::string_view locale) {
     const auto lines = linesOfMainGroup(text);
     if (lines.empty() || valueOf(lines, "Hidden") == "true") return std::nullopt;
     const auto plain = [&](std::string_view key) { return valueOf(lines, key).value_or(""); };

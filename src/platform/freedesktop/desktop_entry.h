@@ -14,6 +14,7 @@ namespace tidewatch::platform {
 /// The name is taken in Spanish where the entry has it: as spoken in the country of `locale` ("es_MX" and
 /// the like, with or without what follows; others count as no country), else as spoken anywhere, else in the
 /// first country named, else the name without a language.
-[[nodiscard]] std::optional<ApplicationInfo> readDesktopEntry(std::string_view text, std::string_view locale);
+[[nodiscard]] std::optional<ApplicationInfo> parseDesktopEntry(std::string_view text,
+                                                               std::string_view locale);
 
 }  // namespace tidewatch::platform

@@ -5,15 +5,15 @@
 #include <algorithm>
 #include <cctype>
 
-#include "platform/posix/guarded_file.h"
+#include "platform/posix/regular_file.h"
 
 namespace tidewatch::platform {
 
 namespace {
 
 constexpr std::string_view suffix = ".desktop";
-constexpr WalkLimits walkLimits{maximalDesktopEntryDepth, 10'000};
-constexpr std::size_t maximalBytes = 32 * 1024 * 1024;
+constexpr WalkLimits walkLimits{maxDesktopEntryDepth, 10'000};
+constexpr std::size_t maxBytes = 32 * 1024 * 1024;
 
 std::string lowerCase(std::string_view text) {
     std::string result(text);
@@ -65,8 +65,8 @@ void DesktopEntryIndex::readFolder(const std::string& root, const std::atomic<bo
 }
 
 void DesktopEntryIndex::readEntry(const std::string& path, const std::string& id) {
-    if (bytesRead_ > maximalBytes || idByLowerCaseId_.contains(lowerCase(id))) return;
-    const auto content = readRegularFile(path, maximalDesktopEntrySize);
+    if (bytesRead_ > maxBytes || idByLowerCaseId_.contains(lowerCase(id))) return;
+    const auto content = readRegularFile(path, maxDesktopEntrySize);
     if (!content) return;
     std::string_view text = content.value();
     bytesRead_ += text.size();

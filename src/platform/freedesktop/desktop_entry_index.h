@@ -12,10 +12,10 @@
 namespace tidewatch::platform {
 
 /// The larger ones that desktops install have some ten thousand bytes.
-inline constexpr std::size_t maximalDesktopEntrySize = 256 * 1024;
+inline constexpr std::size_t maxDesktopEntrySize = 256 * 1024;
 
 /// Folders below `applications` on the way to an entry.
-inline constexpr int maximalDesktopEntryDepth = 8;
+inline constexpr int maxDesktopEntryDepth = 8;
 
 /// What the windows of the registered applications call themselves, as the `applications` folders had it when
 /// they were read. Does not change; safe from any thread.

@@ -31,7 +31,7 @@ QDBusMessage notifyCall(const UserNotification& notification) {
     return call;
 }
 
-Outcome outcomeOf(const QDBusPendingCall& call) {
+Status statusOf(const QDBusPendingCall& call) {
     const QDBusPendingReply<uint> reply = call;
     if (!reply.isError()) return success();
     return Error{(reply.error().name() + ": " + reply.error().message()).toStdString()};
@@ -39,40 +39,40 @@ Outcome outcomeOf(const QDBusPendingCall& call) {
 
 }  // namespace
 
-DesktopNotifications::DesktopNotifications(SessionBus& bus, Log& log, std::chrono::milliseconds timeOut)
-    : bus_(bus), log_(log), timeOut_(timeOut) {}
+DesktopNotifications::DesktopNotifications(SessionBus& bus, Log& log, std::chrono::milliseconds timeout)
+    : bus_(bus), log_(log), timeout_(timeout) {}
 
-void DesktopNotifications::requestAuthorization(std::function<void(AuthorizationAnswer)> answered) {
+void DesktopNotifications::requestAuthorization(std::function<void(AuthorizationResult)> answered) {
     QMetaObject::invokeMethod(
         &pendingCalls_, [answered = std::move(answered)] { answered({.granted = true, .error = {}}); },
         Qt::QueuedConnection);
 }
 
 void DesktopNotifications::deliver(const UserNotification& notification,
-                                   std::function<void(Outcome)> delivered) {
+                                   std::function<void(Status)> delivered) {
     const auto bus = bus_.connection();
     const auto call =
         bus.isConnected()
-            ? bus.asyncCall(notifyCall(notification), static_cast<int>(timeOut_.count()))
+            ? bus.asyncCall(notifyCall(notification), static_cast<int>(timeout_.count()))
             : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, "there is no session bus"));
     auto* watcher = new QDBusPendingCallWatcher(call, &pendingCalls_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
                      [watcher, delivered = std::move(delivered)] {
                          watcher->deleteLater();
-                         delivered(outcomeOf(*watcher));
+                         delivered(statusOf(*watcher));
                      });
 }
 
-void DesktopNotifications::deliverOlder(const UserNotification& notification) {
-    if (showOlder_) {
-        showOlder_(notification);
+void DesktopNotifications::deliverLegacy(const UserNotification& notification) {
+    if (showLegacy_) {
+        showLegacy_(notification);
     } else {
         log_.warning("no service to show a notification: " + notification.title);
     }
 }
 
-void DesktopNotifications::setOlderService(std::function<void(const UserNotification&)> show) {
-    showOlder_ = std::move(show);
+void DesktopNotifications::setLegacyService(std::function<void(const UserNotification&)> show) {
+    showLegacy_ = std::move(show);
 }
 
 }  // namespace tidewatch::platform

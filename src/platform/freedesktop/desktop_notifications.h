@@ -16,24 +16,24 @@ namespace tidewatch::platform {
 class DesktopNotifications final : public UserNotifications {
 public:
     /// Without a bus a delivery fails. A service that has not
-    /// answered after `timeOut` counts as failed; a message that it shows all the same, later, is then seen
+    /// answered after `timeout` counts as failed; a message that it shows all the same, later, is then seen
     /// twice. `bus` and `log` must outlive this object.
     DesktopNotifications(SessionBus& bus, Log& log,
-                         std::chrono::milliseconds timeOut = std::chrono::seconds(3));
+                         std::chrono::milliseconds timeout = std::chrono::seconds(3));
 
     /// Whether a service runs shows only at each delivery: it may come and go.
-    [[nodiscard]] bool hasNewerService() const override { return true; }
+    [[nodiscard]] bool hasModernService() const override { return true; }
 
-    void requestAuthorization(std::function<void(AuthorizationAnswer)> answered) override;
-    void deliver(const UserNotification& notification, std::function<void(Outcome)> delivered) override;
-    void deliverOlder(const UserNotification& notification) override;
-    void setOlderService(std::function<void(const UserNotification&)> show) override;
+    void requestAuthorization(std::function<void(AuthorizationResult)> answered) override;
+    void deliver(const UserNotification& notification, std::function<void(Status)> delivered) override;
+    void deliverLegacy(const UserNotification& notification) override;
+    void setLegacyService(std::function<void(const UserNotification&)> show) override;
 
 private:
     SessionBus& bus_;
     Log& log_;
-    const std::chrono::milliseconds timeOut_;
-    std::function<void(const UserNotification&)> showOlder_;
+    const std::chrono::milliseconds timeout_;
+    std::function<void(const UserNotification&)> showLegacy_;
     QObject pendingCalls_;  // owns what waits for an answer
 };
 

@@ -20,7 +20,7 @@ constexpr std::string_view byteOrder{"\0\1\0\0\0\0\0\0", 8};
 
 /// Whether the socket takes a connection at once and says anything to `greeting`.
 bool answers(const std::optional<LocalSocket>& where, std::string_view greeting,
-             std::chrono::milliseconds patience) {
+             std::chrono::milliseconds timeout) {
     if (!where) return false;
     const FileDescriptor connection(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (::connect(connection.get(), reinterpret_cast<const sockaddr*>(&where->name), where->size) != 0)
@@ -28,7 +28,7 @@ bool answers(const std::optional<LocalSocket>& where, std::string_view greeting,
     if (::send(connection.get(), greeting.data(), greeting.size(), MSG_NOSIGNAL) < 0) return false;
     pollfd answer{connection.get(), POLLIN, 0};
     char first = 0;
-    return ::poll(&answer, 1, static_cast<int>(patience.count())) == 1 &&
+    return ::poll(&answer, 1, static_cast<int>(timeout.count())) == 1 &&
            ::recv(connection.get(), &first, 1, 0) == 1;
 }
 
@@ -44,12 +44,12 @@ std::optional<LocalSocket> socketOfManager(std::string_view manager) {
 
 }  // namespace
 
-std::string answeringSessionManagers(std::string_view managers, std::chrono::milliseconds patience) {
+std::string responsiveSessionManagers(std::string_view managers, std::chrono::milliseconds timeout) {
     std::string answering;
     while (!managers.empty()) {
         const auto end = std::min(managers.find(','), managers.size());
         const auto manager = managers.substr(0, end);
-        if (answers(socketOfManager(manager), byteOrder, patience)) {
+        if (answers(socketOfManager(manager), byteOrder, timeout)) {
             if (!answering.empty()) answering += ',';
             answering += manager;
         }
@@ -58,10 +58,10 @@ std::string answeringSessionManagers(std::string_view managers, std::chrono::mil
     return answering;
 }
 
-bool busAnswers(const std::string& address, std::chrono::milliseconds patience) {
+bool isBusResponsive(const std::string& address, std::chrono::milliseconds timeout) {
     // Names the ways to prove who one is.
     constexpr std::string_view greeting{"\0AUTH\r\n", 7};
-    return answers(socketOfBus(address), greeting, patience);
+    return answers(socketOfBus(address), greeting, timeout);
 }
 
 }  // namespace tidewatch::platform

@@ -13,7 +13,7 @@
 #include <utility>
 
 #include "platform/freedesktop/folder_handlers.h"
-#include "platform/posix/guarded_file.h"
+#include "platform/posix/regular_file.h"
 
 namespace tidewatch::platform {
 
@@ -22,8 +22,8 @@ namespace {
 constexpr char fileManager[] = "org.freedesktop.FileManager1";
 constexpr char fileManagerPath[] = "/org/freedesktop/FileManager1";
 constexpr char fileManagerCategory[] = "FileManager";
-constexpr int fileManagerPatience = 10'000;       // milliseconds: it may have to be started first
-constexpr std::size_t longestList = 1024 * 1024;  // bytes
+constexpr int fileManagerTimeout = 10'000;          // milliseconds: it may have to be started first
+constexpr std::size_t maxListLength = 1024 * 1024;  // bytes
 
 }  // namespace
 
@@ -41,14 +41,14 @@ std::string XdgDesktop::documentsDirectory() const {
     return (exists ? documents : QDir::homePath()).toStdString();
 }
 
-void XdgDesktop::reveal(const std::string& path, std::function<void(const Outcome&)> done) {
+void XdgDesktop::reveal(const std::string& path, std::function<void(const Status&)> done) {
     const auto file = QString::fromStdString(path);
     auto message = QDBusMessage::createMethodCall(fileManager, fileManagerPath, fileManager, "ShowItems");
     message << QStringList{QUrl::fromLocalFile(file).toString()} << QString();
     const auto bus = bus_.connection();
     const auto call =
         bus.isConnected()
-            ? bus.asyncCall(message, fileManagerPatience)
+            ? bus.asyncCall(message, fileManagerTimeout)
             : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, "no session bus"));
     auto* watcher = new QDBusPendingCallWatcher(call, &pendingCalls_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
@@ -58,7 +58,7 @@ void XdgDesktop::reveal(const std::string& path, std::function<void(const Outcom
                      });
 }
 
-Outcome XdgDesktop::openFolderOf(const QString& file) const {
+Status XdgDesktop::openFolderOf(const QString& file) const {
     if (!foldersOpenInFileManager()) return Error{"no file manager is registered for folders"};
     QProcess opener;
     opener.setProgram("xdg-open");
@@ -73,7 +73,7 @@ Outcome XdgDesktop::openFolderOf(const QString& file) const {
 /// all.
 bool XdgDesktop::foldersOpenInFileManager() const {
     for (const auto& list : standardRegistrationLists()) {
-        const auto text = readRegularFile(list, longestList);
+        const auto text = readRegularFile(list, maxListLength);
         if (!text) continue;
         for (const auto& id : folderHandlers(text.value())) {
             if (const auto handler = applications_.info(AppId(id))) {

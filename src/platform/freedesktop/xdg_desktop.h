@@ -20,10 +20,10 @@ public:
 
     /// Through the file manager that answers on the session bus; else the folder is opened, if it is a file
     /// manager that is registered for folders.
-    void reveal(const std::string& path, std::function<void(const Outcome&)> done) override;
+    void reveal(const std::string& path, std::function<void(const Status&)> done) override;
 
 private:
-    [[nodiscard]] Outcome openFolderOf(const QString& file) const;
+    [[nodiscard]] Status openFolderOf(const QString& file) const;
     [[nodiscard]] bool foldersOpenInFileManager() const;
 
     SessionBus& bus_;

@@ -46,7 +46,7 @@ void letGoOfFonts() {
 
 }  // namespace
 
-void LinuxProcessMemory::giveBackUnused() {
+void LinuxProcessMemory::releaseUnused() {
     ::malloc_trim(0);
     ::dl_iterate_phdr(letGoOfWhatIsOnlyRead, nullptr);
     letGoOfFonts();

@@ -3,7 +3,7 @@
 #include <sstream>
 #include <utility>
 
-#include "platform/posix/guarded_file.h"
+#include "platform/posix/regular_file.h"
 
 namespace tidewatch::platform {
 
@@ -11,10 +11,10 @@ namespace {
 
 // What a sandbox tells of itself takes some hundred bytes. It lies where the sandboxed process can put
 // anything.
-constexpr std::size_t maximalSize = 64 * 1024;
+constexpr std::size_t maxSize = 64 * 1024;
 
 std::string content(const std::string& path) {
-    auto text = readRegularFile(path, maximalSize);
+    auto text = readRegularFile(path, maxSize);
     return text ? std::move(text).value() : std::string();
 }
 

@@ -15,23 +15,23 @@ FileLock::State DirectoryLock::take(const std::string& directory) {
     auto lock = std::make_unique<FileLock>(path_);
     const auto state = lock->state();
     if (state == FileLock::State::heldByAnother) return state;
-    narrowDirectory(directory);
+    restrictDirectory(directory);
     if (state == FileLock::State::held) {
-        sweepLeftovers(directory);
+        removeLeftovers(directory);
         lock_ = std::move(lock);
     }
     return state;
 }
 
-RecordHold DirectoryLock::ensure() {
+RecordLock DirectoryLock::ensure() {
     const std::lock_guard guard(mutex_);
-    if (directory_.empty()) return RecordHold::ours;
-    if (!isInPlace() && takeAgain() == RecordHold::anothers) return RecordHold::anothers;
+    if (directory_.empty()) return RecordLock::held;
+    if (!isInPlace() && reacquire() == RecordLock::heldByAnother) return RecordLock::heldByAnother;
     if (restoreCompanion_ && lock_ && ::access(companion_.c_str(), F_OK) != 0) restoreCompanion_();
-    return RecordHold::ours;
+    return RecordLock::held;
 }
 
-void DirectoryLock::lookAfter(std::string path, std::function<void()> restore) {
+void DirectoryLock::watchCompanion(std::string path, std::function<void()> restore) {
     const std::lock_guard guard(mutex_);
     companion_ = std::move(path);
     restoreCompanion_ = std::move(restore);
@@ -42,34 +42,34 @@ bool DirectoryLock::isHeld() const {
     return isInPlace();
 }
 
-RecordHold DirectoryLock::takeAgain() {
+RecordLock DirectoryLock::reacquire() {
     // What cannot be made shows in the write that follows.
     static_cast<void>(makePrivateDirectories(directory_));
     auto lock = std::make_unique<FileLock>(path_);
     switch (lock->state()) {
         case FileLock::State::held:
             lock_ = std::move(lock);
-            tellThatItIsOursAgain();
-            return RecordHold::ours;
+            logReacquired();
+            return RecordLock::held;
         case FileLock::State::heldByAnother:
             lock_.reset();
-            tellThatItIsAnothers();
-            return RecordHold::anothers;
+            logLost();
+            return RecordLock::heldByAnother;
         case FileLock::State::unavailable:
             break;
     }
     // As at a start: better a record without a lock than none.
-    return isAnothers_ ? RecordHold::anothers : RecordHold::ours;
+    return isLost_ ? RecordLock::heldByAnother : RecordLock::held;
 }
 
-void DirectoryLock::tellThatItIsAnothers() {
-    if (std::exchange(isAnothers_, true)) return;
+void DirectoryLock::logLost() {
+    if (std::exchange(isLost_, true)) return;
     log_.warning("Tidewatch: another instance has taken " + directory_ +
                  "; nothing is written there until that one ends");
 }
 
-void DirectoryLock::tellThatItIsOursAgain() {
-    if (!std::exchange(isAnothers_, false)) return;
+void DirectoryLock::logReacquired() {
+    if (!std::exchange(isLost_, false)) return;
     log_.info("Tidewatch: the other instance is gone; the record is written to " + directory_ + " again");
 }
 

@@ -27,27 +27,27 @@ public:
     [[nodiscard]] FileLock::State take(const std::string& directory);
 
     /// To be called before a write. Makes the directory and the lock again where they are gone.
-    [[nodiscard]] RecordHold ensure();
+    [[nodiscard]] RecordLock ensure();
 
     /// From now on `restore` is called by ensure(), on its thread, when the lock is held and there is nothing
     /// at `path`. It must not call this object. An empty function ends that.
-    void lookAfter(std::string path, std::function<void()> restore);
+    void watchCompanion(std::string path, std::function<void()> restore);
 
     /// Whether what lies in the directory is locked by this object.
     [[nodiscard]] bool isHeld() const;
 
 private:
     [[nodiscard]] bool isInPlace() const { return lock_ && lock_->isAt(path_); }
-    [[nodiscard]] RecordHold takeAgain();
-    void tellThatItIsAnothers();
-    void tellThatItIsOursAgain();
+    [[nodiscard]] RecordLock reacquire();
+    void logLost();
+    void logReacquired();
 
     Log& log_;
     mutable std::mutex mutex_;
     std::string directory_;
     std::string path_;
     std::unique_ptr<FileLock> lock_;  // none while another process, or nobody, has the lock
-    bool isAnothers_ = false;
+    bool isLost_ = false;
     std::string companion_;
     std::function<void()> restoreCompanion_;
 };

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "platform/posix/file_descriptor.h"
-#include "platform/posix/file_status.h"
-#include "platform/posix/system_error_text.h"
+#include "platform/posix/stat_file_info.h"
+#include "platform/posix/system_error.h"
 
 namespace tidewatch::platform {
 
@@ -42,13 +42,14 @@ class TreeEnumeration final {
 public:
     TreeEnumeration(HiddenFiles hidden, const FileVisitor& visit) : hidden_(hidden), visit_(visit) {}
 
-    FileOutcome run(const std::string& root) {
+    FileStatus run(const std::string& root) {
         auto directory = openDirectory(root, 0);
         if (!directory) {
             auto error = fileError("open", root);
             // A path through something that is no directory leads nowhere; one to it leads to the wrong
             // thing.
-            if (error.fault == FileFault::absent && isThere(root)) error.fault = FileFault::broken;
+            if (error.kind == FileErrorKind::notFound && isThere(root))
+                error.kind = FileErrorKind::unreadable;
             return error;
         }
         readEntries(*directory, root);
@@ -76,8 +77,8 @@ private:
             path.resize(length);
             path += name;
             const auto next = visit_({path, fileInfo(status), fileTime(status.st_atim)});
-            if (next == NextStep::enter && S_ISDIR(status.st_mode)) pending_.push_back(path);
-            stopped_ = next == NextStep::stop;
+            if (next == VisitAction::proceed && S_ISDIR(status.st_mode)) pending_.push_back(path);
+            stopped_ = next == VisitAction::stop;
             if (stopped_) return;
         }
     }
@@ -90,7 +91,7 @@ private:
 
 }  // namespace
 
-FileOutcome enumerateDirectoryTree(const std::string& root, HiddenFiles hidden, const FileVisitor& visit) {
+FileStatus enumerateDirectoryTree(const std::string& root, HiddenFiles hidden, const FileVisitor& visit) {
     return TreeEnumeration(hidden, visit).run(root);
 }
 

@@ -9,7 +9,7 @@ namespace tidewatch::platform {
 
 /// See FileSystem::enumerate(). One open directory at a time, whatever the depth; what lies deeper than a
 /// path can be long is skipped.
-[[nodiscard]] FileOutcome enumerateDirectoryTree(const std::string& root, HiddenFiles hidden,
-                                                 const FileVisitor& visit);
+[[nodiscard]] FileStatus enumerateDirectoryTree(const std::string& root, HiddenFiles hidden,
+                                                const FileVisitor& visit);
 
 }  // namespace tidewatch::platform

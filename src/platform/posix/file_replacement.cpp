@@ -12,8 +12,8 @@
 #include <cstdlib>
 #include <memory>
 
+#include "platform/posix/errno_text.h"
 #include "platform/posix/file_descriptor.h"
-#include "platform/posix/system_words.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -45,15 +45,15 @@ void syncDirectoryOf(const std::string& path) {
 }  // namespace
 
 std::string ReplacementFailure::message() const {
-    return fmt::format("{} {}: {}", step, path, systemWords(code));
+    return fmt::format("{} {}: {}", step, path, errnoText(code));
 }
 
-std::string followedLinks(const std::string& path) {
+std::string resolvedLinks(const std::string& path) {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
     if (real) return real.get();
-    constexpr int mostLinks = 40;
+    constexpr int maxLinks = 40;
     auto place = path;
-    for (int links = 0; links < mostLinks; ++links) {
+    for (int links = 0; links < maxLinks; ++links) {
         auto next = linkTarget(place);
         if (!next) return place;
         place = *std::move(next);

@@ -20,7 +20,7 @@ struct ReplacementFailure {
 
 /// Where a file lies that is reached through symbolic links, also one that is not there yet; the path itself
 /// if it is no link, or if the links lead nowhere.
-[[nodiscard]] std::string followedLinks(const std::string& path);
+[[nodiscard]] std::string resolvedLinks(const std::string& path);
 
 /// Writes `content` to the open `descriptor` of the new file `successor`, brings it to the disk, gives it the
 /// name `target`, and brings the directory to the disk. If anything fails before the new name is given, the

@@ -2,7 +2,7 @@
 
 #include <unistd.h>
 
-#include "platform/posix/system_error_text.h"
+#include "platform/posix/system_error.h"
 
 namespace tidewatch::platform {
 

@@ -20,11 +20,11 @@
 #include "platform/posix/directory_tree.h"
 #include "platform/posix/file_descriptor.h"
 #include "platform/posix/file_replacement.h"
-#include "platform/posix/file_status.h"
-#include "platform/posix/guarded_file.h"
 #include "platform/posix/posix_file_reader.h"
 #include "platform/posix/private_directory.h"
-#include "platform/posix/system_error_text.h"
+#include "platform/posix/regular_file.h"
+#include "platform/posix/stat_file_info.h"
+#include "platform/posix/system_error.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -75,23 +75,23 @@ bool renameToFree(const std::string& from, const std::string& to) {
     return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
-ExportFault faultOf(int code) {
+ExportErrorKind faultOf(int code) {
     struct Row {
         int code;
-        ExportFault fault;
+        ExportErrorKind kind;
     };
     constexpr std::array rows{
-        Row{EACCES, ExportFault::noPermission},  Row{EPERM, ExportFault::noPermission},
-        Row{EROFS, ExportFault::readOnlyDisk},   Row{ENOSPC, ExportFault::noSpace},
-        Row{EDQUOT, ExportFault::noSpace},       Row{EFBIG, ExportFault::noSpace},
-        Row{ENOENT, ExportFault::folderMissing}, Row{ENOTDIR, ExportFault::folderMissing},
-        Row{EISDIR, ExportFault::notAFile},      Row{ENAMETOOLONG, ExportFault::nameTooLong},
+        Row{EACCES, ExportErrorKind::noPermission},  Row{EPERM, ExportErrorKind::noPermission},
+        Row{EROFS, ExportErrorKind::readOnlyDisk},   Row{ENOSPC, ExportErrorKind::noSpace},
+        Row{EDQUOT, ExportErrorKind::noSpace},       Row{EFBIG, ExportErrorKind::noSpace},
+        Row{ENOENT, ExportErrorKind::folderMissing}, Row{ENOTDIR, ExportErrorKind::folderMissing},
+        Row{EISDIR, ExportErrorKind::notAFile},      Row{ENAMETOOLONG, ExportErrorKind::nameTooLong},
     };
     const auto* row = std::ranges::find(rows, code, &Row::code);
-    return row == rows.end() ? ExportFault::other : row->fault;
+    return row == rows.end() ? ExportErrorKind::other : row->kind;
 }
 
-ExportFailure exportFailure(const ReplacementFailure& failure) {
+ExportError exportError(const ReplacementFailure& failure) {
     return {faultOf(failure.code), failure.message()};
 }
 
@@ -120,11 +120,11 @@ PosixFileSystem::PosixFileSystem(DirectoryLock* lock) : PosixFileSystem(userHome
 PosixFileSystem::PosixFileSystem(std::string homeDirectory, DirectoryLock* lock)
     : home_(std::move(homeDirectory)), lock_(lock) {}
 
-Outcome PosixFileSystem::createDirectories(const std::string& path) {
+Status PosixFileSystem::createDirectories(const std::string& path) {
     return makePrivateDirectories(path);
 }
 
-FileResult<std::string> PosixFileSystem::readWhole(const std::string& path) const {
+FileResult<std::string> PosixFileSystem::readFile(const std::string& path) const {
     // A record is as long as its years: there is no size that it must not have.
     return readRegularFile(path, anySize);
 }
@@ -138,8 +138,8 @@ FileResult<std::unique_ptr<FileReader>> PosixFileSystem::openForReading(const st
     return std::unique_ptr<FileReader>(std::make_unique<PosixFileReader>(std::move(file), path));
 }
 
-FileOutcome PosixFileSystem::enumerate(const std::string& directory, HiddenFiles hidden,
-                                       const FileVisitor& visit) const {
+FileStatus PosixFileSystem::enumerate(const std::string& directory, HiddenFiles hidden,
+                                      const FileVisitor& visit) const {
     return enumerateDirectoryTree(directory, hidden, visit);
 }
 
@@ -149,15 +149,15 @@ FileResult<FileInfo> PosixFileSystem::inspect(const std::string& path) const {
     return fileInfo(status);
 }
 
-RecordHold PosixFileSystem::holdRecord(const std::string& directory) {
+RecordLock PosixFileSystem::ensureRecordLock(const std::string& directory) {
     if (lock_) return lock_->ensure();
     // What cannot be made shows in the write that follows.
     if (modeAt(directory) == 0) static_cast<void>(createDirectories(directory));
-    return RecordHold::ours;
+    return RecordLock::held;
 }
 
-Outcome PosixFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
-    const auto target = followedLinks(path);
+Status PosixFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
+    const auto target = resolvedLinks(path);
     if (isDevice(modeAt(target))) return Error{"replace " + target + ": a device"};
     const auto successor = target + ".tmp";
     // What a killed writer left may be anything by now; a new file is nobody else's.
@@ -172,7 +172,7 @@ Outcome PosixFileSystem::replaceAtomically(const std::string& path, std::string_
 }
 
 Result<std::optional<std::string>> PosixFileSystem::setAside(const std::string& path, std::string_view mark) {
-    const auto place = followedLinks(path);
+    const auto place = resolvedLinks(path);
     struct stat status {};
     const bool isThere = ::lstat(place.c_str(), &status) == 0;
     if (!isThere || isDevice(status.st_mode) || (S_ISREG(status.st_mode) && status.st_size == 0)) {
@@ -187,19 +187,19 @@ Result<std::optional<std::string>> PosixFileSystem::setAside(const std::string& 
     return std::optional(free);
 }
 
-std::optional<ExportFailure> PosixFileSystem::exportFile(const std::string& path, std::string_view content) {
-    const auto target = followedLinks(path);
+std::optional<ExportError> PosixFileSystem::exportFile(const std::string& path, std::string_view content) {
+    const auto target = resolvedLinks(path);
     const auto before = modeAt(target);
     if (before != 0 && !S_ISREG(before)) {
-        return ExportFailure{ExportFault::notAFile, "replace " + target + ": not a regular file"};
+        return ExportError{ExportErrorKind::notAFile, "replace " + target + ": not a regular file"};
     }
     const auto successor = makeHiddenNeighbour(target, before == 0 ? newFileMode : recordMode);
-    if (successor.descriptor < 0) return exportFailure({"open", target, errno});
+    if (successor.descriptor < 0) return exportError({"open", target, errno});
     if (before != 0) static_cast<void>(::fchmod(successor.descriptor, before & 07777));
     auto failure = replaceWith(successor.descriptor, successor.path, target, content);
     if (!failure) return std::nullopt;
     failure->path = target;  // The user's word for it; the other name is gone.
-    return exportFailure(*failure);
+    return exportError(*failure);
 }
 
 }  // namespace tidewatch::platform

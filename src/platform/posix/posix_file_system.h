@@ -29,22 +29,22 @@ public:
     explicit PosixFileSystem(std::string homeDirectory, DirectoryLock* lock = nullptr);
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
-    Outcome createDirectories(const std::string& path) override;
-    [[nodiscard]] FileResult<std::string> readWhole(const std::string& path) const override;
+    Status createDirectories(const std::string& path) override;
+    [[nodiscard]] FileResult<std::string> readFile(const std::string& path) const override;
     [[nodiscard]] FileResult<std::unique_ptr<FileReader>> openForReading(const std::string& path,
                                                                          std::uint64_t offset) const override;
     [[nodiscard]] FileResult<FileInfo> inspect(const std::string& path) const override;
-    [[nodiscard]] FileOutcome enumerate(const std::string& directory, HiddenFiles hidden,
-                                        const FileVisitor& visit) const override;
-    [[nodiscard]] RecordHold holdRecord(const std::string& directory) override;
-    Outcome replaceAtomically(const std::string& path, std::string_view content) override;
+    [[nodiscard]] FileStatus enumerate(const std::string& directory, HiddenFiles hidden,
+                                       const FileVisitor& visit) const override;
+    [[nodiscard]] RecordLock ensureRecordLock(const std::string& directory) override;
+    Status replaceAtomically(const std::string& path, std::string_view content) override;
 
     /// Of a link, what it leads to is set aside, in its own directory.
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
                                                               std::string_view mark) override;
 
-    [[nodiscard]] std::optional<ExportFailure> exportFile(const std::string& path,
-                                                          std::string_view content) override;
+    [[nodiscard]] std::optional<ExportError> exportFile(const std::string& path,
+                                                        std::string_view content) override;
 
 private:
     const std::string home_;

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/posix/system_error_text.h"
+#include "platform/posix/system_error.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -68,7 +68,7 @@ void removeSocketFolder(const std::string& path) {
 
 }  // namespace
 
-Outcome makePrivateDirectories(const std::string& path) {
+Status makePrivateDirectories(const std::string& path) {
     for (auto end = path.find('/', 1);; end = path.find('/', end + 1)) {
         const auto part = path.substr(0, end);
         if (::mkdir(part.c_str(), privateMode) == 0) {
@@ -81,16 +81,16 @@ Outcome makePrivateDirectories(const std::string& path) {
     }
 }
 
-void narrowFile(const std::string& path) {
+void restrictFile(const std::string& path) {
     narrow(path, S_IFREG);
 }
 
-void narrowDirectory(const std::string& path) {
+void restrictDirectory(const std::string& path) {
     narrow(path, S_IFDIR);
-    for (const auto& name : namesIn(path)) narrowFile(path + "/" + name);
+    for (const auto& name : namesIn(path)) restrictFile(path + "/" + name);
 }
 
-void sweepLeftovers(const std::string& directory) {
+void removeLeftovers(const std::string& directory) {
     for (const auto& name : namesIn(directory)) {
         const auto path = directory + "/" + name;
         if (name.ends_with(".json.tmp") && !S_ISDIR(inspected(path).st_mode)) ::unlink(path.c_str());

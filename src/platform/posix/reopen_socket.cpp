@@ -13,15 +13,15 @@
 #include <cerrno>
 #include <string_view>
 
-#include "platform/posix/shortage.h"
-#include "platform/posix/system_words.h"
+#include "platform/posix/errno_text.h"
+#include "platform/posix/resource_shortage.h"
 
 namespace tidewatch::platform {
 namespace {
 
 constexpr std::string_view socketName = "reopen.socket";
 constexpr std::string_view acknowledgement = "ok";
-constexpr int mostWaiting = 16;
+constexpr int maxPending = 16;
 
 int newSocket() {
     return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
@@ -65,15 +65,15 @@ Result<std::unique_ptr<ReopenSocket>> ReopenSocket::listenIn(const std::string& 
     ::unlink(pathIn(directory).c_str());
     const Address address(directory);
     ::fchmod(descriptor, 0600);
-    if (::bind(descriptor, address.get(), Address::size()) != 0 || ::listen(descriptor, mostWaiting) != 0) {
-        return Error{systemWords(errno)};
+    if (::bind(descriptor, address.get(), Address::size()) != 0 || ::listen(descriptor, maxPending) != 0) {
+        return Error{errnoText(errno)};
     }
     return socket;
 }
 
 Result<FileDescriptor> ReopenSocket::nextRequest() const {
     FileDescriptor request(::accept4(listening_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
-    if (!request.isOpen() && isShortage(errno)) return Error{systemWords(errno)};
+    if (!request.isOpen() && isResourceShortage(errno)) return Error{errnoText(errno)};
     return request;
 }
 
@@ -82,12 +82,12 @@ void ReopenSocket::answer(const FileDescriptor& request) {
     static_cast<void>(::send(request.get(), acknowledgement.data(), acknowledgement.size(), MSG_NOSIGNAL));
 }
 
-bool ReopenSocket::askIn(const std::string& directory, std::chrono::milliseconds patience) {
+bool ReopenSocket::askIn(const std::string& directory, std::chrono::milliseconds timeout) {
     const FileDescriptor socket(newSocket());
     const Address address(directory);
     if (::connect(socket.get(), address.get(), Address::size()) != 0) return false;
     pollfd answer{socket.get(), POLLIN, 0};
-    if (::poll(&answer, 1, static_cast<int>(patience.count())) <= 0) return false;
+    if (::poll(&answer, 1, static_cast<int>(timeout.count())) <= 0) return false;
     std::array<char, acknowledgement.size()> said{};
     return ::recv(socket.get(), said.data(), said.size(), 0) > 0;
 }

@@ -31,9 +31,9 @@ public:
 
     static void answer(const FileDescriptor& request);
 
-    /// Asks whoever listens in `directory`. True once it has answered; false after `patience`, or at once if
+    /// Asks whoever listens in `directory`. True once it has answered; false after `timeout`, or at once if
     /// nobody listens or whoever did is gone.
-    [[nodiscard]] static bool askIn(const std::string& directory, std::chrono::milliseconds patience);
+    [[nodiscard]] static bool askIn(const std::string& directory, std::chrono::milliseconds timeout);
 
 private:
     FileDescriptor listening_;

@@ -40,9 +40,9 @@ protected:
 
 private:
     [[nodiscard]] static bool isOrdinary(const QString& path) {
-        constexpr qint64 maximalSize = 1024 * 1024;
+        constexpr qint64 maxSize = 1024 * 1024;
         const QFileInfo info(path);
-        return !info.exists() || (info.isFile() && info.size() <= maximalSize);
+        return !info.exists() || (info.isFile() && info.size() <= maxSize);
     }
 
     // While it lives, new files are for their owner alone.

@@ -17,15 +17,15 @@ bool menuIsOpen() {
 
 /// One timer of the toolkit and all who share it. The wall clock may pass midnight between two timers, but
 /// hardly within one.
-class QtMainLoop::Beat final : public std::enable_shared_from_this<Beat> {
+class QtMainLoop::TimerGroup final : public std::enable_shared_from_this<TimerGroup> {
 public:
     struct Listener {
         TimerMode mode;
         Job fire;
     };
 
-    explicit Beat(std::chrono::milliseconds interval) {
-        // A precise timer keeps to its first beat: it neither drifts nor makes good what it missed.
+    explicit TimerGroup(std::chrono::milliseconds interval) {
+        // A precise timer keeps to its first group: it neither drifts nor makes good what it missed.
         timer_.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { fire(); });
         timer_.start(interval);
@@ -56,18 +56,19 @@ private:
 
 namespace {
 
-/// Keeps a listener on its beat.
-template <class Beat>
+/// Keeps a listener on its group.
+template <class TimerGroup>
 class Subscription final : public RepeatingTimer {
 public:
-    Subscription(std::shared_ptr<Beat> beat, typename Beat::Listener listener)
-        : beat_(std::move(beat)), listener_(std::make_shared<typename Beat::Listener>(std::move(listener))) {
-        beat_->join(listener_);
+    Subscription(std::shared_ptr<TimerGroup> group, typename TimerGroup::Listener listener)
+        : group_(std::move(group)),
+          listener_(std::make_shared<typename TimerGroup::Listener>(std::move(listener))) {
+        group_->join(listener_);
     }
 
 private:
-    std::shared_ptr<Beat> beat_;
-    std::shared_ptr<typename Beat::Listener> listener_;
+    std::shared_ptr<TimerGroup> group_;
+    std::shared_ptr<typename TimerGroup::Listener> listener_;
 };
 
 }  // namespace
@@ -81,17 +82,18 @@ void QtMainLoop::post(Job job) {
 
 std::unique_ptr<RepeatingTimer> QtMainLoop::repeat(std::chrono::milliseconds interval, TimerMode mode,
                                                    Job fire) {
-    return std::make_unique<Subscription<Beat>>(beat(interval), Beat::Listener{mode, std::move(fire)});
+    return std::make_unique<Subscription<TimerGroup>>(group(interval),
+                                                      TimerGroup::Listener{mode, std::move(fire)});
 }
 
-std::shared_ptr<QtMainLoop::Beat> QtMainLoop::beat(std::chrono::milliseconds interval) {
-    std::erase_if(beats_, [](const auto& beat) { return beat.expired(); });
-    for (const auto& each : beats_) {
-        const auto beat = each.lock();
-        if (beat->interval() == interval && beat->isYoung()) return beat;
+std::shared_ptr<QtMainLoop::TimerGroup> QtMainLoop::group(std::chrono::milliseconds interval) {
+    std::erase_if(groups_, [](const auto& group) { return group.expired(); });
+    for (const auto& each : groups_) {
+        const auto group = each.lock();
+        if (group->interval() == interval && group->isYoung()) return group;
     }
-    auto made = std::make_shared<Beat>(interval);
-    beats_.push_back(made);
+    auto made = std::make_shared<TimerGroup>(interval);
+    groups_.push_back(made);
     return made;
 }
 

@@ -20,11 +20,11 @@ public:
                                                          Job fire) override;
 
 private:
-    class Beat;
+    class TimerGroup;
 
-    [[nodiscard]] std::shared_ptr<Beat> beat(std::chrono::milliseconds interval);
+    [[nodiscard]] std::shared_ptr<TimerGroup> group(std::chrono::milliseconds interval);
 
-    std::vector<std::weak_ptr<Beat>> beats_;
+    std::vector<std::weak_ptr<TimerGroup>> groups_;
 };
 
 }  // namespace tidewatch::platform

@@ -31,38 +31,39 @@ X11ActiveApplication::X11ActiveApplication(const X11Connection& connection, Desk
     setWatched(connection_.root(), itsProperties);
     notifier_ =
         std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { takeEvents(); });
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [this] { processEvents(); });
 }
 
 X11ActiveApplication::~X11ActiveApplication() = default;
 
 std::optional<AppId> X11ActiveApplication::current() {
-    takeEvents();
+    processEvents();
     if (!connection_.alive()) return std::nullopt;
     // What changes during a look calls for another one.
-    constexpr int mostLooks = 3;
-    for (int looks = 0; stale_ && looks < mostLooks; ++looks) lookAgain();
+    constexpr int maxChecks = 3;
+    for (int looks = 0; stale_ && looks < maxChecks; ++looks) refresh();
     return application_;
 }
 
-void X11ActiveApplication::lookAgain() {
+void X11ActiveApplication::refresh() {
     stale_ = false;
     window_ = connection_.cardinal(connection_.root(), activeWindowAtom_).value_or(XCB_WINDOW_NONE);
     if (window_ == XCB_WINDOW_NONE) return;
     setWatched(window_, itsPropertiesAndEnd);
     application_ = identify(window_);
     // What came along with the answers no longer wakes the notifier.
-    takeEvents();
+    processEvents();
 }
 
-void X11ActiveApplication::takeEvents() {
+void X11ActiveApplication::processEvents() {
     while (const auto event = connection_.pollEvent()) {
-        if (changesTheAnswer(*event)) forget();
+        if (isRelevant(*event)) invalidate();
     }
     if (!connection_.alive() && notifier_) notifier_->setEnabled(false);
 }
 
-bool X11ActiveApplication::changesTheAnswer(const xcb_generic_event_t& event) const {
+bool X11ActiveApplication::isRelevant(const xcb_generic_event_t& event) const {
     switch (event.response_type & 0x7f) {
         case XCB_DESTROY_NOTIFY:
             return reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == window_;
@@ -78,7 +79,7 @@ bool X11ActiveApplication::changesTheAnswer(const xcb_generic_event_t& event) co
 }
 
 /// A window that is no longer in front must not go on reporting: nobody may ask for hours.
-void X11ActiveApplication::forget() {
+void X11ActiveApplication::invalidate() {
     stale_ = true;
     application_.reset();
     if (window_ != XCB_WINDOW_NONE) setWatched(std::exchange(window_, XCB_WINDOW_NONE), nothing);

@@ -30,10 +30,10 @@ public:
     [[nodiscard]] std::optional<AppId> current() override;
 
 private:
-    void takeEvents();
-    [[nodiscard]] bool changesTheAnswer(const xcb_generic_event_t& event) const;
-    void forget();
-    void lookAgain();
+    void processEvents();
+    [[nodiscard]] bool isRelevant(const xcb_generic_event_t& event) const;
+    void invalidate();
+    void refresh();
     void setWatched(xcb_window_t window, std::uint32_t events);
     [[nodiscard]] std::optional<AppId> identify(xcb_window_t window);
     [[nodiscard]] std::optional<pid_t> process(xcb_window_t window) const;

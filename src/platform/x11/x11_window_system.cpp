@@ -23,7 +23,7 @@ constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
 constexpr std::uint32_t actsForTheUser = 2;
 
 /// Far more than a healthy desktop needs, and too short to be noticed.
-constexpr auto framePatience = std::chrono::milliseconds(10);
+constexpr auto frameTimeout = std::chrono::milliseconds(10);
 
 xcb_window_t xWindow(WindowHandle window) {
     return static_cast<xcb_window_t>(window);
@@ -76,7 +76,8 @@ void X11WindowSystem::setInputRegion(WindowHandle window, Rectangle region) {
     xcb_flush(connection_.get());
 }
 
-Connection X11WindowSystem::onCovered(WindowHandle window, std::function<void(bool covered)> changed) {
+Connection X11WindowSystem::onOcclusionChanged(WindowHandle window,
+                                               std::function<void(bool covered)> changed) {
     auto& signal = covered_[xWindow(window)];
     if (!signal) signal = std::make_unique<Signal<bool>>();
     if (connection_.alive()) {
@@ -95,7 +96,7 @@ void X11WindowSystem::requestFrame(WindowHandle window) {
 FrameMargins X11WindowSystem::frameMargins(WindowHandle window) {
     if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return {};
     using Clock = std::chrono::steady_clock;
-    const auto end = Clock::now() + framePatience;
+    const auto end = Clock::now() + frameTimeout;
     auto extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
     // Anything that comes from the server may be word that the property is there now.
     for (auto now = Clock::now(); extents.empty() && now < end; now = Clock::now()) {
@@ -109,9 +110,9 @@ FrameMargins X11WindowSystem::frameMargins(WindowHandle window) {
     return {.left = side(0), .right = side(1), .top = side(2), .bottom = side(3)};
 }
 
-void X11WindowSystem::setFrameShade(WindowHandle window, FrameShade shade) {
+void X11WindowSystem::setFrameVariant(WindowHandle window, FrameVariant shade) {
     if (!connection_.alive()) return;
-    const std::string_view variant = shade == FrameShade::dark ? "dark" : "light";
+    const std::string_view variant = shade == FrameVariant::dark ? "dark" : "light";
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, xWindow(window), themeVariantAtom_,
                         utf8Atom_, 8, static_cast<std::uint32_t>(variant.size()), variant.data());
     waitForServer();

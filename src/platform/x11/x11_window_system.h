@@ -21,10 +21,10 @@ public:
     [[nodiscard]] bool isCompositing() const override { return compositing_; }
     Connection onCompositingChanged(std::function<void()> changed) override;
     void setInputRegion(WindowHandle window, Rectangle region) override;
-    Connection onCovered(WindowHandle window, std::function<void(bool covered)> changed) override;
+    Connection onOcclusionChanged(WindowHandle window, std::function<void(bool covered)> changed) override;
     void requestFrame(WindowHandle window) override;
     [[nodiscard]] FrameMargins frameMargins(WindowHandle window) override;
-    void setFrameShade(WindowHandle window, FrameShade shade) override;
+    void setFrameVariant(WindowHandle window, FrameVariant shade) override;
     void activate(WindowHandle window) override;
 
 private:

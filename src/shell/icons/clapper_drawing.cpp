@@ -49,17 +49,17 @@ QPainterPath ClapperDrawing::whole() const {
     return reduced(enlarged(slate) + enlarged(bar) + enlarged(hands) + enlarged(dot));
 }
 
-ClapperDrawing drawClapper(const ClapperMeasures& measures) {
+ClapperDrawing drawClapper(const ClapperMetrics& metrics) {
     QPainterPath dot;
-    dot.addEllipse(measures.slate.center(), measures.dotDiameter / 2, measures.dotDiameter / 2);
+    dot.addEllipse(metrics.slate.center(), metrics.dotDiameter / 2, metrics.dotDiameter / 2);
     const auto turn = QTransform()
-                          .translate(measures.barPivot.x(), measures.barPivot.y())
-                          .rotateRadians(measures.barTurn)
-                          .translate(-measures.barPivot.x(), -measures.barPivot.y());
+                          .translate(metrics.barPivot.x(), metrics.barPivot.y())
+                          .rotateRadians(metrics.barTurn)
+                          .translate(-metrics.barPivot.x(), -metrics.barPivot.y());
     return {
-        .slate = line(roundedRectangle(measures.slate, measures.slateCorner), measures.slateLine),
-        .bar = turn.map(roundedRectangle(measures.bar, measures.barCorner)),
-        .hands = line(hands(measures.slate), measures.handLine),
+        .slate = line(roundedRectangle(metrics.slate, metrics.slateCorner), metrics.slateLine),
+        .bar = turn.map(roundedRectangle(metrics.bar, metrics.barCorner)),
+        .hands = line(hands(metrics.slate), metrics.handLine),
         .dot = dot,
     };
 }

@@ -18,7 +18,7 @@ struct ClapperDrawing {
 };
 
 /// What the figure is drawn from; lengths in the units of the drawing.
-struct ClapperMeasures {
+struct ClapperMetrics {
     QRectF slate;
     double slateCorner = 0;
     double slateLine = 0;
@@ -30,6 +30,6 @@ struct ClapperMeasures {
     QPointF barPivot;
 };
 
-[[nodiscard]] ClapperDrawing drawClapper(const ClapperMeasures& measures);
+[[nodiscard]] ClapperDrawing drawClapper(const ClapperMetrics& metrics);
 
 }  // namespace tidewatch

@@ -19,7 +19,7 @@ QColor colour(const Color& from) {
                             static_cast<float>(from.blue), static_cast<float>(from.alpha));
 }
 
-ClapperMeasures menubarMeasures() {
+ClapperMetrics menubarMetrics() {
     constexpr double w = menubarIconWidth;
     constexpr double h = menubarIconHeight;
     const QRectF slate(0.16 * w, 0.10 * h, 0.68 * w, 0.52 * h);
@@ -36,7 +36,7 @@ ClapperMeasures menubarMeasures() {
     };
 }
 
-ClapperMeasures appIconMeasures() {
+ClapperMetrics appIconMetrics() {
     const auto fromTop = [](double y) { return appIconUnits - y; };
     return {
         .slate = QRectF(34, fromTop(134), 92, 58),
@@ -61,7 +61,7 @@ QImage clear(int width, int height) {
 
 QPainterPath menubarIconShape() {
     const auto upsideDown = QTransform::fromScale(1, -1) * QTransform::fromTranslate(0, menubarIconHeight);
-    return upsideDown.map(drawClapper(menubarMeasures()).whole());
+    return upsideDown.map(drawClapper(menubarMetrics()).whole());
 }
 
 QImage menubarIcon(double scale, const QColor& tint) {
@@ -86,7 +86,7 @@ QImage appIcon(int pixels) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(0, 0, appIconUnits, appIconUnits), 36, 36);
-    const auto drawing = drawClapper(appIconMeasures());
+    const auto drawing = drawClapper(appIconMetrics());
     painter.fillPath(drawing.slate, colour(paper));
     painter.fillPath(drawing.bar, colour(paper));
     painter.fillPath(drawing.hands, colour(green));

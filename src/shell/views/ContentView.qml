@@ -32,7 +32,7 @@ Item {
         anchors.fill: parent
         visible: root.presenter.backgroundMoves
         running: root.presenter.onScreen
-        time: root.presenter.wallTime
+        time: root.presenter.wallClock
         cornerRadius: root.presenter.cornerRadius
         unit: root.unit
         translucent: root.presenter.translucent

@@ -30,7 +30,7 @@ FocusScope {
 
     DashboardBackground {
         anchors.fill: parent
-        time: root.presenter.wallTime
+        time: root.presenter.wallClock
         running: !root.presenter.breakAlert.alertActive
     }
 

@@ -26,11 +26,11 @@ ClockPresenter::ClockPresenter(TimerEngine& engine, ThemeController& theme, cons
     : engine_(engine),
       theme_(theme),
       starsToday_(std::move(starsToday)),
-      wallTime_(clock),
-      engineChanged_(engine.changed.connect([this] { takeUpEngine(); })),
-      themeChanged_(theme.changed.connect([this] { takeUpTheme(); })) {
-    takeUpEngine();
-    takeUpTheme();
+      wallClock_(clock),
+      engineChanged_(engine.changed.connect([this] { syncEngine(); })),
+      themeChanged_(theme.changed.connect([this] { syncTheme(); })) {
+    syncEngine();
+    syncTheme();
 }
 
 PanelBackgroundItem::Kind ClockPresenter::background() const {
@@ -83,7 +83,7 @@ void ClockPresenter::change(Value& value, const Value& to, void (ClockPresenter:
     Q_EMIT(this->*changed)();
 }
 
-void ClockPresenter::takeUpEngine() {
+void ClockPresenter::syncEngine() {
     change(digits_, clockText(engine_.todaySeconds()), &ClockPresenter::digitsChanged);
     change(sessionLine_, "sesión · " + clockText(engine_.liveSeconds()), &ClockPresenter::sessionLineChanged);
     updateDot();
@@ -91,7 +91,7 @@ void ClockPresenter::takeUpEngine() {
     updateAccessibleText();
 }
 
-void ClockPresenter::takeUpTheme() {
+void ClockPresenter::syncTheme() {
     updateDot();
     updateStars();
     Q_EMIT themeChanged();

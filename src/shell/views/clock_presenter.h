@@ -12,7 +12,7 @@
 #include "platform/api/clock.h"
 #include "shell/themes/theme_controller.h"
 #include "ui/backgrounds/panel_background.h"
-#include "ui/backgrounds/wall_time.h"
+#include "ui/backgrounds/wall_clock.h"
 
 namespace tidewatch {
 
@@ -54,7 +54,7 @@ class ClockPresenter final : public QObject {
     // The window that it is shown in.
     Q_PROPERTY(bool translucent READ translucent NOTIFY translucentChanged FINAL)
     Q_PROPERTY(bool onScreen READ onScreen NOTIFY onScreenChanged FINAL)
-    Q_PROPERTY(tidewatch::WallTime* wallTime READ wallTime CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::WallClock* wallClock READ wallClock CONSTANT FINAL)
 
 public:
     /// The day's stars, from 0 on; asked at every change of the engine.
@@ -99,7 +99,7 @@ public:
 
     [[nodiscard]] bool translucent() const { return translucent_; }
     [[nodiscard]] bool onScreen() const { return onScreen_; }
-    [[nodiscard]] WallTime* wallTime() { return &wallTime_; }
+    [[nodiscard]] WallClock* wallClock() { return &wallClock_; }
 
     /// Whether the desktop may show through the panel; true at first.
     void setTranslucent(bool translucent);
@@ -119,8 +119,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] const Theme& active() const { return theme_.active(); }
-    void takeUpEngine();
-    void takeUpTheme();
+    void syncEngine();
+    void syncTheme();
     void updateDot();
     void updateStars();
     void updateAccessibleText();
@@ -130,7 +130,7 @@ private:
     TimerEngine& engine_;
     ThemeController& theme_;
     StarsToday starsToday_;
-    WallTime wallTime_;
+    WallClock wallClock_;
     QString digits_;
     QString sessionLine_;
     QColor dotColor_;

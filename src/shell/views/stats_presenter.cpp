@@ -7,38 +7,39 @@
 
 namespace tidewatch {
 
-StatsPresenter::StatsPresenter(const Sources& from, Commands commands)
-    : counters_(from.counters),
+StatsPresenter::StatsPresenter(const Sources& sources, Commands commands)
+    : counters_(sources.counters),
       commands_(std::move(commands)),
-      model_({.clock = from.clock,
-              .mainLoop = from.mainLoop,
-              .days = from.counters.daily,
-              .apps = from.counters.apps,
-              .hours = from.counters.hours,
-              .minutes = from.counters.minutes,
-              .keys = from.keys,
-              .categories = from.categories,
-              .scorer = from.scorer,
-              .projects = from.projects,
-              .projectTime = from.projectTime,
-              .appInfo = from.appInfo}),
-      engine_(from.clock, from.counters.daily, from.counters.hours, from.counters.minutes, from.categories),
-      wallTime_(from.clock),
+      model_({.clock = sources.clock,
+              .mainLoop = sources.mainLoop,
+              .days = sources.counters.daily,
+              .apps = sources.counters.apps,
+              .hours = sources.counters.hours,
+              .minutes = sources.counters.minutes,
+              .keys = sources.keys,
+              .categories = sources.categories,
+              .scorer = sources.scorer,
+              .projects = sources.projects,
+              .projectTime = sources.projectTime,
+              .appInfo = sources.appInfo}),
+      engine_(sources.clock, sources.counters.daily, sources.counters.hours, sources.counters.minutes,
+              sources.categories),
+      wallClock_(sources.clock),
       header_(model_, engine_),
       overview_(model_),
-      insights_(engine_, from.mainLoop),
-      goals_(model_, {.evaluator = from.goalEvaluator, .rewards = from.rewards, .goals = from.goals},
+      insights_(engine_, sources.mainLoop),
+      goals_(model_, {.evaluator = sources.goalEvaluator, .rewards = sources.rewards, .goals = sources.goals},
              commands_.exportReport),
       details_(model_, [this](const AppId& app, QPointF at) { commands_.reclassify(model_, app, at); }),
       timesheet_(model_),
-      projects_(model_, from.projects, from.counters.daily),
-      breakAlert_(from.breakReminder),
+      projects_(model_, sources.projects, sources.counters.daily),
+      breakAlert_(sources.breakReminder),
       rows_({{DashboardTab::overview, &overview_},
              {DashboardTab::goals, &goals_},
              {DashboardTab::details, &details_},
              {DashboardTab::timesheet, &timesheet_},
              {DashboardTab::projects, &projects_}}),
-      willShow_(from.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
+      willShow_(sources.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
 
 QStringList StatsPresenter::tabs() const {
     QStringList labels;
@@ -54,14 +55,14 @@ int StatsPresenter::tabIndex() const {
 void StatsPresenter::selectTab(int index) {
     if (index < 0 || index >= static_cast<int>(rows_.size()) || index == tabIndex()) return;
     model_.setTab(rows_[static_cast<std::size_t>(index)].tab);
-    updateOnShow();
+    updateVisibleTab();
     Q_EMIT tabChanged();
 }
 
 void StatsPresenter::disappear() {
     appeared_ = false;
     model_.stopLiveRefresh();
-    updateOnShow();
+    updateVisibleTab();
 }
 
 void StatsPresenter::reloadAll() {
@@ -72,12 +73,12 @@ void StatsPresenter::reloadAll() {
     model_.reload();
     model_.startLiveRefresh();
     appeared_ = true;
-    updateOnShow();
+    updateVisibleTab();
 }
 
-void StatsPresenter::updateOnShow() {
-    for (const auto& row : rows_) row.presenter->setOnShow(appeared_ && row.tab == model_.tab());
-    insights_.setOnShow(overview_.isOnShow());
+void StatsPresenter::updateVisibleTab() {
+    for (const auto& row : rows_) row.presenter->setVisible(appeared_ && row.tab == model_.tab());
+    insights_.setVisible(overview_.isVisible());
 }
 
 }  // namespace tidewatch

@@ -18,7 +18,7 @@
 #include "base/signal.h"
 #include "core/broadcaster.h"
 #include "core/timer_engine.h"
-#include "ui/backgrounds/wall_time.h"
+#include "ui/backgrounds/wall_clock.h"
 #include "wellbeing/views/break_presenter.h"
 
 namespace tidewatch {
@@ -41,7 +41,7 @@ class StatsPresenter final : public QObject {
     Q_PROPERTY(tidewatch::TimesheetPresenter* timesheet READ timesheet CONSTANT FINAL)
     Q_PROPERTY(tidewatch::ProjectsPresenter* projects READ projects CONSTANT FINAL)
     Q_PROPERTY(tidewatch::BreakPresenter* breakAlert READ breakAlert CONSTANT FINAL)
-    Q_PROPERTY(tidewatch::WallTime* wallTime READ wallTime CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::WallClock* wallClock READ wallClock CONSTANT FINAL)
 
 public:
     /// What the window's views lead to elsewhere.
@@ -69,7 +69,7 @@ public:
         BreakReminder& breakReminder;
     };
 
-    StatsPresenter(const Sources& from, Commands commands);
+    StatsPresenter(const Sources& sources, Commands commands);
 
     [[nodiscard]] QStringList tabs() const;
     [[nodiscard]] int tabIndex() const;
@@ -81,7 +81,7 @@ public:
     [[nodiscard]] TimesheetPresenter* timesheet() { return &timesheet_; }
     [[nodiscard]] ProjectsPresenter* projects() { return &projects_; }
     [[nodiscard]] BreakPresenter* breakAlert() { return &breakAlert_; }
-    [[nodiscard]] WallTime* wallTime() { return &wallTime_; }
+    [[nodiscard]] WallClock* wallClock() { return &wallClock_; }
 
     /// A place that is none of tabs() changes nothing.
     Q_INVOKABLE void selectTab(int index);
@@ -100,13 +100,13 @@ private:
     };
 
     void reloadAll();
-    void updateOnShow();
+    void updateVisibleTab();
 
     const CounterStores counters_;
     Commands commands_;
     DashboardModel model_;
     InsightsEngine engine_;
-    WallTime wallTime_;
+    WallClock wallClock_;
     HeaderPresenter header_;
     OverviewPresenter overview_;
     InsightsPresenter insights_;

@@ -9,12 +9,12 @@ namespace tidewatch {
 namespace {
 
 constexpr std::size_t maxNameBytes = 255;
-constexpr std::size_t longestExtension = 8;
+constexpr std::size_t maxExtensionLength = 8;
 
 /// From the last dot on; empty where what follows it is too long to be one.
 std::string_view extensionOf(std::string_view name) {
     const auto dot = name.rfind('.');
-    if (dot == std::string_view::npos || name.size() - dot > longestExtension) return {};
+    if (dot == std::string_view::npos || name.size() - dot > maxExtensionLength) return {};
     return name.substr(dot);
 }
 

@@ -6,7 +6,7 @@
 #include <QPixmap>
 #include <array>
 
-#include "shell/windows/fitting_text.h"
+#include "shell/windows/elided_text.h"
 #include "shell/windows/menu_style.h"
 
 namespace tidewatch {
@@ -23,7 +23,7 @@ constexpr double titleWidth = 320;
 
 /// A title as the menu wants it: an ampersand that is meant is written twice.
 QString rowTitle(const std::string& text, const QFont& font) {
-    return fittingLine(text, font, titleWidth).replace('&', "&&");
+    return elidedLine(text, font, titleWidth).replace('&', "&&");
 }
 
 /// A round dot of one colour, with a check mark on it where the row is checked: the icon takes the place that

@@ -28,7 +28,7 @@ constexpr int hintGap = 8;
 
 }  // namespace
 
-QtSurfaces::QtSurfaces(const Needs& needs) : with_(needs) {
+QtSurfaces::QtSurfaces(const Dependencies& dependencies) : dependencies_(dependencies) {
     engine_.setNetworkAccessManagerFactory(&noNetwork_);
 }
 
@@ -39,26 +39,26 @@ void QtSurfaces::registerFonts() {
 }
 
 std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
-    auto view = makeView("ContentView", with_.clock);
+    auto view = makeView("ContentView", dependencies_.clock);
     // Without it the clock is blank, and time is counted all the same.
     if (!view) view = std::make_unique<QQuickItem>();
     QuickPanelWindow::Content content{
         .item = std::move(view),
         .cornerRadius =
             [this](PanelSize panel) {
-                const auto& theme = with_.theme.active();
+                const auto& theme = dependencies_.theme.active();
                 return theme.cornerRadius * panel.width / theme.size.width;
             },
-        .setTranslucent = [this](bool translucent) { with_.clock.setTranslucent(translucent); },
-        .setOnScreen = [this](bool onScreen) { with_.clock.setOnScreen(onScreen); },
+        .setTranslucent = [this](bool translucent) { dependencies_.clock.setTranslucent(translucent); },
+        .setOnScreen = [this](bool onScreen) { dependencies_.clock.setOnScreen(onScreen); },
     };
-    auto window = std::make_unique<QuickPanelWindow>(with_.windowSystem, std::move(content), size);
+    auto window = std::make_unique<QuickPanelWindow>(dependencies_.windowSystem, std::move(content), size);
     panel_ = window.get();
     return window;
 }
 
 std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
-    return std::make_unique<TrayStatusItem>(with_.theme);
+    return std::make_unique<TrayStatusItem>(dependencies_.theme);
 }
 
 std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject& presenter) {
@@ -66,7 +66,7 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject
     component.setData("import Tidewatch.Shell\n" + name + " {}", QUrl());
     if (!component.isReady()) return brokenView(name, component.errorString());
     // The engine knows the style module from the import on.
-    Style::of(engine_)->follow(with_.theme);
+    Style::of(engine_)->follow(dependencies_.theme);
     const QVariantMap properties{{"presenter", QVariant::fromValue(&presenter)}};
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
     auto* item = qobject_cast<QQuickItem*>(object.get());
@@ -76,19 +76,19 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject
 }
 
 std::unique_ptr<QQuickItem> QtSurfaces::brokenView(const QByteArray& name, const QString& errors) {
-    with_.log.warning("Tidewatch: failed to make the view " + name.toStdString() + ": " +
-                      errors.simplified().toStdString());
+    dependencies_.log.warning("Tidewatch: failed to make the view " + name.toStdString() + ": " +
+                              errors.simplified().toStdString());
     return nullptr;
 }
 
-void QtSurfaces::forgetViews() {
+void QtSurfaces::clearViewCache() {
     engine_.collectGarbage();
     engine_.trimComponentCache();
 }
 
 void QtSurfaces::popUpMenu(const MenuRows& rows, platform::Point at) {
     if (menu_) menu_->close();
-    menu_ = new MenuView(rows, with_.theme.active().dashboard);
+    menu_ = new MenuView(rows, dependencies_.theme.active().dashboard);
     menu_->popup(QPointF(at.x, at.y).toPoint());
 }
 
@@ -98,7 +98,7 @@ void QtSurfaces::showHint(const std::string& hint) {
     label->setAttribute(Qt::WA_DeleteOnClose);
     label->setWordWrap(true);
     label->setFixedWidth(hintWidth);
-    label->setStyleSheet(hintStyleSheet(with_.theme.active().dashboard));
+    label->setStyleSheet(hintStyleSheet(dependencies_.theme.active().dashboard));
     label->adjustSize();
     if (panel_ && panel_->screen() != nullptr) {
         const auto free = panel_->screen()->availableGeometry();
@@ -111,13 +111,13 @@ void QtSurfaces::showHint(const std::string& hint) {
 }
 
 void QtSurfaces::warn(const std::string& title, const std::string& message) {
-    auto* dialog = new QuestionDialog({title}, {message}, with_.theme.active().dashboard);
+    auto* dialog = new QuestionDialog({title}, {message}, dependencies_.theme.active().dashboard);
     dialog->addButtons("OK", QuestionDialog::Cancel::absent);
     dialog->present();
 }
 
 void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) {
-    auto* dialog = new QuestionDialog({prompt.title}, prompt.text, with_.theme.active().dashboard);
+    auto* dialog = new QuestionDialog({prompt.title}, prompt.text, dependencies_.theme.active().dashboard);
     auto* field = dialog->addField(prompt.fieldWidth, text(prompt.placeholder), text(prompt.initial));
     dialog->addButtons(text(prompt.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, field,
@@ -126,15 +126,16 @@ void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> 
 }
 
 void QtSurfaces::confirm(const Confirmation& question, std::function<void()> accepted) {
-    auto* dialog = new QuestionDialog(question.title, {question.text}, with_.theme.active().dashboard);
+    auto* dialog =
+        new QuestionDialog(question.title, {question.text}, dependencies_.theme.active().dashboard);
     dialog->addButtons(text(question.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, dialog, accepted);
     dialog->present();
 }
 
 void QtSurfaces::chooseSaveLocation(const SaveRequest& request, std::function<void(std::string)> accepted) {
-    if (saveFolder_.isEmpty()) saveFolder_ = text(with_.desktop.documentsDirectory());
-    presentSaveDialog(request, saveFolder_, with_.theme.active().dashboard,
+    if (saveFolder_.isEmpty()) saveFolder_ = text(dependencies_.desktop.documentsDirectory());
+    presentSaveDialog(request, saveFolder_, dependencies_.theme.active().dashboard,
                       [this, accepted = std::move(accepted)](const QString& path) {
                           saveFolder_ = QFileInfo(path).absolutePath();
                           accepted(path.toStdString());

@@ -22,7 +22,7 @@ namespace tidewatch {
 class QtSurfaces final : public Surfaces, private Dialogs {
 public:
     /// What the surfaces work with; all of it must outlive them and what they make.
-    struct Needs {
+    struct Dependencies {
         platform::Log& log;
         platform::WindowSystem& windowSystem;
         const platform::Desktop& desktop;
@@ -30,7 +30,7 @@ public:
         ClockPresenter& clock;
     };
 
-    explicit QtSurfaces(const Needs& needs);
+    explicit QtSurfaces(const Dependencies& dependencies);
     ~QtSurfaces() override;
 
     void registerFonts() override;
@@ -45,7 +45,7 @@ public:
     [[nodiscard]] std::unique_ptr<QQuickItem> makeView(const QByteArray& name, QObject& presenter);
 
     /// Frees what is kept for views that may never be made again.
-    void forgetViews();
+    void clearViewCache();
 
 private:
     [[nodiscard]] std::unique_ptr<QQuickItem> brokenView(const QByteArray& name, const QString& errors);
@@ -55,7 +55,7 @@ private:
     void chooseSaveLocation(const SaveRequest& request,
                             std::function<void(std::string path)> accepted) override;
 
-    const Needs with_;
+    const Dependencies dependencies_;
     NoNetwork noNetwork_;
     QQmlEngine engine_;
     QPointer<QuickPanelWindow> panel_;

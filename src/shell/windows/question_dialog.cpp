@@ -11,7 +11,7 @@
 #include <QVBoxLayout>
 #include <limits>
 
-#include "shell/windows/fitting_text.h"
+#include "shell/windows/elided_text.h"
 #include "shell/windows/menu_style.h"
 #include "ui/texts/qt_text.h"
 
@@ -23,12 +23,12 @@ constexpr int textWidth = 320;
 constexpr int margin = 24;
 
 /// The text on lines of `textWidth`: its name on the line on which it begins, and no word wider than a line.
-QString fitted(const NamingText& text, const QFont& font) {
+QString fitted(const TextWithName& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     const auto before = tidewatch::text(text.before);
     const auto after = tidewatch::text(text.after);
     const double free = textWidth - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after);
-    if (!text.name.empty()) return before + fittingLine(text.name, font, free) + after;
+    if (!text.name.empty()) return before + elidedLine(text.name, font, free) + after;
     auto words = (before + after).split(u' ');
     for (auto& word : words) word = metrics.elidedText(word, Qt::ElideMiddle, textWidth);
     return words.join(u' ');
@@ -36,7 +36,8 @@ QString fitted(const NamingText& text, const QFont& font) {
 
 }  // namespace
 
-QuestionDialog::QuestionDialog(const NamingText& title, const NamingText& text, const DashboardStyle& style)
+QuestionDialog::QuestionDialog(const TextWithName& title, const TextWithName& text,
+                               const DashboardStyle& style)
     : rows_(new QVBoxLayout(this)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(true);
@@ -48,7 +49,7 @@ QuestionDialog::QuestionDialog(const NamingText& title, const NamingText& text, 
     setAccessibleDescription(addText("text", text)->text());
 }
 
-QLabel* QuestionDialog::addText(const char* name, const NamingText& text) {
+QLabel* QuestionDialog::addText(const char* name, const TextWithName& text) {
     auto* label = new QLabel(this);
     label->setObjectName(name);
     label->setTextFormat(Qt::PlainText);

@@ -16,7 +16,7 @@ namespace tidewatch {
 /// Deletes itself when it is answered.
 class QuestionDialog final : public QDialog {
 public:
-    QuestionDialog(const NamingText& title, const NamingText& text, const DashboardStyle& style);
+    QuestionDialog(const TextWithName& title, const TextWithName& text, const DashboardStyle& style);
 
     /// `width` in points. The field has the focus; the dialog owns it.
     QLineEdit* addField(double width, const QString& placeholder, const QString& initial);
@@ -30,7 +30,7 @@ public:
     void present();
 
 private:
-    QLabel* addText(const char* name, const NamingText& text);
+    QLabel* addText(const char* name, const TextWithName& text);
 
     QVBoxLayout* rows_;
 };

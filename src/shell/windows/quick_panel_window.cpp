@@ -33,11 +33,11 @@ QRegion roundedRegion(const QSize& size, double radius) {
 /// `size`, made smaller in its proportions where no screen is large enough to show it: pixels that nobody
 /// sees cost memory all the same.
 PanelSize withinScreens(const PanelSize& size) {
-    QSizeF most;
-    for (const auto* screen : QGuiApplication::screens()) most = most.expandedTo(screen->size());
-    if (most.isEmpty()) return size;
-    if (!std::isfinite(size.width) || !std::isfinite(size.height)) return {most.width(), most.height()};
-    const double factor = std::min({1.0, most.width() / size.width, most.height() / size.height});
+    QSizeF largest;
+    for (const auto* screen : QGuiApplication::screens()) largest = largest.expandedTo(screen->size());
+    if (largest.isEmpty()) return size;
+    if (!std::isfinite(size.width) || !std::isfinite(size.height)) return {largest.width(), largest.height()};
+    const double factor = std::min({1.0, largest.width() / size.width, largest.height() / size.height});
     return {size.width * factor, size.height * factor};
 }
 
@@ -61,7 +61,7 @@ QuickPanelWindow::QuickPanelWindow(platform::WindowSystem& windowSystem, Content
     });
     create();
     compositing_ = windowSystem_.onCompositingChanged([this] { adaptToCompositor(); });
-    covering_ = windowSystem_.onCovered(winId(), [this](bool covered) {
+    covering_ = windowSystem_.onOcclusionChanged(winId(), [this](bool covered) {
         covered_ = covered;
         updateOnScreen();
     });

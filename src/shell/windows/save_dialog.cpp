@@ -18,8 +18,8 @@
 #include <QWindow>
 #include <utility>
 
+#include "shell/windows/elided_text.h"
 #include "shell/windows/file_name.h"
-#include "shell/windows/fitting_text.h"
 #include "shell/windows/menu_style.h"
 #include "ui/texts/qt_text.h"
 
@@ -29,7 +29,7 @@ namespace {
 
 constexpr QSize dialogSize(780, 480);
 constexpr int placesWidth = 150;
-constexpr int leastColumnWidth = 90;
+constexpr int minColumnWidth = 90;
 constexpr int questionWidth = 360;
 
 /// How a kind of file is told apart.
@@ -54,7 +54,7 @@ QFont dialogFont() {
     return font;
 }
 
-void wear(QWidget& widget, const DashboardStyle& style) {
+void apply(QWidget& widget, const DashboardStyle& style) {
     widget.setPalette(dialogPalette(style));
     widget.setFont(dialogFont());
     for (auto* button : widget.findChildren<QPushButton*>()) button->setIcon({});
@@ -70,7 +70,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::ChildPolished) {
             auto* child = static_cast<QChildEvent*>(event)->child();
-            if (auto* question = qobject_cast<QDialog*>(child)) wear(*question, style_);
+            if (auto* question = qobject_cast<QDialog*>(child)) apply(*question, style_);
         }
         return QObject::eventFilter(watched, event);
     }
@@ -84,10 +84,10 @@ void wearInside(QFileDialog& dialog, const DashboardStyle& style) {
     if (auto* places = dialog.findChild<QListView*>("sidebar")) places->setMinimumWidth(placesWidth);
     if (auto* files = dialog.findChild<QTreeView*>("treeView")) {
         files->header()->setStretchLastSection(true);
-        files->header()->setMinimumSectionSize(leastColumnWidth);
+        files->header()->setMinimumSectionSize(minColumnWidth);
     }
     const auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
-    if (name != nullptr && name->completer() != nullptr) wear(*name->completer()->popup(), style);
+    if (name != nullptr && name->completer() != nullptr) apply(*name->completer()->popup(), style);
 }
 
 void putWordsOn(QFileDialog& dialog) {
@@ -157,7 +157,7 @@ private:
     bool mayReplace(const QString& path) {
         const auto question =
             QFileDialog::tr("%1 already exists.\nDo you want to replace it?")
-                .arg(fittingLine(QFileInfo(path).fileName().toStdString(), font(), questionWidth));
+                .arg(elidedLine(QFileInfo(path).fileName().toStdString(), font(), questionWidth));
         QMessageBox box(QMessageBox::Warning, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
                         this);
         box.setTextFormat(Qt::PlainText);
@@ -177,7 +177,7 @@ QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(type.extension);
     putWordsOn(*dialog);
-    wear(*dialog, style);
+    apply(*dialog, style);
     wearInside(*dialog, style);
     new QuestionTailor(*dialog, style);
     dialog->resize(dialogSize);

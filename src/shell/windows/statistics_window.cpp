@@ -12,7 +12,7 @@ namespace tidewatch {
 
 namespace {
 
-constexpr QSize leastSize(820, 560);  // what the user can make of it
+constexpr QSize minSize(820, 560);  // what the user can make of it
 
 }  // namespace
 
@@ -21,7 +21,7 @@ class QuickStatisticsWindow::Frame final : public QQuickWindow {
 public:
     explicit Frame(std::function<void()> askedToClose) : askedToClose_(std::move(askedToClose)) {
         setTitle("FATHOM · Estadísticas");
-        setMinimumSize(leastSize);
+        setMinimumSize(minSize);
     }
 
     void setView(std::unique_ptr<QQuickItem> view) {
@@ -47,10 +47,10 @@ private:
     std::function<void()> askedToClose_;
 };
 
-QuickStatisticsWindow::QuickStatisticsWindow(const Needs& needs, Content content)
-    : with_(needs),
+QuickStatisticsWindow::QuickStatisticsWindow(const Dependencies& dependencies, Content content)
+    : dependencies_(dependencies),
       content_(std::move(content)),
-      themeChanges_(needs.broadcaster.observe<ThemeChanged>([this](const auto&) { wearTheme(); })) {}
+      themeChanges_(dependencies.broadcaster.observe<ThemeChanged>([this](const auto&) { applyTheme(); })) {}
 
 QuickStatisticsWindow::~QuickStatisticsWindow() = default;
 
@@ -59,13 +59,13 @@ void QuickStatisticsWindow::showWindow() {
         auto window = std::make_unique<Frame>([this] { close(); });
         window->create();
         // While the view is being made, the desktop has time to answer.
-        with_.windowSystem.requestFrame(window->winId());
+        dependencies_.windowSystem.requestFrame(window->winId());
         auto view = content_.makeView();
         if (!view) return;
         window->setView(std::move(view));
         window_ = std::move(window);
     }
-    wearTheme();
+    applyTheme();
     const auto target = placement();
     // A window manager takes no size for a window that it keeps as large as the screen.
     if (window_->isVisible()) window_->showNormal();
@@ -73,8 +73,8 @@ void QuickStatisticsWindow::showWindow() {
     window_->showNormal();
     window_->raise();
     window_->requestActivate();
-    with_.windowSystem.activate(window_->winId());
-    with_.broadcaster.post(DashboardWillShow{});
+    dependencies_.windowSystem.activate(window_->winId());
+    dependencies_.broadcaster.post(DashboardWillShow{});
 }
 
 void QuickStatisticsWindow::close() {
@@ -89,21 +89,21 @@ bool QuickStatisticsWindow::isVisible() const {
     return window_ && window_->isVisible() && !window_->windowStates().testFlag(Qt::WindowMinimized);
 }
 
-void QuickStatisticsWindow::wearTheme() {
+void QuickStatisticsWindow::applyTheme() {
     if (!window_) return;
-    const auto& style = with_.theme.active().dashboard;
+    const auto& style = dependencies_.theme.active().dashboard;
     window_->setColor(toQColor(style.nsBackground));
-    with_.windowSystem.setFrameShade(window_->winId(), style.nsAppearance == Appearance::dark
-                                                           ? platform::FrameShade::dark
-                                                           : platform::FrameShade::light);
+    dependencies_.windowSystem.setFrameVariant(window_->winId(), style.nsAppearance == Appearance::dark
+                                                                     ? platform::FrameVariant::dark
+                                                                     : platform::FrameVariant::light);
 }
 
 QRect QuickStatisticsWindow::placement() {
-    const auto frame = statisticsFrame(with_.screens);
+    const auto frame = statisticsFrame(dependencies_.screens);
     // A window that fills the screen has another frame until the window manager has taken it back.
     const auto filling = Qt::WindowMaximized | Qt::WindowFullScreen;
     if ((window_->windowStates() & filling) == 0 || !margins_) {
-        margins_ = with_.windowSystem.frameMargins(window_->winId());
+        margins_ = dependencies_.windowSystem.frameMargins(window_->winId());
     }
     const auto& margins = *margins_;
     const double ratio = window_->devicePixelRatio();
@@ -116,7 +116,7 @@ void QuickStatisticsWindow::destroyRetired() {
     if (!retired_) return;
     retired_.reset();
     content_.viewDestroyed();
-    with_.memory.giveBackUnused();
+    dependencies_.memory.releaseUnused();
 }
 
 }  // namespace tidewatch

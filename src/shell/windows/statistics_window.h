@@ -29,7 +29,7 @@ public:
     };
 
     /// What the window works with; all of it must outlive this object.
-    struct Needs {
+    struct Dependencies {
         platform::WindowSystem& windowSystem;
         const platform::Screens& screens;
         platform::ProcessMemory& memory;
@@ -37,7 +37,7 @@ public:
         Broadcaster& broadcaster;
     };
 
-    QuickStatisticsWindow(const Needs& needs, Content content);
+    QuickStatisticsWindow(const Dependencies& dependencies, Content content);
     ~QuickStatisticsWindow() override;
 
     void showWindow() override;
@@ -47,12 +47,12 @@ public:
 private:
     class Frame;
 
-    void wearTheme();
+    void applyTheme();
     /// Where the window belongs, without its frame.
     [[nodiscard]] QRect placement();
     void destroyRetired();
 
-    const Needs with_;
+    const Dependencies dependencies_;
     Content content_;
     Connection themeChanges_;
     std::unique_ptr<Frame> window_;

@@ -8,7 +8,7 @@ Rectangle {
     id: root
 
     /*! What moves the grounds that move. */
-    property WallTime time
+    property WallClock time
 
     /*! Whether anything of it can be seen, so that it is worth moving. */
     property bool running: true

@@ -10,8 +10,8 @@ namespace tidewatch {
 namespace {
 
 /// Below this width, in pixels, the orbs would lose their shape; above the other one nothing is gained.
-constexpr double leastWidth = 48;
-constexpr double greatestWidth = 160;
+constexpr double minWidth = 48;
+constexpr double maxWidth = 160;
 
 }  // namespace
 
@@ -30,7 +30,7 @@ void LiquidBackground::change(Value& value, Value to) {
     Q_EMIT changed();
 }
 
-void LiquidBackground::setTime(WallTime* time) {
+void LiquidBackground::setTime(WallClock* time) {
     if (time == time_) return;
     time_ = time;
     update();
@@ -69,7 +69,7 @@ void LiquidBackground::setRunning(bool running) {
 }
 
 QSize LiquidBackground::paintedSize() const {
-    const double target = std::clamp(width() / reduction_, std::min(leastWidth, width()), greatestWidth);
+    const double target = std::clamp(width() / reduction_, std::min(minWidth, width()), maxWidth);
     const double scale = target / width();
     return {std::max(1, qRound(target)), std::max(1, qRound(height() * scale))};
 }

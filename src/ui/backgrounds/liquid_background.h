@@ -9,7 +9,7 @@
 #include "ui/backgrounds/frame_ticker.h"
 #include "ui/backgrounds/liquid_painter.h"
 #include "ui/backgrounds/panel_shape.h"
-#include "ui/backgrounds/wall_time.h"
+#include "ui/backgrounds/wall_clock.h"
 
 namespace tidewatch {
 
@@ -19,7 +19,7 @@ class LiquidBackground : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     /// Where the movement stands; without it the liquid stands still.
-    Q_PROPERTY(tidewatch::WallTime* time READ time WRITE setTime NOTIFY changed FINAL)
+    Q_PROPERTY(tidewatch::WallClock* time READ time WRITE setTime NOTIFY changed FINAL)
     /// Strength of the colours, from 0 to 1.
     Q_PROPERTY(double intensity READ intensity WRITE setIntensity NOTIFY changed FINAL)
     /// In points of the unscaled drawing.
@@ -37,8 +37,8 @@ public:
     explicit LiquidBackground(QQuickItem* parent = nullptr);
     ~LiquidBackground() override;
 
-    [[nodiscard]] WallTime* time() const { return time_; }
-    void setTime(WallTime* time);
+    [[nodiscard]] WallClock* time() const { return time_; }
+    void setTime(WallClock* time);
     [[nodiscard]] double intensity() const { return intensity_; }
     void setIntensity(double intensity);
     [[nodiscard]] double cornerRadius() const { return cornerRadius_; }
@@ -74,7 +74,7 @@ private:
     void updateMoving();
     [[nodiscard]] QSize paintedSize() const;
 
-    QPointer<WallTime> time_;
+    QPointer<WallClock> time_;
     double intensity_ = 1;
     double cornerRadius_ = 0;
     double unit_ = 1;

@@ -23,7 +23,7 @@ T.Pane {
     }
 
     background: Rectangle {
-        radius: Style.measures.cardRadius
+        radius: Style.metrics.cardRadius
         color: Style.palette.ground
     }
 }

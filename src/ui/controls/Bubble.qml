@@ -8,14 +8,14 @@ Item {
 
     property string text
 
-    readonly property real mostWidth: 420
+    readonly property real maxWidth: 420
 
     anchors.fill: parent
     Accessible.ignored: true
 
     T.ToolTip {
         y: root.height + 6
-        implicitWidth: Math.min(root.mostWidth, implicitContentWidth + leftPadding + rightPadding)
+        implicitWidth: Math.min(root.maxWidth, implicitContentWidth + leftPadding + rightPadding)
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
         // Between it and the edges of the window.
         margins: 8
@@ -34,7 +34,7 @@ Item {
         }
 
         background: Rectangle {
-            radius: Style.measures.controlRadius
+            radius: Style.metrics.controlRadius
             // The cards of some themes let through what lies behind them.
             color: Style.palette.windowBackground
             border.width: 1
@@ -43,7 +43,7 @@ Item {
             Rectangle {
                 anchors.fill: parent
                 anchors.margins: 1
-                radius: Style.measures.controlRadius
+                radius: Style.metrics.controlRadius
                 color: Style.palette.cardSubtle
             }
         }

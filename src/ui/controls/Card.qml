@@ -6,7 +6,7 @@ import Tidewatch.Ui
     A rounded ground for what belongs together. Give it one child: the card is by itself as large as that child
     wants to be, and the child may fill it (`anchors.fill: parent`).
 
-    What it is for assistive technology goes into `spoken` and `spokenRole`: the template insists on a role of its
+    What it is for assistive technology goes into `accessibleText` and `accessibleRole`: the template insists on a role of its
     own for itself.
 */
 T.Pane {
@@ -15,8 +15,8 @@ T.Pane {
     property color color: Style.palette.card
 
     /*! Without it only what lies in the card speaks. */
-    property string spoken
-    property int spokenRole: Accessible.Grouping
+    property string accessibleText
+    property int accessibleRole: Accessible.Grouping
 
     implicitWidth: Math.max(implicitBackgroundWidth, contentWidth + leftPadding + rightPadding)
     implicitHeight: Math.max(implicitBackgroundHeight, contentHeight + topPadding + bottomPadding)
@@ -24,18 +24,18 @@ T.Pane {
     Accessible.ignored: true
 
     contentItem: Item {
-        Accessible.role: root.spokenRole
-        Accessible.name: root.spoken
-        Accessible.ignored: root.spoken === ""
+        Accessible.role: root.accessibleRole
+        Accessible.name: root.accessibleText
+        Accessible.ignored: root.accessibleText === ""
     }
 
     background: Rectangle {
-        radius: Style.measures.cardRadius
+        radius: Style.metrics.cardRadius
         color: Style.palette.ground
 
         Rectangle {
             anchors.fill: parent
-            radius: Style.measures.cardRadius
+            radius: Style.metrics.cardRadius
             color: root.color
             border.width: 1
             border.color: Style.palette.stroke

@@ -29,7 +29,7 @@ PressButton {
     Keys.onEnterPressed: flip()
 
     contentItem: Row {
-        spacing: Style.measures.spacing
+        spacing: Style.metrics.spacing
 
         Rectangle {
             anchors.verticalCenter: parent.verticalCenter

@@ -19,7 +19,7 @@ ColumnLayout {
         side: 36
         color: Style.palette.muteSoft
     }
-    SpokenText {
+    AccessibleText {
         Layout.fillWidth: true
         Layout.bottomMargin: root.text === "" ? 40 : 0
         horizontalAlignment: Text.AlignHCenter
@@ -28,7 +28,7 @@ ColumnLayout {
         font: Style.sans(14, Style.Medium)
         color: Style.palette.secondaryText
     }
-    SpokenText {
+    AccessibleText {
         Layout.fillWidth: true
         Layout.bottomMargin: 40
         visible: root.text !== ""

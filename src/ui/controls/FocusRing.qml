@@ -8,7 +8,7 @@ Rectangle {
     property bool shown: false
 
     /*! Of the control inside. */
-    property real controlRadius: Style.measures.controlRadius
+    property real controlRadius: Style.metrics.controlRadius
 
     /*! Between the control and the ring. */
     property real gap: 2

@@ -87,7 +87,7 @@ Item {
 
                 Behavior on x {
                     NumberAnimation {
-                        duration: Style.measures.quickDuration
+                        duration: Style.metrics.quickDuration
                         easing.type: Easing.OutCubic
                     }
                 }

@@ -7,7 +7,7 @@ T.AbstractButton {
     id: root
 
     property string accessibleName: text
-    property real cornerRadius: Style.measures.controlRadius
+    property real cornerRadius: Style.metrics.controlRadius
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: 30

@@ -94,7 +94,7 @@ Item {
 
         target: flickable
         property: "contentY"
-        duration: Style.measures.quickDuration
+        duration: Style.metrics.quickDuration
         easing.type: Easing.OutCubic
     }
 

@@ -45,7 +45,7 @@ T.TextField {
     onTextEdited: edited(text)
 
     background: Rectangle {
-        radius: Style.measures.chipRadius
+        radius: Style.metrics.chipRadius
         color: Style.palette.cardSubtle
         border.width: 1
         border.color: root.activeFocus ? Style.palette.strongMute : Style.palette.stroke
@@ -93,6 +93,6 @@ T.TextField {
         shown: root.activeFocus && (root.focusReason === Qt.TabFocusReason
                                     || root.focusReason === Qt.BacktabFocusReason
                                     || root.focusReason === Qt.ShortcutFocusReason)
-        controlRadius: Style.measures.chipRadius
+        controlRadius: Style.metrics.chipRadius
     }
 }

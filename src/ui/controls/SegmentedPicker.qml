@@ -33,7 +33,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        radius: Style.measures.chipRadius
+        radius: Style.metrics.chipRadius
         color: "transparent"
         border.width: 1
         border.color: Style.palette.stroke
@@ -92,7 +92,7 @@ Item {
                 }
 
                 background: Rectangle {
-                    radius: Style.measures.controlRadius
+                    radius: Style.metrics.controlRadius
                     color: segment.chosen ? Style.palette.cardSubtle : "transparent"
                     border.width: segment.chosen ? 1 : 0
                     border.color: Style.palette.stroke

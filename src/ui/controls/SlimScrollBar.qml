@@ -26,7 +26,7 @@ T.ScrollBar {
 
         Behavior on opacity {
             NumberAnimation {
-                duration: root.active ? Style.measures.quickDuration : 3 * Style.measures.duration
+                duration: root.active ? Style.metrics.quickDuration : 3 * Style.metrics.duration
             }
         }
     }

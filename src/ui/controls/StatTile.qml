@@ -8,14 +8,14 @@ Card {
 
     required property statTile row
 
-    spoken: row.title + ": " + row.value + ", " + row.subtitle
+    accessibleText: row.title + ": " + row.value + ", " + row.subtitle
 
     ColumnLayout {
         anchors.fill: parent
         spacing: 4
 
         RowLayout {
-            spacing: Style.measures.spacing
+            spacing: Style.metrics.spacing
 
             Symbol {
                 name: root.row.symbol

@@ -58,7 +58,7 @@ Item {
 
     Rectangle {
         anchors.fill: parent
-        radius: Style.measures.controlRadius
+        radius: Style.metrics.controlRadius
         color: "transparent"
         border.width: 1
         border.color: Style.palette.stroke

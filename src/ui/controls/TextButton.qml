@@ -20,11 +20,11 @@ PressButton {
     implicitHeight: 36
     // A wider button has its words in the middle.
     horizontalPadding: Math.round((width - implicitContentWidth) / 2)
-    cornerRadius: Style.measures.chipRadius
+    cornerRadius: Style.metrics.chipRadius
     opacity: primary && !enabled ? 0.45 : 1
 
     contentItem: Row {
-        spacing: Style.measures.spacing
+        spacing: Style.metrics.spacing
 
         Symbol {
             anchors.verticalCenter: parent.verticalCenter

@@ -2,15 +2,15 @@
 
 namespace tidewatch {
 
-void TabPresenter::setOnShow(bool onShow) {
-    if (onShow == onShow_) return;
-    onShow_ = onShow;
-    onShowChanged();
-    updateIfOnShow();
+void TabPresenter::setVisible(bool visible) {
+    if (visible == visible_) return;
+    visible_ = visible;
+    visibilityChanged();
+    updateIfVisible();
 }
 
-void TabPresenter::updateIfOnShow() {
-    if (onShow_) update();
+void TabPresenter::updateIfVisible() {
+    if (visible_) update();
 }
 
 }  // namespace tidewatch

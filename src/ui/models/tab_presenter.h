@@ -14,15 +14,15 @@ class TabPresenter : public QObject {
 
 public:
     /// Whether the tab is on show; false at first. One that comes on show catches up at once.
-    void setOnShow(bool onShow);
-    [[nodiscard]] bool isOnShow() const { return onShow_; }
+    void setVisible(bool visible);
+    [[nodiscard]] bool isVisible() const { return visible_; }
 
 protected:
     /// Reads all that the model says.
     virtual void update() = 0;
 
     /// The tab has come on show, or has gone.
-    virtual void onShowChanged() {}
+    virtual void visibilityChanged() {}
 
     /// Gives `value` to `field` and announces it, if it differs.
     template <class Presenter, class Value>
@@ -33,10 +33,10 @@ protected:
     }
 
     /// To be called after each change of the model.
-    void updateIfOnShow();
+    void updateIfVisible();
 
 private:
-    bool onShow_ = false;
+    bool visible_ = false;
 };
 
 }  // namespace tidewatch

@@ -30,20 +30,20 @@ double contrast(const QColor& one, const QColor& other) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor laidOver(const QColor& top, const QColor& ground) {
+QColor blendedOver(const QColor& top, const QColor& ground) {
     return mixed(ground, top, top.alphaF());
 }
 
 QColor legibleOn(const QColor& ground, const QColor& color) {
-    const QColor seen = laidOver(color, ground);
-    if (contrast(seen, ground) >= leastContrast) return color;
+    const QColor seen = blendedOver(color, ground);
+    if (contrast(seen, ground) >= minContrast) return color;
     const QColor black(Qt::black);
     const QColor white(Qt::white);
     const QColor& extreme = contrast(black, ground) > contrast(white, ground) ? black : white;
     constexpr int steps = 20;
     for (int step = 1; step < steps; ++step) {
         const auto candidate = mixed(seen, extreme, static_cast<float>(step) / steps);
-        if (contrast(candidate, ground) >= leastContrast) return candidate;
+        if (contrast(candidate, ground) >= minContrast) return candidate;
     }
     return extreme;
 }

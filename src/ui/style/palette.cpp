@@ -37,8 +37,9 @@ Palette::Palette(const DashboardStyle& style)
       amber(toQColor(DashboardStyle::amber)),
       onFill(toQColor(fathom::ink)),
       ground(groundOf(style)),
-      textGround(laidOver(
-          card, laidOver(ground, style.decoration == Decoration::liquid ? toQColor(brightestLiquid) : bg))) {
+      textGround(blendedOver(
+          card,
+          blendedOver(ground, style.decoration == Decoration::liquid ? toQColor(brightestLiquid) : bg))) {
     for (const auto& piece : style.gamePieces) gamePieces.append(toQColor(piece));
 }
 

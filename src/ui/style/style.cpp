@@ -44,7 +44,7 @@ QFont font(FontRole role, double size, Style::Weight weight) {
 }  // namespace
 
 Style::Style(QObject* parent) : QObject(parent) {
-    wear(ochreTheme().dashboard);
+    apply(ochreTheme().dashboard);
 }
 
 Style* Style::of(QQmlEngine& engine) {
@@ -52,8 +52,8 @@ Style* Style::of(QQmlEngine& engine) {
 }
 
 void Style::follow(ThemeController& controller) {
-    following_ = controller.changed.connect([this, &controller] { wear(controller.active().dashboard); });
-    wear(controller.active().dashboard);
+    following_ = controller.changed.connect([this, &controller] { apply(controller.active().dashboard); });
+    apply(controller.active().dashboard);
 }
 
 QFont Style::serif(double size, Weight weight) const {
@@ -90,7 +90,7 @@ QColor Style::legibleOn(const QColor& ground, const QColor& color) const {
     return tidewatch::legibleOn(ground, color);
 }
 
-void Style::wear(const DashboardStyle& style) {
+void Style::apply(const DashboardStyle& style) {
     palette_ = Palette(style);
     decoration_ = toStyle(style.decoration);
     appearance_ = style.nsAppearance;

@@ -6,7 +6,7 @@
 
 #include "base/signal.h"
 #include "shell/themes/theme_controller.h"
-#include "ui/style/measures.h"
+#include "ui/style/metrics.h"
 #include "ui/style/palette.h"
 
 namespace tidewatch {
@@ -20,7 +20,7 @@ class Style final : public QObject {
     Q_PROPERTY(tidewatch::Palette palette READ palette NOTIFY themeChanged FINAL)
     Q_PROPERTY(Decoration decoration READ decoration NOTIFY themeChanged FINAL)
     Q_PROPERTY(bool dark READ dark NOTIFY themeChanged FINAL)
-    Q_PROPERTY(tidewatch::Measures measures READ measures CONSTANT FINAL)
+    Q_PROPERTY(tidewatch::Metrics metrics READ metrics CONSTANT FINAL)
     Q_PROPERTY(double liquidDecorationIntensity READ liquidIntensity CONSTANT FINAL)
 
 public:
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] const Palette& palette() const { return palette_; }
     [[nodiscard]] Decoration decoration() const { return decoration_; }
     [[nodiscard]] bool dark() const { return appearance_ == Appearance::dark; }
-    [[nodiscard]] Measures measures() const { return {}; }
+    [[nodiscard]] Metrics metrics() const { return {}; }
     [[nodiscard]] double liquidIntensity() const { return liquidDecorationIntensity; }
 
     /// Fonts of the brand and of the desktop, `size` in pixels.
@@ -64,7 +64,7 @@ Q_SIGNALS:
     void themeChanged();
 
 private:
-    void wear(const DashboardStyle& style);
+    void apply(const DashboardStyle& style);
 
     Palette palette_;
     Decoration decoration_ = NoDecoration;

@@ -10,20 +10,20 @@ namespace tidewatch {
 
 AppIconView::AppIconView(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
-    choosePicture();
+    updatePicture();
 }
 
 void AppIconView::setIconName(const QString& name) {
     if (name == iconName_) return;
     iconName_ = name;
-    choosePicture();
+    updatePicture();
     Q_EMIT iconNameChanged();
 }
 
 void AppIconView::setSymbolName(const QString& name) {
     if (name == symbolName_) return;
     symbolName_ = name;
-    choosePicture();
+    updatePicture();
     Q_EMIT symbolNameChanged();
 }
 
@@ -42,7 +42,7 @@ void AppIconView::setSide(double side) {
     Q_EMIT sideChanged();
 }
 
-void AppIconView::choosePicture() {
+void AppIconView::updatePicture() {
     icon_ = symbolName_.isEmpty() ? applicationIcon(iconName_) : QIcon();
     symbol_ = QPainterPath();
     if (icon_.isNull()) symbol_ = symbolShape(symbolName_.isEmpty() ? "app" : symbolName_).value_or(symbol_);

@@ -46,7 +46,7 @@ Q_SIGNALS:
     void sideChanged();
 
 private:
-    void choosePicture();
+    void updatePicture();
 
     QString iconName_;
     QString symbolName_;

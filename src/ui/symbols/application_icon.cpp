@@ -10,7 +10,7 @@
 namespace tidewatch {
 namespace {
 
-constexpr qint64 maximalSize = 4 * 1024 * 1024;  // bytes
+constexpr qint64 maxSize = 4 * 1024 * 1024;  // bytes
 
 constexpr std::array endings{".png", ".svg", ".xpm"};
 constexpr std::array folderPatterns{"%1/%2x%2/apps/", "%1/apps/%2/", "%1/scalable/apps/",
@@ -31,10 +31,10 @@ bool refersToAnotherFile(const QByteArray& content) {
 }
 
 bool canBeOpened(const QFileInfo& info) {
-    if (!info.isFile() || info.size() > maximalSize) return false;
+    if (!info.isFile() || info.size() > maxSize) return false;
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) return false;
-    const auto content = file.read(maximalSize);
+    const auto content = file.read(maxSize);
     const bool isPacked = content.startsWith("\x1f\x8b");  // what is in it cannot be told
     return !isPacked && !refersToAnotherFile(content);
 }

@@ -15,7 +15,7 @@ SymbolRow::SymbolRow(QQuickItem* parent) : QQuickPaintedItem(parent) {
 void SymbolRow::setNames(const QStringList& names) {
     if (names == names_) return;
     names_ = names;
-    measureAgain();
+    updateLength();
     Q_EMIT namesChanged();
 }
 
@@ -29,15 +29,15 @@ void SymbolRow::setColors(const QList<QColor>& colors) {
 void SymbolRow::setSide(double side) {
     if (side == side_) return;
     side_ = side;
-    measureAgain();
-    Q_EMIT measuresChanged();
+    updateLength();
+    Q_EMIT metricsChanged();
 }
 
 void SymbolRow::setSpacing(double spacing) {
     if (spacing == spacing_) return;
     spacing_ = spacing;
-    measureAgain();
-    Q_EMIT measuresChanged();
+    updateLength();
+    Q_EMIT metricsChanged();
 }
 
 double SymbolRow::length() const {
@@ -45,7 +45,7 @@ double SymbolRow::length() const {
     return names_.isEmpty() ? 0 : count * side_ + (count - 1) * spacing_;
 }
 
-void SymbolRow::measureAgain() {
+void SymbolRow::updateLength() {
     setImplicitSize(length(), side_);
     setPictureSize(*this, {length(), side_});
 }

@@ -15,9 +15,9 @@ class SymbolRow : public QQuickPaintedItem {
     Q_PROPERTY(QStringList names READ names WRITE setNames NOTIFY namesChanged FINAL)
     Q_PROPERTY(QList<QColor> colors READ colors WRITE setColors NOTIFY colorsChanged FINAL)
     /// Side of one symbol, in pixels.
-    Q_PROPERTY(double side READ side WRITE setSide NOTIFY measuresChanged FINAL)
+    Q_PROPERTY(double side READ side WRITE setSide NOTIFY metricsChanged FINAL)
     /// Pixels between two symbols.
-    Q_PROPERTY(double spacing READ spacing WRITE setSpacing NOTIFY measuresChanged FINAL)
+    Q_PROPERTY(double spacing READ spacing WRITE setSpacing NOTIFY metricsChanged FINAL)
 
 public:
     explicit SymbolRow(QQuickItem* parent = nullptr);
@@ -36,7 +36,7 @@ public:
 Q_SIGNALS:
     void namesChanged();
     void colorsChanged();
-    void measuresChanged();
+    void metricsChanged();
 
 protected:
     void geometryChange(const QRectF& to, const QRectF& from) override;
@@ -44,7 +44,7 @@ protected:
 
 private:
     [[nodiscard]] double length() const;
-    void measureAgain();
+    void updateLength();
 
     QStringList names_;
     QList<QColor> colors_;

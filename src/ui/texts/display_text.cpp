@@ -11,9 +11,9 @@
 namespace tidewatch {
 namespace {
 
-constexpr std::size_t mostOfAName = 200;
+constexpr std::size_t maxNameCharacters = 200;
 /// A single one that the user perceives may consist of any number of characters.
-constexpr std::size_t mostBytesOfAName = 4096;
+constexpr std::size_t maxNameSize = 4096;
 
 bool breaksLine(QChar letter) {
     const auto category = letter.category();
@@ -28,9 +28,9 @@ bool isSeen(QChar letter) {
 }  // namespace
 
 QString nameText(std::string_view utf8) {
-    const auto read = charactersWithin(mostBytesOfAName, utf8);
+    const auto read = charactersWithin(maxNameSize, utf8);
     if (std::ranges::none_of(text(read), isSeen)) return "Sin nombre";
-    const auto kept = firstCharacters(mostOfAName, read);
+    const auto kept = firstCharacters(maxNameCharacters, read);
     auto name = text(kept);
     std::ranges::replace_if(name, breaksLine, QChar(' '));
     if (kept.size() < utf8.size()) name += "…";

@@ -12,7 +12,7 @@ constexpr double closeColon = 0.55;
 
 /// Narrower digits, in pixels of the screen, would be changed too much by whole pixels, and cannot be read
 /// anyway.
-constexpr double leastWholeCell = 4;
+constexpr double minWholeCell = 4;
 
 enum class Colons { asInFont, close };
 enum class Cells { exact, nearestPixel, lowerPixel };
@@ -39,7 +39,7 @@ public:
           pixel_(options.screenPixel / shrink),
           spacing_(font.letterSpacing()) {
         const double widest = widestDigit(metrics_);
-        if (widest < leastWholeCell * pixel_) cells_ = Cells::exact;
+        if (widest < minWholeCell * pixel_) cells_ = Cells::exact;
         digitCell_ = cell(widest);
         line_.shrink = shrink;
     }

@@ -28,14 +28,14 @@ TabularText::TabularText(QQuickItem* parent) : QQuickPaintedItem(parent) {
 void TabularText::setText(const QString& text) {
     if (text == text_) return;
     text_ = text;
-    layOutAgain();
+    relayout();
     Q_EMIT textChanged();
 }
 
 void TabularText::setFont(const QFont& font) {
     if (font == font_) return;
     font_ = font;
-    layOutAgain();
+    relayout();
     Q_EMIT layoutChanged();
 }
 
@@ -49,28 +49,28 @@ void TabularText::setColor(const QColor& color) {
 void TabularText::setEqualDigits(bool equal) {
     if (equal == equalDigits()) return;
     options_.digits = equal ? Digits::monospaced : Digits::proportional;
-    layOutAgain();
+    relayout();
     Q_EMIT layoutChanged();
 }
 
 void TabularText::setWordGap(double gap) {
     if (gap == options_.wordGap) return;
     options_.wordGap = gap;
-    layOutAgain();
+    relayout();
     Q_EMIT layoutChanged();
 }
 
 void TabularText::setMaximumWidth(double width) {
     if (width == options_.maximumWidth) return;
     options_.maximumWidth = width;
-    layOutAgain();
+    relayout();
     Q_EMIT layoutChanged();
 }
 
 void TabularText::setUnit(double unit) {
     if (unit == unit_) return;
     unit_ = unit;
-    layOutAgain();
+    relayout();
     Q_EMIT layoutChanged();
 }
 
@@ -87,15 +87,15 @@ double TabularText::screenPixel() const {
 
 void TabularText::itemChange(ItemChange change, const ItemChangeData& data) {
     QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) layOutAgain();
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) relayout();
 }
 
 void TabularText::componentComplete() {
     QQuickPaintedItem::componentComplete();
-    layOutAgain();
+    relayout();
 }
 
-void TabularText::layOutAgain() {
+void TabularText::relayout() {
     // While a view is being made, the font may not be there yet: the desktop's would be loaded for nothing.
     if (!isComponentComplete()) return;
     auto options = options_;

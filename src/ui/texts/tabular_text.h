@@ -59,7 +59,7 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
-    void layOutAgain();
+    void relayout();
     void drawShade(QPainter& painter) const;
     void drawLetters(QPainter& painter, const QColor& color) const;
     [[nodiscard]] double screenPixel() const;

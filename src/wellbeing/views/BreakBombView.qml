@@ -16,21 +16,21 @@ FocusScope {
                                  && Window.visibility !== Window.Minimized
 
     /*! What had the focus before the alert came up. */
-    property Item focusedBefore: null
+    property Item previousFocus: null
 
     function takeFocus() {
         if (!presenter.alertActive || Window.window === null || button.activeFocus)
             return;
-        focusedBefore = Window.activeFocusItem;
+        previousFocus = Window.activeFocusItem;
         button.forceActiveFocus(Qt.TabFocusReason);
     }
 
-    function giveFocusBack() {
+    function restoreFocus() {
         // Else what holds this view would hand the focus back to it.
         focus = false;
-        if (focusedBefore !== null)
-            focusedBefore.forceActiveFocus(Qt.OtherFocusReason);
-        focusedBefore = null;
+        if (previousFocus !== null)
+            previousFocus.forceActiveFocus(Qt.OtherFocusReason);
+        previousFocus = null;
     }
 
     visible: presenter.alertActive
@@ -61,7 +61,7 @@ FocusScope {
             if (root.presenter.alertActive)
                 root.takeFocus();
             else
-                root.giveFocusBack();
+                root.restoreFocus();
         }
     }
 
@@ -141,7 +141,7 @@ FocusScope {
             Row {
                 anchors.horizontalCenter: parent.horizontalCenter
                 height: 56
-                spacing: Style.measures.spacing
+                spacing: Style.metrics.spacing
 
                 Symbol {
                     anchors.verticalCenter: parent.verticalCenter

@@ -11,7 +11,7 @@ Rectangle {
     readonly property color accent: Style.palette.tierProductive
 
     implicitHeight: Math.max(picture.height, words.implicitHeight) + 40
-    radius: Style.measures.cardRadius
+    radius: Style.metrics.cardRadius
     color: Qt.alpha(accent, 0.1)
     border.width: 1
     border.color: Qt.alpha(accent, 0.3)

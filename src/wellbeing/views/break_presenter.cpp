@@ -11,8 +11,8 @@ BreakPresenter::BreakPresenter(BreakReminder& reminder, QObject* parent)
       reminder_(reminder),
       stretch_(reminder.stretch()),
       reason_(reminder.reason()),
-      changed_(reminder.changed.connect([this] { takeUp(); })) {
-    takeUp();
+      changed_(reminder.changed.connect([this] { sync(); })) {
+    sync();
 }
 
 QString BreakPresenter::headline() const {
@@ -50,7 +50,7 @@ void BreakPresenter::dismiss() {
     reminder_.dismissAlert();
 }
 
-void BreakPresenter::takeUp() {
+void BreakPresenter::sync() {
     // The texts first, so that an alert never comes up with those of the last one.
     if (stretch_ != reminder_.stretch() || reason_ != reminder_.reason()) {
         stretch_ = reminder_.stretch();

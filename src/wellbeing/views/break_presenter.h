@@ -49,7 +49,7 @@ Q_SIGNALS:
     void sittingTextChanged();
 
 private:
-    void takeUp();
+    void sync();
 
     BreakReminder& reminder_;
     bool alertActive_ = false;

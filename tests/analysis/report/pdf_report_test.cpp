@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "analysis/analysis_rooms.h"
+#include "analysis/analysis_fixture.h"
 #include "analysis/report/page_painter.h"
 #include "classification/app_info_resolver.h"
 
@@ -12,17 +12,17 @@ namespace {
 class PdfReportTest : public testing::Test {
 protected:
     test::FakeWorld world_;
-    test::AnalysisRooms rooms_{world_};
+    test::AnalysisFixture fixture_{world_};
     const AppInfoResolver appInfo_{world_.applications};
-    PdfReport report_{
-        {world_.clock, rooms_.daily, rooms_.apps, appInfo_, rooms_.scorer, rooms_.evaluator, rooms_.rewards},
-        world_.files,
-        world_.log};
+    PdfReport report_{{world_.clock, fixture_.daily, fixture_.apps, appInfo_, fixture_.scorer,
+                       fixture_.evaluator, fixture_.rewards},
+                      world_.files,
+                      world_.log};
     const std::string path_ = "/home/user/Documentos/fathom-reporte.pdf";
 };
 
 TEST_F(PdfReportTest, WritesAPdfWhereItIsTold) {
-    rooms_.setTime(DayKey("2026-01-15"), 5000);
+    fixture_.setTime(DayKey("2026-01-15"), 5000);
     world_.files.put(path_, "an older one");
     EXPECT_TRUE(report_.generate(path_));
     const auto file = world_.files.content(path_).value_or("");

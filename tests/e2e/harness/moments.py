@@ -29,17 +29,17 @@ class Moment:
 
 @dataclass(frozen=True)
 class Lapse:
-    least: float
-    most: float
+    min: float
+    max: float
 
     @staticmethod
     def between(begin, end):
         return Lapse(end.earliest - begin.latest, end.latest - begin.earliest)
 
     def __add__(self, other):
-        return Lapse(self.least + other.least, self.most + other.most)
+        return Lapse(self.min + other.min, self.max + other.max)
 
     def assert_counted(self, seconds, before=0):
         """Fails unless a program that counted all the while may have come from `before` to `seconds`."""
-        if not self.least - EDGE <= seconds - before <= self.most + EDGE:
-            raise AssertionError(f"{seconds - before} s were counted in {self.least:.1f} to {self.most:.1f} s")
+        if not self.min - EDGE <= seconds - before <= self.max + EDGE:
+            raise AssertionError(f"{seconds - before} s were counted in {self.min:.1f} to {self.max:.1f} s")

@@ -48,7 +48,7 @@ TEST_F(FakeMainLoopTest, TimersDueTogetherFireInTheOrderOfTheirMakingThenTheirJo
     EXPECT_EQ(calls, "12a");
 }
 
-TEST_F(FakeMainLoopTest, MissedFiringsAreNotMadeGoodAndDoNotShiftLaterOnes) {
+TEST_F(FakeMainLoopTest, MissedFiringsAreNotCaughtUpAndDoNotShiftLaterOnes) {
     int fired = 0;
     const auto timer = loop.repeat(1s, TimerMode::common, [&] { ++fired; });
     clock.advance(10500ms);

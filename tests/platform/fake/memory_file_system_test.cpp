@@ -11,7 +11,7 @@ TEST(MemoryFileSystem, KeepsWhatIsWritten) {
     EXPECT_TRUE(files.hasDirectory("/home/user/a"));
     ASSERT_TRUE(files.replaceAtomically("/home/user/a/b/f", "one"));
     ASSERT_TRUE(files.replaceAtomically("/home/user/a/b/f", "two"));
-    EXPECT_EQ(files.readWhole("/home/user/a/b/f").value(), "two");
+    EXPECT_EQ(files.readFile("/home/user/a/b/f").value(), "two");
     EXPECT_EQ(files.writes().size(), 2u);
 }
 
@@ -44,10 +44,10 @@ TEST(MemoryFileSystem, AnUnmakeableDirectoryTakesNoFile) {
 
 TEST(MemoryFileSystem, MissingAndUnreadableFilesAreErrors) {
     MemoryFileSystem files;
-    EXPECT_FALSE(files.readWhole("/none"));
+    EXPECT_FALSE(files.readFile("/none"));
     files.put("/d/f", "secret");
     files.makeUnreadable("/d/f");
-    EXPECT_FALSE(files.readWhole("/d/f"));
+    EXPECT_FALSE(files.readFile("/d/f"));
 }
 
 TEST(MemoryFileSystem, SetsAFileAsideUnderANameThatIsFree) {
@@ -72,7 +72,7 @@ TEST(MemoryFileSystem, TellsExportsFromTheRecord) {
     EXPECT_FALSE(files.exportFile("/d/f", "new"));
     EXPECT_EQ(files.exports(), std::vector<std::string>{"/d/f"});
     files.setDisk(MemoryFileSystem::Disk::full);
-    EXPECT_EQ(files.exportFile("/d/f", "newer").value().fault, ExportFault::noSpace);
+    EXPECT_EQ(files.exportFile("/d/f", "newer").value().kind, ExportErrorKind::noSpace);
     EXPECT_EQ(files.content("/d/f"), "new");
 }
 
@@ -104,11 +104,11 @@ TEST(MemoryFileSystem, TellsWhyAFileCannotBeRead) {
     MemoryFileSystem files;
     files.put("/d/f", "1");
     files.makeUnreadable("/d/f");
-    EXPECT_EQ(files.readWhole("/d/f").error().fault, FileFault::forbidden);
-    EXPECT_EQ(files.openForReading("/d/f", 0).error().fault, FileFault::forbidden);
-    EXPECT_EQ(files.readWhole("/d/g").error().fault, FileFault::absent);
-    EXPECT_EQ(files.inspect("/d/g").error().fault, FileFault::absent);
-    EXPECT_EQ(files.openForReading("/d/g", 0).error().fault, FileFault::absent);
+    EXPECT_EQ(files.readFile("/d/f").error().kind, FileErrorKind::permissionDenied);
+    EXPECT_EQ(files.openForReading("/d/f", 0).error().kind, FileErrorKind::permissionDenied);
+    EXPECT_EQ(files.readFile("/d/g").error().kind, FileErrorKind::notFound);
+    EXPECT_EQ(files.inspect("/d/g").error().kind, FileErrorKind::notFound);
+    EXPECT_EQ(files.openForReading("/d/g", 0).error().kind, FileErrorKind::notFound);
 }
 
 TEST(MemoryFileSystem, GivesAFileInPieces) {
@@ -138,20 +138,21 @@ TEST(MemoryFileSystem, EnumeratesWhatIsBelowADirectory) {
         }));
         return paths;
     };
-    const auto enterAll = [](const FoundFile&) { return NextStep::enter; };
+    const auto enterAll = [](const FoundFile&) { return VisitAction::proceed; };
     using Paths = std::vector<std::string>;
     EXPECT_EQ(find(HiddenFiles::included, enterAll),
               (Paths{"/d/.h", "/d/.h/x", "/d/a", "/d/a-c", "/d/a/b", "/d/closed", "/d/e", "/d/e/f"}));
     EXPECT_EQ(find(HiddenFiles::skipped, enterAll),
               (Paths{"/d/a", "/d/a-c", "/d/a/b", "/d/closed", "/d/e", "/d/e/f"}));
     const auto passA = [](const FoundFile& file) {
-        return file.path == "/d/a" ? NextStep::pass : NextStep::enter;
+        return file.path == "/d/a" ? VisitAction::skip : VisitAction::proceed;
     };
     EXPECT_EQ(find(HiddenFiles::skipped, passA), (Paths{"/d/a", "/d/a-c", "/d/closed", "/d/e", "/d/e/f"}));
-    EXPECT_EQ(find(HiddenFiles::skipped, [](const FoundFile&) { return NextStep::stop; }), (Paths{"/d/a"}));
+    EXPECT_EQ(find(HiddenFiles::skipped, [](const FoundFile&) { return VisitAction::stop; }),
+              (Paths{"/d/a"}));
     const auto removeE = [&](const FoundFile&) {
         files.removeDirectory("/d/e");
-        return NextStep::enter;
+        return VisitAction::proceed;
     };
     EXPECT_EQ(find(HiddenFiles::skipped, removeE), (Paths{"/d/a", "/d/a-c", "/d/a/b", "/d/closed"}));
 }
@@ -160,9 +161,10 @@ TEST(MemoryFileSystem, ADirectoryThatCannotBeEnumeratedSaysWhy) {
     MemoryFileSystem files;
     files.put("/d/f", "1");
     files.makeUnreadable("/d");
-    const auto visit = [](const FoundFile&) { return NextStep::enter; };
-    EXPECT_EQ(files.enumerate("/d", HiddenFiles::included, visit).error().fault, FileFault::forbidden);
-    EXPECT_EQ(files.enumerate("/none", HiddenFiles::included, visit).error().fault, FileFault::absent);
+    const auto visit = [](const FoundFile&) { return VisitAction::proceed; };
+    EXPECT_EQ(files.enumerate("/d", HiddenFiles::included, visit).error().kind,
+              FileErrorKind::permissionDenied);
+    EXPECT_EQ(files.enumerate("/none", HiddenFiles::included, visit).error().kind, FileErrorKind::notFound);
 }
 
 }  // namespace

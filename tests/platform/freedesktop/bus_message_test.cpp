@@ -16,7 +16,7 @@ std::string hello() {
 }
 
 TEST(BusMessageTest, ACallTellsWhomItAsksForWhat) {
-    const auto message = BusMessage::read(hello());
+    const auto message = BusMessage::parse(hello());
     ASSERT_TRUE(message);
     EXPECT_EQ(message->type, BusMessage::Type::call);
     EXPECT_TRUE(message->wantsReply);
@@ -30,7 +30,7 @@ TEST(BusMessageTest, ACallTellsWhomItAsksForWhat) {
 TEST(BusMessageTest, ACallThatWantsNoReplySaysSo) {
     auto bytes = hello();
     bytes[2] = 1;
-    EXPECT_FALSE(BusMessage::read(bytes)->wantsReply);
+    EXPECT_FALSE(BusMessage::parse(bytes)->wantsReply);
 }
 
 TEST(BusMessageTest, TheSizeIsKnownFromTheFirstSixteenBytesOn) {
@@ -43,7 +43,7 @@ TEST(BusMessageTest, TheSizeIsKnownFromTheFirstSixteenBytesOn) {
 TEST(BusMessageTest, NoBeginningOfAMessageIsReadAsAWhole) {
     const auto bytes = hello();
     for (std::size_t size = 0; size < bytes.size(); ++size) {
-        EXPECT_FALSE(BusMessage::read(bytes.substr(0, size))) << size;
+        EXPECT_FALSE(BusMessage::parse(bytes.substr(0, size))) << size;
     }
 }
 
@@ -56,7 +56,7 @@ TEST(BusMessageTest, DamagedMessagesAreRefused) {
         for (const char damage : {'\0', '\1', '\x7f', '\xff'}) {
             auto bytes = hello();
             bytes[at] = damage;
-            static_cast<void>(BusMessage::read(bytes));  // must not read past the end
+            static_cast<void>(BusMessage::parse(bytes));  // must not read past the end
         }
     }
 }
@@ -64,7 +64,7 @@ TEST(BusMessageTest, DamagedMessagesAreRefused) {
 TEST(BusMessageTest, AnErrorAnswersItsCall) {
     const auto bytes = busError(77, "org.freedesktop.DBus.Error.NoReply", "no answer in time");
     EXPECT_EQ(BusMessage::sizeAtFront(bytes), bytes.size());
-    const auto message = BusMessage::read(bytes);
+    const auto message = BusMessage::parse(bytes);
     ASSERT_TRUE(message);
     EXPECT_EQ(message->type, BusMessage::Type::error);
     EXPECT_EQ(message->answers, 77u);
@@ -73,7 +73,7 @@ TEST(BusMessageTest, AnErrorAnswersItsCall) {
 
 TEST(BusMessageTest, AReplyIsOneStringFromItsSender) {
     const auto bytes = busReply(8, ":1.4", "unix:path=/a");
-    const auto message = BusMessage::read(bytes);
+    const auto message = BusMessage::parse(bytes);
     ASSERT_TRUE(message);
     EXPECT_EQ(message->type, BusMessage::Type::reply);
     EXPECT_EQ(message->sender, ":1.4");

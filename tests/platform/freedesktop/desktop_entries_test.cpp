@@ -75,9 +75,9 @@ protected:
     // The id once everything that lies there now has been read.
     std::optional<std::string> idForWindow(const std::string& instance, const std::string& windowClass) {
         auto& entries = this->entries();
-        entries.waitUntilRead();
+        entries.waitUntilLoaded();
         if (auto id = entries.idForWindow(instance, windowClass)) return id;
-        entries.waitUntilRead();
+        entries.waitUntilLoaded();
         return entries.idForWindow(instance, windowClass);
     }
 
@@ -85,7 +85,7 @@ protected:
     DesktopEntries& entries() {
         if (!entries_) {
             entries_.emplace(
-                std::vector{home_.path(), shared_.path()}, [this] { return now_; }, patience_);
+                std::vector{home_.path(), shared_.path()}, [this] { return now_; }, timeout_);
         }
         return *entries_;
     }
@@ -97,7 +97,7 @@ protected:
 
     void pass(std::chrono::seconds time) { now_ += time; }
 
-    void setPatience(std::chrono::milliseconds patience) { patience_ = patience; }
+    void setTimeout(std::chrono::milliseconds timeout) { timeout_ = timeout; }
     void forget() { entries_.reset(); }
 
     test::TemporaryDirectory home_;
@@ -106,7 +106,7 @@ protected:
 private:
     std::chrono::steady_clock::time_point now_{1h};
     std::chrono::seconds stamp_{0};
-    std::chrono::milliseconds patience_ = 10min;
+    std::chrono::milliseconds timeout_ = 10min;
     std::optional<DesktopEntries> entries_;
 };
 
@@ -182,19 +182,19 @@ TEST_F(DesktopEntriesTest, WhileEntriesAreBeingReadAnAnswerOfNothingIsSaidToBePr
     shared_.write("late.desktop", "[Desktop Entry]\n");
     auto& entries = this->entries();
     EXPECT_TRUE(entries.idForWindow("", "late") || entries.isReading() || entries.idForWindow("", "late"));
-    entries.waitUntilRead();
+    entries.waitUntilLoaded();
     EXPECT_FALSE(entries.isReading());
     EXPECT_EQ(entries.idForWindow("", "late"), "late");
 }
 
 TEST_F(DesktopEntriesTest, AMissingFolderHasNoEntries) {
     DesktopEntries nowhere({home_.path() + "/missing"});
-    nowhere.waitUntilRead();
+    nowhere.waitUntilLoaded();
     EXPECT_EQ(nowhere.idForWindow("a", "b"), std::nullopt);
     EXPECT_FALSE(nowhere.isReading());
 }
 
-TEST_F(DesktopEntriesTest, ANamedPipeIsNoEntryAndDoesNotHoldUpTheOthers) {
+TEST_F(DesktopEntriesTest, ANamedPipeIsNoEntryAndDoesNotBlockTheOthers) {
     ASSERT_EQ(::mkfifo((shared_.path() + "/pipe.desktop").c_str(), 0600), 0);
     shared_.write("editor.desktop", "[Desktop Entry]\nName=Editor\nStartupWMClass=editor\n");
     EXPECT_EQ(idForWindow("", "editor"), "editor");
@@ -211,7 +211,7 @@ TEST_F(DesktopEntriesTest, ALinkToADeviceWithoutAnEndIsNoEntry) {
     EXPECT_FALSE(entries().info("endless", "C"));
 }
 
-TEST_F(DesktopEntriesTest, AnEntryOutOfAllProportionIsNone) {
+TEST_F(DesktopEntriesTest, AnEntryOfExcessiveSizeIsNone) {
     shared_.write("huge.desktop", "[Desktop Entry]\nName=Huge\n");
     fs::resize_file(shared_.path() + "/huge.desktop", std::uintmax_t{1} << 40);  // takes no space
     shared_.write("long.desktop", "[Desktop Entry]\nName=Long\n#" + std::string(200'000, 'x'));
@@ -249,7 +249,7 @@ TEST_F(DesktopEntriesTest, AnIdWithoutAnEndOfWaysThroughLinkedFoldersIsGivenUp) 
     EXPECT_FALSE(entries().info(id, "C"));
 }
 
-TEST_F(DesktopEntriesTest, AFolderNestedOutOfAllProportionIsNotRead) {
+TEST_F(DesktopEntriesTest, AFolderNestedTooDeepIsNotRead) {
     std::string deep;
     for (int i = 0; i < 40; ++i) deep += "d/";
     shared_.write(deep + "deep.desktop", "[Desktop Entry]\nStartupWMClass=deep\n");
@@ -259,7 +259,7 @@ TEST_F(DesktopEntriesTest, AFolderNestedOutOfAllProportionIsNotRead) {
 }
 
 TEST_F(DesktopEntriesTest, TheRevisionGrowsWhenAFolderHasChangedAndNotOtherwise) {
-    entries().waitUntilRead();
+    entries().waitUntilLoaded();
     const auto before = entries().revision();
     pass(10s);
     EXPECT_EQ(entries().revision(), before);
@@ -270,16 +270,16 @@ TEST_F(DesktopEntriesTest, TheRevisionGrowsWhenAFolderHasChangedAndNotOtherwise)
 }
 
 TEST_F(DesktopEntriesTest, TheRevisionGrowsAgainWhenWhatHasChangedWasRead) {
-    entries().waitUntilRead();
+    entries().waitUntilLoaded();
     makeFolderChanged(shared_.path());
     pass(10s);
     const auto changed = entries().revision();
-    entries().waitUntilRead();
+    entries().waitUntilLoaded();
     EXPECT_GT(entries().revision(), changed);
 }
 
 TEST_F(DesktopEntriesTest, TheFoldersAreLookedAtEveryOtherSecondAtMost) {
-    entries().waitUntilRead();
+    entries().waitUntilLoaded();
     pass(2s);
     const auto before = entries().revision();
     makeFolderChanged(shared_.path());
@@ -290,7 +290,7 @@ TEST_F(DesktopEntriesTest, TheFoldersAreLookedAtEveryOtherSecondAtMost) {
 }
 
 TEST_F(DesktopEntriesTest, TheRevisionGrowsOnceAMinuteForEntriesThatAreChangedInTheirPlace) {
-    entries().waitUntilRead();
+    entries().waitUntilLoaded();
     const auto before = entries().revision();
     pass(59s);
     EXPECT_EQ(entries().revision(), before);
@@ -300,10 +300,10 @@ TEST_F(DesktopEntriesTest, TheRevisionGrowsOnceAMinuteForEntriesThatAreChangedIn
     EXPECT_EQ(entries().revision(), before + 1);
 }
 
-TEST_F(DesktopEntriesTest, AFolderThatHangsHoldsUpNoQuestion) {
+TEST_F(DesktopEntriesTest, AFolderThatHangsBlocksNoQuery) {
     shared_.write("editor.desktop", "[Desktop Entry]\nStartupWMClass=editor\n");
-    setPatience(1ms);
-    entries().waitUntilRead();
+    setTimeout(1ms);
+    entries().waitUntilLoaded();
     EXPECT_EQ(entries().idForWindow("", "editor"), "editor");
     hangingFolder.hang(shared_.path());
     pass(2s);
@@ -317,15 +317,15 @@ TEST_F(DesktopEntriesTest, AFolderThatHangsHoldsUpNoQuestion) {
     shared_.write("late.desktop", "[Desktop Entry]\n");
     makeFolderChanged(shared_.path());
     hangingFolder.comeBack();
-    entries().waitUntilRead();
+    entries().waitUntilLoaded();
     pass(2s);
     EXPECT_GT(entries().revision(), before);
     EXPECT_EQ(entries().idForWindow("", "late"), "late");
 }
 
-TEST_F(DesktopEntriesTest, AFolderThatHangsHoldsUpNoEnd) {
-    setPatience(1ms);
-    entries().waitUntilRead();
+TEST_F(DesktopEntriesTest, AFolderThatHangsBlocksNoShutdown) {
+    setTimeout(1ms);
+    entries().waitUntilLoaded();
     hangingFolder.hang(home_.path());
     pass(2s);
     static_cast<void>(entries().revision());

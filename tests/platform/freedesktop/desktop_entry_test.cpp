@@ -34,12 +34,12 @@ constexpr auto files =
     "Categories=Game;\n";
 
 std::string nameIn(std::string_view text, std::string_view locale) {
-    const auto info = readDesktopEntry(text, locale);
+    const auto info = parseDesktopEntry(text, locale);
     return info ? info->name : "nothing";
 }
 
 TEST(DesktopEntryTest, TellsNameIconAndCategories) {
-    const auto info = readDesktopEntry(files, "es_ES");
+    const auto info = parseDesktopEntry(files, "es_ES");
     ASSERT_TRUE(info);
     EXPECT_EQ(info->name, "Archivos");
     EXPECT_EQ(info->icon, "org.example.Files");
@@ -67,7 +67,7 @@ TEST(DesktopEntryTest, WithoutSpanishTheNameIsThePlainOne) {
 }
 
 TEST(DesktopEntryTest, WhatIsLeftOutIsEmpty) {
-    const auto info = readDesktopEntry("[Desktop Entry]\nType=Application\n", "es");
+    const auto info = parseDesktopEntry("[Desktop Entry]\nType=Application\n", "es");
     ASSERT_TRUE(info);
     EXPECT_EQ(info->name, "");
     EXPECT_EQ(info->icon, "");
@@ -75,14 +75,14 @@ TEST(DesktopEntryTest, WhatIsLeftOutIsEmpty) {
 }
 
 TEST(DesktopEntryTest, WhatIsNoEntryOrIsMarkedAsRemovedTellsNothing) {
-    EXPECT_EQ(readDesktopEntry("", "es"), std::nullopt);
-    EXPECT_EQ(readDesktopEntry("Name=Files\n", "es"), std::nullopt);
-    EXPECT_EQ(readDesktopEntry("[Other]\nName=Files\n", "es"), std::nullopt);
-    EXPECT_EQ(readDesktopEntry("[Desktop Entry]\nName=Files\nHidden=true\n", "es"), std::nullopt);
+    EXPECT_EQ(parseDesktopEntry("", "es"), std::nullopt);
+    EXPECT_EQ(parseDesktopEntry("Name=Files\n", "es"), std::nullopt);
+    EXPECT_EQ(parseDesktopEntry("[Other]\nName=Files\n", "es"), std::nullopt);
+    EXPECT_EQ(parseDesktopEntry("[Desktop Entry]\nName=Files\nHidden=true\n", "es"), std::nullopt);
 }
 
 TEST(DesktopEntryTest, BlanksAroundTheSignAndOtherLineEndsDoNotMatter) {
-    const auto info = readDesktopEntry(
+    const auto info = parseDesktopEntry(
         "[Desktop Entry]\r\nName = Files \r\n#Name[es]=no\r\nCategories\t=\tGame ;X\r\n", "");
     ASSERT_TRUE(info);
     EXPECT_EQ(info->name, "Files");
@@ -91,7 +91,7 @@ TEST(DesktopEntryTest, BlanksAroundTheSignAndOtherLineEndsDoNotMatter) {
 
 TEST(DesktopEntryTest, EscapedCharactersAreRead) {
     const auto info =
-        readDesktopEntry("[Desktop Entry]\nName=\\sA\\tB\\\\C\\\nIcon=C:\\\\x\nCategories=A\\;B;;C\n", "");
+        parseDesktopEntry("[Desktop Entry]\nName=\\sA\\tB\\\\C\\\nIcon=C:\\\\x\nCategories=A\\;B;;C\n", "");
     ASSERT_TRUE(info);
     EXPECT_EQ(info->name, " A\tB\\C\\");
     EXPECT_EQ(info->icon, "C:\\x");

@@ -58,15 +58,15 @@ protected:
         return condition();
     }
 
-    std::optional<Outcome> deliver(DesktopNotifications& notifications) {
-        std::optional<Outcome> outcome;
+    std::optional<Status> deliver(DesktopNotifications& notifications) {
+        std::optional<Status> status;
         QElapsedTimer timer;
         timer.start();
-        notifications.deliver(notification, [&](const Outcome& reported) { outcome = reported; });
+        notifications.deliver(notification, [&](const Status& reported) { status = reported; });
         EXPECT_LT(timer.elapsed(), 10'000) << "the caller was kept waiting";
-        EXPECT_FALSE(outcome) << "reported inside the call";
-        waitFor([&] { return outcome.has_value(); });
-        return outcome;
+        EXPECT_FALSE(status) << "reported inside the call";
+        waitFor([&] { return status.has_value(); });
+        return status;
     }
 
     int argc_ = 1;
@@ -82,9 +82,9 @@ protected:
 TEST_F(DesktopNotificationsTest, TheServiceIsHandedTitleBodyIconAndSound) {
     Service service(bus_.connect(), Service::Manner::takes);
     DesktopNotifications notifications(session_, log_);
-    const auto outcome = deliver(notifications);
-    ASSERT_TRUE(outcome);
-    EXPECT_TRUE(outcome->ok());
+    const auto status = deliver(notifications);
+    ASSERT_TRUE(status);
+    EXPECT_TRUE(status->ok());
     ASSERT_EQ(service.calls.size(), 1u);
     EXPECT_EQ(service.calls[0].member(), "Notify");
     EXPECT_EQ(service.calls[0].signature(), "susssasa{sv}i");
@@ -103,7 +103,7 @@ TEST_F(DesktopNotificationsTest, TheServiceIsHandedTitleBodyIconAndSound) {
 TEST_F(DesktopNotificationsTest, MarkupInTheBodyIsShownAsItStands) {
     Service service(bus_.connect(), Service::Manner::takes);
     DesktopNotifications notifications(session_, log_);
-    notifications.deliver({"a < b", "<b>a & b</b>"}, [](const Outcome&) {});
+    notifications.deliver({"a < b", "<b>a & b</b>"}, [](const Status&) {});
     ASSERT_TRUE(waitFor([&] { return !service.calls.empty(); }));
     EXPECT_EQ(service.calls[0].arguments()[3].toString(), "a < b");
     EXPECT_EQ(service.calls[0].arguments()[4].toString(), "&lt;b&gt;a &amp; b&lt;/b&gt;");
@@ -121,10 +121,10 @@ TEST_F(DesktopNotificationsTest, EachMessageIsOneOfItsOwn) {
 TEST_F(DesktopNotificationsTest, AnErrorOfTheServiceIsReported) {
     Service service(bus_.connect(), Service::Manner::refuses);
     DesktopNotifications notifications(session_, log_);
-    const auto outcome = deliver(notifications);
-    ASSERT_TRUE(outcome);
-    ASSERT_FALSE(outcome->ok());
-    EXPECT_EQ(outcome->error().message, "org.freedesktop.DBus.Error.LimitsExceeded: full");
+    const auto status = deliver(notifications);
+    ASSERT_TRUE(status);
+    ASSERT_FALSE(status->ok());
+    EXPECT_EQ(status->error().message, "org.freedesktop.DBus.Error.LimitsExceeded: full");
 }
 
 TEST_F(DesktopNotificationsTest, ASilentServiceIsReportedAfterTheTimeOut) {
@@ -132,30 +132,30 @@ TEST_F(DesktopNotificationsTest, ASilentServiceIsReportedAfterTheTimeOut) {
     DesktopNotifications notifications(session_, log_, 200ms);
     QElapsedTimer timer;
     timer.start();
-    const auto outcome = deliver(notifications);
+    const auto status = deliver(notifications);
     EXPECT_GE(timer.elapsed(), 150);
     EXPECT_LT(timer.elapsed(), 5'000);
-    ASSERT_TRUE(outcome);
-    ASSERT_FALSE(outcome->ok());
-    EXPECT_EQ(outcome->error().message.substr(0, 34), "org.freedesktop.DBus.Error.NoReply");
+    ASSERT_TRUE(status);
+    ASSERT_FALSE(status->ok());
+    EXPECT_EQ(status->error().message.substr(0, 34), "org.freedesktop.DBus.Error.NoReply");
     EXPECT_EQ(service.calls.size(), 1u);
 }
 
 TEST_F(DesktopNotificationsTest, AMissingServiceIsReported) {
     DesktopNotifications notifications(session_, log_);
-    const auto outcome = deliver(notifications);
-    ASSERT_TRUE(outcome);
-    ASSERT_FALSE(outcome->ok());
-    EXPECT_EQ(outcome->error().message.substr(0, 41), "org.freedesktop.DBus.Error.ServiceUnknown");
+    const auto status = deliver(notifications);
+    ASSERT_TRUE(status);
+    ASSERT_FALSE(status->ok());
+    EXPECT_EQ(status->error().message.substr(0, 41), "org.freedesktop.DBus.Error.ServiceUnknown");
 }
 
 TEST_F(DesktopNotificationsTest, AMissingBusIsReported) {
     SessionBus none("disabled:");
     DesktopNotifications notifications(none, log_);
-    const auto outcome = deliver(notifications);
-    ASSERT_TRUE(outcome);
-    ASSERT_FALSE(outcome->ok());
-    EXPECT_EQ(outcome->error().message, "org.freedesktop.DBus.Error.Disconnected: there is no session bus");
+    const auto status = deliver(notifications);
+    ASSERT_TRUE(status);
+    ASSERT_FALSE(status->ok());
+    EXPECT_EQ(status->error().message, "org.freedesktop.DBus.Error.Disconnected: there is no session bus");
 }
 
 TEST_F(DesktopNotificationsTest, ABusThatGoesAwayIsReported) {
@@ -164,9 +164,9 @@ TEST_F(DesktopNotificationsTest, ABusThatGoesAwayIsReported) {
     DesktopNotifications notifications(session_, log_);
     bus_.stop();
     ASSERT_TRUE(waitFor([&] { return !connection.isConnected(); }));
-    const auto outcome = deliver(notifications);
-    ASSERT_TRUE(outcome);
-    EXPECT_FALSE(outcome->ok());
+    const auto status = deliver(notifications);
+    ASSERT_TRUE(status);
+    EXPECT_FALSE(status->ok());
 }
 
 TEST_F(DesktopNotificationsTest, ABusThatCameBackIsFoundAgain) {
@@ -176,21 +176,21 @@ TEST_F(DesktopNotificationsTest, ABusThatCameBackIsFoundAgain) {
     ASSERT_TRUE(waitFor([&] { return !connection.isConnected(); }));
     bus_.start();
     Service service(bus_.connect(), Service::Manner::takes);
-    const auto outcome = deliver(notifications);
-    ASSERT_TRUE(outcome);
-    EXPECT_TRUE(outcome->ok()) << outcome->error().message;
+    const auto status = deliver(notifications);
+    ASSERT_TRUE(status);
+    EXPECT_TRUE(status->ok()) << status->error().message;
     EXPECT_EQ(service.calls.size(), 1u);
 }
 
 TEST_F(DesktopNotificationsTest, ABusThatGoesAwayWhileAMessageWaitsIsReported) {
     Service service(bus_.connect(), Service::Manner::keepsSilent);
     DesktopNotifications notifications(session_, log_);
-    std::optional<Outcome> outcome;
-    notifications.deliver(notification, [&](const Outcome& reported) { outcome = reported; });
+    std::optional<Status> status;
+    notifications.deliver(notification, [&](const Status& reported) { status = reported; });
     ASSERT_TRUE(waitFor([&] { return !service.calls.empty(); }));
     bus_.stop();
-    ASSERT_TRUE(waitFor([&] { return outcome.has_value(); }));
-    EXPECT_FALSE(outcome->ok());
+    ASSERT_TRUE(waitFor([&] { return status.has_value(); }));
+    EXPECT_FALSE(status->ok());
 }
 
 TEST_F(DesktopNotificationsTest, NothingIsReportedAfterTheEnd) {
@@ -198,8 +198,8 @@ TEST_F(DesktopNotificationsTest, NothingIsReportedAfterTheEnd) {
     bool reported = false;
     {
         DesktopNotifications notifications(session_, log_);
-        notifications.deliver(notification, [&](const Outcome&) { reported = true; });
-        notifications.requestAuthorization([&](const AuthorizationAnswer&) { reported = true; });
+        notifications.deliver(notification, [&](const Status&) { reported = true; });
+        notifications.requestAuthorization([&](const AuthorizationResult&) { reported = true; });
     }
     ASSERT_TRUE(waitFor([&] { return !service.calls.empty(); }));
     QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
@@ -208,8 +208,8 @@ TEST_F(DesktopNotificationsTest, NothingIsReportedAfterTheEnd) {
 
 TEST_F(DesktopNotificationsTest, NobodyHasToBeAskedForTheRight) {
     DesktopNotifications notifications(session_, log_);
-    std::optional<AuthorizationAnswer> answer;
-    notifications.requestAuthorization([&](const AuthorizationAnswer& given) { answer = given; });
+    std::optional<AuthorizationResult> answer;
+    notifications.requestAuthorization([&](const AuthorizationResult& given) { answer = given; });
     EXPECT_FALSE(answer) << "answered inside the call";
     ASSERT_TRUE(waitFor([&] { return answer.has_value(); }));
     EXPECT_TRUE(answer->granted);
@@ -219,15 +219,15 @@ TEST_F(DesktopNotificationsTest, NobodyHasToBeAskedForTheRight) {
 TEST_F(DesktopNotificationsTest, TheOlderServiceIsWhatIsGivenAsIt) {
     DesktopNotifications notifications(session_, log_);
     std::vector<UserNotification> shown;
-    notifications.setOlderService([&](const UserNotification& message) { shown.push_back(message); });
-    notifications.deliverOlder(notification);
+    notifications.setLegacyService([&](const UserNotification& message) { shown.push_back(message); });
+    notifications.deliverLegacy(notification);
     EXPECT_EQ(shown, std::vector{notification});
 }
 
 TEST_F(DesktopNotificationsTest, WithoutAnOlderServiceTheMessageIsLoggedAsLost) {
     DesktopNotifications notifications(session_, log_);
     log_.expectWarning("no service to show a notification: 💣 Llevas 2 horas sentado");
-    notifications.deliverOlder(notification);
+    notifications.deliverLegacy(notification);
 }
 
 }  // namespace

@@ -53,33 +53,33 @@ protected:
 
 TEST_F(SessionProbesTest, ABusThatNamesItsWaysInAnswers) {
     Listener bus(bus_, "REJECTED EXTERNAL\r\n");
-    EXPECT_TRUE(busAnswers(bus_, 30s));
+    EXPECT_TRUE(isBusResponsive(bus_, 30s));
 }
 
 TEST_F(SessionProbesTest, ABusThatSaysNothingDoesNot) {
     Listener bus(bus_);
-    EXPECT_FALSE(busAnswers(bus_, 50ms));
+    EXPECT_FALSE(isBusResponsive(bus_, 50ms));
 }
 
 TEST_F(SessionProbesTest, NobodyDoesNotAnswer) {
-    EXPECT_FALSE(busAnswers(bus_, 30s));
-    EXPECT_FALSE(busAnswers("tcp:host=127.0.0.1,port=1", 30s));
+    EXPECT_FALSE(isBusResponsive(bus_, 30s));
+    EXPECT_FALSE(isBusResponsive("tcp:host=127.0.0.1,port=1", 30s));
 }
 
 TEST_F(SessionProbesTest, OnlySessionManagersThatAnswerAreKept) {
     Listener manager(bus_, std::string("\0\1\0\0\0\0\0\0", 8));
-    EXPECT_EQ(answeringSessionManagers("local/here:@/tmp/.ICE-unix/none-of-that-name," + manager_, 30s),
+    EXPECT_EQ(responsiveSessionManagers("local/here:@/tmp/.ICE-unix/none-of-that-name," + manager_, 30s),
               manager_);
 }
 
 TEST_F(SessionProbesTest, OneThatSaysNothingIsNot) {
     Listener manager(bus_);
-    EXPECT_EQ(answeringSessionManagers(manager_, 50ms), "");
+    EXPECT_EQ(responsiveSessionManagers(manager_, 50ms), "");
 }
 
 TEST_F(SessionProbesTest, OneOnAnotherMachineIsNotAsked) {
-    EXPECT_EQ(answeringSessionManagers("tcp/127.0.0.1:1", 30s), "");
-    EXPECT_EQ(answeringSessionManagers("nonsense,,", 30s), "");
+    EXPECT_EQ(responsiveSessionManagers("tcp/127.0.0.1:1", 30s), "");
+    EXPECT_EQ(responsiveSessionManagers("nonsense,,", 30s), "");
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ TEST(LinuxProcessMemory, GivesBackWhatWasFreed) {
     blocks.clear();
     blocks.shrink_to_fit();
     const auto before = residentKilobytes();
-    LinuxProcessMemory().giveBackUnused();
+    LinuxProcessMemory().releaseUnused();
     EXPECT_LT(residentKilobytes(), before - 20'000);
     EXPECT_EQ(last->size(), 1000U);
 }
@@ -35,7 +35,7 @@ TEST(LinuxProcessMemory, GivesBackWhatWasFreed) {
 TEST(LinuxProcessMemory, CodeRunsOnAfterwards) {
     LinuxProcessMemory memory;
     for (int time = 0; time < 3; ++time) {
-        memory.giveBackUnused();
+        memory.releaseUnused();
         std::vector<int> numbers{3, 1, 2};
         std::sort(numbers.begin(), numbers.end());
         EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3}));

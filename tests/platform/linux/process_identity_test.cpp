@@ -44,7 +44,7 @@ TEST(SandboxedApplication, ReadsWhatTheProcessDirectoryHolds) {
     EXPECT_EQ(sandboxedApplication(13, proc.path()), std::nullopt);
 }
 
-TEST(SandboxedApplication, ANamedPipeInTheSandboxDoesNotHoldUpAndTellsNothing) {
+TEST(SandboxedApplication, ANamedPipeInTheSandboxDoesNotBlockAndTellsNothing) {
     test::TemporaryDirectory proc;
     proc.write("10/cgroup", "0::/user.slice/snap.editor.editor.1234.scope\n");
     std::filesystem::create_directories(proc.path() + "/10/root");
@@ -59,7 +59,7 @@ TEST(SandboxedApplication, ADeviceWithoutAnEndInTheSandboxTellsNothing) {
     EXPECT_EQ(sandboxedApplication(10, proc.path()), std::nullopt);
 }
 
-TEST(SandboxedApplication, AFileOutOfAllProportionTellsNothing) {
+TEST(SandboxedApplication, AFileOfExcessiveSizeTellsNothing) {
     test::TemporaryDirectory proc;
     proc.write("10/root/.flatpak-info", "[Application]\nname=org.example.Notes\n");
     std::filesystem::resize_file(proc.path() + "/10/root/.flatpak-info", std::uintmax_t{1} << 40);

@@ -50,21 +50,21 @@ TEST_F(DirectoryLockTest, OneProcessHasTheDirectory) {
     EXPECT_EQ(lock_.take(data_), State::held);
     EXPECT_TRUE(lock_.isHeld());
     EXPECT_EQ(DirectoryLock(log_).take(data_), State::heldByAnother);
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
 }
 
 TEST_F(DirectoryLockTest, ALockThatWasDeletedIsMadeAgainBeforeAWrite) {
     ASSERT_EQ(lock_.take(data_), State::held);
     fs::remove(data_ + "/lock");
     EXPECT_FALSE(lock_.isHeld());
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
     EXPECT_EQ(DirectoryLock(log_).take(data_), State::heldByAnother);
 }
 
 TEST_F(DirectoryLockTest, ADirectoryThatWasRemovedIsMadeAgainWithItsLock) {
     ASSERT_EQ(lock_.take(data_), State::held);
     fs::remove_all(data_);
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
     EXPECT_EQ(modeOf(data_), 0700u);
     EXPECT_EQ(DirectoryLock(log_).take(data_), State::heldByAnother);
 }
@@ -73,7 +73,7 @@ TEST_F(DirectoryLockTest, ALockInTheOldOnesPlaceThatNobodyHoldsIsTaken) {
     ASSERT_EQ(lock_.take(data_), State::held);
     fs::remove(data_ + "/lock");
     home_.write(".tidewatch/lock", "");
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
     EXPECT_EQ(DirectoryLock(log_).take(data_), State::heldByAnother);
 }
 
@@ -83,40 +83,40 @@ TEST_F(DirectoryLockTest, AnotherProcessThatWasQuickerHasTheDirectoryUntilItEnds
     auto other = std::make_unique<DirectoryLock>(log_);
     ASSERT_EQ(other->take(data_), State::held);
     log_.expectWarning("another instance has taken " + data_);
-    EXPECT_EQ(lock_.ensure(), RecordHold::anothers);
-    EXPECT_EQ(lock_.ensure(), RecordHold::anothers);
-    EXPECT_EQ(other->ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::heldByAnother);
+    EXPECT_EQ(lock_.ensure(), RecordLock::heldByAnother);
+    EXPECT_EQ(other->ensure(), RecordLock::held);
     EXPECT_THAT(log_.warnings(), SizeIs(1));
 
     other.reset();
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
     EXPECT_THAT(log_.infos(), SizeIs(1));
 }
 
 TEST_F(DirectoryLockTest, TheStoresFileSystemAsksForTheLock) {
     PosixFileSystem files(home_.path(), &lock_);
     ASSERT_EQ(lock_.take(data_), State::held);
-    EXPECT_EQ(files.holdRecord(data_), RecordHold::ours);
+    EXPECT_EQ(files.ensureRecordLock(data_), RecordLock::held);
     fs::remove(data_ + "/lock");
     DirectoryLock other(log_);
     ASSERT_EQ(other.take(data_), State::held);
     log_.expectWarning("another instance");
-    EXPECT_EQ(files.holdRecord(data_), RecordHold::anothers);
+    EXPECT_EQ(files.ensureRecordLock(data_), RecordLock::heldByAnother);
 }
 
 TEST_F(DirectoryLockTest, ALockThatIsALinkToNowhereLeavesTheDirectoryOurs) {
     fs::create_symlink(home_.path() + "/none/lock", data_ + "/lock");
     EXPECT_EQ(lock_.take(data_), State::unavailable);
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
-    EXPECT_EQ(lock_.ensure(), RecordHold::ours);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
+    EXPECT_EQ(lock_.ensure(), RecordLock::held);
     EXPECT_THAT(log_.warnings(), IsEmpty());
 }
 
 TEST_F(DirectoryLockTest, WhatLiesBesideIsLookedAfterWhileTheLockIsHeld) {
     ASSERT_EQ(lock_.take(data_), State::held);
     int restored = 0;
-    lock_.lookAfter(data_ + "/socket", [&] {
+    lock_.watchCompanion(data_ + "/socket", [&] {
         ++restored;
         home_.write(".tidewatch/socket", "");
     });

@@ -27,11 +27,11 @@ struct DirectoryTreeTest : testing::Test {
     // What is found below the test's directory, by the path from there.
     std::map<std::string, FoundFile> find(HiddenFiles hidden = HiddenFiles::included) {
         std::map<std::string, FoundFile> found;
-        const auto outcome = files.enumerate(directory.path(), hidden, [&](const FoundFile& file) {
+        const auto status = files.enumerate(directory.path(), hidden, [&](const FoundFile& file) {
             found.emplace(file.path.substr(directory.path().size() + 1), file);
-            return NextStep::enter;
+            return VisitAction::proceed;
         });
-        EXPECT_TRUE(outcome);
+        EXPECT_TRUE(status);
         return found;
     }
 
@@ -66,7 +66,7 @@ TEST_F(DirectoryTreeTest, ADirectoryComesBeforeWhatItHolds) {
     std::vector<std::string> paths;
     ASSERT_TRUE(files.enumerate(directory.path(), HiddenFiles::included, [&](const FoundFile& file) {
         paths.emplace_back(file.path);
-        return NextStep::enter;
+        return VisitAction::proceed;
     }));
     EXPECT_THAT(paths, testing::ElementsAre(at("a"), at("a/b"), at("a/b/c")));
 }
@@ -85,7 +85,7 @@ TEST_F(DirectoryTreeTest, APassedDirectoryIsNotEntered) {
     std::vector<std::string> paths;
     ASSERT_TRUE(files.enumerate(directory.path(), HiddenFiles::included, [&](const FoundFile& file) {
         paths.emplace_back(file.path);
-        return file.path.ends_with("/a") ? NextStep::pass : NextStep::enter;
+        return file.path.ends_with("/a") ? VisitAction::skip : VisitAction::proceed;
     }));
     EXPECT_THAT(paths, UnorderedElementsAre(at("a"), at("c"), at("c/d")));
 }
@@ -96,7 +96,7 @@ TEST_F(DirectoryTreeTest, NothingIsFoundAfterAStop) {
     int found = 0;
     ASSERT_TRUE(files.enumerate(directory.path(), HiddenFiles::included, [&](const FoundFile&) {
         ++found;
-        return NextStep::stop;
+        return VisitAction::stop;
     }));
     EXPECT_EQ(found, 1);
 }
@@ -121,7 +121,7 @@ TEST_F(DirectoryTreeTest, AStartThatIsALinkIsFollowed) {
     std::vector<std::string> paths;
     ASSERT_TRUE(files.enumerate(at("link"), HiddenFiles::included, [&](const FoundFile& file) {
         paths.emplace_back(file.path);
-        return NextStep::enter;
+        return VisitAction::proceed;
     }));
     EXPECT_THAT(paths, UnorderedElementsAre(at("link/b")));
 }
@@ -144,8 +144,8 @@ TEST_F(DirectoryTreeTest, ADirectoryWithoutRightsIsFoundAndItsInsideSkipped) {
     const test::OrdinaryUser user(directory.path());
     EXPECT_THAT(names(), UnorderedElementsAre("a", "a/x", "closed", "z", "z/x"));
     const auto inside = files.enumerate(at("closed"), HiddenFiles::included,
-                                        [](const FoundFile&) { return NextStep::enter; });
-    EXPECT_EQ(inside.error().fault, FileFault::forbidden);
+                                        [](const FoundFile&) { return VisitAction::proceed; });
+    EXPECT_EQ(inside.error().kind, FileErrorKind::permissionDenied);
 }
 
 TEST_F(DirectoryTreeTest, WhatIsRemovedMeanwhileIsSkipped) {
@@ -159,7 +159,7 @@ TEST_F(DirectoryTreeTest, WhatIsRemovedMeanwhileIsSkipped) {
                 if (at(name) + "/x" != file.path) fs::remove_all(at(name));
             }
         }
-        return NextStep::enter;
+        return VisitAction::proceed;
     }));
     EXPECT_EQ(entered.size(), 1u);
 }
@@ -172,21 +172,22 @@ TEST_F(DirectoryTreeTest, ADirectoryThatBecomesALinkMeanwhileIsNotEntered) {
         paths.emplace_back(file.path);
         fs::remove_all(at("inside/a"));
         fs::create_symlink(at("outside"), at("inside/a"));
-        return NextStep::enter;
+        return VisitAction::proceed;
     }));
     EXPECT_THAT(paths, UnorderedElementsAre(at("inside/a")));
 }
 
 TEST_F(DirectoryTreeTest, AStartThatIsNotThereIsAbsent) {
     directory.write("file", "");
-    const auto fault = [&](const std::string& path) {
-        return files.enumerate(path, HiddenFiles::included, [](const FoundFile&) { return NextStep::enter; })
+    const auto kind = [&](const std::string& path) {
+        return files
+            .enumerate(path, HiddenFiles::included, [](const FoundFile&) { return VisitAction::proceed; })
             .error()
-            .fault;
+            .kind;
     };
-    EXPECT_EQ(fault(at("none")), FileFault::absent);
-    EXPECT_EQ(fault(at("file/below")), FileFault::absent);
-    EXPECT_EQ(fault(at("file")), FileFault::broken);
+    EXPECT_EQ(kind(at("none")), FileErrorKind::notFound);
+    EXPECT_EQ(kind(at("file/below")), FileErrorKind::notFound);
+    EXPECT_EQ(kind(at("file")), FileErrorKind::unreadable);
 }
 
 TEST_F(DirectoryTreeTest, AHundredThousandFilesAreFound) {
@@ -201,7 +202,7 @@ TEST_F(DirectoryTreeTest, AHundredThousandFilesAreFound) {
     int found = 0;
     ASSERT_TRUE(files.enumerate(directory.path(), HiddenFiles::included, [&](const FoundFile& file) {
         found += file.info.kind == FileKind::file ? 1 : 0;
-        return NextStep::enter;
+        return VisitAction::proceed;
     }));
     EXPECT_EQ(found, 100'000);
 }

@@ -82,16 +82,16 @@ TEST_F(FileReadingTest, WhatIsNotThereIsAbsent) {
     directory.write("file", "");
     for (const auto* name : {"/none", "/none/below", "/file/below"}) {
         const auto path = directory.path() + name;
-        EXPECT_EQ(files.readWhole(path).error().fault, FileFault::absent) << path;
-        EXPECT_EQ(files.inspect(path).error().fault, FileFault::absent) << path;
-        EXPECT_EQ(files.openForReading(path, 0).error().fault, FileFault::absent) << path;
+        EXPECT_EQ(files.readFile(path).error().kind, FileErrorKind::notFound) << path;
+        EXPECT_EQ(files.inspect(path).error().kind, FileErrorKind::notFound) << path;
+        EXPECT_EQ(files.openForReading(path, 0).error().kind, FileErrorKind::notFound) << path;
     }
 }
 
 TEST_F(FileReadingTest, ALinkThatLeadsNowhereIsAbsent) {
     std::filesystem::create_symlink("none", log);
-    EXPECT_EQ(files.readWhole(log).error().fault, FileFault::absent);
-    EXPECT_EQ(files.inspect(log).error().fault, FileFault::absent);
+    EXPECT_EQ(files.readFile(log).error().kind, FileErrorKind::notFound);
+    EXPECT_EQ(files.inspect(log).error().kind, FileErrorKind::notFound);
 }
 
 TEST_F(FileReadingTest, WhatTheUserHasNoRightToIsForbidden) {
@@ -100,23 +100,23 @@ TEST_F(FileReadingTest, WhatTheUserHasNoRightToIsForbidden) {
     ::chmod(log.c_str(), 0);
     ::chmod((directory.path() + "/closed").c_str(), 0);
     const test::OrdinaryUser user(directory.path());
-    EXPECT_EQ(files.readWhole(log).error().fault, FileFault::forbidden);
-    EXPECT_EQ(files.openForReading(log, 0).error().fault, FileFault::forbidden);
-    EXPECT_EQ(files.inspect(directory.path() + "/closed/log").error().fault, FileFault::forbidden);
+    EXPECT_EQ(files.readFile(log).error().kind, FileErrorKind::permissionDenied);
+    EXPECT_EQ(files.openForReading(log, 0).error().kind, FileErrorKind::permissionDenied);
+    EXPECT_EQ(files.inspect(directory.path() + "/closed/log").error().kind, FileErrorKind::permissionDenied);
 }
 
 TEST_F(FileReadingTest, WhatIsNoFileIsBroken) {
     ::mkfifo(log.c_str(), 0600);
     for (const auto& path : {log, directory.path()}) {
-        EXPECT_EQ(files.readWhole(path).error().fault, FileFault::broken) << path;
-        EXPECT_EQ(files.openForReading(path, 0).error().fault, FileFault::broken) << path;
+        EXPECT_EQ(files.readFile(path).error().kind, FileErrorKind::unreadable) << path;
+        EXPECT_EQ(files.openForReading(path, 0).error().kind, FileErrorKind::unreadable) << path;
     }
     EXPECT_EQ(files.inspect(log).value().kind, FileKind::other);
 }
 
 TEST_F(FileReadingTest, LinksInACircleAreBroken) {
     std::filesystem::create_symlink("log", log);
-    EXPECT_EQ(files.readWhole(log).error().fault, FileFault::broken);
+    EXPECT_EQ(files.readFile(log).error().kind, FileErrorKind::unreadable);
 }
 
 }  // namespace

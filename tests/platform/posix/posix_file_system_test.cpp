@@ -127,9 +127,9 @@ TEST_F(PosixFileSystemTest, ADirectoryThatExistsIsASuccessAndKeepsItsMode) {
 
 TEST_F(PosixFileSystemTest, AFileInTheDirectorysPlaceIsAnError) {
     write(directory.path() + "/taken", "x");
-    const auto outcome = files.createDirectories(directory.path() + "/taken/deeper");
-    ASSERT_FALSE(outcome);
-    EXPECT_THAT(outcome.error().message, AllOf(HasSubstr("make directory"), HasSubstr("/taken")));
+    const auto status = files.createDirectories(directory.path() + "/taken/deeper");
+    ASSERT_FALSE(status);
+    EXPECT_THAT(status.error().message, AllOf(HasSubstr("make directory"), HasSubstr("/taken")));
 }
 
 TEST_F(PosixFileSystemTest, AFileIsToldFromTheOneThatReplacedIt) {
@@ -162,7 +162,7 @@ TEST_F(PosixFileSystemTest, ALinkIsInspectedAsWhatItLeadsTo) {
 TEST_F(PosixFileSystemTest, ANewFileIsForItsOwnerAlone) {
     ASSERT_TRUE(files.replaceAtomically(file, "{}"));
     EXPECT_EQ(modeOf(file), 0600u);
-    EXPECT_EQ(files.readWhole(file).value(), "{}");
+    EXPECT_EQ(files.readFile(file).value(), "{}");
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
 }
 
@@ -170,9 +170,9 @@ TEST_F(PosixFileSystemTest, ReplacesAFileWhateverItHeld) {
     ASSERT_TRUE(files.replaceAtomically(file, std::string(300'000, 'x')));
     const std::string content("a\0b\n", 4);
     ASSERT_TRUE(files.replaceAtomically(file, content));
-    EXPECT_EQ(files.readWhole(file).value(), content);
+    EXPECT_EQ(files.readFile(file).value(), content);
     ASSERT_TRUE(files.replaceAtomically(file, ""));
-    EXPECT_EQ(files.readWhole(file).value(), "");
+    EXPECT_EQ(files.readFile(file).value(), "");
 }
 
 TEST_F(PosixFileSystemTest, TheFileAndThenItsDirectoryAreBroughtToTheDisk) {
@@ -203,7 +203,7 @@ TEST_F(PosixFileSystemTest, ALinkThatLiesInTheSuccessorsPlaceIsNotWrittenThrough
     write(directory.path() + "/victim", "precious");
     fs::create_symlink(directory.path() + "/victim", file + ".tmp");
     ASSERT_TRUE(files.replaceAtomically(file, "{}"));
-    EXPECT_EQ(files.readWhole(directory.path() + "/victim").value(), "precious");
+    EXPECT_EQ(files.readFile(directory.path() + "/victim").value(), "precious");
 }
 
 TEST_F(PosixFileSystemTest, ASymbolicLinkStaysAndItsTargetIsReplaced) {
@@ -212,27 +212,27 @@ TEST_F(PosixFileSystemTest, ASymbolicLinkStaysAndItsTargetIsReplaced) {
     fs::create_symlink("elsewhere/real.json", file);
     ASSERT_TRUE(files.replaceAtomically(file, "new"));
     EXPECT_TRUE(fs::is_symlink(file));
-    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.json").value(), "new");
+    EXPECT_EQ(files.readFile(directory.path() + "/elsewhere/real.json").value(), "new");
 }
 
 TEST_F(PosixFileSystemTest, AWriteThatBreaksOffKeepsTheOldFileAndLeavesNothingBeside) {
     ASSERT_TRUE(files.replaceAtomically(file, "old"));
-    Outcome outcome = success();
+    Status status = success();
     {
         const FileSizeLimit limit(4096);
-        outcome = files.replaceAtomically(file, std::string(100'000, 'x'));
+        status = files.replaceAtomically(file, std::string(100'000, 'x'));
     }
-    ASSERT_FALSE(outcome);
-    EXPECT_THAT(outcome.error().message, AllOf(HasSubstr("write "), HasSubstr(": File too large")));
-    EXPECT_EQ(files.readWhole(file).value(), "old");
+    ASSERT_FALSE(status);
+    EXPECT_THAT(status.error().message, AllOf(HasSubstr("write "), HasSubstr(": File too large")));
+    EXPECT_EQ(files.readFile(file).value(), "old");
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
 }
 
 TEST_F(PosixFileSystemTest, ADirectoryInTheFilesPlaceIsAnErrorAndLeavesNothingBeside) {
     fs::create_directory(file);
-    const auto outcome = files.replaceAtomically(file, "{}");
-    ASSERT_FALSE(outcome);
-    EXPECT_THAT(outcome.error().message, HasSubstr("rename "));
+    const auto status = files.replaceAtomically(file, "{}");
+    ASSERT_FALSE(status);
+    EXPECT_THAT(status.error().message, HasSubstr("rename "));
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
     EXPECT_TRUE(fs::is_directory(file));
 }
@@ -240,16 +240,16 @@ TEST_F(PosixFileSystemTest, ADirectoryInTheFilesPlaceIsAnErrorAndLeavesNothingBe
 TEST_F(PosixFileSystemTest, ADirectoryInTheSuccessorsPlaceIsAnErrorAndKeepsTheOldFile) {
     ASSERT_TRUE(files.replaceAtomically(file, "old"));
     fs::create_directory(file + ".tmp");
-    const auto outcome = files.replaceAtomically(file, "new");
-    ASSERT_FALSE(outcome);
-    EXPECT_THAT(outcome.error().message, HasSubstr("open "));
-    EXPECT_EQ(files.readWhole(file).value(), "old");
+    const auto status = files.replaceAtomically(file, "new");
+    ASSERT_FALSE(status);
+    EXPECT_THAT(status.error().message, HasSubstr("open "));
+    EXPECT_EQ(files.readFile(file).value(), "old");
 }
 
 TEST_F(PosixFileSystemTest, AMissingDirectoryIsAnError) {
-    const auto outcome = files.replaceAtomically(directory.path() + "/none/today.json", "{}");
-    ASSERT_FALSE(outcome);
-    EXPECT_THAT(outcome.error().message, AllOf(HasSubstr("open "), HasSubstr(": No such file or directory")));
+    const auto status = files.replaceAtomically(directory.path() + "/none/today.json", "{}");
+    ASSERT_FALSE(status);
+    EXPECT_THAT(status.error().message, AllOf(HasSubstr("open "), HasSubstr(": No such file or directory")));
 }
 
 TEST_F(PosixFileSystemTest, TheUmaskChangesNothingOfWhatIsPrivate) {
@@ -268,19 +268,19 @@ TEST_F(PosixFileSystemTest, ALinkToWhatIsNotThereYetStaysAndItsTargetIsMade) {
     fs::create_symlink("elsewhere/real.json", file);
     ASSERT_TRUE(files.replaceAtomically(file, "new"));
     EXPECT_TRUE(fs::is_symlink(file));
-    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.json").value(), "new");
+    EXPECT_EQ(files.readFile(directory.path() + "/elsewhere/real.json").value(), "new");
 }
 
 TEST_F(PosixFileSystemTest, ALinkThatLeadsToItselfIsReplaced) {
     fs::create_symlink("today.json", file);
     ASSERT_TRUE(files.replaceAtomically(file, "new"));
     EXPECT_FALSE(fs::is_symlink(file));
-    EXPECT_EQ(files.readWhole(file).value(), "new");
+    EXPECT_EQ(files.readFile(file).value(), "new");
 }
 
 TEST_F(PosixFileSystemTest, TheRecordsDirectoryIsMadeWhenItIsGone) {
     const auto data = directory.path() + "/data";
-    EXPECT_EQ(files.holdRecord(data), RecordHold::ours);
+    EXPECT_EQ(files.ensureRecordLock(data), RecordLock::held);
     EXPECT_EQ(modeOf(data), 0700u);
 }
 
@@ -289,7 +289,7 @@ TEST_F(PosixFileSystemTest, AFileIsSetAsideUnderItsNameAndTheDay) {
     const auto kept = files.setAside(file, "damaged");
     ASSERT_TRUE(kept && kept.value());
     EXPECT_THAT(*kept.value(), testing::MatchesRegex(file + "\\.damaged-[0-9]{4}-[0-9]{2}-[0-9]{2}"));
-    EXPECT_EQ(files.readWhole(*kept.value()).value(), "garbage");
+    EXPECT_EQ(files.readFile(*kept.value()).value(), "garbage");
     EXPECT_FALSE(fs::exists(file));
 }
 
@@ -302,9 +302,9 @@ TEST_F(PosixFileSystemTest, WhatWasSetAsideBeforeIsKept) {
     const auto third = *files.setAside(file, "damaged").value();
     EXPECT_EQ(second, first + "-2");
     EXPECT_EQ(third, first + "-3");
-    EXPECT_EQ(files.readWhole(first).value(), "first");
-    EXPECT_EQ(files.readWhole(second).value(), "second");
-    EXPECT_EQ(files.readWhole(third).value(), "third");
+    EXPECT_EQ(files.readFile(first).value(), "first");
+    EXPECT_EQ(files.readFile(second).value(), "second");
+    EXPECT_EQ(files.readFile(third).value(), "third");
 }
 
 TEST_F(PosixFileSystemTest, AMissingOrEmptyFileIsNotSetAside) {
@@ -322,8 +322,8 @@ TEST_F(PosixFileSystemTest, OfALinkItsTargetIsSetAsideAndTheLinkStays) {
     EXPECT_TRUE(kept.starts_with(directory.path() + "/elsewhere/real.json.damaged-")) << kept;
     ASSERT_TRUE(files.replaceAtomically(file, "new"));
     EXPECT_TRUE(fs::is_symlink(file));
-    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.json").value(), "new");
-    EXPECT_EQ(files.readWhole(kept).value(), "garbage");
+    EXPECT_EQ(files.readFile(directory.path() + "/elsewhere/real.json").value(), "new");
+    EXPECT_EQ(files.readFile(kept).value(), "garbage");
 }
 
 TEST_F(PosixFileSystemTest, AnExportKeepsTheModeOfTheFileThatIsThere) {
@@ -334,7 +334,7 @@ TEST_F(PosixFileSystemTest, AnExportKeepsTheModeOfTheFileThatIsThere) {
         EXPECT_FALSE(files.exportFile(file, "new"));
         EXPECT_EQ(modeOf(file), mode);
     }
-    EXPECT_EQ(files.readWhole(file).value(), "new");
+    EXPECT_EQ(files.readFile(file).value(), "new");
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
 }
 
@@ -350,7 +350,7 @@ TEST_F(PosixFileSystemTest, ANewExportObeysTheUmask) {
 TEST_F(PosixFileSystemTest, AnExportLeavesItsNeighboursAlone) {
     write(file + ".tmp", "the user's own");
     EXPECT_FALSE(files.exportFile(file, "new"));
-    EXPECT_EQ(files.readWhole(file + ".tmp").value(), "the user's own");
+    EXPECT_EQ(files.readFile(file + ".tmp").value(), "the user's own");
     EXPECT_THAT(names(), testing::ElementsAre("today.json", "today.json.tmp"));
 }
 
@@ -361,57 +361,57 @@ TEST_F(PosixFileSystemTest, AnExportFollowsALink) {
     fs::create_symlink("elsewhere/real.csv", file);
     EXPECT_FALSE(files.exportFile(file, "new"));
     EXPECT_TRUE(fs::is_symlink(file));
-    EXPECT_EQ(files.readWhole(directory.path() + "/elsewhere/real.csv").value(), "new");
+    EXPECT_EQ(files.readFile(directory.path() + "/elsewhere/real.csv").value(), "new");
     EXPECT_EQ(modeOf(directory.path() + "/elsewhere/real.csv"), 0644u);
 }
 
 TEST_F(PosixFileSystemTest, AnExportThatBreaksOffKeepsTheOldFileAndLeavesNothingBeside) {
     write(file, "old");
-    std::optional<ExportFailure> failure;
+    std::optional<ExportError> failure;
     {
         const FileSizeLimit limit(4096);
         failure = files.exportFile(file, std::string(100'000, 'x'));
     }
     ASSERT_TRUE(failure);
-    EXPECT_EQ(failure->fault, ExportFault::noSpace);
+    EXPECT_EQ(failure->kind, ExportErrorKind::noSpace);
     EXPECT_EQ(failure->message, "write " + file + ": File too large");
-    EXPECT_EQ(files.readWhole(file).value(), "old");
+    EXPECT_EQ(files.readFile(file).value(), "old");
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
 }
 
 TEST_F(PosixFileSystemTest, WhyAnExportFailsIsTold) {
-    const auto faultAt = [&](const std::string& path) { return files.exportFile(path, "x").value().fault; };
-    EXPECT_EQ(faultAt(directory.path() + "/none/x.csv"), ExportFault::folderMissing);
-    EXPECT_EQ(faultAt(directory.path()), ExportFault::notAFile);
-    EXPECT_EQ(faultAt("/dev/full"), ExportFault::notAFile);
-    EXPECT_EQ(faultAt(directory.path() + "/" + std::string(300, 'x')), ExportFault::nameTooLong);
+    const auto kindAt = [&](const std::string& path) { return files.exportFile(path, "x").value().kind; };
+    EXPECT_EQ(kindAt(directory.path() + "/none/x.csv"), ExportErrorKind::folderMissing);
+    EXPECT_EQ(kindAt(directory.path()), ExportErrorKind::notAFile);
+    EXPECT_EQ(kindAt("/dev/full"), ExportErrorKind::notAFile);
+    EXPECT_EQ(kindAt(directory.path() + "/" + std::string(300, 'x')), ExportErrorKind::nameTooLong);
     EXPECT_THAT(names(), testing::IsEmpty());
 }
 
 TEST_F(PosixFileSystemTest, ANameOfTheGreatestLengthCanBeExported) {
     const auto longest = directory.path() + "/" + std::string(255, 'x');
     EXPECT_FALSE(files.exportFile(longest, "new"));
-    EXPECT_EQ(files.readWhole(longest).value(), "new");
+    EXPECT_EQ(files.readFile(longest).value(), "new");
 }
 
 TEST_F(PosixFileSystemTest, PathsNeedNotBeUtf8) {
     const auto folder = directory.path() + "/caf\xE9";
     ASSERT_TRUE(files.createDirectories(folder));
     ASSERT_TRUE(files.replaceAtomically(folder + "/today.json", "{}"));
-    EXPECT_EQ(files.readWhole(folder + "/today.json").value(), "{}");
+    EXPECT_EQ(files.readFile(folder + "/today.json").value(), "{}");
     EXPECT_THAT(names(), testing::ElementsAre("caf\xE9"));
 }
 
 TEST_F(PosixFileSystemTest, WhatIsNoFileCannotBeRead) {
-    EXPECT_THAT(files.readWhole(file).error().message, HasSubstr("No such file or directory"));
-    EXPECT_THAT(files.readWhole(directory.path()).error().message, HasSubstr("not a regular file"));
+    EXPECT_THAT(files.readFile(file).error().message, HasSubstr("No such file or directory"));
+    EXPECT_THAT(files.readFile(directory.path()).error().message, HasSubstr("not a regular file"));
     const auto pipe = directory.path() + "/pipe";
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    EXPECT_THAT(files.readWhole(pipe).error().message, HasSubstr("not a regular file"));
+    EXPECT_THAT(files.readFile(pipe).error().message, HasSubstr("not a regular file"));
 }
 
 TEST_F(PosixFileSystemTest, AFileThatDoesNotTellItsSizeIsReadWhole) {
-    const auto status = files.readWhole("/proc/self/status");
+    const auto status = files.readFile("/proc/self/status");
     ASSERT_TRUE(status);
     EXPECT_THAT(status.value(), AllOf(testing::StartsWith("Name:"), testing::EndsWith("\n")));
     EXPECT_GT(status.value().size(), 256u);

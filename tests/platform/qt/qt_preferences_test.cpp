@@ -129,7 +129,7 @@ TEST_F(QtPreferencesWithoutAFileTest, AFolderInItsPlaceMeansDefaultsInMemory) {
     expectMemoryOnly();
 }
 
-TEST_F(QtPreferencesWithoutAFileTest, AFileOutOfAllProportionMeansDefaultsInMemory) {
+TEST_F(QtPreferencesWithoutAFileTest, AFileOfExcessiveSizeMeansDefaultsInMemory) {
     config_.write(file, "[General]\ndayStartHour=3\n");
     std::filesystem::resize_file(path_, std::uintmax_t{1} << 40);  // takes no space
     expectMemoryOnly();

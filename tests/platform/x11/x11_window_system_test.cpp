@@ -46,7 +46,7 @@ TEST_F(X11WindowSystemTest, AFrameThatWasToldIsKnown) {
               (FrameMargins{.left = 1, .right = 2, .top = 20, .bottom = 4}));
 }
 
-TEST_F(X11WindowSystemTest, AWindowManagerThatHasStoppedHoldsUpNobody) {
+TEST_F(X11WindowSystemTest, AWindowManagerThatHasStoppedBlocksNobody) {
     announceFrames();
     X11WindowSystem windowSystem;
     const auto window = server_.openWindow("Statistics");
@@ -70,9 +70,9 @@ TEST_F(X11WindowSystemTest, WhoWatchesAWindowIsLetGoWithIt) {
         const auto window = server_.openWindow("Clock");
         auto held = std::make_shared<int>(i);
         watchers.push_back(held);
-        connections.push_back(windowSystem.onCovered(window, [held](bool) {}));
-        windowSystem.setFrameShade(window,
-                                   FrameShade::dark);  // returns once the server has seen all before it
+        connections.push_back(windowSystem.onOcclusionChanged(window, [held](bool) {}));
+        windowSystem.setFrameVariant(window,
+                                     FrameVariant::dark);  // returns once the server has seen all before it
         xcb_destroy_window(server_.client(), window);
     }
     server_.sync();

@@ -67,7 +67,7 @@ void paintDecorations(ClockScene& scene, const QDir& folder) {
     HackerScanlines lines;
     paintDecoration(scene.themes_.theme("hacker"), lines, folder);
     LiquidBackground liquid;
-    liquid.setTime(scene.presenter_->wallTime());
+    liquid.setTime(scene.presenter_->wallClock());
     liquid.setIntensity(liquidDecorationIntensity);
     liquid.setReduction(9);
     paintDecoration(scene.themes_.theme("liquid"), liquid, folder);

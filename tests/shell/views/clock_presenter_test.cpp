@@ -61,9 +61,9 @@ TEST_F(ClockPresenterTest, AnIdleSecondAnnouncesNothingAfterTheFirst) {
     runFor(seconds(1));
     const QSignalSpy digits(&clock(), &ClockPresenter::digitsChanged);
     const QSignalSpy session(&clock(), &ClockPresenter::sessionLineChanged);
-    const QSignalSpy spoken(&clock(), &ClockPresenter::accessibleTextChanged);
+    const QSignalSpy accessibleText(&clock(), &ClockPresenter::accessibleTextChanged);
     runFor(seconds(10));
-    EXPECT_EQ(digits.count() + session.count() + spoken.count(), 0);
+    EXPECT_EQ(digits.count() + session.count() + accessibleText.count(), 0);
 }
 
 TEST_F(ClockPresenterTest, TheDotIsTheActiveAccentWhileActiveAndTheIdleOneOtherwise) {
@@ -167,7 +167,7 @@ TEST_F(ClockPresenterTest, SaysInWordsWhatItShows) {
 TEST_F(ClockPresenterTest, AResetShowsAtOnce) {
     startAt(Seconds(10'000));
     runFor(seconds(2));
-    rooms_->engine.resetToday();
+    fixture_->engine.resetToday();
     EXPECT_EQ(clock().digits(), "00:00:00");
     EXPECT_EQ(clock().sessionLine(), "sesión · 00:00:00");
 }

@@ -16,12 +16,12 @@ ClockWorld::ClockWorld() {
 
 void ClockWorld::startAt(Seconds today) {
     presenter_.reset();
-    rooms_->daily.set(today, rooms_->dayRule.today());
-    rooms_->daily.flush();
-    rooms_ = std::make_unique<test::CoreRooms>(machine_);
+    fixture_->daily.set(today, fixture_->dayRule.today());
+    fixture_->daily.flush();
+    fixture_ = std::make_unique<test::CoreFixture>(machine_);
     presenter_ =
-        std::make_unique<ClockPresenter>(rooms_->engine, theme_, machine_.clock, [this] { return stars_; });
-    rooms_->engine.start();
+        std::make_unique<ClockPresenter>(fixture_->engine, theme_, machine_.clock, [this] { return stars_; });
+    fixture_->engine.start();
 }
 
 ClockScene::ClockScene() {

@@ -13,7 +13,7 @@
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
 #include "shell/views/clock_presenter.h"
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 #include "tests/support/fake_world.h"
 
 namespace tidewatch {
@@ -35,7 +35,7 @@ public:
     ThemeRegistry themes_;
     ThemeController theme_{themes_, settings_, broadcaster_};
     int stars_ = 0;
-    std::unique_ptr<test::CoreRooms> rooms_ = std::make_unique<test::CoreRooms>(machine_);
+    std::unique_ptr<test::CoreFixture> fixture_ = std::make_unique<test::CoreFixture>(machine_);
     std::unique_ptr<ClockPresenter> presenter_;
 };
 

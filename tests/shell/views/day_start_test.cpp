@@ -101,7 +101,7 @@ TEST_F(DayFromFiveTest, TheBarsRunFromFiveToFour) {
     EXPECT_DOUBLE_EQ(bars[17].height, 0.5);
     EXPECT_DOUBLE_EQ(bars[21].height, 1);
     EXPECT_DOUBLE_EQ(bars[2].height, 0.04);
-    EXPECT_EQ(presenter_.overview()->hoursSpoken(), "Actividad por hora: 10 pm 5m, 2 am 10m.");
+    EXPECT_EQ(presenter_.overview()->hoursAccessibleText(), "Actividad por hora: 10 pm 5m, 2 am 10m.");
 }
 
 TEST_F(DayFromFiveTest, TheTimesheetPutsTheNightAfterTheEvening) {
@@ -117,7 +117,7 @@ TEST_F(DayFromFiveTest, TheTimesheetPutsTheNightAfterTheEvening) {
     std::vector<std::string> filled;
     for (const auto& cell : midnight.buckets) filled.push_back(cell.filled ? "x" : "-");
     EXPECT_THAT(filled, ElementsAre("-", "x", "-", "-", "-", "-"));
-    EXPECT_EQ(midnight.buckets[1].spoken, "12:10am, 3s, Productivo");
+    EXPECT_EQ(midnight.buckets[1].accessibleText, "12:10am, 3s, Productivo");
 }
 
 TEST_F(DayFromFiveTest, ThePeakHourIsTheOneOnTheClock) {

@@ -217,7 +217,7 @@ TEST_F(StatsPresenterTest, EachStepIsWithinItsRangeAndSavedAtOnce) {
     showTab(goalsTab);
     presenter_.goals()->increase("dailyHours");
     EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 6.5);
-    EXPECT_TRUE(machine_.files.readWhole(services_.goals.store.filePath()).ok());
+    EXPECT_TRUE(machine_.files.readFile(services_.goals.store.filePath()).ok());
     for (int step = 0; step < 40; ++step) presenter_.goals()->increase("dailyHours");
     EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 16);
     for (int step = 0; step < 40; ++step) presenter_.goals()->decrease("dailyHours");
@@ -227,8 +227,8 @@ TEST_F(StatsPresenterTest, EachStepIsWithinItsRangeAndSavedAtOnce) {
 struct StepRange {
     const char* id;
     double GoalSettings::*goal;
-    double least;
-    double most;
+    double min;
+    double max;
     double step;
 };
 
@@ -243,9 +243,9 @@ TEST_F(StatsPresenterTest, TheRangesAndStepsOfAllGoals) {
         presenter_.goals()->decrease(range.id);
         EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, before - range.step);
         for (int step = 0; step < 100; ++step) presenter_.goals()->increase(range.id);
-        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.most);
+        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.max);
         for (int step = 0; step < 100; ++step) presenter_.goals()->decrease(range.id);
-        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.least);
+        EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.min);
     }
 }
 
@@ -253,7 +253,7 @@ TEST_F(StatsPresenterTest, TheSwitchOfTheNotificationsIsSavedAtOnce) {
     showTab(goalsTab);
     presenter_.goals()->setNotificationsEnabled(false);
     EXPECT_FALSE(services_.goals.store.settings().notificationsEnabled);
-    EXPECT_NE(machine_.files.readWhole(services_.goals.store.filePath()).value().find("false"),
+    EXPECT_NE(machine_.files.readFile(services_.goals.store.filePath()).value().find("false"),
               std::string::npos);
 }
 
@@ -327,9 +327,9 @@ TEST_F(StatsPresenterTest, ShowingWritesFourFilesAndReloads) {
     EXPECT_EQ(presenter_.overview()->productive()->time(), "10m");
     for (const auto& file :
          {machine_.todayJson, machine_.appsJson, machine_.hoursJson, machine_.minutesJson}) {
-        EXPECT_TRUE(machine_.files.readWhole(file).ok()) << file;
+        EXPECT_TRUE(machine_.files.readFile(file).ok()) << file;
     }
-    EXPECT_FALSE(machine_.files.readWhole(machine_.projectTimeJson).ok());
+    EXPECT_FALSE(machine_.files.readFile(machine_.projectTimeJson).ok());
 }
 
 TEST_F(StatsPresenterTest, TodayIsRefreshedEveryTwoSecondsUntilTheWindowCloses) {
@@ -426,7 +426,7 @@ TEST_F(StatsPresenterTest, AProjectWithoutANameIsARowThatCanBeRead) {
     const auto project = test::probe(*presenter_.projects())["rows"].toArray().at(0).toObject();
     EXPECT_EQ(project["title"].toString(), "Sin nombre");
     EXPECT_TRUE(project["tagged"].toBool());
-    EXPECT_EQ(project["spoken"].toString(), "Sin nombre, 1m, 100%");
+    EXPECT_EQ(project["accessibleText"].toString(), "Sin nombre, 1m, 100%");
 }
 
 TEST_F(StatsPresenterTest, ALongNameOfManyLinesIsOneShortLineInEveryTab) {

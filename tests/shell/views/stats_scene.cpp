@@ -72,7 +72,7 @@ void StatsWorld::bookBelievableWork() {
     for (int back = 40; back > 0; --back) {
         const auto date = now - std::chrono::days(back);
         const bool weekend = std::chrono::weekday(date).iso_encoding() > 5;
-        if (!weekend || back % 5 == 0) bookDay(dayKeyOf(date), back);
+        if (!weekend || back % 5 == 0) bookDay(toDayKey(date), back);
     }
     bookToday();
 }

@@ -410,7 +410,7 @@ TEST_F(StatsViewTest, AnEmptyProjectNameIsARowInThePlaceOfTheOthers) {
     ASSERT_NE(title, nullptr);
     EXPECT_GT(title->width(), 100);
     EXPECT_GT(contrast(title->property("color").value<QColor>(), Style::of(engine_)->palette().textGround),
-              leastContrast);
+              minContrast);
 }
 
 TEST_F(StatsViewTest, WhatLooksLikeMarkupIsShownAsItIsWritten) {
@@ -483,7 +483,7 @@ TEST_F(StatsViewTest, TheRowsOfATierAreReadInTheOrderOfTheScreenAfterAChangeOfDa
         const auto* rows = presenter_.overview()->productive()->apps();
         QStringList shown;
         for (int row = 0; row < rows->rowCount(); ++row) {
-            shown.append(rows->index(row).data(RowListModel::rowRole).value<AppRow>().spoken);
+            shown.append(rows->index(row).data(RowListModel::rowRole).value<AppRow>().accessibleText);
         }
         EXPECT_EQ(read, shown) << way;
         EXPECT_GT(read.size(), 3);
@@ -501,7 +501,7 @@ TEST_F(StatsViewTest, ChartsAreSentences) {
             names.append(accessible->text(QAccessible::Name));
         }
     }
-    EXPECT_TRUE(names.contains(presenter_.overview()->hoursSpoken()));
+    EXPECT_TRUE(names.contains(presenter_.overview()->hoursAccessibleText()));
     EXPECT_TRUE(names.contains("PRODUCTIVIDAD: 96%, 4h 10m, -2% vs ayer")) << qPrintable(names.join("\n"));
 }
 

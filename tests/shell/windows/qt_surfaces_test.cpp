@@ -10,7 +10,7 @@
 
 #include "core/broadcaster.h"
 #include "shell/themes/theme_registry.h"
-#include "tests/support/core_rooms.h"
+#include "tests/support/core_fixture.h"
 #include "tests/support/fake_world.h"
 
 namespace tidewatch {
@@ -43,11 +43,11 @@ protected:
     using Answers = std::vector<std::string>;
 
     test::FakeWorld machine_;
-    test::CoreRooms rooms_{machine_};
+    test::CoreFixture fixture_{machine_};
     Broadcaster broadcaster_;
     ThemeRegistry themes_;
-    ThemeController theme_{themes_, rooms_.settings, broadcaster_};
-    ClockPresenter clock_{rooms_.engine, theme_, machine_.clock, [] { return 0; }};
+    ThemeController theme_{themes_, fixture_.settings, broadcaster_};
+    ClockPresenter clock_{fixture_.engine, theme_, machine_.clock, [] { return 0; }};
     QtSurfaces surfaces_{{.log = machine_.log,
                           .windowSystem = machine_.windowSystem,
                           .desktop = machine_.desktop,

@@ -18,7 +18,7 @@ class QuestionDialogTest : public testing::Test {
 protected:
     ~QuestionDialogTest() override { delete dialog_; }
 
-    QuestionDialog& make(const NamingText& title, const NamingText& text) {
+    QuestionDialog& make(const TextWithName& title, const TextWithName& text) {
         dialog_ = new QuestionDialog(title, text, themes_.themes().front().dashboard);
         return *dialog_;
     }

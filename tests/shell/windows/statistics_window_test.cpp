@@ -152,7 +152,7 @@ TEST_F(StatisticsWindowTest, ClosingDestroysTheViewAndGivesItsMemoryBack) {
     EXPECT_EQ(disappeared_, 1);
     EXPECT_TRUE(QTest::qWaitFor([this] { return view_.isNull(); }, 60'000));
     EXPECT_EQ(destroyed_, 1);
-    EXPECT_EQ(machine_.memory.timesGivenBack(), 1);
+    EXPECT_EQ(machine_.memory.releaseCount(), 1);
 }
 
 TEST_F(StatisticsWindowTest, AViewThatClosesItsWindowOutlivesTheCall) {
@@ -175,16 +175,16 @@ TEST_F(StatisticsWindowTest, ShownAgainAtOnceItHasANewView) {
     EXPECT_EQ(viewsMade_, 2);
 }
 
-TEST_F(StatisticsWindowTest, WearsTheThemeFromBeforeItsFirstFrameAndFollowsIt) {
+TEST_F(StatisticsWindowTest, AppliesTheThemeBeforeItsFirstFrameAndFollowsIt) {
     theme_.switchTo("editorial");
     window_.showWindow();
     const auto& light = theme_.active().dashboard;
     EXPECT_EQ(shown()->color(), toQColor(light.nsBackground));
-    EXPECT_EQ(machine_.windowSystem.frameShade(), platform::FrameShade::light);
+    EXPECT_EQ(machine_.windowSystem.frameVariant(), platform::FrameVariant::light);
     theme_.switchTo("hacker");
     EXPECT_NE(theme_.active().dashboard.nsBackground, light.nsBackground);
     EXPECT_EQ(shown()->color(), toQColor(theme_.active().dashboard.nsBackground));
-    EXPECT_EQ(machine_.windowSystem.frameShade(), platform::FrameShade::dark);
+    EXPECT_EQ(machine_.windowSystem.frameVariant(), platform::FrameVariant::dark);
 }
 
 TEST_F(StatisticsWindowTest, AMinimisedWindowIsNotVisibleAndComesUpAgain) {

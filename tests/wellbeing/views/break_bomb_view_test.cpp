@@ -145,13 +145,13 @@ TEST_F(BreakBombViewTest, TheRingGoesOutAndTheBombRocksWhileItIsUp) {
     sitUntilAlert();
     EXPECT_TRUE(runs("pulse"));
     EXPECT_TRUE(runs("jiggle"));
-    double leastScale = 2;
-    double greatestScale = 0;
-    double leastTurn = 90;
-    double greatestTurn = -90;
+    double minScale = 2;
+    double maxScale = 0;
+    double minTurn = 90;
+    double maxTurn = -90;
     // Both go through their whole ranges, in as many frames as the machine has time for.
     const auto wholeRanges = [&] {
-        return leastScale < 1.04 && greatestScale > 1.16 && leastTurn < -7 && greatestTurn > 7;
+        return minScale < 1.04 && maxScale > 1.16 && minTurn < -7 && maxTurn > 7;
     };
     for (int i = 0; i < 140 || (i < 6000 && !wholeRanges()); ++i) {
         QTest::qWait(10);
@@ -159,16 +159,16 @@ TEST_F(BreakBombViewTest, TheRingGoesOutAndTheBombRocksWhileItIsUp) {
         const double turn = the("bomb").property("turn").toDouble();
         // Out and pale belong together.
         EXPECT_NEAR((scale - 1) / 0.18, 1 - the("ring").opacity() / 0.7, 1e-3);
-        leastScale = std::min(leastScale, scale);
-        greatestScale = std::max(greatestScale, scale);
-        leastTurn = std::min(leastTurn, turn);
-        greatestTurn = std::max(greatestTurn, turn);
+        minScale = std::min(minScale, scale);
+        maxScale = std::max(maxScale, scale);
+        minTurn = std::min(minTurn, turn);
+        maxTurn = std::max(maxTurn, turn);
     }
-    EXPECT_LT(leastScale, 1.04);
-    EXPECT_GT(greatestScale, 1.16);
-    EXPECT_LE(greatestScale, 1.18);
-    EXPECT_NEAR(leastTurn, -8, 1);
-    EXPECT_NEAR(greatestTurn, 8, 1);
+    EXPECT_LT(minScale, 1.04);
+    EXPECT_GT(maxScale, 1.16);
+    EXPECT_LE(maxScale, 1.18);
+    EXPECT_NEAR(minTurn, -8, 1);
+    EXPECT_NEAR(maxTurn, 8, 1);
 }
 
 TEST_F(BreakBombViewTest, NothingMovesWhereItCannotBeSeen) {

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cerrno>
+
+namespace tidewatch::platform {
+
+/// Whether a call failed for want of what may be there again soon: descriptors or memory.
+[[nodiscard]] inline bool isResourceShortage(int code) {
+    return code == EMFILE || code == ENFILE || code == ENOBUFS || code == ENOMEM;
+}
+
+}  // namespace tidewatch::platform

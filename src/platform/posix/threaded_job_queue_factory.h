@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/api/job_queue_factory.h"
+#include "platform/api/main_loop.h"
+
+namespace tidewatch::platform {
+
+/// A thread for each queue.
+class ThreadedJobQueueFactory final : public JobQueueFactory {
+public:
+    /// `mainLoop` must outlive it.
+    explicit ThreadedJobQueueFactory(MainLoop& mainLoop) : mainLoop_(mainLoop) {}
+
+    [[nodiscard]] std::unique_ptr<JobQueue> makeQueue(const std::string& name) override;
+
+private:
+    MainLoop& mainLoop_;
+};
+
+}  // namespace tidewatch::platform
