@@ -17,7 +17,7 @@ set(FILES
 set(SECONDS 60)
 
 function(give_up reason)
-    message(STATUS "No typefaces fetched (${reason}); look-alikes serve")
+    message(STATUS "No typefaces fetched (${reason}); using fallbacks")
     file(REMOVE_RECURSE ${WORK})
 endfunction()
 

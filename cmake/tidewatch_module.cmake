@@ -1,7 +1,7 @@
 # tidewatch_module(<room> SOURCES <file>... [KNOWS <target>...])
 #
-# One room of the house as a static library `tidewatch_<room>`. KNOWS names the rooms and libraries that its
-# headers and sources may include; whoever links the room sees them too.
+# One room (see docs/architecture.md) as a static library `tidewatch_<room>`. KNOWS names the rooms and libraries that
+# its headers and sources may include; targets that link the room inherit them.
 function(tidewatch_module room)
     cmake_parse_arguments(ARG "" "" "SOURCES;KNOWS" ${ARGN})
     add_library(tidewatch_${room} STATIC ${ARG_SOURCES})

@@ -36,7 +36,7 @@ QFont::Weight toQtWeight(FontWeight weight) {
     return QFont::Normal;
 }
 
-/// The family of the role, then its look-alikes, best first.
+/// The family of the role, then its fallbacks, best first.
 QStringList families(FontRole role) {
     const QStringList monospaced = {"DejaVu Sans Mono", "Liberation Mono", "Noto Sans Mono", "monospace"};
     const QStringList serif = {"P052", "DejaVu Serif", "Liberation Serif", "Noto Serif", "serif"};
