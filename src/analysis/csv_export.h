@@ -11,27 +11,27 @@
 
 namespace tidewatch {
 
-/// Writes the record as comma-separated values: UTF-8, lines ended by LF, the last one too, no byte-order
-/// mark. Texts with a comma, a double quote or a line feed stand in double quotes, theirs doubled. Categories
-/// and tiers are those of the moment. Main thread only.
+/// Exports the record as CSV: UTF-8 without a byte order mark, lines terminated by LF. Fields with a comma, a
+/// double quote or a line feed are quoted, with quotes doubled. Categories and tiers are the current ones.
+/// Main thread only.
 class CsvExport final {
 public:
     /// All four must outlive it.
     CsvExport(const AppUsageStore& apps, const ProjectTimeStore& projectTime, const CategoryStore& categories,
               const AppInfoResolver& appInfo);
 
-    /// The applications of one day, with their shares of all that applications got on it.
+    /// The applications of one day, with their shares of all application seconds of that day.
     [[nodiscard]] std::string day(const DayKey& day) const;
     /// "tidewatch-2026-11-21.csv".
     [[nodiscard]] static std::string fileName(const DayKey& day);
 
-    /// Every day and application of a project, and the total.
+    /// All days and applications of a project, and the total.
     [[nodiscard]] std::string project(const Project& project) const;
-    /// "tidewatch-NAME.csv", the name's slashes as hyphens.
+    /// "tidewatch-NAME.csv", with slashes in the name replaced by hyphens.
     [[nodiscard]] static std::string fileName(const Project& project);
 
 private:
-    /// From the identifier to the duration; both files have these six.
+    /// The six columns common to both files, from identifier to duration.
     [[nodiscard]] std::string applicationColumns(const AppSeconds& app) const;
 
     const AppUsageStore& apps_;

@@ -29,10 +29,10 @@
 
 namespace tidewatch {
 
-/// The tabs of the statistics window, in their order.
+/// The tabs of the statistics window, in display order.
 enum class DashboardTab { overview, goals, details, timesheet, projects, system, disk, claude };
 
-/// What the tab bar says.
+/// Its label in the tab bar.
 [[nodiscard]] std::string_view rawValue(DashboardTab tab);
 
 /// One application in one day.
@@ -46,19 +46,19 @@ struct AppEntry {
     bool operator==(const AppEntry&) const = default;
 };
 
-/// The time of one project in one day, or, without a project, what was booked to none.
+/// The time of one project in one day or, without a project, the untagged time.
 struct ProjectRow {
     static constexpr std::string_view untaggedId = "__untagged__";
 
     std::string id;  ///< the project's in upper case, or untaggedId
     std::optional<Project> project;
     Seconds seconds;
-    std::vector<AppEntry> topApps;  ///< at most six, most seconds first; none without a project
+    std::vector<AppEntry> topApps;  ///< at most six, in descending order; empty without a project
     bool operator==(const ProjectRow&) const = default;
 };
 
-/// One calendar day as the statistics window shows it, read whole from the stores on demand. Writes nothing
-/// to them. Main thread only; reload() takes as long as reading them does.
+/// One calendar day as shown in the statistics window, read from the stores on demand and never written. Main
+/// thread only; reload() is synchronous.
 class DashboardModel final {
 public:
     /// All of it must outlive the model.
@@ -77,13 +77,13 @@ public:
         const AppInfoResolver& appInfo;
     };
 
-    /// On the day of now, with every tier listed and nothing else: it is empty until reload().
+    /// Starts on the current day, with every tier in the filter; empty until reload().
     explicit DashboardModel(const Sources& sources);
     ~DashboardModel();
     DashboardModel(const DashboardModel&) = delete;
     DashboardModel& operator=(const DashboardModel&) = delete;
 
-    /// What can change.
+    /// The observable fields.
     enum class Field {
         tab,
         selectedDate,
@@ -100,21 +100,21 @@ public:
         isSelectedToday,
     };
 
-    /// Announced after each assignment of a field, whether its value differs or not; a reload assigns from
-    /// allDayApps to avg7Score in this order. isSelectedToday is no field of its own: it is announced when
-    /// the live refresh finds that midnight has changed it.
+    /// Emitted after each assignment of a field, whether or not its value differs; a reload assigns from
+    /// allDayApps to avg7Score in this order. isSelectedToday is computed: it is emitted when the live
+    /// refresh detects that midnight has changed it.
     Signal<Field> changed;
 
     [[nodiscard]] DashboardTab tab() const { return tab_; }
     void setTab(DashboardTab tab);
 
-    /// Any instant within the day on show.
+    /// Any instant within the selected day.
     [[nodiscard]] Instant selectedDate() const { return selectedDate_; }
-    /// The calendar day of selectedDate(), in the zone that was current when the model was made.
+    /// The calendar day of selectedDate(), in the time zone at the model's construction.
     [[nodiscard]] DayKey selectedDayKey() const;
     [[nodiscard]] bool isSelectedToday() const;
 
-    /// Move the day on show and reload; nextDay() does nothing on today.
+    /// Change the selected day and reload; nextDay() has no effect on today.
     void previousDay();
     void nextDay();
     void today();
@@ -123,32 +123,33 @@ public:
     [[nodiscard]] const std::vector<AppEntry>& allDayApps() const { return allDayApps_; }
     [[nodiscard]] const std::vector<HourSummary>& hourSummaries() const { return hourSummaries_; }
     [[nodiscard]] const std::vector<HourGroup>& hourGroups() const { return hourGroups_; }
-    /// Most seconds first.
+    /// In descending order of seconds.
     [[nodiscard]] const std::vector<ProjectRow>& projectRows() const { return projectRows_; }
     [[nodiscard]] const ProductivityScore& score() const { return score_; }
     /// Of the day before the selected one.
     [[nodiscard]] const ProductivityScore& prevScore() const { return prevScore_; }
-    /// The mean score of those of the seven days before that have a telling one, 0 to 1; 0 if none has.
+    /// The mean score of those of the seven preceding days that have a significant one, 0 to 1; 0 if none
+    /// has.
     [[nodiscard]] double avg7Score() const { return avg7Score_; }
-    /// Of the selected day, whichever it is.
+    /// Of the selected day, despite its name.
     [[nodiscard]] Seconds totalActiveToday() const { return totalActiveToday_; }
 
     [[nodiscard]] const std::set<Tier>& tierFilter() const { return tierFilter_; }
-    /// Takes the tier out of the filter, or puts it in.
+    /// Removes the tier from the filter, or adds it.
     void toggleTier(Tier tier);
     [[nodiscard]] const std::string& searchText() const { return searchText_; }
     void setSearchText(std::string_view text);
 
-    /// allDayApps() through the filter and the search.
+    /// allDayApps() after tier filter and search.
     [[nodiscard]] std::vector<AppEntry> filteredApps() const;
-    /// allDayApps() of one tier, whatever the filter and the search say.
+    /// allDayApps() of one tier, regardless of filter and search.
     [[nodiscard]] std::vector<AppEntry> apps(Tier tier) const;
     [[nodiscard]] Seconds seconds(Tier tier) const;
 
-    /// Reads everything for the selected day anew.
+    /// Rereads everything for the selected day.
     void reload();
 
-    /// Looks every two seconds whether the selected day is today, and reloads as long as it is.
+    /// Reloads every two seconds while the selected day is today.
     void startLiveRefresh();
     void stopLiveRefresh();
 
@@ -169,7 +170,7 @@ private:
     std::shared_ptr<const platform::TimeZone> namingZone_;
     DashboardTab tab_ = DashboardTab::overview;
     Instant selectedDate_;
-    bool wasSelectedToday_ = true;  ///< when the live refresh last looked
+    bool wasSelectedToday_ = true;  ///< at the last live refresh
     std::vector<AppEntry> allDayApps_;
     std::vector<HourSummary> hourSummaries_;
     std::vector<HourGroup> hourGroups_;

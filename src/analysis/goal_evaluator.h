@@ -15,13 +15,12 @@
 
 namespace tidewatch {
 
-/// How far one goal is reached: either of time, and then both scores are 0, or of productivity, and then both
-/// durations are.
+/// The progress towards one goal: of time, with both scores 0, or of productivity, with both durations 0.
 struct GoalProgress {
-    std::string_view label;  ///< what the user reads
+    std::string_view label;  ///< display text
     Seconds currentSeconds{};
     Seconds targetSeconds{};
-    double fraction = 0;  ///< of the target; above 1 if it is exceeded, 0 if it is not above 0
+    double fraction = 0;  ///< of the target; above 1 if exceeded, 0 if the target is not above 0
     bool isProductivity = false;
     double currentScore = 0;  ///< a fraction from 0 to 1
     double targetScore = 0;   ///< a fraction from 0 to 1
@@ -29,10 +28,10 @@ struct GoalProgress {
     bool operator==(const GoalProgress&) const = default;
 };
 
-/// Compares the record with the present goals. Main thread only.
+/// Compares the record with the current goals. Main thread only.
 ///
-/// Weeks and months are those of the calendar in the zone of the moment, and a day of theirs counts what is
-/// booked under its date; the day itself is the logical one, which may start later than midnight.
+/// Weeks and months are calendar ones in the current time zone, and each of their days counts what is booked
+/// under its date; today is the logical day, which may start later than midnight.
 class GoalEvaluator final {
 public:
     /// All four must outlive it.
@@ -43,11 +42,11 @@ public:
     [[nodiscard]] std::array<GoalProgress, 4> evaluate(Instant instant) const;
     [[nodiscard]] std::array<GoalProgress, 4> evaluate() const { return evaluate(clock_.now()); }
 
-    /// From the Monday, or the first of the month, through the day of `instant`, in ascending order.
+    /// From Monday, or the first of the month, through the day of `instant`, in ascending order.
     [[nodiscard]] std::vector<DayKey> dayKeysInSameWeekAs(Instant instant) const;
     [[nodiscard]] std::vector<DayKey> dayKeysInSameMonthAs(Instant instant) const;
 
-    /// What the days hold together; a day without an entry counts 0, one given twice counts twice.
+    /// The sum over `days`; a day without an entry counts 0, one given twice counts twice.
     [[nodiscard]] Seconds sumSeconds(std::span<const DayKey> days) const;
 
 private:

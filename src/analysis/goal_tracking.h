@@ -8,7 +8,7 @@
 
 namespace tidewatch {
 
-/// The goals, how near they are, and the stars for them, built together. Main thread only.
+/// The goals, their progress and the stars for them, built together. Main thread only.
 struct GoalTracking final {
     /// All of it must outlive the bundle.
     struct Dependencies {

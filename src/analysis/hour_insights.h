@@ -8,9 +8,9 @@
 
 namespace tidewatch {
 
-/// Fills in what the hours of the days from `cutoffKey` on say: the histogram, the peak hours and the best
-/// score. Hours whose key is not a day and an hour of the clock are left out. Of equal days the earliest is
-/// the best one. Main thread only.
+/// Fills in the insights derived from hours of the days from `cutoffKey` on: the histogram, the peak hours
+/// and the best score. Hours with a malformed key are ignored. On a tie the earliest day is the best one.
+/// Main thread only.
 void addHourInsights(const UsageSnapshot& hours, std::string_view cutoffKey, const CategoryStore& categories,
                      Insights& insights);
 

@@ -13,17 +13,17 @@
 
 namespace tidewatch {
 
-/// The days that a look back takes in; all of them end today.
+/// The period of the insights; all of them end today.
 enum class InsightsRange { week, month, all };
 
 [[nodiscard]] std::span<const InsightsRange> allInsightsRanges();
 [[nodiscard]] std::string_view rawValue(InsightsRange range);
-/// What the user sees.
+/// Its display name.
 [[nodiscard]] std::string_view label(InsightsRange range);
-/// How many days it takes in; nothing for no limit.
+/// Its number of days; nullopt if unlimited.
 [[nodiscard]] std::optional<int> days(InsightsRange range);
 
-/// A run of busy ten-minute buckets without a gap.
+/// A run of consecutive busy ten-minute buckets.
 struct LongestSession {
     Seconds seconds;  ///< what was booked in it, not the span from start to end
     Instant start;
@@ -31,18 +31,18 @@ struct LongestSession {
     bool operator==(const LongestSession&) const = default;
 };
 
-/// What a look back over a range of days finds.
+/// Statistics over a range of days.
 struct Insights {
     InsightsRange range = InsightsRange::week;
     Seconds totalSeconds;
     int activeDays = 0;  ///< days with at least 60 seconds
     Seconds avgPerActiveDay;
-    std::optional<DayKey> bestDayKey;  ///< the day with most seconds
+    std::optional<DayKey> bestDayKey;  ///< the day with the most seconds
     Seconds bestDaySeconds;
     std::optional<LongestSession> longest;
-    std::optional<int> peakHour;  ///< 0 to 23, the hour of the day with most seconds
+    std::optional<int> peakHour;  ///< 0 to 23, the hour of the day with the most seconds
     Seconds peakHourSeconds;
-    std::optional<double> avgPeakHour;  ///< mean of the days' own busiest hours
+    std::optional<double> avgPeakHour;  ///< mean of each day's busiest hour
     std::array<Seconds, hoursPerDay> hourHistogram{};
     double bestScore = 0;  ///< a fraction from 0 to 1
     std::optional<DayKey> bestScoreDayKey;

@@ -21,22 +21,22 @@ public:
     InsightsEngine(const platform::Clock& clock, const DailyStore& days, const HourlyStore& hours,
                    const MinuteStore& minutes, const CategoryStore& categories);
 
-    /// Keys of odd shape are passed over.
+    /// Malformed keys are ignored.
     [[nodiscard]] Insights compute(InsightsRange range, Instant now) const;
     [[nodiscard]] Insights compute(InsightsRange range) const { return compute(range, clock_.now()); }
 
-    /// "vie 20 nov"; a key that is no date is given back as it is.
+    /// "vie 20 nov"; a key that is no date is returned unchanged.
     [[nodiscard]] std::string shortDate(const DayKey& day) const;
     [[nodiscard]] std::string shortDate(Instant instant) const;
 
     /// "9:05 am".
     [[nodiscard]] std::string clockTime(Instant instant) const;
 
-    /// "12 am" for 0, "3 pm" for 15; hours beyond the day are brought into it.
+    /// "12 am" for 0, "3 pm" for 15; taken modulo 24.
     [[nodiscard]] static std::string hourLabel(int hour);
 
 private:
-    /// Key of the first day of the range; empty without a limit.
+    /// Key of the first day of the range; empty if unlimited.
     [[nodiscard]] std::string cutoffKey(InsightsRange range, Instant now) const;
 
     const platform::Clock& clock_;

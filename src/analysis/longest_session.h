@@ -9,10 +9,10 @@
 
 namespace tidewatch {
 
-/// The run of busy buckets with most seconds, the earliest of equal ones; nothing if no bucket is busy. Busy
-/// is one of which at least half is booked; a run is of buckets that follow each other directly, over
-/// midnight too. Buckets of days before `cutoffKey` are left out, and those whose key is no date and time.
-/// Keys are read in `zone`.
+/// The run of busy buckets with the most seconds, on a tie the earliest; nullopt if no bucket is busy. A
+/// bucket is busy if at least half of it is booked; a run consists of consecutive buckets, also across
+/// midnight. Buckets of days before `cutoffKey` and malformed keys are ignored. Keys are interpreted in
+/// `zone`.
 [[nodiscard]] std::optional<LongestSession> longestSession(const UsageSnapshot& minutes,
                                                            std::string_view cutoffKey,
                                                            const platform::TimeZone& zone);

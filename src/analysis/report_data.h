@@ -21,23 +21,23 @@ struct ReportApp {
     bool operator==(const ReportApp&) const = default;
 };
 
-/// What the report of a month says: from its first day through today.
+/// The content of the monthly report: from the first day of the month through today.
 struct ReportData {
     std::string periodTitle;  ///< "MES · Noviembre 2026"
     Seconds totalSeconds;
-    int activeDays = 0;  ///< days with any seconds at all
+    int activeDays = 0;  ///< days with any seconds
     Seconds avgDailySeconds;
     Seconds recordSeconds;
-    std::string recordDay;           ///< key of the best day, "—" without one
-    double scorePct = 0;             ///< of the whole month at once, a fraction from 0 to 1
-    std::vector<ReportApp> topApps;  ///< at most eight, most seconds first
+    std::string recordDay;           ///< key of the best day, or "—"
+    double scorePct = 0;             ///< of the whole month, a fraction from 0 to 1
+    std::vector<ReportApp> topApps;  ///< at most eight, in descending order
     std::array<GoalProgress, 4> goals;
     int starsMonth = 0;
     int streak = 0;         ///< days
     std::string generated;  ///< "21 nov 2026 · 09:05"
 };
 
-/// Where the report's figures come from; all of it must outlive whoever holds this.
+/// The sources of the report's figures; all of them must outlive the holder.
 struct ReportSources {
     const platform::Clock& clock;
     const DailyStore& days;
@@ -48,7 +48,7 @@ struct ReportSources {
     const RewardEngine& rewards;
 };
 
-/// The report of the month of now. Main thread only.
+/// The report of the current month. Main thread only.
 [[nodiscard]] ReportData buildReportData(const ReportSources& sources);
 
 }  // namespace tidewatch

@@ -9,23 +9,23 @@
 
 namespace tidewatch {
 
-/// Gives each day stars for how far it reached the goals, and counts them. Nothing is stored: every figure
-/// comes from the record, the goals and the classification as they stand, so that changing a goal changes
-/// past days too. Main thread only.
+/// Awards each day stars for its progress towards the goals, and counts them. Nothing is stored: every figure
+/// is computed from the record and the current goals and classification, so that changing a goal changes past
+/// days too. Main thread only.
 class RewardEngine final {
 public:
     /// All must outlive it.
     RewardEngine(const platform::Clock& clock, const GoalStore& goals, const DailyStore& daily,
                  const ProductivityScorer& scorer, const GoalEvaluator& evaluator);
 
-    /// 0 to 5: up to three for the time and up to two for the productivity. A day with less than 30
-    /// classified seconds gets none for its productivity; a goal that is not above 0 gives none.
+    /// 0 to 5: up to three for time and up to two for productivity. A day with less than 30 classified
+    /// seconds gets none for productivity; a goal that is not above 0 gives none.
     [[nodiscard]] int stars(const DayKey& day) const;
 
-    /// Of the logical day of the moment.
+    /// Of the current logical day.
     [[nodiscard]] int starsToday() const;
 
-    /// Calendar days in a row, 0 to 400, with three stars or more: those that end today, or, as long as
+    /// The number of consecutive calendar days, 0 to 400, with at least three stars, ending today or, while
     /// today has fewer, yesterday.
     [[nodiscard]] int currentStreak() const;
 

@@ -6,8 +6,7 @@
 
 #include "base/instant.h"
 
-/// Dates as they are read in Spanish: names in small letters, abbreviations of three letters without a dot.
-/// Every date and time of day has to be one of the calendar and the clock.
+/// Spanish dates: lower-case names, three-letter abbreviations without a dot. Dates and times must be valid.
 namespace tidewatch::spanish {
 
 /// "viernes"

@@ -6,11 +6,10 @@
 
 namespace tidewatch {
 
-/// A value that its copies share until one of them is edited. A copy costs next to nothing, whatever the size
-/// of the value.
+/// A value shared by its copies until one of them is edited. Copying takes constant time.
 ///
-/// Like any value, one object is not safe from several threads; its copies are independent of it and may be
-/// used and destroyed on others. An object that was moved from may only be assigned to or destroyed.
+/// One object is not thread-safe; copies are independent and may be used and destroyed on other threads. A
+/// moved-from object may only be assigned to or destroyed.
 template <class T>
 class CopyOnWrite final {
 public:
@@ -31,9 +30,10 @@ public:
     [[nodiscard]] const T& operator*() const noexcept { return shared_->value; }
     [[nodiscard]] const T* operator->() const noexcept { return &shared_->value; }
 
-    /// The value for changing it. Copies it first if it is shared. Valid until this object is copied.
+    /// Mutable access; copies the value first if it is shared. The reference is valid until this object is
+    /// copied.
     [[nodiscard]] T& edit() {
-        // Acquires what a last other owner on another thread did before it let go.
+        // Synchronises with the release by the last other owner, on whichever thread.
         if (shared_->owners.load(std::memory_order_acquire) != 1) *this = CopyOnWrite(new Shared(**this));
         return shared_->value;
     }

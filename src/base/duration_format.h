@@ -12,7 +12,7 @@ namespace tidewatch {
 /// "59s" below a minute, "1m 0s" below an hour, "1h 30m" from there on.
 [[nodiscard]] std::string formatShort(Seconds duration);
 
-/// "45m" below an hour, "2h 5m" from there on. Seconds are dropped, so that less than a minute is "0m".
+/// "45m" below an hour, "2h 5m" from there on. Seconds are truncated: less than a minute is "0m".
 [[nodiscard]] std::string hm(Seconds duration);
 
 /// "59s" below a minute, from there on as hm().

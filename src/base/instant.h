@@ -4,10 +4,10 @@
 
 namespace tidewatch {
 
-/// A point of wall-clock time, UTC. Only platform::Clock gives the present one.
+/// A point in wall-clock time, UTC. The current one comes from platform::Clock only.
 using Instant = std::chrono::sys_time<std::chrono::milliseconds>;
 
-/// What a clock on the wall shows: an instant seen at an offset from UTC, proleptic Gregorian.
+/// Local date and time: an instant at an offset from UTC, in the proleptic Gregorian calendar.
 struct CivilTime {
     std::chrono::year_month_day date;
     int hour = 0;    ///< 0 to 23
@@ -15,7 +15,7 @@ struct CivilTime {
     int second = 0;  ///< 0 to 59
 };
 
-/// Pure arithmetic; no time-zone data is consulted.
+/// Pure arithmetic, without time-zone data.
 [[nodiscard]] CivilTime civilTime(Instant instant, std::chrono::seconds utcOffset);
 
 }  // namespace tidewatch

@@ -5,8 +5,8 @@
 
 namespace tidewatch {
 
-/// `text`, UTF-8, with every letter that has a lower-case form in that form, whatever the user's language;
-/// one character gives one. Bytes that are not valid UTF-8 stay as they are.
+/// `text`, UTF-8, in lower case, independent of the locale; each code point maps to one code point. Invalid
+/// UTF-8 is kept unchanged.
 [[nodiscard]] std::string lowerCased(std::string_view text);
 
 }  // namespace tidewatch

@@ -6,12 +6,12 @@
 
 namespace tidewatch {
 
-/// Why an operation failed, in words for the log or for whoever asked.
+/// Why an operation failed, in words for the log or the caller.
 struct Error {
     std::string message;
 };
 
-/// A value or the reason why there is none: an Error, or one that tells more.
+/// A value or an error: an Error, or a type derived from it with more detail.
 template <class T, class E = Error>
 class [[nodiscard]] Result final {
 public:
@@ -32,7 +32,7 @@ private:
     std::variant<T, E> state_;
 };
 
-/// The status of an operation that gives nothing back when it succeeds.
+/// The result of an operation that returns nothing on success.
 using Status = Result<std::monostate>;
 
 [[nodiscard]] inline Status success() {

@@ -5,8 +5,7 @@
 
 namespace tidewatch {
 
-/// A whole number of booked seconds. Sums and differences are checked: an overflow ends the process with a
-/// message.
+/// A whole number of booked seconds. Arithmetic is checked: an overflow aborts the process with a message.
 class Seconds final {
 public:
     constexpr Seconds() = default;

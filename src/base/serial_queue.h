@@ -11,25 +11,25 @@
 
 namespace tidewatch {
 
-/// Runs jobs one after the other, in the order in which they were posted, beside the thread that owns it.
-/// Jobs must not throw, and share with others only what is safe from several threads.
+/// Runs jobs one at a time, in posting order, off the thread that owns it. Jobs must not throw and may share
+/// only thread-safe objects.
 class JobQueue {
 public:
     using Job = std::function<void()>;
 
-    /// Returns when all jobs are done. What they deliver from then on is dropped.
+    /// Waits for all jobs. Results delivered after that are dropped.
     virtual ~JobQueue() = default;
 
-    /// Runs `job` later. Safe from any thread.
+    /// Enqueues `job`. Thread-safe.
     virtual void post(Job job) = 0;
 
-    /// Returns when all jobs posted before are done. Safe from any thread, but not from a job.
+    /// Waits for all jobs posted before. Thread-safe; must not be called from a job.
     virtual void finish() = 0;
 
-    /// For jobs: runs `result` later on the thread that owns the queue, unless the queue is gone by then.
+    /// For jobs: runs `result` later on the owner's thread, unless the queue has been destroyed by then.
     virtual void deliver(Job result) = 0;
 
-    /// Runs `work()` as a job, and then `then(result)` on the thread that owns the queue. Both are copied.
+    /// Runs `work()` as a job, then `then(result)` on the owner's thread. Both are copied.
     template <class Work, class Then>
     void run(Work work, Then then) {
         post([this, work = std::move(work), then = std::move(then)] {
@@ -38,11 +38,11 @@ public:
     }
 };
 
-/// A queue with a thread of its own.
+/// A queue with its own thread.
 class SerialQueue final : public JobQueue {
 public:
-    /// `toOwner` runs a job later on the thread that makes, owns and destroys this object; it is called from
-    /// any thread, and only as long as this object lives.
+    /// `toOwner` posts a job to the thread that creates, owns and destroys this object; it is called from any
+    /// thread, and only during this object's lifetime.
     explicit SerialQueue(std::function<void(Job)> toOwner);
     SerialQueue(const SerialQueue&) = delete;
     SerialQueue& operator=(const SerialQueue&) = delete;
@@ -56,7 +56,7 @@ private:
     void work();
 
     const std::function<void(Job)> toOwner_;
-    // Tells a result that arrives whether this object still is there.
+    // Lets a pending result detect that this object has been destroyed.
     std::shared_ptr<const bool> alive_ = std::make_shared<const bool>(true);
 
     std::mutex mutex_;

@@ -8,7 +8,7 @@
 
 namespace tidewatch {
 
-/// Keeps one listener attached to a Signal; detaches it when destroyed. May outlive the signal.
+/// A listener's connection to a Signal; disconnects on destruction. May outlive the signal.
 class [[nodiscard]] Connection final {
 public:
     Connection() = default;
@@ -33,8 +33,8 @@ private:
     std::function<void()> detach_;
 };
 
-/// A list of listeners that are called in the order in which they were connected. One thread only.
-/// A listener may connect and disconnect others, and itself, while it is being called.
+/// Calls its listeners in the order of connection. Not thread-safe. A listener may connect and disconnect
+/// others, and itself, while it is being called.
 template <class... Args>
 class Signal final {
 public:

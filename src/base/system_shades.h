@@ -4,8 +4,8 @@
 
 namespace tidewatch {
 
-// The green and the gray of the desktop's status lights, for a desktop that has no names for them: red in
-// bits 16 to 23, green in 8 to 15, blue in 0 to 7. Both stand on light and on dark ground.
+// The green and gray of status indicators, for desktops that define no such system colours: red in bits 16 to
+// 23, green in 8 to 15, blue in 0 to 7. Legible on light and dark backgrounds.
 inline constexpr std::uint32_t systemGreen = 0x34C759;
 inline constexpr std::uint32_t systemGray = 0x8E8E93;
 

@@ -8,7 +8,8 @@
 
 namespace tidewatch {
 
-/// A string that is not interchangeable with other strings: one type a `Tag`. Ordered as plain bytes.
+/// A string with a distinct type per `Tag`, so that different kinds of keys cannot be confused. Ordered
+/// bytewise.
 template <class Tag>
 class TaggedString final {
 public:
@@ -24,16 +25,16 @@ private:
     std::string text_;
 };
 
-/// Names an application in all counters. On Linux the desktop-file id without ".desktop".
+/// Identifies an application in all counters. On Linux the desktop-file id without ".desktop".
 using AppId = TaggedString<struct AppIdTag>;
 
-/// Names a logical day, "yyyy-MM-dd"; sorts as dates do.
+/// A logical day, "yyyy-MM-dd"; sorts chronologically.
 using DayKey = TaggedString<struct DayKeyTag>;
 
-/// Names a clock hour of a logical day, "yyyy-MM-dd HH".
+/// A clock hour of a logical day, "yyyy-MM-dd HH".
 using HourKey = TaggedString<struct HourKeyTag>;
 
-/// Names ten minutes of a clock hour of a logical day, "yyyy-MM-dd HH:mm", the minutes a multiple of ten.
+/// A ten-minute bucket of a logical day, "yyyy-MM-dd HH:mm", the minutes a multiple of ten.
 using BucketKey = TaggedString<struct BucketKeyTag>;
 
 }  // namespace tidewatch

@@ -4,12 +4,11 @@
 
 namespace tidewatch {
 
-/// `text`, UTF-8, without the white space and line ends at both of its ends: everything that Unicode counts
-/// as a blank (the wide and the unbreakable ones too), tabs, and every kind of line end. What is not valid
-/// UTF-8 counts as no white space.
+/// `text`, UTF-8, without leading and trailing white space: Unicode space separators (wide and non-breaking
+/// ones included), tabs and all line breaks. Invalid UTF-8 is not white space.
 [[nodiscard]] std::string_view trimmed(std::string_view text);
 
-/// The same, but for line ends, which stay.
+/// The same, but keeps line breaks.
 [[nodiscard]] std::string_view trimmedOfBlanks(std::string_view text);
 
 }  // namespace tidewatch

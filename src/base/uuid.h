@@ -18,14 +18,14 @@ public:
     /// A random identifier (version 4) from 128 random bits, of which six are overwritten.
     [[nodiscard]] static Uuid random(std::uint64_t high, std::uint64_t low);
 
-    /// Reads the canonical form of 36 characters, in either letter case; nothing of any other form.
+    /// Parses the canonical form of 36 characters in either letter case. Returns nullopt for any other form.
     [[nodiscard]] static std::optional<Uuid> parse(std::string_view text);
 
     /// The canonical form, in upper case.
     [[nodiscard]] std::string text() const;
 
     bool operator==(const Uuid&) const = default;
-    // Named, since not every standard library orders arrays in one comparison.
+    // Spelled out, since not every standard library has operator<=> for arrays.
     std::strong_ordering operator<=>(const Uuid&) const = default;
 
 private:

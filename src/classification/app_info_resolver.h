@@ -9,34 +9,33 @@
 
 namespace tidewatch {
 
-/// Where the picture of an application is to be found.
+/// The icon of an application.
 struct AppIcon {
     enum class Source {
         desktop,  ///< the desktop's icon theme, or a file if the name is an absolute path
-        symbol,   ///< this program's own symbols
+        symbol,   ///< the program's own symbol table
     };
     Source source = Source::desktop;
     std::string name;
-    std::string description;  ///< for those who cannot see it; may be empty
+    std::string description;  ///< accessible text; may be empty
     bool operator==(const AppIcon&) const = default;
 };
 
-/// How an application is shown.
+/// How an application is displayed.
 struct AppInfo {
     std::string name;
     std::optional<AppIcon> icon;
     bool operator==(const AppInfo&) const = default;
 };
 
-/// Turns identifiers into what the user sees. Each application is looked up once in the life of this object,
-/// so one that is installed later keeps the bare identifier as its name. Main thread only.
+/// Maps identifiers to display names and icons. Each application is looked up once and cached, so one
+/// installed later keeps its bare identifier as its name. Main thread only.
 class AppInfoResolver final {
 public:
     /// `applications` must outlive it.
     explicit AppInfoResolver(const platform::Applications& applications) : applications_(applications) {}
 
-    /// An application that the desktop does not know goes by its identifier and has no icon. Valid as long
-    /// as the resolver.
+    /// An unknown application gets its identifier as its name and no icon. Valid for the resolver's lifetime.
     [[nodiscard]] const AppInfo& info(const AppId& app) const;
 
 private:

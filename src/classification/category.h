@@ -8,7 +8,7 @@
 
 namespace tidewatch {
 
-/// What kind of application one is.
+/// The kind of an application.
 enum class Category {
     audioVideo,
     design,
@@ -27,16 +27,16 @@ enum class Category {
     uncategorized,
 };
 
-/// All of them, in the order in which they are shown.
+/// All categories in display order.
 [[nodiscard]] std::span<const Category> allCategories();
 
-/// What is stored for it, and what the user sees.
+/// Its stored value, which is also its display name.
 [[nodiscard]] std::string_view rawValue(Category category);
 
-/// The category that `raw` is stored for; exact matches only.
+/// The category with exactly this stored value, or nullopt.
 [[nodiscard]] std::optional<Category> categoryFromRaw(std::string_view raw);
 
-/// What it counts as unless the user says otherwise.
+/// Its tier unless overridden by the user.
 [[nodiscard]] Tier defaultTier(Category category);
 
 }  // namespace tidewatch

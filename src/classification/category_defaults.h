@@ -15,11 +15,11 @@ struct CategoryDefault {
     Category category;
 };
 
-/// The built-in table of applications, the same on every desktop.
+/// The built-in classification table, the same on every desktop.
 [[nodiscard]] std::span<const CategoryDefault> categoryDefaults();
 
-/// The category of an application in the built-in table; identifiers are matched exactly. Nothing for one
-/// that the table does not name.
+/// The category of an application in the built-in table, matched exactly. Returns nullopt for one that is not
+/// in the table.
 [[nodiscard]] std::optional<Category> defaultCategory(const AppId& app);
 
 }  // namespace tidewatch

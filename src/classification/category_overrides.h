@@ -10,7 +10,7 @@
 
 namespace tidewatch {
 
-/// What the user has changed of the tables.
+/// The user's changes to the classification.
 struct CategoryOverrides {
     std::map<AppId, Category> apps;
     std::map<Category, Tier> tiers;
@@ -18,13 +18,12 @@ struct CategoryOverrides {
 };
 
 /// The text of "categories.json": an object with "appOverrides", an object from identifier to the category's
-/// raw value in ascending order of the identifiers' bytes, and "tierOverrides", a flat array of raw values,
-/// category and tier in turn, in the order of the enumeration of categories.
+/// raw value in bytewise order of the identifiers, and "tierOverrides", a flat array of alternating raw
+/// values of category and tier, in the order of the enumeration of categories.
 [[nodiscard]] std::string serializeCategoryOverrides(const CategoryOverrides& overrides);
 
-/// Reads such a text, strictly: nothing if it is not JSON, if one of the two keys is missing or has another
-/// shape, or if a single raw value is unknown. Keys beside these two are passed over. What is given twice
-/// counts as given last.
+/// Parses such a text strictly: returns nullopt if it is not JSON, if one of the two keys is missing or has
+/// another structure, or if any raw value is unknown. Other keys are ignored. Of duplicates the last wins.
 [[nodiscard]] std::optional<CategoryOverrides> parseCategoryOverrides(std::string text);
 
 }  // namespace tidewatch

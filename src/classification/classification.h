@@ -7,7 +7,7 @@
 
 namespace tidewatch {
 
-/// What the counted seconds count as, built together. Main thread only.
+/// The classification of counted seconds, built together. Main thread only.
 struct Classification final {
     /// All of it must outlive the bundle.
     struct Dependencies {

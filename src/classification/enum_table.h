@@ -8,8 +8,8 @@
 
 namespace tidewatch {
 
-// Tables of a closed vocabulary: one row a case, in the order of the enumeration, with the case as `value`
-// and what is stored for it as `raw`.
+// Tables of an enumeration: one row per enumerator, in the order of the enumeration, with the enumerator as
+// `value` and its stored value as `raw`.
 
 template <class Row, std::size_t N>
 [[nodiscard]] constexpr auto valuesOf(const std::array<Row, N>& rows) {
@@ -23,7 +23,7 @@ template <class Row, std::size_t N>
     return rows[static_cast<std::size_t>(value)];
 }
 
-/// The case that `raw` is stored for; exact matches only.
+/// The enumerator with exactly this stored value, or nullopt.
 template <class Row, std::size_t N>
 [[nodiscard]] constexpr auto valueFromRaw(const std::array<Row, N>& rows, std::string_view raw)
     -> std::optional<decltype(Row::value)> {

@@ -15,7 +15,7 @@
 
 namespace tidewatch {
 
-/// Ten minutes of a day.
+/// A ten-minute bucket of a day.
 struct BucketSummary {
     BucketKey id;
     int hour = 0;     ///< 0 to 23
@@ -27,11 +27,11 @@ struct BucketSummary {
 
     bool operator==(const BucketSummary&) const = default;
 
-    /// The tier with most seconds. Productive wins any tie, distracting one with neutral; uncategorized if
-    /// none of the three has any.
+    /// The tier with the most seconds. On a tie productive wins, then distracting; uncategorized if none of
+    /// the three has any.
     [[nodiscard]] Tier dominantTier() const;
 
-    /// The share of the ten minutes that is filled, 0 and up; above 1 if more was booked than passed.
+    /// The filled share of the ten minutes, 0 or more; above 1 if more was booked than elapsed.
     [[nodiscard]] double fillRatio() const;
 };
 
@@ -51,7 +51,7 @@ struct TopCategory {
     bool operator==(const TopCategory&) const = default;
 };
 
-/// One clock hour of a day with its ten-minute buckets and what filled it most.
+/// One clock hour of a day with its ten-minute buckets, top applications and top categories.
 struct HourGroup {
     DayKey day;
     int hour = 0;                        ///< 0 to 23
@@ -69,9 +69,8 @@ struct HourGroup {
     [[nodiscard]] bool hasActivity() const { return totalSeconds > Seconds(); }
 };
 
-/// The hours of `day` that have any seconds, in the order in which the day passes them. Of equal applications
-/// the one whose identifier sorts first stands first, of equal categories the one that the enumeration has
-/// first. Main thread only.
+/// The hours of `day` that have any seconds, in the order of the day. Ties between applications are ordered
+/// by identifier, ties between categories by enumerator. Main thread only.
 [[nodiscard]] std::vector<HourGroup> hourGroups(const MinuteStore& minutes, const CategoryStore& categories,
                                                 const AppInfoResolver& apps, const ClockKeys& keys,
                                                 const DayKey& day);

@@ -21,14 +21,14 @@ struct HourSummary {
 
     bool operator==(const HourSummary&) const = default;
 
-    /// The productive share of the productive and distracting seconds, 0 to 1; 0 if there are none.
+    /// The productive share of productive plus distracting seconds, 0 to 1; 0 if there are none.
     [[nodiscard]] double score() const;
 
-    /// Too few productive and distracting seconds for the score to mean anything: less than 30.
+    /// Whether there are too few productive and distracting seconds (less than 30) for a meaningful score.
     [[nodiscard]] bool isSparse() const;
 };
 
-/// The 24 hours of `day` in the order in which the day passes them, empty ones included. Main thread only.
+/// The 24 hours of `day` in the order of the day, empty ones included. Main thread only.
 [[nodiscard]] std::vector<HourSummary> dayHourSummaries(const HourlyStore& hours,
                                                         const CategoryStore& categories,
                                                         const ClockKeys& keys, const DayKey& day);

@@ -11,7 +11,7 @@
 
 namespace tidewatch {
 
-/// Seconds by tier, and the figure that they give.
+/// Seconds by tier, and the resulting score.
 struct ProductivityScore {
     Seconds productiveSeconds;
     Seconds neutralSeconds;
@@ -25,31 +25,30 @@ struct ProductivityScore {
     /// The sum of all four.
     [[nodiscard]] Seconds totalActive() const;
 
-    /// Productive and distracting seconds: what the figure is made of.
+    /// Productive plus distracting seconds: the basis of the score.
     [[nodiscard]] Seconds classified() const { return productiveSeconds + distractingSeconds; }
 
     /// The productive share of the classified seconds, 0 to 1; 0 if there are none.
     [[nodiscard]] double score() const;
 
-    /// Whether there is enough time, 60 seconds in all and 30 classified ones, for the figure to mean
-    /// something.
+    /// Whether there is enough time for a meaningful score: 60 seconds in total and 30 classified.
     [[nodiscard]] bool isSignificant() const;
 
-    /// The figure in whole per cent, halves rounded up: "70%"; "—" if it is not telling.
+    /// The score as a whole percentage, halves rounded up: "70%"; "—" if it is not significant.
     [[nodiscard]] std::string displayString() const;
 };
 
-/// The productive share of `productive` and `distracting`, 0 if their sum is less than 1.
+/// The productive share of `productive` plus `distracting`; 0 if their sum is less than 1.
 [[nodiscard]] double productiveShare(Seconds productive, Seconds distracting);
 
-/// Computes scores from the seconds of applications and their present classification. Seconds that no
-/// application got are outside of them. Main thread only.
+/// Computes scores from the applications' seconds and their current classification. Seconds booked to no
+/// application are not included. Main thread only.
 class ProductivityScorer final {
 public:
     /// Both must outlive it.
     ProductivityScorer(const AppUsageStore& apps, const CategoryStore& categories);
 
-    /// Over all the days together; a day given twice counts twice.
+    /// Over all `days` together; a day given twice counts twice.
     [[nodiscard]] ProductivityScore compute(std::span<const DayKey> days) const;
 
 private:

@@ -6,19 +6,19 @@
 
 namespace tidewatch {
 
-/// What the time in an application counts as.
+/// How the time in an application is rated.
 enum class Tier { productive, neutral, distracting, uncategorized };
 
-/// All of them, in the order in which they are shown.
+/// All tiers in display order.
 [[nodiscard]] std::span<const Tier> allTiers();
 
-/// What is stored for it.
+/// Its stored value.
 [[nodiscard]] std::string_view rawValue(Tier tier);
 
-/// What the user sees.
+/// Its display name.
 [[nodiscard]] std::string_view displayName(Tier tier);
 
-/// The tier that `raw` is stored for; exact matches only.
+/// The tier with exactly this stored value, or nullopt.
 [[nodiscard]] std::optional<Tier> tierFromRaw(std::string_view raw);
 
 }  // namespace tidewatch

@@ -17,39 +17,39 @@
 namespace tidewatch {
 
 /// Seconds per application under one key (a day, an hour, ten minutes) or two (a day and a project), and
-/// their file: what the stores of such seconds share. Each of them says what its keys mean.
+/// their file: the common part of the stores of such seconds. Each store defines the meaning of its keys.
 ///
-/// Safe from any thread, but for incrementCurrentApp, which asks for the application in front and is for the
-/// main thread.
+/// Thread-safe, except incrementCurrentApp, which queries the frontmost application and is for the main
+/// thread only.
 class AppCounters final {
 public:
-    /// Texts that lead to a counter, from the first one on.
+    /// The path to a counter, or a prefix of it.
     using Keys = std::span<const std::string_view>;
 
-    /// `format` is one level deeper than the keys are many. The references must outlive it.
+    /// `format.depth` is the number of keys plus one. The references must outlive it.
     AppCounters(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost,
                 const CounterFormat& format);
 
-    /// Books one second under all the keys to the application in front, if there is one that can be booked.
+    /// Books one second under `keys` to the frontmost application, if there is a bookable one.
     void incrementCurrentApp(Keys keys);
 
-    /// Books one second under all the keys to `app`, whichever it is.
+    /// Books one second under `keys` to `app`, whatever it is.
     void incrementApp(const AppId& app, Keys keys);
 
-    /// The applications under all the keys, in ascending order of their identifiers; none for unknown keys.
+    /// The applications under `keys`, ordered by identifier; empty for unknown keys.
     [[nodiscard]] std::vector<AppSeconds> entries(Keys keys) const;
 
-    /// The sum of all that lies under these keys, or under these first ones.
+    /// The sum of all counters under `keys`, which may be a prefix.
     [[nodiscard]] Seconds seconds(Keys keys) const;
 
-    /// Sums per application over the days given, in no particular order; `below` are the keys under each day.
-    /// A day given twice counts twice; an unknown one adds nothing.
+    /// Sums per application over `days`, unordered; `below` are the keys under each day. A day given twice
+    /// counts twice; an unknown one adds nothing.
     [[nodiscard]] std::vector<AppSeconds> aggregate(std::span<const DayKey> days, Keys below = {}) const;
 
-    /// Every day that has an entry under the keys below it, in ascending order.
+    /// Every day that has an entry under the keys `below`, in ascending order.
     [[nodiscard]] std::vector<DayKey> days(Keys below = {}) const;
 
-    /// A copy of everything. Of stores with one key only.
+    /// A snapshot of all counters. For stores with one key only.
     [[nodiscard]] UsageSnapshot snapshot() const;
 
     [[nodiscard]] CounterFile& file() { return file_; }

@@ -5,7 +5,7 @@
 
 namespace tidewatch {
 
-/// What one application got.
+/// One application's seconds.
 struct AppSeconds {
     AppId app;
     Seconds seconds;

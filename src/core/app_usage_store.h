@@ -13,8 +13,8 @@ public:
     AppUsageStore(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost)
         : KeyedAppStore(files, log, frontmost, "apps.json", "Tidewatch: failed to flush app usage store: ") {}
 
-    /// Sums per application over the days given, most seconds first, equal ones in no particular order.
-    /// A day given twice counts twice; an unknown one adds nothing.
+    /// Sums per application over `days`, in descending order, ties in no particular order. A day given twice
+    /// counts twice; an unknown one adds nothing.
     [[nodiscard]] std::vector<AppSeconds> aggregate(std::span<const DayKey> days) const;
 
     /// Every day that has an entry, in ascending order.

@@ -10,17 +10,17 @@
 
 namespace tidewatch {
 
-/// Another theme was chosen.
+/// The active theme has changed.
 struct ThemeChanged {
     static constexpr std::string_view name = "Tidewatch.themeChanged";
 };
 
-/// Another size of the floating clock was chosen.
+/// The size of the floating clock has changed.
 struct SizeChanged {
     static constexpr std::string_view name = "Tidewatch.sizeChanged";
 };
 
-/// The list of projects, one of them, or which one is active has changed.
+/// A project, the list of projects, or the active project has changed.
 struct ProjectsChanged {
     static constexpr std::string_view name = "Tidewatch.projectsChanged";
 };
@@ -41,10 +41,9 @@ struct DashboardWillShow {
     static constexpr std::string_view name = "Tidewatch.dashboardWillShow";
 };
 
-/// Carries the events in answer to which something is done elsewhere, by whom the poster does not know.
-/// What only shows a model follows the model's own Signal instead. Main thread only.
-/// Observers are called inside post(), in the order in which they began to observe. One that must not run
-/// inside the poster hands its work to the MainLoop.
+/// Delivers events that trigger actions in objects unknown to the poster. What only displays a model connects
+/// to the model's own Signal instead. Main thread only. Observers are called inside post(), in the order of
+/// registration. An observer that must not run inside the poster posts its work to the MainLoop.
 class Broadcaster final {
 public:
     template <class Event>
@@ -52,7 +51,7 @@ public:
         std::get<Signal<const Event&>>(signals_).emit(event);
     }
 
-    /// Calls `observer` at each posting until the connection ends.
+    /// Calls `observer` for each event until the connection is destroyed.
     template <class Event>
     [[nodiscard]] Connection observe(std::function<void(const Event&)> observer) {
         return std::get<Signal<const Event&>>(signals_).connect(std::move(observer));

@@ -18,16 +18,15 @@ inline constexpr int minutesPerBucket = 10;
 inline constexpr int bucketsPerHour = 60 / minutesPerBucket;
 inline constexpr Seconds bucketSize(60 * minutesPerBucket);
 
-/// What a bucket's key says of the time on the clock.
+/// The time of day in a bucket's key.
 struct ClockMinute {
     int hour = 0;
     int minute = 0;
     bool operator==(const ClockMinute&) const = default;
 };
 
-/// Names hours and ten-minute buckets: the logical day that a moment belongs to, then the time that a clock
-/// showed at that moment. With a day that starts at 5, half past two in the night of the 15th is hour 02 of
-/// the 14th. Safe from any thread.
+/// Builds the keys of hours and ten-minute buckets: the logical day of an instant, then its local time. With
+/// a day that starts at 5, 02:30 on the 15th is hour 02 of the 14th. Thread-safe.
 class ClockKeys final {
 public:
     /// All three must outlive it.
@@ -36,11 +35,10 @@ public:
     [[nodiscard]] HourKey hourKey(Instant instant) const;
     [[nodiscard]] BucketKey bucketKey(Instant instant) const;
 
-    /// The clock hours, 0 to 23, in the order in which a day passes them: from Settings::dayStartHour on.
+    /// The clock hours, 0 to 23, in the order of a logical day: starting at Settings::dayStartHour.
     [[nodiscard]] std::array<int, hoursPerDay> hoursOfDay() const;
 
-    /// The keys of a day in the order of hoursOfDay(). Which keys they are does not depend on the day's
-    /// start.
+    /// The keys of a day in the order of hoursOfDay(). The set of keys does not depend on the day's start.
     [[nodiscard]] std::array<HourKey, hoursPerDay> hourKeys(const DayKey& day) const;
     [[nodiscard]] std::array<BucketKey, hoursPerDay * bucketsPerHour> bucketKeys(const DayKey& day) const;
 
@@ -55,8 +53,8 @@ private:
 [[nodiscard]] HourKey hourKey(const DayKey& day, int hour);
 [[nodiscard]] BucketKey bucketKey(const DayKey& day, ClockMinute time);
 
-/// The time in a bucket's key: what stands behind its last blank, two whole numbers with a colon between
-/// them. Nothing if it has another form.
+/// Parses the time in a bucket's key: two integers separated by a colon after its last space. Returns nullopt
+/// for any other form.
 [[nodiscard]] std::optional<ClockMinute> components(const BucketKey& key);
 
 }  // namespace tidewatch

@@ -4,7 +4,7 @@
 
 namespace tidewatch {
 
-/// One row of a closed list of choices: the case, what is stored for it, and what the menu shows.
+/// One row of a table of choices: the enumerator, its stored value, and its label in the menu.
 template <class Option, class Raw>
 struct OptionRow {
     Option option;
@@ -12,7 +12,7 @@ struct OptionRow {
     const char* label;
 };
 
-/// The option whose stored value is nearest to `value`; in a tie, the earlier row. `distance(raw, value)`
+/// The option whose stored value is closest to `value`; on a tie, the earlier row. `distance(raw, value)`
 /// must be defined for every `value`.
 template <class Option, class Raw, class Distance>
 [[nodiscard]] Option closestOption(std::span<const OptionRow<Option, Raw>> rows, Raw value,

@@ -9,9 +9,8 @@
 
 namespace tidewatch {
 
-/// A long sequence of numbers, most of which hardly ever change. It lies in chunks that copies share: a copy
-/// costs a pointer a chunk, and a change after it one chunk. Not safe from several threads; copies may be
-/// used on others.
+/// A long sequence of numbers that rarely change, stored in copy-on-write chunks: copying costs one pointer
+/// per chunk, a change afterwards copies one chunk. Not thread-safe; copies may be used on other threads.
 template <class T>
 class Column final {
 public:
@@ -29,7 +28,7 @@ public:
         set(size_++, value);
     }
 
-    /// Costs what lies behind the place.
+    /// Linear in the number of elements after `index`.
     void insert(std::size_t index, T value) {
         append(value);
         for (auto chunk = index / chunkSize; chunk < chunks_.size(); ++chunk) {
@@ -44,7 +43,7 @@ public:
         }
     }
 
-    /// Calls `change(T& value)` for each value from `index` on.
+    /// Calls `change(T& value)` for each element from `index` on.
     template <class Change>
     void changeFrom(std::size_t index, Change&& change) {
         for (; index < size_; index = (index / chunkSize + 1) * chunkSize) {
@@ -55,7 +54,7 @@ public:
     }
 
 private:
-    // Cells that were never set hold anything.
+    // Cells that were never set are uninitialised.
     static constexpr std::size_t chunkSize = 2048;
     using Chunk = std::array<T, chunkSize>;
 

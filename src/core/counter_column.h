@@ -7,8 +7,8 @@
 
 namespace tidewatch {
 
-/// A sequence of 64-bit integers in four bytes each as long as they lie between 0 and 2^31 - 1, as seconds
-/// booked by a clock do; others take twelve. Copies share what neither has changed, as with Column.
+/// A sequence of 64-bit integers that take four bytes each while between 0 and 2^31 - 1, as booked seconds
+/// are; others take twelve. Copy-on-write like Column.
 class CounterColumn final {
 public:
     [[nodiscard]] std::size_t size() const { return narrow_.size(); }

@@ -16,46 +16,46 @@
 
 namespace tidewatch {
 
-/// What one counter store's file is called and how it looks.
+/// The name and structure of a counter store's file.
 struct CounterFormat {
     std::string_view fileName;
-    std::size_t depth;             ///< how many keys lead to a counter, 1 to 3
-    std::string_view flushFailed;  ///< what stands in the log before the reason
+    std::size_t depth;             ///< the number of keys on the path to a counter, 1 to 3
+    std::string_view flushFailed;  ///< the log message, to be followed by the reason
 };
 
-/// A record of counters in memory and its file in the data directory: what all counter stores share. Safe
-/// from any thread. Nobody waits for the disk but who calls flush().
+/// A counter record in memory and its file in the data directory: the common part of all counter stores.
+/// Thread-safe. Only flush() blocks on the disk.
 ///
-/// The file is read once, at construction, and written whole. Promise: the file on disk is always a whole
-/// earlier or later state, never a mix, and never an earlier one after a later one.
+/// The file is read once, at construction, and written whole. Guarantee: the file on disk is always one
+/// complete state, never a mix, and never an older state after a newer one.
 class CounterFile final {
 public:
-    /// Makes the data directory and reads the file. One that is missing, unreadable or of another shape is
-    /// an empty record, without a word; the next flush sets it aside and writes its own. Both references must
+    /// Creates the data directory and reads the file. A missing, unreadable or malformed file yields an empty
+    /// record, silently; the next flush sets the file aside and writes a new one. Both references must
     /// outlive it.
     CounterFile(platform::FileSystem& files, platform::Log& log, const CounterFormat& format);
 
-    /// What `reader` makes of the record; it must not call into any store.
+    /// Returns `reader(record)`; `reader` must not call into any store.
     template <class Reader>
     [[nodiscard]] auto read(Reader&& reader) const {
         const std::lock_guard lock(mutex_);
         return std::forward<Reader>(reader)(record_);
     }
 
-    /// Lets `change` alter the record and tell whether it did; it must not call into any store.
+    /// Calls `change(record)`, which returns whether it modified the record; it must not call into any store.
     template <class Change>
     void change(Change&& change) {
         const std::lock_guard lock(mutex_);
         if (std::forward<Change>(change)(record_)) ++revision_;
     }
 
-    /// Writes the present state, changed or not, after a write that is under way. On failure logs and keeps
-    /// memory as it is; the next flush tries again.
+    /// Writes the current state, changed or not, after any write in progress. On failure logs and keeps the
+    /// state in memory; the next flush tries again.
     void flush();
 
-    /// Lets `queue` write the present state, or the state of a later flushOn() that comes before the queue
-    /// gets to it. A file that holds that state already, and still is the one that was written, is left
-    /// alone. Failures as with flush(). This object must outlive the queue.
+    /// Writes the current state on `queue`, or that of a later flushOn() called before the queue gets to it.
+    /// Skips the write if the file already holds that state and has not been replaced or modified since.
+    /// Failures as with flush(). This object must outlive the queue.
     void flushOn(JobQueue& queue);
 
     [[nodiscard]] const std::string& directoryPath() const { return file_.directoryPath(); }
@@ -71,12 +71,12 @@ private:
     void flushWaiting();
     void write(const Snapshot& snapshot);
 
-    mutable std::mutex mutex_;  // held for moments only
+    mutable std::mutex mutex_;  // held only briefly
     CounterRecord record_;
     std::uint64_t revision_ = 1;
     std::optional<Snapshot> waiting_;
 
-    std::mutex writing_;  // held while the file is written, and never taken with the other one held
+    std::mutex writing_;  // held while the file is written; never locked while mutex_ is held
     RecordFile file_;
     std::uint64_t writtenRevision_ = 0;
 };

@@ -37,7 +37,7 @@ private:
     std::string text_;
 };
 
-// Finds out how long a text becomes at most, so that its memory is asked for once and filled without looking
+// Computes an upper bound of the text's length, so that memory is allocated once and filled without checking
 // back.
 class Measure final {
 public:

@@ -15,28 +15,27 @@
 
 namespace tidewatch {
 
-/// Seconds under paths of one to three texts: a tree whose inner nodes are maps and whose leaves are
+/// Seconds under paths of one to three strings: a tree whose inner nodes are maps and whose leaves are
 /// counters.
 ///
-/// Siblings stand in ascending order of their bytes. All nodes of a level lie side by side in one sequence of
-/// flat rows, a branch knowing where its children begin; the texts of the first level (days, hours, buckets)
-/// are kept as they are, those below it (applications, projects) recur and are interned. Ten years of
-/// ten-minute buckets take some 8 MB.
+/// Siblings are in bytewise order. All nodes of a level are stored in one flat sequence, each branch with the
+/// index of its first child; the strings of the first level (days, hours, buckets) are stored once each,
+/// those below (applications, projects) recur and are interned. Ten years of ten-minute buckets take about 8
+/// MB.
 ///
-/// Looking a path up costs the logarithm of the siblings, and nothing for the last one, which a clock that
-/// goes forward always means. A new path costs what lies behind it, thus next to nothing at the end.
+/// Lookup is logarithmic in the number of siblings, and constant for the last one, which is the usual case
+/// while time advances. Insertion is linear in what follows, thus cheap at the end.
 ///
-/// A copy costs next to nothing and shares all that neither of the two has changed since; what is changed
-/// then is copied in pieces of some kilobytes.
+/// Copying is cheap (copy on write): a later change copies chunks of some kilobytes.
 ///
-/// Texts that are not valid UTF-8 are taken as their repaired form (see utf8.h), so that what is kept can
-/// always be written and read back. Not safe from several threads; copies may be used on others.
+/// Invalid UTF-8 is stored in its repaired form (see utf8.h), so that everything can be written and read
+/// back. Not thread-safe; copies may be used on other threads.
 class CounterRecord final {
 public:
     using Index = std::uint32_t;
     using Path = std::span<const std::string_view>;
 
-    /// A run of siblings: their places on their level.
+    /// A range of siblings: their indices on their level.
     struct Range {
         Index begin = 0;
         Index end = 0;
@@ -48,20 +47,19 @@ public:
 
     [[nodiscard]] std::size_t depth() const { return levels_.size(); }
 
-    /// The counter at `path`, 0 if there is none; makes no node.
+    /// The counter at `path`, 0 if there is none; creates no node.
     [[nodiscard]] Seconds seconds(Path path) const;
 
-    /// Replaces the counter at `path`, or makes it and what is missing above it. Whether that changed
-    /// anything.
+    /// Sets the counter at `path`, creating missing nodes. Returns whether that changed anything.
     bool set(Path path, Seconds seconds);
 
-    /// Adds to the counter at `path`; one that is missing counts as 0. An overflow ends the process.
+    /// Adds to the counter at `path`, creating missing nodes. An overflow aborts the process.
     void add(Path path, Seconds seconds);
 
     /// The nodes of the first level.
     [[nodiscard]] Range top() const { return {0, size(0)}; }
 
-    /// The children of a branch; they lie on the level below, `level` + 1.
+    /// The children of a branch, which are on `level` + 1.
     [[nodiscard]] Range children(std::size_t level, Index branch) const {
         const auto& first = levels_[level].firstChildren;
         return {first[branch], branch + 1 < first.size() ? first[branch + 1] : size(level + 1)};
@@ -69,13 +67,13 @@ public:
 
     [[nodiscard]] std::optional<Index> find(std::size_t level, Range siblings, std::string_view text) const;
 
-    /// Valid until the record changes.
+    /// Valid until the record is modified.
     [[nodiscard]] std::string_view text(std::size_t level, Index node) const {
         const auto id = levels_[level].texts[node];
         return level == 0 ? keys_[id] : names_[id];
     }
 
-    /// A number that stands for the node's text on every level but the first, from 0 to nameCount() - 1.
+    /// The id of the node's interned text, 0 to nameCount() - 1; not for the first level.
     [[nodiscard]] std::uint32_t nameId(std::size_t level, Index node) const {
         return levels_[level].texts[node];
     }
@@ -85,19 +83,17 @@ public:
     /// The counter of a node of the last level.
     [[nodiscard]] Seconds seconds(Index leaf) const { return Seconds(counters_[leaf]); }
 
-    /// For building a whole record, node by node as they stand in a text: a new last node of `level` under
-    /// the last node above it. Valid UTF-8 only. To be followed by finishLoading() before anything is looked
-    /// up.
+    /// For loading a record node by node in document order: appends a node on `level` under the last node of
+    /// the level above. Valid UTF-8 only. finishLoading() must be called before any lookup.
     void appendBranch(std::size_t level, std::string_view text);
     void appendLeaf(std::string_view text, Seconds seconds);
 
-    /// Brings appended nodes into order. Of siblings with the same text the one
-    /// appended last stays, with its own children only.
+    /// Sorts appended nodes. Of siblings with the same text the last one wins, with its own children only.
     void finishLoading();
 
 private:
     struct Level {
-        Column<std::uint32_t> texts;  // in keys_ on the first level, in names_ below it
+        Column<std::uint32_t> texts;  // indices into keys_ on the first level, into names_ below
         Column<Index> firstChildren;  // empty on the last level
     };
     struct Place {

@@ -12,7 +12,7 @@
 
 namespace tidewatch {
 
-/// The settings, the rule of the day and the four counters, built together. Main thread only.
+/// The settings, the day rule and the four counter stores, built together. Main thread only.
 struct Counting final {
     /// All of it must outlive the bundle.
     struct Dependencies {

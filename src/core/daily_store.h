@@ -19,21 +19,21 @@ struct DaySeconds {
     bool operator==(const DaySeconds&) const = default;
 };
 
-/// Seconds booked per logical day ("today.json", which holds all days). Safe from any thread.
+/// Seconds booked per logical day ("today.json", which holds all days). Thread-safe.
 class DailyStore final {
 public:
-    /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
-    /// All three must outlive it.
+    /// Reads the file; a missing, unreadable or malformed one yields an empty record. All three must outlive
+    /// it.
     DailyStore(platform::FileSystem& files, platform::Log& log, const DayRule& dayRule);
 
     /// The logical day that `instant` belongs to.
     [[nodiscard]] DayKey dayKey(Instant instant) const { return dayRule_.dayKey(instant); }
     [[nodiscard]] DayKey today() const { return dayRule_.today(); }
 
-    /// Seconds of `day`; 0 for a day never seen, which stays unseen.
+    /// Seconds of `day`; 0 for an unknown day, without creating an entry.
     [[nodiscard]] Seconds seconds(const DayKey& day) const;
 
-    /// Replaces what `day` holds, in memory only.
+    /// Sets the seconds of `day`, in memory only.
     void set(Seconds seconds, const DayKey& day);
 
     /// Every day that has an entry, in ascending order.

@@ -6,7 +6,7 @@
 
 namespace tidewatch {
 
-/// Where all data files lie: ".tidewatch" directly under the home directory. Need not exist yet.
+/// The directory of all data files: ".tidewatch" in the home directory. It may not exist yet.
 [[nodiscard]] inline std::string dataDirectory(const platform::FileSystem& files) {
     return files.homeDirectory() + "/.tidewatch";
 }

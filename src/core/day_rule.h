@@ -9,12 +9,12 @@
 
 namespace tidewatch {
 
-/// Decides to which logical day a moment belongs. Safe from any thread.
+/// Maps an instant to its logical day. Thread-safe.
 ///
 /// A logical day runs from Settings::dayStartHour to the same hour of the next calendar day and is named
-/// after the calendar day on which it starts. Two zones take part: whether the hour lies before the day's
-/// start is read in the zone of the moment; the date is written in the zone that was current when this
-/// object was made, so that the name of a day does not change under a running program.
+/// after the calendar day on which it starts. Two time zones are involved: whether the hour is before the
+/// day's start is determined in the current zone; the date is formatted in the zone that was current when
+/// this object was created, so that the name of a day does not change while the program runs.
 class DayRule final {
 public:
     /// Both must outlive it.
@@ -23,7 +23,7 @@ public:
     /// "yyyy-MM-dd", Gregorian.
     [[nodiscard]] DayKey dayKey(Instant instant) const;
 
-    /// The key of the present moment.
+    /// The key of the current instant.
     [[nodiscard]] DayKey today() const { return dayKey(clock_.now()); }
 
 private:

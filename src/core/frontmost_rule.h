@@ -7,7 +7,7 @@
 
 namespace tidewatch {
 
-/// The application in front that a second may be booked to. Nothing if there is none, if it has no
+/// The frontmost application, if a second may be booked to it. Returns nullopt if there is none, if it has no
 /// identifier, or if it is this program itself. Main thread only.
 [[nodiscard]] std::optional<AppId> bookableApplication(platform::FrontmostApplication& frontmost);
 

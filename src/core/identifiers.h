@@ -4,10 +4,10 @@
 
 namespace tidewatch {
 
-/// This program's own windows; never booked as an application in front.
+/// This program's own windows; never booked as the frontmost application.
 inline constexpr std::string_view ownApplicationId = "com.brightlooms.tidewatch";
 
-/// What the seconds of the built-in games are booked under.
+/// The application that seconds in the built-in games are booked to.
 inline constexpr std::string_view gamesApplicationId = "com.brightlooms.fathom.games";
 
 }  // namespace tidewatch

@@ -6,19 +6,19 @@
 
 namespace tidewatch {
 
-/// The one question about the user's presence. Main thread only.
+/// Tells how long the user has been idle. Main thread only.
 class IdleMonitor final {
 public:
     /// `input` must outlive it.
     explicit IdleMonitor(const platform::InputActivity& input) : input_(input) {}
 
-    /// Seconds since the last input of any kind. Infinite on a machine that cannot tell: what is not known
-    /// to be work is not booked as work.
+    /// Seconds since the last input of any kind. Infinite if no source is available: time is booked only if
+    /// known to be active.
     [[nodiscard]] double secondsSinceLastInput() const {
         return input_.secondsSinceLastInput().value_or(std::numeric_limits<double>::infinity());
     }
 
-    /// False on a machine that cannot tell when the last input was.
+    /// Whether the machine has a source of input times.
     [[nodiscard]] bool hasSource() const { return input_.secondsSinceLastInput().has_value(); }
 
 private:

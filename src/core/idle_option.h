@@ -7,22 +7,22 @@
 
 namespace tidewatch {
 
-/// The choices that the menu offers for Settings::idleThresholdSeconds.
+/// The menu's choices for Settings::idleThresholdSeconds.
 enum class IdleOption { one, three, five, ten, fifteen, thirty };
 
 /// Every option in the order of the menu.
 [[nodiscard]] std::span<const IdleOption> allIdleOptions();
 
-/// What is stored for it, in seconds.
+/// Its stored value, in seconds.
 [[nodiscard]] std::int64_t rawValue(IdleOption option);
 
-/// What the menu shows for it.
+/// Its label in the menu.
 [[nodiscard]] std::string_view label(IdleOption option);
 
-/// The option stored as exactly `raw`, if there is one.
+/// The option with exactly this stored value, or nullopt.
 [[nodiscard]] std::optional<IdleOption> idleOption(std::int64_t raw);
 
-/// The option nearest to any stored value; in a tie, the smaller one.
+/// The option closest to a stored value; on a tie, the smaller one.
 [[nodiscard]] IdleOption closestIdleOption(std::int64_t raw);
 
 }  // namespace tidewatch

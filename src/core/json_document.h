@@ -9,13 +9,13 @@
 
 namespace tidewatch {
 
-/// A JSON text, read whole.
+/// A parsed JSON text.
 class JsonDocument final {
 public:
-    /// Nothing if `text` is not JSON. A byte order mark before it is passed over.
+    /// Returns nullopt if `text` is not JSON. A leading byte order mark is ignored.
     [[nodiscard]] static std::optional<JsonDocument> parse(std::string text);
 
-    /// Valid as long as the document; so are the texts in it.
+    /// Valid for the document's lifetime, as are the strings in it.
     [[nodiscard]] simdjson::dom::element root() const { return root_; }
 
 private:

@@ -7,19 +7,19 @@
 
 namespace tidewatch {
 
-/// Whether a character between the quotes of a data file stands there escaped: the quote, the backslash, the
-/// forward slash and what lies below U+0020.
+/// Whether a character is escaped in the strings of a data file: the quote, the backslash, the forward slash
+/// and characters below U+0020.
 [[nodiscard]] inline bool mustBeEscapedInJson(char c) {
     return c == '"' || c == '\\' || c == '/' || static_cast<unsigned char>(c) < 0x20;
 }
 
-/// Appends a text as it stands between the quotes of a data file; what need not be escaped stands as UTF-8.
+/// Appends `text` with these characters escaped; everything else is kept as UTF-8.
 void appendJsonEscaped(std::string& out, std::string_view text);
 
-/// Writes JSON in the form of all data files: two blanks of indent a level, one member a line, a blank on
-/// both sides of the colon, an empty object or array as its brackets around an empty line, no end of line
-/// after the last bracket. Keys stand in the order in which they are given: the caller gives them sorted.
-/// Texts that are not UTF-8 are written as their repaired form (see utf8.h).
+/// Writes JSON in the format of all data files: two spaces of indentation per level, one member per line, a
+/// space on both sides of the colon, an empty object or array as its brackets around an empty line, no
+/// newline at the end. Keys are written in the given order: the caller sorts them. Invalid UTF-8 is written
+/// in its repaired form (see utf8.h).
 class JsonWriter final {
 public:
     void beginObject() { begin('{'); }
@@ -27,16 +27,16 @@ public:
     void beginArray() { begin('['); }
     void endArray() { end(']'); }
 
-    /// To be followed by the value that stands under it.
+    /// Must be followed by the value.
     JsonWriter& key(std::string_view name);
 
     void string(std::string_view value);
     void boolean(bool value);
 
-    /// In the fewest digits that read back the same, a whole number without a fraction. `value` is finite.
+    /// In the shortest form that round-trips, an integer without a fraction. `value` must be finite.
     void real(double value);
 
-    /// What has been written; the writer is spent.
+    /// Returns the text; the writer must not be used afterwards.
     [[nodiscard]] std::string take();
 
 private:
@@ -48,7 +48,7 @@ private:
     void quote(std::string_view value);
 
     std::string text_;
-    std::vector<std::size_t> memberCounts_;  // one a bracket that is open
+    std::vector<std::size_t> memberCounts_;  // one per open bracket
     bool keyWaits_ = false;
 };
 

@@ -16,18 +16,19 @@
 
 namespace tidewatch {
 
-/// What the stores of seconds per `Key` (a day, an hour, ten minutes) and application offer. Safe from any
-/// thread, but for incrementCurrentApp, which asks for the application in front and is for the main thread.
+/// The common interface of the stores of seconds per `Key` (a day, an hour, ten minutes) and application.
+/// Thread-safe, except incrementCurrentApp, which queries the frontmost application and is for the main
+/// thread only.
 template <class Key>
 class KeyedAppStore {
 public:
-    /// Books one second of `key` to the application in front, if there is one that can be booked.
+    /// Books one second of `key` to the frontmost application, if there is a bookable one.
     void incrementCurrentApp(const Key& key) { counters_.incrementCurrentApp(path(key)); }
 
-    /// Books one second of `key` to `app`, whichever it is.
+    /// Books one second of `key` to `app`, whatever it is.
     void incrementApp(const AppId& app, const Key& key) { counters_.incrementApp(app, path(key)); }
 
-    /// The applications of `key` in ascending order of their identifiers; none for an unknown key.
+    /// The applications of `key`, ordered by identifier; empty for an unknown key.
     [[nodiscard]] std::vector<AppSeconds> entries(const Key& key) const {
         return counters_.entries(path(key));
     }
@@ -35,7 +36,7 @@ public:
     /// The sum over entries().
     [[nodiscard]] Seconds seconds(const Key& key) const { return counters_.seconds(path(key)); }
 
-    /// A copy of everything.
+    /// A snapshot of all counters.
     [[nodiscard]] UsageSnapshot snapshot() const { return counters_.snapshot(); }
 
     /// See CounterFile.
@@ -45,8 +46,8 @@ public:
     [[nodiscard]] std::string dataFilePath() const { return counters_.file().path(); }
 
 protected:
-    /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
-    /// All three must outlive it.
+    /// Reads the file; a missing, unreadable or malformed one yields an empty record. All three must outlive
+    /// it.
     KeyedAppStore(platform::FileSystem& files, platform::Log& log, platform::FrontmostApplication& frontmost,
                   std::string_view fileName, std::string_view flushFailed)
         : counters_(files, log, frontmost, {fileName, 2, flushFailed}) {}

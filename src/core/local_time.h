@@ -8,24 +8,24 @@
 
 namespace tidewatch {
 
-/// A date and a time of day as a clock on the wall shows them, proleptic Gregorian.
+/// A local date and time of day, in the proleptic Gregorian calendar.
 using LocalTime = std::chrono::local_time<std::chrono::milliseconds>;
 
-/// What a clock in `zone` shows at `instant`.
+/// The local time in `zone` at `instant`.
 [[nodiscard]] LocalTime localTime(Instant instant, const platform::TimeZone& zone);
 
-/// When a clock in `zone` shows `time`. Of a time that comes twice, the first; a time that the zone skips is
-/// as much later as the zone skips.
+/// The instant of a local time in `zone`: of an ambiguous time the first; a skipped time is shifted forward
+/// by the gap.
 [[nodiscard]] Instant instantOf(LocalTime time, const platform::TimeZone& zone);
 
-/// The offsets of a zone on many days: quick if one lies near the one before it. Takes a zone's offset as the
-/// same for two weeks if it is the same at both of its ends.
+/// Caches the UTC offsets of a zone: fast for days queried in order. Assumes that the offset is constant over
+/// two weeks if it is equal at both ends.
 class DayOffsets final {
 public:
     /// `zone` must outlive it.
     explicit DayOffsets(const platform::TimeZone& zone) : zone_(zone) {}
 
-    /// The offset from UTC of every time of `day`; nothing if the clock changes on it or on a day beside it.
+    /// The UTC offset of all of `day`; nullopt if it changes on that day or an adjacent one.
     [[nodiscard]] std::optional<std::chrono::seconds> allDay(std::chrono::local_days day);
 
 private:
@@ -34,10 +34,10 @@ private:
 
     const platform::TimeZone& zone_;
     std::optional<std::chrono::local_days> stretchStart_;
-    std::optional<std::chrono::seconds> offset_;  // of that stretch
+    std::optional<std::chrono::seconds> offset_;  // of that period
 };
 
-/// The same time on the clock `count` calendar days later, or earlier if it is below 0.
+/// The same local time `count` calendar days later, or earlier if negative.
 [[nodiscard]] Instant plusDays(Instant instant, std::chrono::days count, const platform::TimeZone& zone);
 
 }  // namespace tidewatch

@@ -10,19 +10,19 @@
 
 namespace tidewatch {
 
-/// The user's stored choices, each with its default and its limits. Nothing is cached: every read and every
-/// write goes to the preferences. Reads are safe from any thread, writes are for the main thread.
-/// A stored value of another type reads as the preferences convert it and then falls under the same limits.
+/// The user's settings, each with its default and range. Nothing is cached: every read and write goes to the
+/// preferences. Reads are thread-safe, writes are for the main thread. A stored value of another type is
+/// converted by the preferences, then the same range applies.
 class Settings final {
 public:
     /// `preferences` must outlive it.
     explicit Settings(platform::Preferences& preferences) : preferences_(preferences) {}
 
-    /// "ochre" if never set. Any text may be stored; it need not name a theme that exists.
+    /// "ochre" if never set. Any string may be stored; no such theme need exist.
     [[nodiscard]] std::string activeThemeId() const;
     void setActiveThemeId(std::string_view id);
 
-    /// Top left corner of the floating clock; nothing unless both coordinates are stored.
+    /// Top left corner of the floating clock; nullopt unless both coordinates are stored.
     [[nodiscard]] std::optional<platform::Point> windowOrigin() const;
     void setWindowOrigin(std::optional<platform::Point> origin);
 
@@ -38,8 +38,8 @@ public:
     [[nodiscard]] std::int64_t idleThresholdSeconds() const;
     void setIdleThresholdSeconds(std::int64_t seconds);
 
-    /// Clock hour at which a logical day starts, 0 to 23; 0 if never set. Others are brought to the nearer
-    /// end, both when stored and when read.
+    /// Clock hour at which a logical day starts, 0 to 23; 0 if never set. Clamped both when stored and when
+    /// read.
     [[nodiscard]] int dayStartHour() const;
     void setDayStartHour(int hour);
 

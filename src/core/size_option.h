@@ -6,22 +6,22 @@
 
 namespace tidewatch {
 
-/// The choices that the menu offers for Settings::sizeScale.
+/// The menu's choices for Settings::sizeScale.
 enum class SizeOption { xs, sm, md, lg, full, huge };
 
 /// Every option in the order of the menu.
 [[nodiscard]] std::span<const SizeOption> allSizeOptions();
 
-/// What is stored for it: the scale of the floating clock.
+/// Its stored value: the scale of the floating clock.
 [[nodiscard]] double rawValue(SizeOption option);
 
-/// What the menu shows for it.
+/// Its label in the menu.
 [[nodiscard]] std::string_view label(SizeOption option);
 
-/// The option stored as exactly `raw`, if there is one.
+/// The option with exactly this stored value, or nullopt.
 [[nodiscard]] std::optional<SizeOption> sizeOption(double raw);
 
-/// The option nearest to any stored value; in a tie, the smaller one.
+/// The option closest to a stored value; on a tie, the smaller one.
 [[nodiscard]] SizeOption closestSizeOption(double raw);
 
 }  // namespace tidewatch

@@ -13,12 +13,12 @@
 
 namespace tidewatch {
 
-/// Texts that recur many times, each kept once and known by a small number from 0 on. Copies share the texts;
-/// not safe from several threads, but copies may be used on others.
+/// Stores each distinct string once and identifies it by a number from 0 up. Copy-on-write; not thread-safe,
+/// but copies may be used on other threads.
 class StringInterner final {
 public:
     std::uint32_t intern(std::string_view name) {
-        // The same few names come again and again while a record is read: a guess spares most look-ups.
+        // While a record is loaded the same few names recur: this cache avoids most hash lookups.
         auto& guess = guesses_[guessFor(name)];
         if (guess >= size() || (*this)[guess] != name) guess = lookUp(name);
         return guess;

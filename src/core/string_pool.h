@@ -10,8 +10,8 @@
 
 namespace tidewatch {
 
-/// Many short texts in few blocks of memory, numbered from 0 in the order in which they were added. Copies
-/// share the blocks; not safe from several threads, but copies may be used on others.
+/// Many short strings in few blocks of memory, numbered from 0 in insertion order. Copy-on-write; not
+/// thread-safe, but copies may be used on other threads.
 class StringPool final {
 public:
     std::uint32_t add(std::string_view text) {

@@ -8,12 +8,11 @@
 
 namespace tidewatch {
 
-/// A copy of all that a store of seconds per key (an hour, a bucket) and application holds; later bookings
-/// do not reach it. Flat: ten years of ten-minute buckets are copied in a millisecond or two.
+/// An immutable snapshot of a store of seconds per key (an hour, a bucket) and application. Copy-on-write, so
+/// that taking one is cheap.
 ///
-/// Keys stand in ascending order of their bytes, as the file gives them, so ones of odd shape included.
-/// Applications are numbered from 0 to appCount() - 1, so that what a reader works out for each of them can
-/// stand in a plain sequence.
+/// Keys are in bytewise order and as they are in the file, malformed ones included. Applications are numbered
+/// from 0 to appCount() - 1, so that callers can keep per-application data in a vector.
 class UsageSnapshot final {
 public:
     using Index = CounterRecord::Index;

@@ -5,14 +5,13 @@
 
 namespace tidewatch {
 
-/// What some editors put in front of a text to say that it is UTF-8; no part of it.
+/// The byte order mark that some editors put at the start of UTF-8 files.
 inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
-/// `text` with U+FFFD in the place of whatever is not UTF-8: one for each byte that begins no character, one
-/// for each character that breaks off.
+/// `text` with invalid UTF-8 replaced by U+FFFD: one for each invalid byte, one for each truncated sequence.
 [[nodiscard]] std::string repairedUtf8(std::string_view text);
 
-/// A text as valid UTF-8: itself if it is, otherwise its repaired form.
+/// A text as valid UTF-8: unchanged if valid, otherwise repaired.
 class ValidUtf8 final {
 public:
     /// `text` must outlive it.

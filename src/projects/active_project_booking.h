@@ -6,7 +6,7 @@
 
 namespace tidewatch {
 
-/// Tags each second of work with the project that is active at that moment. Main thread only.
+/// Books each second of work to the project active at that moment. Main thread only.
 class ActiveProjectBooking final : public ProjectTimeListener {
 public:
     /// Both must outlive it.

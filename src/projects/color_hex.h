@@ -6,7 +6,7 @@
 
 namespace tidewatch {
 
-/// An opaque sRGB colour in 256 steps a component.
+/// An opaque sRGB colour, 8 bits per component.
 struct RgbColor {
     std::uint8_t red = 0;
     std::uint8_t green = 0;
@@ -14,8 +14,8 @@ struct RgbColor {
     bool operator==(const RgbColor&) const = default;
 };
 
-/// Reads six hexadecimal digits in either letter case, with or without a hash sign before them and white
-/// space around them. Nothing of any other form.
+/// Parses six hexadecimal digits in either letter case, optionally with a leading hash sign and surrounding
+/// white space. Returns nullopt for any other form.
 [[nodiscard]] std::optional<RgbColor> parseColorHex(std::string_view text);
 
 }  // namespace tidewatch

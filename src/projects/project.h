@@ -7,16 +7,16 @@
 
 namespace tidewatch {
 
-/// What the user tags work with.
+/// A project that work can be booked to.
 struct Project {
     Uuid id;
     std::string name;
-    std::string colorHex;  ///< as stored, which may be no colour at all
+    std::string colorHex;  ///< as stored; may be invalid
     bool archived = false;
 
     bool operator==(const Project&) const = default;
 
-    /// The colour to show: what colorHex says, or green if it says nothing.
+    /// The colour to display: colorHex, or green if it is invalid.
     [[nodiscard]] RgbColor color() const;
 };
 

@@ -7,11 +7,11 @@
 
 namespace tidewatch {
 
-/// The colours that projects get, in the order in which they are given out.
+/// The colours of new projects, in order of assignment.
 [[nodiscard]] std::span<const std::string_view> projectColors();
 
-/// The colour for the project to come: the first that none of `projects`, archived ones included, has; once
-/// all are taken they are given out in turn.
+/// The colour for a new project: the first that none of `projects`, archived ones included, uses; once all
+/// are used they are assigned in turn.
 [[nodiscard]] std::string_view nextProjectColor(std::span<const Project> projects);
 
 }  // namespace tidewatch

@@ -9,19 +9,19 @@
 
 namespace tidewatch {
 
-/// All projects in the order of their creation, and which one is being worked on.
+/// All projects in creation order, and the active one.
 struct ProjectList {
     std::vector<Project> projects;
-    std::optional<Uuid> activeId;  ///< need not be one of the list
+    std::optional<Uuid> activeId;  ///< may not be in the list
     bool operator==(const ProjectList&) const = default;
 };
 
-/// The text of "projects.json": an object with "activeProjectID", left out without an active project, and
+/// The text of "projects.json": an object with "activeProjectID", omitted if no project is active, and
 /// "projects", an array of objects with "archived", "colorHex", "id" and "name".
 [[nodiscard]] std::string serializeProjects(const ProjectList& list);
 
-/// Reads such a text, strictly: nothing if it is not JSON, or if anything in it is missing or of another
-/// type. "activeProjectID" may be missing or null, and keys beside those named are passed over.
+/// Parses such a text strictly: returns nullopt if it is not JSON, or if anything is missing or of another
+/// type. "activeProjectID" may be missing or null; other keys are ignored.
 [[nodiscard]] std::optional<ProjectList> parseProjects(std::string text);
 
 }  // namespace tidewatch

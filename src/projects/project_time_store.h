@@ -15,28 +15,27 @@
 
 namespace tidewatch {
 
-/// Seconds booked per logical day, project and application ("project_time.json"). Knows nothing of which
-/// projects there are: those of deleted ones stay. Safe from any thread, but for incrementCurrentApp, which
-/// asks for the application in front and is for the main thread.
+/// Seconds booked per logical day, project and application ("project_time.json"). Independent of the list of
+/// projects: seconds of deleted ones are kept. Thread-safe, except incrementCurrentApp, which queries the
+/// frontmost application and is for the main thread only.
 class ProjectTimeStore final {
 public:
-    /// Reads the whole file; one that is missing, unreadable or of another shape is an empty record.
-    /// All three must outlive it.
+    /// Reads the file; a missing, unreadable or malformed one yields an empty record. All three must outlive
+    /// it.
     ProjectTimeStore(platform::FileSystem& files, platform::Log& log,
                      platform::FrontmostApplication& frontmost);
 
-    /// Books one second of `day` to `project` and the application in front, if there is one that can be
-    /// booked.
+    /// Books one second of `day` to `project` and the frontmost application, if there is a bookable one.
     void incrementCurrentApp(const DayKey& day, const Uuid& project);
 
-    /// The project's seconds per application over the days given, most first, equal ones in no particular
-    /// order. A day given twice counts twice; an unknown day or project adds nothing.
+    /// The project's seconds per application over `days`, in descending order, ties in no particular order. A
+    /// day given twice counts twice; an unknown day or project adds nothing.
     [[nodiscard]] std::vector<AppSeconds> aggregate(std::span<const DayKey> days, const Uuid& project) const;
 
     /// The sum over aggregate().
     [[nodiscard]] Seconds totalSeconds(std::span<const DayKey> days, const Uuid& project) const;
 
-    /// All seconds of `day`, whatever project they were booked to.
+    /// All seconds of `day` booked to any project.
     [[nodiscard]] Seconds taggedSeconds(const DayKey& day) const;
 
     /// Every day that has an entry for `project`, in ascending order.

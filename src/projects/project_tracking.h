@@ -7,7 +7,7 @@
 
 namespace tidewatch {
 
-/// The projects, their time, and what books it, built together. Main thread only.
+/// The projects, their time and its booking, built together. Main thread only.
 struct ProjectTracking final {
     /// All of it must outlive the bundle.
     struct Dependencies {

@@ -16,24 +16,24 @@
 
 namespace tidewatch {
 
-/// An hour of sitting on a day that is long already; the whole hours worked on it when the alert came up.
+/// An hour of sitting on a long day; `hours` are the whole hours worked when the alert was raised.
 struct LongDay {
     std::int64_t hours = 0;
     bool operator==(const LongDay&) const = default;
 };
 
-/// Two hours of sitting on a day of ordinary length.
+/// Two hours of sitting on a day of normal length.
 struct TwoHours {
     bool operator==(const TwoHours&) const = default;
 };
 
-/// Why a break alert came up.
+/// Why a break alert was raised.
 using BreakReason = std::variant<LongDay, TwoHours>;
 
-/// Measures how long the user has been sitting without an idle pause and asks for a break: after two hours,
-/// and after each hour once more than eight have been worked on the day. An alert stands until it is
-/// dismissed; neither time nor absence ends it, and none follows while one stands. Nothing is stored.
-/// Main thread only.
+/// Measures how long the user has been sitting without an idle pause and suggests a break: after two hours,
+/// and after each hour once more than eight have been worked on the day. An alert stays active until it is
+/// dismissed; neither time nor absence ends it, and no other is raised meanwhile. Nothing is persisted. Main
+/// thread only.
 class BreakReminder final : public BreakListener {
 public:
     /// All three must outlive it.
@@ -41,14 +41,14 @@ public:
     BreakReminder(const BreakReminder&) = delete;
     BreakReminder& operator=(const BreakReminder&) = delete;
 
-    /// Counts the second and raises an alert when it is due. The message to the user goes out one turn of
-    /// the main loop later. Notices a change of day, which starts the counts afresh and leaves an alert up.
+    /// Counts the second and raises an alert when due. The notification is posted to the main loop. Detects a
+    /// change of day, which resets the counts and keeps an active alert.
     void tickActiveSecond(Seconds totalToday) override;
 
-    /// The sitting is over; an alert that stands goes on standing.
+    /// Ends the sitting; an active alert stays active.
     void userWentIdle() override;
 
-    /// Takes the alert down and starts the sitting afresh.
+    /// Dismisses the alert and restarts the sitting.
     void dismissAlert();
 
     /// Active seconds since the last idle tick, dismissal or change of day.
@@ -59,7 +59,7 @@ public:
 
     [[nodiscard]] bool alertActive() const { return alertActive_; }
 
-    /// Those of the alert that stands or else of the last one; at first Stretch::neck and TwoHours.
+    /// Of the active or else the last alert; initially Stretch::neck and TwoHours.
     [[nodiscard]] Stretch stretch() const { return stretch_; }
     [[nodiscard]] const BreakReason& reason() const { return reason_; }
 
@@ -69,7 +69,7 @@ public:
     /// The day that the counts belong to.
     [[nodiscard]] const DayKey& lastResetDay() const { return lastResetDay_; }
 
-    /// Announced at the end of every operation that changed the sitting or the alert.
+    /// Emitted at the end of every operation that changed the sitting or the alert.
     Signal<> changed;
 
 private:
@@ -89,7 +89,7 @@ private:
     BreakReason reason_ = TwoHours();
     std::int64_t alertsToday_ = 0;
     DayKey lastResetDay_;
-    // Lets a message that was posted find out that the reminder is gone.
+    // Lets a posted notification detect that the reminder has been destroyed.
     const std::shared_ptr<Notifier*> alive_;
 };
 

@@ -14,9 +14,9 @@
 
 namespace tidewatch {
 
-/// A game has to be earned: an hour of work charges one game, and starting it locks the arcade for two
-/// hours, in which work charges nothing. Kept in the preferences; the charge reaches them every 30 seconds,
-/// so that an abrupt end costs 29 at most. The first game of a new installation is free. Main thread only.
+/// Games have to be earned: an hour of work charges one game, and starting it locks the games for two hours,
+/// in which work charges nothing. Persisted in the preferences; the charge every 30 seconds, so that a crash
+/// loses 29 at most. The first game of a new installation is free. Main thread only.
 class GameGate final : public GameGateListener {
 public:
     static constexpr Seconds workToUnlock{3600};
@@ -35,35 +35,35 @@ public:
     };
     using State = std::variant<Charging, Locked, Ready>;
 
-    /// Takes up what is stored. A lock that has run out meanwhile is kept until the next tick or refresh.
-    /// All three must outlive it.
+    /// Loads the stored state. A lock that has expired meanwhile is kept until the next tick or refresh. All
+    /// three must outlive it.
     GameGate(const platform::Clock& clock, platform::Preferences& preferences, Notifier& notifier);
     GameGate(const GameGate&) = delete;
     GameGate& operator=(const GameGate&) = delete;
 
-    /// One second was worked: ends a lock that has run out, and charges unless the gate is locked, a game
-    /// waits to be played or one is being played. The last second of the hour tells the user.
+    /// Counts one second of work: ends an expired lock, and charges unless the gate is locked, a game is
+    /// available or one is being played. The last second of the hour notifies the user.
     void tickWorkSecond() override;
 
-    /// Stores everything that is stored.
+    /// Persists the state.
     void flush() override { persist(); }
 
-    /// Ends a lock that has run out, and announces a change in any case: the state depends on the time.
+    /// Ends an expired lock, and emits `changed` in any case: the state depends on the time.
     void refresh();
 
-    /// Spends the earned game. False, and nothing happens, unless the state is Ready.
+    /// Spends the earned game. Returns false, without effect, unless the state is Ready.
     [[nodiscard]] bool startPlay();
 
-    /// The running game is over, however long it took.
+    /// Ends the running game.
     void endPlay();
 
-    /// A game is being played. Not stored.
+    /// Whether a game is being played. Not persisted.
     [[nodiscard]] bool playingNow() const override { return playingNow_; }
 
-    /// A lock that has run out reads as gone.
+    /// An expired lock is not reported.
     [[nodiscard]] State state() const;
 
-    /// Seconds charged, 0 or more; above workToUnlock only if they were stored so.
+    /// Seconds charged, 0 or more; above workToUnlock only if loaded so.
     [[nodiscard]] Seconds workSeconds() const { return workSeconds_; }
     [[nodiscard]] bool isReady() const { return ready_; }
     [[nodiscard]] std::optional<Instant> lockedUntil() const { return lockedUntil_; }
@@ -71,16 +71,16 @@ public:
     /// 0 to 1.
     [[nodiscard]] double chargeProgress() const;
 
-    /// Work that is missing for a game, 0 or more.
+    /// Work remaining until a game is earned, 0 or more.
     [[nodiscard]] Seconds workRemaining() const;
 
-    /// Whole seconds to the end of the lock, 0 or more; 0 without one.
+    /// Whole seconds until the lock ends, 0 or more; 0 without one.
     [[nodiscard]] Seconds lockRemaining() const;
 
-    /// A game in course stays playable although it has been spent.
+    /// Also true while a spent game is being played.
     [[nodiscard]] bool canPlay() const;
 
-    /// Announced at the end of every operation that changed something, and of every refresh() and endPlay().
+    /// Emitted at the end of every operation that changed something, and of every refresh() and endPlay().
     Signal<> changed;
 
 private:

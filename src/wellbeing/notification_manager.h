@@ -13,38 +13,37 @@
 
 namespace tidewatch {
 
-/// Decides which of the desktop's two services carries each message, and keeps messages that are meant once
-/// from being repeated. Main thread only; what the services report from other threads is brought there.
+/// Decides which of the desktop's two services delivers each notification, and keeps one-time notifications
+/// from being repeated. Main thread only; callbacks from other threads are forwarded to it.
 ///
-/// A message goes through the newer service; if that fails, or cannot be used at all, through the older one.
-/// A user who refuses notifications gets none: a refusal is no failure.
+/// A notification goes through the modern service; if that fails or is unavailable, through the legacy one. A
+/// user who refuses notifications gets none: a refusal is no failure.
 class NotificationManager final : public Notifier {
 public:
-    /// All six must outlive it; `mainLoop` and `log` also what `service` still has to report.
+    /// All six must outlive it; `mainLoop` and `log` also any pending callback of `service`.
     NotificationManager(platform::UserNotifications& service, platform::MainLoop& mainLoop,
                         platform::Preferences& preferences, platform::Log& log, const GoalStore& goals,
                         const DailyStore& daily);
     NotificationManager(const NotificationManager&) = delete;
     NotificationManager& operator=(const NotificationManager&) = delete;
 
-    /// To be called once, at the start. If nobody can be asked, the older service serves until the end of
-    /// the run.
+    /// Must be called once, at start-up. If permission cannot be requested, the legacy service is used until
+    /// the program ends.
     void requestAuthorization();
 
     void notify(const platform::UserNotification& notification) override { deliver(notification); }
 
-    /// Delivers only the first time that `key` is seen, across restarts. A message counts as seen even if
-    /// its delivery fails.
+    /// Delivers only the first time for a `key`, across restarts. A failed delivery counts, too.
     void fireOnce(std::string_view key, const platform::UserNotification& notification);
 
-    /// Tells the user, once a day each, that the day has reached 80 % and all of its goal, if goals are to
-    /// be told. To be called after each writing of the day's total.
+    /// Notifies the user, once a day each, that the day has reached 80 % and 100 % of its goal, if goal
+    /// notifications are enabled. Must be called after each change of the day's total.
     void checkDailyMilestones();
 
-    /// What the user answered; false before. Consulted by no delivery.
+    /// The user's answer; false before. Deliveries do not depend on it.
     [[nodiscard]] bool authorized() const { return authorized_; }
 
-    /// All deliveries go through the older service.
+    /// Whether all deliveries use the legacy service.
     [[nodiscard]] bool useFallback() const { return useFallback_; }
 
 private:
@@ -60,7 +59,7 @@ private:
 
     bool authorized_ = false;
     bool useFallback_ = false;
-    // Lets a late report of a service find out that the manager is gone.
+    // Lets a late callback detect that the manager has been destroyed.
     const std::shared_ptr<NotificationManager*> alive_;
 };
 

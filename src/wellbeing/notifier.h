@@ -4,12 +4,12 @@
 
 namespace tidewatch {
 
-/// The one door to the user's attention. Main thread only.
+/// Shows notifications to the user. Main thread only.
 class Notifier {
 public:
     virtual ~Notifier() = default;
 
-    /// Shows `notification` at once and unconditionally. Does not wait, and does not tell failures.
+    /// Shows `notification` immediately and unconditionally. Does not block; failures are not reported.
     virtual void notify(const platform::UserNotification& notification) = 0;
 };
 

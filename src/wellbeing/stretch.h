@@ -5,10 +5,10 @@
 
 namespace tidewatch {
 
-/// The exercises that a break alert proposes, in the order of their rotation.
+/// The exercises that break alerts suggest, in order of rotation.
 enum class Stretch { neck, shoulders, back, eyes, wrists, hips, fullBody };
 
-/// What the user reads of an exercise, and the name of its symbol.
+/// An exercise's texts and the name of its symbol.
 struct StretchTexts {
     std::string_view title;
     std::string_view icon;
@@ -16,7 +16,7 @@ struct StretchTexts {
     std::string_view motivational;
 };
 
-/// Every exercise in the order above.
+/// All exercises in the order above.
 [[nodiscard]] std::span<const Stretch> allStretches();
 
 [[nodiscard]] const StretchTexts& textsOf(Stretch stretch);

@@ -9,9 +9,9 @@
 
 namespace tidewatch {
 
-/// Messages to the user, the charge for games and the reminder of breaks, built together. Main thread only.
+/// Notifications, the game gate and the break reminder, built together. Main thread only.
 struct Wellbeing final {
-    /// All of it must outlive the bundle; `mainLoop` and `log` also what `service` still has to report.
+    /// All of it must outlive the bundle; `mainLoop` and `log` also any pending callback of `service`.
     struct Dependencies {
         const platform::Clock& clock;
         platform::MainLoop& mainLoop;

@@ -6,11 +6,11 @@
 
 namespace tidewatch {
 
-/// The page as a PDF file: vectors only, its fonts within it, its text to be selected and searched. Empty if
-/// the toolkit cannot write one. Needs a QGuiApplication; main thread only.
+/// The page as a PDF: vector graphics, embedded fonts, selectable and searchable text. Empty if the toolkit
+/// fails to write one. Needs a QGuiApplication; main thread only.
 [[nodiscard]] QByteArray toPdf(const ReportPage& page);
 
-/// How wide toPdf() draws a text on this machine.
+/// The width at which toPdf() draws text on this machine.
 [[nodiscard]] TextWidth pageTextWidth();
 
 }  // namespace tidewatch

@@ -8,15 +8,14 @@
 
 namespace tidewatch {
 
-/// Writes the report of the month of now. Main thread only; needs a QGuiApplication.
+/// Writes the report of the current month. Main thread only; needs a QGuiApplication.
 class PdfReport final {
 public:
-    /// What `sources` refers to, and the other two, must outlive it.
+    /// The objects in `sources`, and the other two, must outlive it.
     PdfReport(const ReportSources& sources, platform::FileSystem& files, platform::Log& log)
         : sources_(sources), files_(files), log_(log) {}
 
-    /// One page, as a PDF in the place of the file at `path`. If it cannot be written the log tells, and the
-    /// file holds what it held before.
+    /// Writes one page as a PDF to `path`, replacing a file. On failure logs, and the file is unchanged.
     [[nodiscard]] bool generate(const std::string& path);
 
 private:

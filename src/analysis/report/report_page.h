@@ -11,15 +11,15 @@
 
 namespace tidewatch {
 
-/// A line of text. One that is wider than its column is to be cut, with an ellipsis at its end.
+/// A line of text, elided at the end if wider than its column.
 struct PageText {
     enum class Alignment { left, right };
 
     std::string text;
     FontSpec font;
     Color color;
-    double tracking = 0;  ///< what is added after each letter
-    double x = 0;         ///< where its column begins
+    double tracking = 0;  ///< letter spacing
+    double x = 0;         ///< left edge of its column
     double baseline = 0;
     double width = 0;  ///< of its column
     Alignment alignment = Alignment::left;
@@ -39,19 +39,18 @@ struct PageBox {
     bool operator==(const PageBox&) const = default;
 };
 
-/// The month's report as it is drawn: one page of US Letter size. Lengths in points, from the upper left
-/// corner.
+/// The layout of the monthly report: one page of US Letter size. Lengths in points from the top left corner.
 struct ReportPage {
     static constexpr double width = 612;
     static constexpr double height = 792;
 
-    std::string title;  ///< for those who keep the file
+    std::string title;  ///< document title
     Color paper;
     std::vector<PageBox> boxes;
-    std::vector<PageText> texts;  ///< in the order in which the page is read
+    std::vector<PageText> texts;  ///< in reading order
 };
 
-/// How wide a line of text comes out, in points, without the tracking after its last letter.
+/// The width of a line of text in points, without the tracking after its last letter.
 using TextWidth = std::function<double(std::string_view text, const FontSpec& font, double tracking)>;
 
 [[nodiscard]] ReportPage layOutReport(const ReportData& data, const TextWidth& textWidth);

@@ -11,14 +11,14 @@
 
 namespace tidewatch {
 
-/// The picture of an application as the views ask for it: at most one of the two names is not empty.
+/// The icon of an application for the views: at most one of the two names is not empty.
 struct IconNames {
     QString desktop;  ///< in the desktop's icon theme, or a path
     QString symbol;   ///< in the program's own symbol table
 };
 [[nodiscard]] IconNames iconNames(const std::optional<AppIcon>& icon);
 
-/// An application with its time, as a line of a list.
+/// An application with its time, as a list row.
 class AppRow final {
     Q_GADGET
     QML_VALUE_TYPE(appRow)
@@ -36,8 +36,8 @@ public:
     QString symbolName;
     QString name;
     QString time;
-    QColor color;              ///< of its tier
-    QString accessibleText{};  ///< the line as a sentence
+    QColor color;  ///< of its tier
+    QString accessibleText{};
 
     bool operator==(const AppRow&) const = default;
 };

@@ -8,25 +8,25 @@
 
 namespace tidewatch {
 
-/// How one goal is set: what it may be, and by how much a step changes it, in the unit that is shown.
+/// The range and step of one goal, in the displayed unit.
 struct GoalStep {
     std::string_view id;
     std::string_view title;
     double GoalSettings::*goal;
-    double shownPerStored;  ///< hours are shown as they are stored, a fraction in per cent
+    double shownPerStored;  ///< displayed per stored unit: 1 for hours, 100 for fractions shown in per cent
     double min;
     double max;
     double step;
 
-    /// Without the crumbs that per cents of a fraction leave.
+    /// The displayed value, rounded to remove floating-point noise.
     [[nodiscard]] double shown(const GoalSettings& settings) const;
     /// "6.0h" or "80%".
     [[nodiscard]] QString valueText(const GoalSettings& settings) const;
-    /// The goal a step further up (1) or down (-1), kept within the range.
+    /// The goal one step up (1) or down (-1), clamped to the range.
     [[nodiscard]] GoalSettings stepped(GoalSettings settings, int direction) const;
 };
 
-/// In the order in which they are shown.
+/// In display order.
 [[nodiscard]] const std::array<GoalStep, 4>& goalSteps();
 
 }  // namespace tidewatch

@@ -9,8 +9,8 @@
 
 namespace tidewatch {
 
-/// One hour of the day's chart. The three parts are shares of the bar's own height and are stacked upward in
-/// their order.
+/// One bar of the hourly chart. The three parts are shares of the bar's own height, stacked upward in this
+/// order.
 class HourBar final {
     Q_GADGET
     QML_VALUE_TYPE(hourBar)
@@ -24,17 +24,17 @@ class HourBar final {
 
 public:
     QString id;
-    QString label;             ///< "9a", "12p"
-    double height = 0;         ///< of the chart's height, 0.04 to 1
-    double productive = 0;     ///< 0 to 1
-    double neutral = 0;        ///< 0 to 1
-    double distracting = 0;    ///< 0 to 1
-    QString accessibleText{};  ///< the hour as a sentence
+    QString label;           ///< "9a", "12p"
+    double height = 0;       ///< of the chart's height, 0.04 to 1
+    double productive = 0;   ///< 0 to 1
+    double neutral = 0;      ///< 0 to 1
+    double distracting = 0;  ///< 0 to 1
+    QString accessibleText{};
 
     bool operator==(const HourBar&) const = default;
 };
 
-/// Heights are measured against the busiest hour, or ten minutes if that is more.
+/// Heights are relative to the busiest hour, or to ten minutes if that is more.
 [[nodiscard]] std::vector<HourBar> hourBars(const std::vector<HourSummary>& hours);
 
 /// "Actividad por hora: 9 am 25m, 10 am 1h 0m."

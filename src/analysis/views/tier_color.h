@@ -11,7 +11,7 @@ namespace tidewatch {
 /// The colour of a tier in lists, chips and bars.
 [[nodiscard]] QColor tierColor(Tier tier);
 
-/// The colour of a tier in the cells of ten minutes, where what has no tier is a shade fainter.
+/// The colour of a tier in ten-minute cells, where uncategorized is slightly fainter.
 [[nodiscard]] QColor bucketColor(Tier tier);
 
 }  // namespace tidewatch

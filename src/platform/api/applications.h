@@ -9,24 +9,24 @@
 
 namespace tidewatch::platform {
 
-/// What the desktop registers of an application.
+/// An application's registration with the desktop.
 struct ApplicationInfo {
     std::string name;                     ///< as shown to the user, in Spanish where there is a choice
     std::string icon;                     ///< name in the icon theme or absolute path; empty if there is none
     std::vector<std::string> categories;  ///< of the desktop menu standard, in the order registered
 };
 
-/// What is known of applications, whether they run or not. Main thread only.
+/// Application metadata, whether or not they are running. Main thread only.
 class Applications {
 public:
     virtual ~Applications() = default;
 
-    /// What is registered under this identifier; nothing for an application that the desktop does not know.
-    /// Reads a file each time: whoever asks often keeps the answer.
+    /// Returns nullopt for an application that the desktop does not know. Reads a file on each call; cache
+    /// the result if needed often.
     [[nodiscard]] virtual std::optional<ApplicationInfo> info(const AppId& app) const = 0;
 
-    /// Grows whenever applications may have come, gone or changed. While it stands still, what was unknown
-    /// still is. May be asked at any rate.
+    /// Increases whenever applications may have been added, removed or changed. While it is unchanged,
+    /// unknown applications are still unknown. Cheap; may be called at any rate.
     [[nodiscard]] virtual std::uint64_t revision() = 0;
 };
 

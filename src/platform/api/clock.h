@@ -7,8 +7,8 @@
 
 namespace tidewatch::platform {
 
-/// One set of time-zone rules. A value kept by whoever asked for it: it does not follow later changes
-/// of the machine's zone. Safe from any thread.
+/// One set of time-zone rules. Immutable: it does not follow later changes of the machine's zone.
+/// Thread-safe.
 class TimeZone {
 public:
     virtual ~TimeZone() = default;
@@ -17,7 +17,7 @@ public:
     [[nodiscard]] virtual std::chrono::seconds utcOffset(Instant instant) const = 0;
 };
 
-/// The machine's clocks. Safe from any thread.
+/// The machine's clocks. Thread-safe.
 class Clock {
 public:
     virtual ~Clock() = default;
@@ -25,10 +25,10 @@ public:
     /// Wall-clock time; may jump in either direction.
     [[nodiscard]] virtual Instant now() const = 0;
 
-    /// Never goes back; stands still while the machine sleeps. Only differences mean anything.
+    /// Never decreases; does not advance while the machine sleeps. Only differences are meaningful.
     [[nodiscard]] virtual std::chrono::nanoseconds monotonic() const = 0;
 
-    /// The zone that the machine is set to at this moment; UTC if it cannot be told.
+    /// The machine's current time zone; UTC if it cannot be determined.
     [[nodiscard]] virtual std::shared_ptr<const TimeZone> timeZone() const = 0;
 };
 

@@ -6,14 +6,14 @@
 
 namespace tidewatch::platform {
 
-/// Why something could not be read.
+/// Why a file could not be read.
 enum class FileErrorKind {
-    notFound,          ///< nothing has that name, or what should be above it is no directory
-    permissionDenied,  ///< it is there, and the user has no right to it
-    unreadable,        ///< anything else: a disk that fails, something that is no file
+    notFound,          ///< no such file, or a parent is not a directory
+    permissionDenied,  ///< it exists, but the user has no permission
+    unreadable,        ///< anything else: an I/O error, not a regular file
 };
 
-/// The words are the operation, the path and the system's own.
+/// The message consists of the operation, the path and the system's error text.
 struct FileError : Error {
     FileErrorKind kind = FileErrorKind::unreadable;
 };

@@ -7,19 +7,19 @@
 
 namespace tidewatch::platform {
 
-/// An instant of the disk's, as fine as the disk keeps it.
+/// A file timestamp, at the file system's resolution.
 using FileTime = std::chrono::sys_time<std::chrono::nanoseconds>;
 
 enum class FileKind {
-    file,  ///< a regular one
+    file,  ///< a regular file
     directory,
-    link,   ///< a symbolic one; found only where links are not followed
+    link,   ///< a symbolic link; reported only where links are not followed
     other,  ///< a pipe, a socket, a device
 };
 
-/// What tells one file from another without reading it.
+/// A file's metadata.
 struct FileInfo {
-    /// The same as long as the file exists, whatever its name; another one after it was replaced.
+    /// Stays the same while the file exists, even if renamed; differs after it is replaced.
     struct Identity {
         std::uint64_t device = 0;
         std::uint64_t inode = 0;
@@ -33,23 +33,23 @@ struct FileInfo {
     bool operator==(const FileInfo&) const = default;
 };
 
-/// Something that an enumeration has come upon.
+/// One entry found by FileSystem::enumerate().
 struct FoundFile {
-    std::string_view path;  ///< absolute; valid while the visitor runs
-    FileInfo info;          ///< of a symbolic link itself, not of what it leads to
-    FileTime accessed;      ///< when it was last read, as far as the disk keeps count
+    std::string_view path;  ///< absolute; valid during the visitor's call
+    FileInfo info;          ///< of a symbolic link itself, not of its target
+    FileTime accessed;      ///< last access, if the file system records it
 };
 
-/// What an enumeration is to do after something that it has found.
+/// What the enumeration does after an entry.
 enum class VisitAction {
-    proceed,  ///< go on, into the directory if it is one
-    skip,     ///< go on, past the directory and all below it
-    stop,     ///< find nothing more
+    proceed,  ///< continue, descending into a directory
+    skip,     ///< continue, without descending
+    stop,     ///< end the enumeration
 };
 
 using FileVisitor = std::function<VisitAction(const FoundFile& found)>;
 
-/// What an enumeration does about names that begin with a dot.
+/// Whether an enumeration reports names that begin with a dot.
 enum class HiddenFiles { included, skipped };
 
 }  // namespace tidewatch::platform

@@ -7,14 +7,14 @@
 
 namespace tidewatch::platform {
 
-/// A file that is being read from one place on. It gives what the file held even if another takes its name
-/// meanwhile. For one thread at a time.
+/// An open file, read sequentially. Keeps reading the same file even if the path is replaced. Not
+/// thread-safe.
 class FileReader {
 public:
     virtual ~FileReader() = default;
 
-    /// Fills `buffer` with the bytes that come next and tells how many: fewer than fit only where the file
-    /// ends, none at its end. What is appended later is given by a later call.
+    /// Fills `buffer` with the next bytes and returns their number: fewer than fit only at the end of the
+    /// file, 0 at its end. Later calls return what was appended meanwhile.
     [[nodiscard]] virtual FileResult<std::size_t> read(std::span<char> buffer) = 0;
 };
 

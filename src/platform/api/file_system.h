@@ -13,78 +13,77 @@
 
 namespace tidewatch::platform {
 
-/// Who may write the files of the record.
+/// Whether this process may write the record.
 enum class RecordLock {
-    held,           ///< this process, and no other can
-    heldByAnother,  ///< another process, which has taken the directory over
+    held,           ///< this process holds the lock
+    heldByAnother,  ///< another process has taken over the directory
 };
 
-/// Why a file of the user's could not be written, as far as a user can do something about it.
+/// Why an export failed, in categories that a user can act on.
 enum class ExportErrorKind {
     noPermission,
     readOnlyDisk,
     noSpace,
     folderMissing,
-    notAFile,  ///< something that is no file has the name
+    notAFile,  ///< the path is not a regular file
     nameTooLong,
     other,
 };
 
 struct ExportError {
     ExportErrorKind kind;
-    std::string message;  ///< for the log: the operation, the path and the system's words
+    std::string message;  ///< for the log: the operation, the path and the system's error text
 };
 
-/// The user's files. Paths are absolute, with '/' between names, and bytes: they need not be UTF-8. Safe from
-/// any thread.
+/// The user's files. Paths are absolute, '/'-separated byte strings that need not be UTF-8. Thread-safe.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    /// The current user's home directory, without a slash at its end.
+    /// The current user's home directory, without a trailing slash.
     [[nodiscard]] virtual std::string homeDirectory() const = 0;
 
-    /// Makes the directory, for its owner only, and what is missing above it. One that exists is a success
-    /// and keeps its mode.
+    /// Creates the directory, accessible to its owner only, and missing parents. Succeeds if it exists, which
+    /// keeps its mode.
     virtual Status createDirectories(const std::string& path) = 0;
 
-    /// The whole content of a file. Only a regular file is read, be it at the end of a link.
+    /// The whole content of a regular file; links are followed.
     [[nodiscard]] virtual FileResult<std::string> readFile(const std::string& path) const = 0;
 
-    /// Opens a file to be read in pieces from the byte `offset` on, for those of which only a piece fits into
-    /// memory or is new. Only a regular file is opened; behind its end there is nothing to be read.
+    /// Opens a regular file for reading from the byte `offset` on: for files too large for memory, or of
+    /// which only the end is new. An offset beyond the end reads nothing.
     [[nodiscard]] virtual FileResult<std::unique_ptr<FileReader>> openForReading(
         const std::string& path, std::uint64_t offset) const = 0;
 
-    /// What is found under the path; a symbolic link is followed, and one that leads nowhere is an error.
+    /// The metadata of a path; symbolic links are followed, a dangling one is an error.
     [[nodiscard]] virtual FileResult<FileInfo> inspect(const std::string& path) const = 0;
 
-    /// Calls `visit` on this thread for all that is below `directory`, at any depth: a directory before what
-    /// it holds, else in no particular order. Symbolic links are found and not followed, except `directory`
-    /// itself. What cannot be read, or is removed meanwhile, is skipped and the rest found; only if
-    /// `directory` itself cannot be read there is an error. `hidden` files are skipped with all below them.
-    /// Memory follows the number of directories, not that of files.
+    /// Calls `visit` on this thread for everything below `directory`, recursively: a directory before its
+    /// entries, otherwise in no particular order. Symbolic links are reported but not followed, except
+    /// `directory` itself. What cannot be read, or is removed meanwhile, is skipped; it is an error only if
+    /// `directory` itself cannot be read. A skipped hidden directory is skipped with everything below it.
+    /// Memory use depends on the number of directories, not of files.
     [[nodiscard]] virtual FileStatus enumerate(const std::string& directory, HiddenFiles hidden,
                                                const FileVisitor& visit) const = 0;
 
-    /// To be asked before a file in `directory`, the data directory, is written. Makes the directory again if
-    /// it is gone, with what keeps other instances out of it. If it is another process's by now, nothing in
-    /// it may be written; the log was told, once. Costs next to nothing as long as all is in place.
+    /// Must be called before a file in `directory`, the data directory, is written. Recreates the directory
+    /// and its lock if they are gone. If another process holds the lock, nothing in it may be written; this
+    /// is logged once. Cheap while the lock is in place.
     [[nodiscard]] virtual RecordLock ensureRecordLock(const std::string& directory) = 0;
 
-    /// Puts `content` in the place of the file's, or makes the file, readable by its owner only. After a
-    /// success the new content is on the disk; after a failure, or a crash at any moment, the file holds
-    /// what it held before. Leaves nothing beside the file when it fails.
+    /// Replaces the file's content, or creates the file, readable by its owner only. On success the new
+    /// content is synced to disk; on failure, or after a crash at any moment, the file is unchanged. Leaves
+    /// no temporary file behind on failure.
     virtual Status replaceAtomically(const std::string& path, std::string_view content) = 0;
 
-    /// Gives the file a name that no other has: its own, ".`mark`-" and the day's date, and a number from 2
-    /// up if that is taken. Gives the new name; nothing if there is no file or nothing in it, which stays.
+    /// Renames the file to an unused name: its own, ".`mark`-" and today's date, and a number from 2 up if
+    /// that is taken. Returns the new name; nullopt if the file is missing or empty, which leaves it in
+    /// place.
     [[nodiscard]] virtual Result<std::optional<std::string>> setAside(const std::string& path,
                                                                       std::string_view mark) = 0;
 
-    /// Puts `content` into a file of the user's choosing, whose neighbours and mode are the user's too: one
-    /// that exists keeps its mode, a new one gets what the user gives to new files. Whole or not at all, as
-    /// with replaceAtomically(). Gives nothing after a success.
+    /// Writes `content` to a file of the user's choice: an existing one keeps its mode, a new one obeys the
+    /// umask. Atomic like replaceAtomically(). Returns nullopt on success.
     [[nodiscard]] virtual std::optional<ExportError> exportFile(const std::string& path,
                                                                 std::string_view content) = 0;
 };

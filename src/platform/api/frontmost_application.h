@@ -6,13 +6,14 @@
 
 namespace tidewatch::platform {
 
-/// Which application the user is working in. Main thread only.
+/// The application that the user is working in. Main thread only.
 class FrontmostApplication {
 public:
     virtual ~FrontmostApplication() = default;
 
-    /// The application whose window has the focus; nothing if there is none, if it cannot be named, or if
-    /// this desktop does not tell. This program's own windows give its own identifier.
+    /// The application whose window has the focus. Returns nullopt if there is none, if it cannot be
+    /// identified, or if the desktop does not provide it. This program's own windows yield its own
+    /// identifier.
     [[nodiscard]] virtual std::optional<AppId> current() = 0;
 };
 

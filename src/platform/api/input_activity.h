@@ -4,22 +4,22 @@
 
 namespace tidewatch::platform {
 
-/// How much of the user's input a machine lets the program notice.
+/// How much of the user's input the program can observe.
 enum class InputCoverage {
     everything,   ///< input to any window
-    someWindows,  ///< input to windows of another protocol than this program's goes unseen
-    nothing,      ///< there is no source at all
+    someWindows,  ///< input to windows of another display protocol is not seen
+    nothing,      ///< no source is available
 };
 
-/// How long ago the user last touched keyboard, mouse or any other input device. Main thread only.
+/// Time since the last input from keyboard, mouse or any other device. Main thread only.
 class InputActivity {
 public:
     virtual ~InputActivity() = default;
 
-    /// Seconds since the last input of any kind, 0 or more; nothing if the machine has no source for it.
+    /// Seconds since the last input of any kind, 0 or more; nullopt if no source is available.
     [[nodiscard]] virtual std::optional<double> secondsSinceLastInput() const = 0;
 
-    /// The same for the life of the process.
+    /// Constant for the life of the process.
     [[nodiscard]] virtual InputCoverage coverage() const = 0;
 };
 

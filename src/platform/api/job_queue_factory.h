@@ -7,14 +7,13 @@
 
 namespace tidewatch::platform {
 
-/// Where work goes that must not keep the main thread waiting.
+/// Creates queues for work that must not block the main thread.
 class JobQueueFactory {
 public:
     virtual ~JobQueueFactory() = default;
 
-    /// A queue of the main thread's; its results come back through the main loop, which must outlive it.
-    /// `name` is how the queue's thread is called where threads are listed: 15 characters at most. Main
-    /// thread only.
+    /// A queue owned by the main thread; its results are delivered through the main loop, which must outlive
+    /// it. `name` is the thread's name, at most 15 characters. Main thread only.
     [[nodiscard]] virtual std::unique_ptr<JobQueue> makeQueue(const std::string& name) = 0;
 };
 

@@ -4,16 +4,15 @@
 
 namespace tidewatch::platform {
 
-/// Where the program's own words go, in English: the standard error stream on a real machine.
-/// Safe from any thread.
+/// The program's log, in English: standard error on a real machine. Thread-safe.
 class Log {
 public:
     virtual ~Log() = default;
 
-    /// Something went wrong that the user was not told.
+    /// Something went wrong that the user is not shown.
     virtual void warning(std::string_view message) = 0;
 
-    /// Something that a reader of the log should know.
+    /// Something worth knowing that is no failure.
     virtual void info(std::string_view message) = 0;
 };
 

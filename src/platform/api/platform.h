@@ -21,8 +21,8 @@ class Screens;
 class UserNotifications;
 class WindowSystem;
 
-/// All that the program needs of the machine, for the composition root to hand on. Owns nothing; what it
-/// refers to must outlive every user.
+/// All platform services, for the composition root to distribute. Owns nothing; the referenced objects must
+/// outlive every user.
 struct Platform {
     Log& log;
     Clock& clock;

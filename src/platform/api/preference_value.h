@@ -11,12 +11,13 @@
 
 namespace tidewatch::platform {
 
-/// One stored preference as its writer typed it. The functions below are the reading rules of Preferences.
+/// One stored preference with the type it was written with. The functions below implement the conversions of
+/// Preferences.
 using PreferenceValue = std::variant<bool, std::int64_t, double, std::string>;
 
 namespace preference_detail {
 
-/// The whole number that the whole of `text` spells, in decimal; nothing for what is none.
+/// Parses the whole of `text` as a decimal integer. Returns nullopt if it is none.
 [[nodiscard]] inline std::optional<std::int64_t> spelledInteger(std::string_view text) {
     std::int64_t number{};
     const auto end = text.data() + text.size();
@@ -25,7 +26,7 @@ namespace preference_detail {
     return number;
 }
 
-/// Truncated; 0 for what no 64-bit integer holds.
+/// Truncated; 0 if out of range for 64 bits.
 [[nodiscard]] inline std::int64_t truncated(double real) {
     constexpr double limit = 0x1p63;
     return real >= -limit && real < limit ? static_cast<std::int64_t>(real) : 0;
@@ -61,7 +62,7 @@ struct AsInteger {
     return std::visit(preference_detail::AsInteger(), value);
 }
 
-/// Other than 0, "true" counting as 1.
+/// Whether it is not 0; "true" counts as 1.
 [[nodiscard]] inline bool asBoolean(const PreferenceValue& value) {
     return asReal(value) != 0;
 }

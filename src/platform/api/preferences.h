@@ -6,16 +6,16 @@
 
 namespace tidewatch::platform {
 
-/// A persistent map from string keys to typed values. Safe from any thread.
+/// A persistent map from string keys to typed values. Thread-safe.
 ///
-/// Reading a value as another type: texts that spell a whole number, a number or "true"/"false" read as
-/// that; a number reads as a boolean by being other than 0 and a boolean as 1 or 0; a fraction reads as an
-/// integer by truncation; everything else, an absent key included, reads as 0, false or "".
+/// Conversions when a value is read as another type: strings that contain an integer, a number or
+/// "true"/"false" are parsed; a number is true if it is not 0, a boolean is 1 or 0; a fraction is truncated
+/// to an integer; everything else, including a missing key, reads as 0, false or "".
 class Preferences {
 public:
     virtual ~Preferences() = default;
 
-    /// Tells an absent key from a stored zero.
+    /// Distinguishes a missing key from a stored zero.
     [[nodiscard]] virtual bool contains(std::string_view key) const = 0;
 
     [[nodiscard]] virtual bool boolean(std::string_view key) const = 0;
@@ -23,7 +23,7 @@ public:
     [[nodiscard]] virtual double real(std::string_view key) const = 0;
     [[nodiscard]] virtual std::string text(std::string_view key) const = 0;
 
-    /// A value written is read back at once and reaches the disk without further ado.
+    /// A written value can be read back immediately and is persisted automatically.
     virtual void setBoolean(std::string_view key, bool value) = 0;
     virtual void setInteger(std::string_view key, std::int64_t value) = 0;
     virtual void setReal(std::string_view key, double value) = 0;

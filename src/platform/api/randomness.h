@@ -4,12 +4,12 @@
 
 namespace tidewatch::platform {
 
-/// The machine's source of chance. Main thread only.
+/// The machine's random number source. Main thread only.
 class Randomness {
 public:
     virtual ~Randomness() = default;
 
-    /// 64 bits, each as likely to be set as not, and not to be foretold from earlier ones.
+    /// 64 independent, uniformly distributed, unpredictable bits.
     [[nodiscard]] virtual std::uint64_t bits() = 0;
 };
 

@@ -26,20 +26,20 @@ struct Rectangle {
     bool operator==(const Rectangle&) const = default;
 };
 
-/// One screen: all of it, and what panels and docks leave free of it.
+/// One screen: its whole area, and the part not covered by panels and docks.
 struct Screen {
     Rectangle frame;
     Rectangle visibleFrame;
 };
 
-/// The screens of the desktop as they are at the moment of asking. Main thread only.
+/// The desktop's current screens. Main thread only.
 class Screens {
 public:
     virtual ~Screens() = default;
 
     [[nodiscard]] virtual std::vector<Screen> all() const = 0;
 
-    /// Nothing if no screen is attached.
+    /// Returns nullopt if no screen is attached.
     [[nodiscard]] virtual std::optional<Screen> main() const = 0;
 };
 

@@ -5,23 +5,23 @@
 
 namespace tidewatch::platform {
 
-/// What came of asking to be the one running instance.
+/// The result of claiming to be the only running instance.
 enum class InstanceClaim {
-    first,       ///< no other instance writes to the data directory, and none can start to
-    handedOver,  ///< another one runs and was asked to come to the front
-    denied,      ///< another one holds the data directory but did not answer
+    first,       ///< this is the only instance; no other can start
+    handedOver,  ///< another instance is running and has been asked to come to the front
+    denied,      ///< another instance holds the data directory but does not respond
 };
 
-/// Keeps a second instance off the same data directory for as long as this object lives. Main thread only.
+/// Prevents a second instance on the same data directory during this object's lifetime. Main thread only.
 class SingleInstance {
 public:
     virtual ~SingleInstance() = default;
 
-    /// To be asked once, before any file in `directory`, the data directory, is read. One in which no lock
-    /// can be made counts as `first`, with a line in the log.
+    /// Must be called once, before any file in `directory`, the data directory, is read. If no lock can be
+    /// created the result is `first`, with a log message.
     [[nodiscard]] virtual InstanceClaim claim(const std::string& directory) = 0;
 
-    /// Called on the main thread each time a later start hands over to this instance.
+    /// Sets the callback, on the main thread, for each later start that hands over to this instance.
     virtual void onReopen(std::function<void()> reopen) = 0;
 };
 

@@ -8,42 +8,42 @@
 
 namespace tidewatch::platform {
 
-/// One message to the user, in plain text without markup.
+/// One notification, in plain text without markup.
 struct UserNotification {
     std::string title;
     std::string body;
     bool operator==(const UserNotification&) const = default;
 };
 
-/// What came of asking for the right to show notifications.
+/// The result of requesting permission to show notifications.
 struct AuthorizationResult {
     bool granted = false;
-    std::optional<Error> error;  ///< nobody could be asked
+    std::optional<Error> error;  ///< set if permission could not be requested
 };
 
-/// The two ways in which a desktop shows messages: a newer service, which may fail and says so later, and an
-/// older one, which is simply handed the message. Its operations are for the main thread and never wait;
-/// what they call back runs later on any thread, once, or never if the process ends before.
+/// The two ways to show notifications: a modern service, which may fail and reports that asynchronously, and
+/// a legacy one without feedback. Operations are for the main thread and never block; callbacks run later on
+/// any thread, once, or never if the process ends first.
 class UserNotifications {
 public:
     virtual ~UserNotifications() = default;
 
-    /// Whether this process can use the newer service at all; the same for its life. If not, neither
+    /// Whether the modern service is available; constant for the life of the process. If not, neither
     /// requestAuthorization() nor deliver() may be called.
     [[nodiscard]] virtual bool hasModernService() const = 0;
 
-    /// Asks for the right to show messages with a sound. A refusal is an answer, not an error.
+    /// Requests permission to show notifications with sound. A refusal is not an error.
     virtual void requestAuthorization(std::function<void(AuthorizationResult)> answered) = 0;
 
-    /// Through the newer service, with its default sound, as a message of its own that replaces no other.
-    /// `delivered` tells whether the service took it; one that the user has refused counts as taken.
+    /// Uses the modern service, with its default sound, as a new notification that replaces no other.
+    /// `delivered` reports whether the service accepted it; one suppressed by the user counts as accepted.
     virtual void deliver(const UserNotification& notification, std::function<void(Status)> delivered) = 0;
 
-    /// Through the older service, without a sound. Whether it is seen cannot be told.
+    /// Uses the legacy service, without a sound or feedback.
     virtual void deliverLegacy(const UserNotification& notification) = 0;
 
-    /// On a desktop that has no older service of its own, what is to serve as one: deliverLegacy() calls
-    /// `show`. Until it is given, such messages are lost, with a line in the log.
+    /// Provides the legacy service on a desktop without one: deliverLegacy() calls `show`. Until it is set,
+    /// such notifications are dropped with a log message.
     virtual void setLegacyService(std::function<void(const UserNotification&)> show) = 0;
 };
 

@@ -9,14 +9,14 @@
 
 namespace tidewatch {
 
-/// What the break alert shows, ready to be shown. Main thread only. Announces only what has changed: while an
-/// alert stands, an ordinary second costs one text.
+/// The display values of the break alert. Main thread only. Notifies only of changes: while an alert is
+/// active, an ordinary second updates one text.
 class BreakPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
     Q_PROPERTY(bool alertActive READ alertActive NOTIFY alertActiveChanged FINAL)
-    // Why it came up.
+    // Why it was raised.
     Q_PROPERTY(QString headline READ headline NOTIFY alertChanged FINAL)
     Q_PROPERTY(QString subline READ subline NOTIFY alertChanged FINAL)
     // The exercise.
