@@ -15,17 +15,16 @@
 
 namespace tidewatch {
 
-/// What the program does on a screen, wired: the delegate, the commands, and what the status item and its
-/// menu say. Main thread only.
+/// Wires the delegate, the commands, the status item's title and its menu. Main thread only.
 class Program final {
 public:
-    /// What the program is shown on; all of it must outlive the program.
+    /// The surfaces of the program; all of it must outlive the program.
     struct Screen {
         Surfaces& surfaces;
         StatisticsWindow& statistics;
-        /// Writes the report of the month; false if it could not be written.
+        /// Writes the monthly report; returns false on failure.
         std::function<bool(const std::string& path)> generateReport;
-        /// Ends the program in the ordinary way.
+        /// Ends the program regularly.
         std::function<void()> terminate;
     };
 

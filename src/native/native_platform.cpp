@@ -37,7 +37,7 @@ std::string configDirectory() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
 }
 
-// A file from before, or one that was copied here, may be open to others.
+// A file from an earlier version, or one that was copied here, may be readable by others.
 void makePreferencesPrivate() {
     restrictFile(configDirectory() + "/brightlooms/tidewatch.conf");
 }

@@ -8,8 +8,8 @@ namespace tidewatch::platform {
 
 class ProcessEnvironment;
 
-/// Every operation of the seam on a Linux desktop. The toolkit's application object must exist as long as
-/// this object, and `environment` must outlive it. Main thread only.
+/// The platform on a Linux desktop. The toolkit's application object and `environment` must outlive this
+/// object. Main thread only.
 class NativePlatform final {
 public:
     explicit NativePlatform(const ProcessEnvironment& environment);

@@ -26,7 +26,7 @@ constexpr int keptAllocations = 256 * 1024;          // bytes
 constexpr std::size_t maxAnnouncementLength = 4096;  // bytes
 constexpr auto sessionTimeout = 1s;
 
-/// Toolkit variables that are the user's own affair: how large, how it is typed and read aloud.
+/// Toolkit variables left to the user: scaling, input method, accessibility.
 constexpr std::array<std::string_view, 11> harmlessVariables = {
     "QT_ACCESSIBILITY",
     "QT_AUTO_SCREEN_SCALE_FACTOR",
@@ -55,7 +55,7 @@ void removeCodeLoadingVariables(const QProcessEnvironment& inherited) {
     }
 }
 
-/// The address of the session bus, empty if there is none. A bus is not started for this program alone.
+/// The address of the session bus, empty if there is none. No bus is started for this program alone.
 std::string busAddress() {
     if (const auto told = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !told.isEmpty()) return told.toStdString();
     const auto standard = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")) + "/bus";
@@ -63,7 +63,7 @@ std::string busAddress() {
                                                                      : "";
 }
 
-/// Where whoever reads the screen aloud listens: what the toolkit would find out for itself.
+/// The address of the accessibility bus, as the toolkit would determine it.
 std::string accessibilityAddress(const X11Connection& server) {
     if (const auto told = qgetenv("AT_SPI_BUS_ADDRESS"); !told.isEmpty()) return told.toStdString();
     const auto announced = server.texts(server.root(), server.atom("AT_SPI_BUS"));
@@ -81,7 +81,7 @@ void keepSessionManager() {
     }
 }
 
-/// Whether each input method that has announced itself with an address of its own answers.
+/// Whether each input method that has published an address responds.
 bool isInputMethodResponsive() {
     auto configuration = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
     if (configuration.isEmpty()) configuration = QDir::homePath() + "/.config";
@@ -114,9 +114,8 @@ struct ProcessEnvironment::Impl {
 };
 
 ProcessEnvironment::ProcessEnvironment() {
-    // The texts of a long record go through memory at every write. Above this size an allocation is the
-    // kernel's own, and is gone when it is freed; left to itself, the allocator would keep the largest one
-    // for ever.
+    // Every write of a long record allocates its text. Allocations above this size are mapped separately and
+    // returned when freed; by default, the allocator would raise the threshold and keep the largest one.
     mallopt(M_MMAP_THRESHOLD, keptAllocations);
     mallopt(M_TRIM_THRESHOLD, keptAllocations);
     impl_ = std::make_unique<Impl>();
@@ -133,7 +132,7 @@ ProcessEnvironment::ProcessEnvironment() {
     }
     impl_->sessionBus = impl_->busProxy.proxiedAddress(busAddress());
     qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(impl_->sessionBus));
-    // One that answers is left to the toolkit, which goes to it past the session bus and without a guard.
+    // A responsive one is left to the toolkit, which bypasses the session bus and the proxy.
     if (const auto address = accessibilityAddress(server);
         !address.empty() && !isBusResponsive(address, sessionTimeout)) {
         qputenv("AT_SPI_BUS_ADDRESS", QByteArray::fromStdString(impl_->busProxy.proxiedAddress(address)));

@@ -8,14 +8,14 @@
 
 namespace tidewatch {
 
-/// The program: the toolkit's application object, set up for a program that lives in the tray, and the way
-/// from start to end. One in a process.
+/// The program: the toolkit's application object, configured for a tray program, and its life cycle. One per
+/// process.
 class Application final {
 public:
-    /// Sets the toolkit up; `programPath` is the process's first argument and must outlive this object.
+    /// Sets up the toolkit; `programPath` is the process's first argument and must outlive this object.
     explicit Application(char* programPath);
 
-    /// Runs until the user, the session or a signal ends the program. Gives the exit code: 0 also when
+    /// Runs until the user, the session or a signal ends the program. Returns the exit code: 0 also if
     /// another instance was running and was asked to come to the front.
     [[nodiscard]] int run(const platform::Platform& platform);
 

@@ -15,10 +15,10 @@
 
 namespace tidewatch {
 
-/// The program as a whole on the toolkit, built once. Main thread only.
+/// The composition root with the toolkit. Main thread only.
 class DesktopComposition final {
 public:
-    /// `platform` must outlive this object; `terminate` ends the program in the ordinary way.
+    /// `platform` must outlive this object; `terminate` ends the program regularly.
     DesktopComposition(const platform::Platform& platform, std::function<void()> terminate);
 
     [[nodiscard]] AppDelegate& delegate() { return program_.delegate(); }
@@ -32,7 +32,7 @@ private:
     ClockPresenter clock_;
     QtSurfaces surfaces_;
     PdfReport report_;
-    std::unique_ptr<StatsPresenter> stats_;  ///< from the first showing of the statistics window on
+    std::unique_ptr<StatsPresenter> stats_;  ///< created when the statistics window is first shown
     QuickStatisticsWindow statistics_;
     Program program_;
 };

@@ -6,7 +6,7 @@
 
 namespace tidewatch {
 
-/// What the statistics window shows of the services.
+/// The sources of the statistics window.
 [[nodiscard]] StatsPresenter::Sources statisticsSources(const platform::Platform& platform,
                                                         Services& services);
 

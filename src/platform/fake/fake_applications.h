@@ -7,7 +7,7 @@
 
 namespace tidewatch::platform {
 
-/// A registry that a test fills; at first it knows no application.
+/// A registry filled by the test; initially empty.
 class FakeApplications final : public Applications {
 public:
     [[nodiscard]] std::optional<ApplicationInfo> info(const AppId& app) const override {
@@ -26,7 +26,7 @@ public:
         ++revision_;
     }
 
-    /// How often an application was asked for.
+    /// The number of calls of info().
     [[nodiscard]] int lookupCount() const { return lookupCount_; }
 
 private:

@@ -8,7 +8,7 @@
 
 namespace tidewatch::platform {
 
-/// A clock that never ticks by itself. Safe from any thread.
+/// A clock that never ticks by itself. Thread-safe.
 class FakeClock final : public Clock {
 public:
     /// Shows `now`; set to UTC.
@@ -21,13 +21,13 @@ public:
     /// Time passes, 0 or more.
     void advance(std::chrono::milliseconds duration);
 
-    /// Time passes while the machine sleeps: on the wall, but not on the monotonic clock.
+    /// Time passes while the machine sleeps: the wall clock advances, the monotonic clock does not.
     void suspend(std::chrono::milliseconds duration);
 
-    /// Somebody sets the wall clock, in either direction.
+    /// Sets the wall clock, in either direction.
     void setNow(Instant now);
 
-    /// The machine is moved to another zone. Zones handed out before stay what they are.
+    /// Changes the machine's zone. Zones returned before are unaffected.
     void setZone(std::shared_ptr<const TimeZone> zone);
 
 private:

@@ -7,7 +7,7 @@
 
 namespace tidewatch::platform {
 
-/// A desktop whose file manager shows every file, unless a test has it fail.
+/// A desktop whose file manager shows every file, unless the test makes it fail.
 class FakeDesktop final : public Desktop {
 public:
     [[nodiscard]] std::string documentsDirectory() const override { return "/home/user/Documentos"; }
@@ -18,7 +18,7 @@ public:
 
     void setRevealStatus(Status status) { revealStatus_ = std::move(status); }
 
-    /// Every path that was asked to be revealed.
+    /// All paths passed to reveal().
     [[nodiscard]] const std::vector<std::string>& revealed() const { return revealed_; }
 
 private:

@@ -6,7 +6,7 @@
 
 namespace tidewatch::platform {
 
-/// No application is in front until a test puts one there.
+/// No frontmost application until the test sets one.
 class FakeFrontmostApplication final : public FrontmostApplication {
 public:
     [[nodiscard]] std::optional<AppId> current() override { return front_; }

@@ -4,7 +4,7 @@
 
 namespace tidewatch::platform {
 
-/// Input as a test scripts it; at first the user is touching the machine.
+/// Input scripted by the test; initially the user is active.
 class FakeInputActivity final : public InputActivity {
 public:
     [[nodiscard]] std::optional<double> secondsSinceLastInput() const override { return seconds_; }
@@ -13,7 +13,7 @@ public:
 
     void setCoverage(InputCoverage coverage) { coverage_ = coverage; }
 
-    /// Nothing stands for a machine without a source.
+    /// Nullopt means that no source is available.
     void set(std::optional<double> seconds) { seconds_ = seconds; }
 
 private:

@@ -8,8 +8,7 @@
 
 namespace tidewatch::platform {
 
-/// Queues without a thread: a job is done at once, or, while the background is held, when somebody waits for
-/// it.
+/// Queues without a thread: jobs run immediately or, while held, when somebody waits for them.
 class FakeJobQueueFactory final : public JobQueueFactory {
 public:
     /// `mainLoop` must outlive it.
@@ -17,10 +16,10 @@ public:
 
     [[nodiscard]] std::unique_ptr<JobQueue> makeQueue(const std::string& name) override;
 
-    /// From now on jobs stay undone until release(), finish() or the end of their queue.
+    /// From now on jobs are deferred until release(), finish() or the destruction of their queue.
     void hold() { *isHeld_ = true; }
 
-    /// Jobs are done at once again; those that waited are done when the next one is posted.
+    /// Jobs run immediately again; deferred ones run when the next one is posted.
     void release() { *isHeld_ = false; }
 
 private:

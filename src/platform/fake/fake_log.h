@@ -9,11 +9,11 @@
 
 namespace tidewatch::platform {
 
-/// Keeps what is logged. A warning that was not announced is a complaint, and so is an announced one that
-/// never came, when this object ends. Safe from any thread.
+/// Records log messages. Reports a failure for an unexpected warning and, on destruction, for an expected one
+/// that never came. Thread-safe.
 class FakeLog final : public Log {
 public:
-    /// `reportFailure` says in words what a test has to fail for; called on the thread that logs.
+    /// `reportFailure` fails the test with a message; called on the thread that logs.
     explicit FakeLog(std::function<void(const std::string&)> reportFailure);
     FakeLog(const FakeLog&) = delete;
     FakeLog& operator=(const FakeLog&) = delete;
@@ -22,7 +22,7 @@ public:
     void warning(std::string_view message) override;
     void info(std::string_view message) override;
 
-    /// One warning that holds `part` is to come.
+    /// Expects one warning that contains `part`.
     void expectWarning(std::string part);
 
     [[nodiscard]] std::vector<std::string> warnings() const;

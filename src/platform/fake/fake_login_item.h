@@ -7,14 +7,14 @@
 
 namespace tidewatch::platform {
 
-/// A login item in memory; at first not registered.
+/// A login item in memory; initially not registered.
 class FakeLoginItem final : public LoginItem {
 public:
     [[nodiscard]] bool isEnabled() const override { return enabled_; }
     Status registerItem() override { return set(true); }
     Status unregisterItem() override { return set(false); }
 
-    /// Every later registration and unregistration fails so, until nothing is set again.
+    /// Makes registration and unregistration fail with this error, until set to nullopt.
     void setFailure(std::optional<Error> failure) { failure_ = std::move(failure); }
 
 private:

@@ -26,9 +26,9 @@
 
 namespace tidewatch::platform {
 
-/// Every operation of the seam on fakes.
+/// A complete platform of fakes.
 struct FakeMachine {
-    /// Starts at `now`, UTC; `reportFailure` is for the log's unannounced warnings.
+    /// Starts at `now`, UTC; `reportFailure` receives the log's unexpected warnings.
     FakeMachine(Instant now, std::function<void(const std::string&)> reportFailure)
         : log(std::move(reportFailure)), clock(now) {}
 
@@ -53,7 +53,7 @@ struct FakeMachine {
 
     Platform platform = on(mainLoop);
 
-    /// The same machine with another main loop, which must outlive what is returned.
+    /// The same machine with another main loop, which must outlive the result.
     [[nodiscard]] Platform on(MainLoop& loop) {
         return {
             .log = log,

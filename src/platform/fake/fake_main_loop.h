@@ -11,7 +11,7 @@
 
 namespace tidewatch::platform {
 
-/// A main loop that runs when told, by the time of a FakeClock.
+/// A main loop driven by the test and a FakeClock.
 class FakeMainLoop final : public MainLoop {
 public:
     /// `clock` must outlive it.
@@ -23,21 +23,21 @@ public:
     [[nodiscard]] std::unique_ptr<RepeatingTimer> repeat(std::chrono::milliseconds interval, TimerMode mode,
                                                          Job fire) override;
 
-    /// Fires the timers that are due, in the order in which they were made, then runs the posted jobs, those
-    /// that they post included, until none is left. Time stands still.
+    /// Fires due timers in creation order, then runs posted jobs, including those they post, until none is
+    /// left. Time does not advance.
     void run();
 
-    /// The first half of run(): what the timers post waits.
+    /// The first half of run(): jobs posted by timers are not run.
     void fireDueTimers();
 
-    /// Lets `duration` pass, stopping at each moment at which a timer is due to run().
+    /// Advances the clock by `duration`, calling run() whenever a timer is due.
     void runFor(std::chrono::milliseconds duration);
 
-    /// What an open menu does to timers of TimerMode::defaultOnly.
+    /// Whether a menu is open, which suspends timers of TimerMode::defaultOnly.
     enum class Menu { closed, open };
     void setMenu(Menu menu) { menu_ = menu; }
 
-    /// Timers that have not been destroyed.
+    /// The number of existing timers.
     [[nodiscard]] std::size_t timerCount() const { return timers_->size(); }
 
 private:
@@ -53,7 +53,7 @@ private:
     void runJobs();
 
     FakeClock& clock_;
-    // Shared, because a timer's handle may outlive the loop by accident of a test's order of destruction.
+    // Shared, because a handle may outlive the loop depending on a test's order of destruction.
     const std::shared_ptr<Timers> timers_ = std::make_shared<Timers>();
     int nextTimer_ = 0;
     Menu menu_ = Menu::closed;

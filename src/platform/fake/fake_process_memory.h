@@ -4,7 +4,7 @@
 
 namespace tidewatch::platform {
 
-/// Counts how often memory was given back.
+/// Counts the calls of releaseUnused().
 class FakeProcessMemory final : public ProcessMemory {
 public:
     void releaseUnused() override { ++releaseCount_; }

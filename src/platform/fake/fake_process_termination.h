@@ -6,7 +6,7 @@
 
 namespace tidewatch::platform {
 
-/// Ends that come when a test says so.
+/// Termination events triggered by the test.
 class FakeProcessTermination final : public ProcessTermination {
 public:
     void onRequested(std::function<void()> requested) override { requested_ = std::move(requested); }

@@ -7,7 +7,7 @@
 
 namespace tidewatch::platform {
 
-/// Chance that is the same for the same seed.
+/// A deterministic random source.
 class FakeRandomness final : public Randomness {
 public:
     explicit FakeRandomness(std::uint64_t seed = 1) : generator_(seed) {}

@@ -6,7 +6,7 @@
 
 namespace tidewatch::platform {
 
-/// Screens as a test places them; at first one of 1920 by 1080 with a panel of 30 points at its top.
+/// Screens set by the test; initially one of 1920 by 1080 with a panel of 30 points at its top.
 class FakeScreens final : public Screens {
 public:
     [[nodiscard]] std::vector<Screen> all() const override { return screens_; }

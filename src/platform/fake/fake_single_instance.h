@@ -7,7 +7,7 @@
 
 namespace tidewatch::platform {
 
-/// The answer to a claim as a test sets it; at first this is the only instance.
+/// A claim's result set by the test; initially this is the only instance.
 class FakeSingleInstance final : public SingleInstance {
 public:
     [[nodiscard]] InstanceClaim claim(const std::string&) override { return claim_; }

@@ -8,7 +8,7 @@
 
 namespace tidewatch::platform {
 
-/// A zone given by the moments at which its offset changes.
+/// A zone defined by its offset transitions.
 class FakeTimeZone final : public TimeZone {
 public:
     struct Transition {
@@ -26,7 +26,7 @@ private:
     const std::vector<Transition> transitions_;
 };
 
-/// The same offset for ever.
+/// A constant offset.
 [[nodiscard]] std::shared_ptr<const TimeZone> fixedZone(std::chrono::seconds offset);
 
 /// UTC+1, and +2 from the last Sunday of March to the last Sunday of October, 01:00 UTC; right for

@@ -8,8 +8,7 @@
 
 namespace tidewatch::platform {
 
-/// Keeps what is to be shown; its callbacks run when told. At first there is a newer service that takes
-/// everything.
+/// Records notifications; callbacks are triggered by the test. Initially there is a modern service.
 class FakeUserNotifications final : public UserNotifications {
 public:
     [[nodiscard]] bool hasModernService() const override { return modern_; }
@@ -30,19 +29,19 @@ public:
 
     void setModernService(bool newer) { modern_ = newer; }
 
-    /// Answers every request for authorization that waits.
+    /// Answers all pending authorization requests.
     void answer(const AuthorizationResult& answer) {
         for (const auto& answered : std::exchange(requests_, {})) answered(answer);
     }
 
-    /// Tells the same status for every delivery that waits for one.
+    /// Reports the same status for all pending deliveries.
     void report(const Status& status) {
         for (const auto& delivered : std::exchange(unreported_, {})) delivered(status);
     }
 
     [[nodiscard]] std::size_t waitingRequests() const { return requests_.size(); }
 
-    /// What was handed to the newer service, failures included, and what to the older one.
+    /// What was passed to the modern service, failures included, and to the legacy one.
     [[nodiscard]] const std::vector<UserNotification>& delivered() const { return delivered_; }
     [[nodiscard]] const std::vector<UserNotification>& deliveredLegacy() const { return legacy_; }
 

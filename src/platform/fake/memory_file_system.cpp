@@ -18,7 +18,7 @@ FileError forbidden(const std::string& operation, const std::string& path) {
     return {{operation + " " + path + ": Permission denied"}, FileErrorKind::permissionDenied};
 }
 
-// What a file held when it was opened.
+// The content of a file when it was opened.
 class MemoryFileReader final : public FileReader {
 public:
     MemoryFileReader(std::string content, std::uint64_t offset)

@@ -15,7 +15,7 @@
 
 namespace tidewatch::platform {
 
-/// Files in memory, and everything that can go wrong with files. Safe from any thread.
+/// Files in memory, with fault injection. Thread-safe.
 class MemoryFileSystem final : public FileSystem {
 public:
     [[nodiscard]] std::string homeDirectory() const override { return "/home/user"; }
@@ -33,61 +33,61 @@ public:
     [[nodiscard]] std::optional<ExportError> exportFile(const std::string& path,
                                                         std::string_view content) override;
 
-    /// Puts a file there, past all faults, with the directories above it. It is another file than the one
-    /// that was there.
+    /// Creates or replaces a file, bypassing all faults, with its parent directories. A replaced file gets a
+    /// new identity.
     void put(const std::string& path, std::string_view content);
 
-    /// Somebody gives a file that exists another time, and leaves what it holds.
+    /// Changes the modification time of an existing file.
     void touch(const std::string& path);
 
-    /// Cuts a file that exists down to its first `length` bytes.
+    /// Truncates an existing file to `length` bytes.
     void truncate(const std::string& path, std::size_t length);
 
-    /// What a file holds; nothing if there is none.
+    /// A file's content; nullopt if there is none.
     [[nodiscard]] std::optional<std::string> content(const std::string& path) const;
     [[nodiscard]] bool hasDirectory(const std::string& path) const;
 
-    /// The paths of the writes that were asked for so far, failed ones included.
+    /// The paths of all writes so far, failed ones included.
     [[nodiscard]] std::vector<std::string> writes() const;
     [[nodiscard]] int writeCount() const { return static_cast<int>(writes().size()); }
 
-    /// The n-th write from now on fails, 1 being the next; those after it succeed again.
+    /// Makes the n-th write from now on fail, 1 being the next; later ones succeed again.
     void failWrite(std::size_t n);
 
-    /// No write of a byte or more succeeds while the disk is full.
+    /// A full disk fails all non-empty writes.
     enum class Disk { roomy, full };
     void setDisk(Disk disk);
 
-    /// From now on whoever replaces a file waits, until the disk is as before.
+    /// From now on replacing a file blocks until resume().
     void stall();
     void resume();
 
-    /// Returns as soon as somebody waits for the stalled disk.
+    /// Waits until a write is blocked by the stalled disk.
     void awaitStalledWrite();
 
-    /// The directory, and with it all below it, cannot be made.
+    /// Makes creation of the directory, and everything below it, fail.
     void makeUnmakeable(const std::string& directory);
 
-    /// The file or directory is there but may not be read.
+    /// Makes an existing file or directory unreadable.
     void makeUnreadable(const std::string& path);
 
-    /// Somebody removes a directory with all that is in it.
+    /// Removes a directory recursively.
     void removeDirectory(const std::string& path);
 
-    /// Who has the data directory from now on; this process at first.
+    /// The result of ensureRecordLock() from now on; initially `held`.
     void setRecordLock(RecordLock state);
 
-    /// The date in the names of files that are set aside, "2026-01-15" at first.
+    /// The date in the names of files set aside; initially "2026-01-15".
     void setDay(const std::string& day);
 
-    /// The paths of the exports that succeeded.
+    /// The paths of successful exports.
     [[nodiscard]] std::vector<std::string> exports() const;
 
 private:
     struct File {
         std::string content;
         std::uint64_t inode;
-        std::uint64_t modified;  // in changes of any file since the first one
+        std::uint64_t modified;  // a counter of changes to any file
     };
 
     void replace(const std::string& path, std::string_view content);

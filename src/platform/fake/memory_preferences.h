@@ -9,7 +9,7 @@
 
 namespace tidewatch::platform {
 
-/// Preferences in memory. Safe from any thread.
+/// Preferences in memory. Thread-safe.
 class MemoryPreferences final : public Preferences {
 public:
     [[nodiscard]] bool contains(std::string_view key) const override;
@@ -25,7 +25,7 @@ public:
 
     void remove(std::string_view key) override;
 
-    /// Stores a value of any type under any key, as a hand in the file would.
+    /// Stores a value of any type under any key, like a manual edit of the file.
     void put(std::string_view key, PreferenceValue value);
 
 private:

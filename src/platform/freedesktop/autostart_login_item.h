@@ -13,7 +13,7 @@ public:
     /// `configDirectory` and `program` are absolute paths; `files` must outlive this object.
     AutostartLoginItem(FileSystem& files, const std::string& configDirectory, std::string program);
 
-    /// An entry that the desktop's own settings have switched off counts as not enabled.
+    /// An entry disabled in the desktop's settings counts as not enabled.
     [[nodiscard]] bool isEnabled() const override;
     Status registerItem() override;
     Status unregisterItem() override;

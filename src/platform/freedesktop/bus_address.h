@@ -9,15 +9,15 @@
 
 namespace tidewatch::platform {
 
-/// A socket on this machine.
+/// The address of a Unix socket.
 struct LocalSocket {
     sockaddr_un name{};
     socklen_t size = 0;
     bool operator==(const LocalSocket& other) const;
 };
 
-/// The socket of a message bus's address such as "unix:path=/run/user/1000/bus"; of several alternatives the
-/// first. Nothing for an address that leads to another machine or starts a program.
+/// Parses a message bus address such as "unix:path=/run/user/1000/bus"; of several alternatives the first
+/// usable one. Returns nullopt for an address that is not a Unix socket.
 [[nodiscard]] std::optional<LocalSocket> socketOfBus(std::string_view address);
 
 }  // namespace tidewatch::platform

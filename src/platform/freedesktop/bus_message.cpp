@@ -28,7 +28,7 @@ std::size_t aligned(std::size_t offset, std::size_t to) {
     return (offset + to - 1) / to * to;
 }
 
-/// Reads forward through a message; past its end everything is 0 and the reader no longer sound.
+/// Reads a message sequentially; past its end every value is 0 and the reader is no longer sound.
 class Reader final {
 public:
     explicit Reader(std::string_view bytes)
@@ -77,7 +77,7 @@ public:
         bytes_ += static_cast<char>(noReplyExpected);
         bytes_ += static_cast<char>(protocol);
         number(0);                             // the body's length
-        number(~answers == 0 ? 1 : ~answers);  // a serial of its own; nobody answers an answer
+        number(~answers == 0 ? 1 : ~answers);  // an arbitrary serial; nobody replies to a reply
         number(0);                             // the fields' length
         field(replySerialField, "u");
         number(answers);
@@ -92,7 +92,7 @@ public:
         }
     }
 
-    /// The message with `body` as its one string.
+    /// The message with `body` as its only string.
     std::string finish(std::string_view body) {
         textField(signatureField, 'g', "s");
         setNumber(fixedHeader, static_cast<std::uint32_t>(bytes_.size() - fieldsBegin));
@@ -129,7 +129,7 @@ private:
     std::string bytes_;
 };
 
-/// Where the body begins; nothing if the header is damaged.
+/// The offset of the body; nullopt if the header is malformed.
 std::optional<std::size_t> readFields(std::string_view bytes, BusMessage& message, std::string_view& body) {
     Reader reader(bytes);
     reader.seek(fixedHeader);

@@ -28,7 +28,7 @@ namespace {
 constexpr char nowhere[] = "disabled:";
 constexpr std::chrono::milliseconds retryDelay(100);
 
-/// A socket that no file stands for, with a name that the kernel chooses.
+/// Listens on an abstract socket with a name chosen by the kernel.
 int listenAnywhere() {
     const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     const sockaddr_un anyName{.sun_family = AF_UNIX, .sun_path = {}};
@@ -48,7 +48,7 @@ std::string addressOf(int listener) {
     return "unix:abstract=" + std::string(name.sun_path + 1, length - 1);
 }
 
-/// A connection that waits for nothing; -1 if nobody takes it at once.
+/// A non-blocking connection; -1 if it is not accepted immediately.
 int connectAtOnce(const LocalSocket& socket) {
     const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     if (::connect(descriptor, reinterpret_cast<const sockaddr*>(&socket.name), socket.size) == 0) {
@@ -90,7 +90,7 @@ public:
     }
 
 private:
-    /// Where this process asks for one bus.
+    /// Where this process connects to reach one bus.
     struct Endpoint {
         Endpoint(const LocalSocket& theBus, int listening)
             : bus(theBus), listener(listening), address(addressOf(listening)) {}
@@ -100,8 +100,7 @@ private:
         const std::string address;
         BusHealth health;
         std::list<BusProxyConnection> connections;
-        std::optional<BusProxyConnection::Moment>
-            pausedUntil;  ///< set when no descriptor was left for who asks
+        std::optional<BusProxyConnection::Moment> pausedUntil;  ///< set while out of file descriptors
     };
 
     void wake() {
@@ -117,7 +116,7 @@ private:
             for (auto* endpoint : endpoints) {
                 if (endpoint->pausedUntil && *endpoint->pausedUntil <= BusProxyConnection::Clock::now())
                     endpoint->pausedUntil.reset();
-                // Whoever cannot be let in would be announced again at once, and without an end.
+                // A pending connection that cannot be accepted would wake poll() again immediately.
                 asked.push_back({endpoint->pausedUntil ? -1 : endpoint->listener.get(), POLLIN, 0});
                 if (endpoint->pausedUntil && (!deadline || *endpoint->pausedUntil < *deadline))
                     deadline = endpoint->pausedUntil;
@@ -157,7 +156,7 @@ private:
             answer += 2;
         }
         for (auto& connection : endpoint.connections) connection.expireOverdueCalls();
-        // All of them fall silent with their bus.
+        // All connections share the state of their bus.
         if (endpoint.health.isUnresponsive()) {
             for (auto& connection : endpoint.connections) connection.expireAllCalls();
         }
@@ -188,7 +187,7 @@ private:
     const FileDescriptor wake_{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
     std::atomic<bool> ending_ = false;
     std::mutex endpointsMutex_;
-    std::list<Endpoint> endpoints_;  ///< only ever grows, so that what it holds stays where it is
+    std::list<Endpoint> endpoints_;  ///< never shrinks, so that elements keep their addresses
     std::thread thread_;
 };
 

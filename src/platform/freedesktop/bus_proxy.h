@@ -6,23 +6,25 @@
 
 namespace tidewatch::platform {
 
-/// Stands between this process and the message buses of its session, so that none of them can hold it up. The
-/// toolkit asks them on the main thread and waits for the answer; a bus, or whoever is asked through it, may
-/// have stopped without having gone. What is not answered in time is answered with an error here, and what is
-/// asked after that at once, until the silent one speaks again. A bus that goes is gone for the toolkit too.
+/// A proxy between this process and its session's message buses, so that none of them can block it. The
+/// toolkit calls them on the main thread and waits for the reply, while a bus or a service may hang without
+/// disconnecting. The proxy replies with an error to calls that time out, and fails further calls at once
+/// until the unresponsive peer replies again. When a bus disconnects, the proxy closes the toolkit's
+/// connection.
 ///
-/// Passes everything on by a thread of its own, and serves this process alone. Sockets do not travel through.
+/// Forwards on its own thread, and accepts connections from this process only. Does not support passing file
+/// descriptors.
 class BusProxy final {
 public:
-    /// `timeout` is the longest that an answer may take. Who is only ever asked without waiting, such as the
-    /// notification service, has all the time that whoever asked gives it.
+    /// `timeout` is the maximum time for a reply. Services that are only called asynchronously, such as
+    /// notifications, are exempt.
     explicit BusProxy(std::chrono::milliseconds timeout = std::chrono::seconds(1));
     ~BusProxy();
     BusProxy(const BusProxy&) = delete;
     BusProxy& operator=(const BusProxy&) = delete;
 
-    /// The address to be used in this process in place of `address`, a message bus's own. One that leads
-    /// nowhere, at once, for an address that is none of a socket on this machine. Any thread.
+    /// The address to use in this process instead of the bus address `address`. If that is not a Unix socket,
+    /// returns an address that fails immediately. Thread-safe.
     [[nodiscard]] std::string proxiedAddress(const std::string& address);
 
 private:

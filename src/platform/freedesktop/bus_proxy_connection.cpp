@@ -22,11 +22,11 @@ constexpr std::string_view descriptorRefusal = "ERROR\r\n";
 constexpr std::string_view busName = "org.freedesktop.DBus";
 constexpr std::string_view noReply = "org.freedesktop.DBus.Error.NoReply";
 
-/// Asked without waiting, and slow for good reasons: they may have to be started first.
+/// Only called asynchronously, and legitimately slow: they may have to be started first.
 constexpr std::array<std::string_view, 3> slowServices = {"org.a11y.Bus", "org.freedesktop.FileManager1",
                                                           "org.freedesktop.Notifications"};
 
-/// Reads what there is; false once the other end is closed.
+/// Reads what is available; false once the peer has closed.
 bool readAll(int descriptor, std::string& into) {
     std::array<char, pieceSize> piece;
     for (;;) {
@@ -55,7 +55,7 @@ bool writeAll(int descriptor, std::string& from) {
     return true;
 }
 
-/// Calls `pass` with each whole message at the front of `bytes` and removes it; false for what is none.
+/// Calls `pass` with each complete message at the front of `bytes` and removes it; false if malformed.
 template <class Pass>
 bool forEachMessage(std::string& bytes, Pass pass) {
     std::size_t done = 0;
@@ -100,7 +100,7 @@ std::optional<BusProxyConnection::Moment> BusProxyConnection::deadline() const {
 }
 
 void BusProxyConnection::serve(short clientEvents, short busEvents) {
-    // What the bus still said before it went comes first.
+    // Forward what the bus sent before it closed first.
     if (busEvents != 0 && !busGone_) readBus();
     if (clientEvents != 0 && !clientGone_) readClient();
     write();
@@ -128,7 +128,7 @@ void BusProxyConnection::expireAllCalls() {
 }
 
 bool BusProxyConnection::isOver() const {
-    // A connection to a silent bus is kept: it is the first to hear that the bus is back.
+    // A connection to an unresponsive bus is kept: it detects when the bus responds again.
     return busGone_ || (clientGone_ && !health_.isUnresponsive());
 }
 
@@ -155,7 +155,7 @@ void BusProxyConnection::readBus() {
     }
     if (open && sound) return;
     busGone_ = true;
-    health_.markResponsive();  // what is gone keeps nobody waiting
+    health_.markResponsive();  // a closed bus blocks nobody
 }
 
 void BusProxyConnection::write() {
@@ -165,7 +165,7 @@ void BusProxyConnection::write() {
 
 void BusProxyConnection::forwardHandshake() {
     while (!handshakeDone_ && !fromClient_.empty()) {
-        if (fromClient_.front() == '\0') {  // its credentials
+        if (fromClient_.front() == '\0') {  // the credentials byte
             toBus_ += '\0';
             fromClient_.erase(0, 1);
             continue;
@@ -187,7 +187,7 @@ void BusProxyConnection::forwardHandshake() {
 void BusProxyConnection::forwardToBus(std::string_view bytes) {
     const auto message = BusMessage::parse(bytes);
     if (!message || !message->wantsReply) {
-        // Signals for a bus that reads nothing would only pile up.
+        // Signals for a bus that does not read would accumulate.
         if (!message || message->type != BusMessage::Type::signal || !health_.isUnresponsive())
             toBus_ += bytes;
         return;
@@ -229,7 +229,7 @@ void BusProxyConnection::expire(std::uint32_t serial, Call& call) {
 }
 
 void BusProxyConnection::endClient() {
-    // Also for one that was gone already: its last words may have begun a greeting.
+    // Also if the client was gone already: its last data may have started a handshake.
     handshakeDeadline_.reset();
     if (std::exchange(clientGone_, true)) return;
     ::shutdown(client_.get(), SHUT_RDWR);

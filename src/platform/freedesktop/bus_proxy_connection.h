@@ -16,7 +16,7 @@
 
 namespace tidewatch::platform {
 
-/// Whether a bus is known to have stopped answering; shared by all connections to it.
+/// Whether a bus is known to be unresponsive; shared by all connections to it.
 class BusHealth final {
 public:
     [[nodiscard]] bool isUnresponsive() const { return unresponsive_; }
@@ -27,28 +27,28 @@ private:
     bool unresponsive_ = false;
 };
 
-/// One connection of this process to a bus, passed on in both directions. Nothing in here waits.
+/// One proxied connection of this process to a bus. Never blocks.
 class BusProxyConnection final {
 public:
     using Clock = std::chrono::steady_clock;
     using Moment = Clock::time_point;
 
-    /// Owns the two sockets. `health` must outlive this object; `proxiedAddress` gives the address to be used
-    /// for another bus that an answer names.
+    /// Owns both sockets. `health` must outlive this object; `proxiedAddress` maps the address of another bus
+    /// in a reply to its proxy's.
     BusProxyConnection(int client, int bus, std::chrono::milliseconds timeout, BusHealth& health,
                        std::function<std::string(const std::string&)> proxiedAddress);
 
-    /// What is to be polled for, first the side of this process, then that of the bus.
+    /// The events to poll for: first the client's side, then the bus's.
     [[nodiscard]] std::array<pollfd, 2> wanted() const;
 
-    /// When expireOverdueCalls is to be called at the latest.
+    /// When expireOverdueCalls() must be called at the latest.
     [[nodiscard]] std::optional<Moment> deadline() const;
 
-    /// Reads and writes what poll() found possible.
+    /// Handles the events reported by poll().
     void serve(short clientEvents, short busEvents);
     void expireOverdueCalls();
 
-    /// Answers all that is still open with an error.
+    /// Replies to all pending calls with an error.
     void expireAllCalls();
 
     /// Whether it can be destroyed.
@@ -57,7 +57,7 @@ public:
 private:
     struct Call {
         std::string destination;
-        std::optional<Moment> deadline;  ///< none for who is only asked without waiting
+        std::optional<Moment> deadline;  ///< none for services only called asynchronously
         bool expired = false;
         bool asksForAddress = false;
     };
@@ -78,11 +78,11 @@ private:
     const std::function<std::string(const std::string&)> proxiedAddress_;
     bool clientGone_ = false;
     bool busGone_ = false;
-    bool handshakeDone_ = false;  ///< from here on there are messages only
+    bool handshakeDone_ = false;  ///< only messages follow
     std::optional<Moment> handshakeDeadline_;
     std::string fromClient_, fromBus_, toClient_, toBus_;
     std::map<std::uint32_t, Call> calls_;
-    std::set<std::string> unresponsive_;  ///< who owes an answer that was given up
+    std::set<std::string> unresponsive_;  ///< services with an expired call
 };
 
 }  // namespace tidewatch::platform

@@ -22,13 +22,12 @@ std::string environment(const char* name, const std::string& otherwise) {
     return value != nullptr && *value != '\0' ? value : otherwise;
 }
 
-// The files that an id can stand for: a dash in it stands for itself or for a step into a folder.
+// The files that an id can denote: each dash is itself or a folder separator.
 class EntrySearch final {
 public:
-    // The text of the entry, nothing if there is none to be read.
+    // The text of the entry; nullopt if none can be read.
     std::optional<std::string> find(const std::string& folder, const std::string& id, int depth = 0) {
-        // An id is what a window says of itself: with links that lead back, a long one would have no end of
-        // ways.
+        // The id comes from a window: with cyclic links, a long one would have endless candidates.
         constexpr int maxTries = 200;
         if (++tries_ > maxTries) return std::nullopt;
         if (auto text = readRegularFile(folder + "/" + id + ".desktop", maxDesktopEntrySize)) {

@@ -8,12 +8,11 @@
 
 namespace tidewatch::platform {
 
-/// What the text of a desktop entry tells of its application. Nothing if it holds no entry, or one that is
-/// marked as removed. What the entry leaves out is empty.
+/// Parses the text of a desktop entry. Returns nullopt if it has none, or one marked as hidden. Missing keys
+/// are empty.
 ///
-/// The name is taken in Spanish where the entry has it: as spoken in the country of `locale` ("es_MX" and
-/// the like, with or without what follows; others count as no country), else as spoken anywhere, else in the
-/// first country named, else the name without a language.
+/// The name is the Spanish one if available: for the country of `locale` (such as "es_MX", suffixes ignored),
+/// else for no country, else for the first country listed, else the unlocalised name.
 [[nodiscard]] std::optional<ApplicationInfo> parseDesktopEntry(std::string_view text,
                                                                std::string_view locale);
 

@@ -22,7 +22,7 @@ std::string lowerCase(std::string_view text) {
     return result;
 }
 
-// Zero for a folder that is not there.
+// Zero for a missing folder.
 std::chrono::nanoseconds modificationTime(const std::string& path) {
     struct stat status {};
     if (::stat(path.c_str(), &status) != 0) return {};
@@ -46,7 +46,7 @@ std::string idOf(const std::string& way, const std::string& name) {
 
 DesktopEntryIndex::DesktopEntryIndex(const std::vector<std::string>& folders, const std::atomic<bool>& stop) {
     for (const auto& folder : folders) {
-        // A folder that is not there may come.
+        // A missing folder may be created later.
         if (modificationTime(folder) == std::chrono::nanoseconds()) folders_.push_back({folder, {}});
         readFolder(folder, stop);
     }

@@ -11,31 +11,28 @@
 
 namespace tidewatch::platform {
 
-/// The larger ones that desktops install have some ten thousand bytes.
+/// The largest ones that desktops install are about ten thousand bytes.
 inline constexpr std::size_t maxDesktopEntrySize = 256 * 1024;
 
-/// Folders below `applications` on the way to an entry.
+/// Nesting of folders below `applications`.
 inline constexpr int maxDesktopEntryDepth = 8;
 
-/// What the windows of the registered applications call themselves, as the `applications` folders had it when
-/// they were read. Does not change; safe from any thread.
+/// An immutable index from window classes to the entries of the `applications` folders. Thread-safe.
 class DesktopEntryIndex final {
 public:
-    /// An index of nothing.
+    /// An empty index.
     DesktopEntryIndex() = default;
 
-    /// Reads all entries below `folders`, the most important folder first: an id found twice counts where it
-    /// is found first. Can take seconds on a cold disk; ends early, with what it has, once `stop` is set.
-    /// What is out of all proportion is left out: folders nested too deep, an entry that is too large, and
-    /// what comes after ten thousand names of a folder or 32 MB of entries.
+    /// Reads all entries below `folders`, in order of precedence: of duplicate ids the first wins. Can take
+    /// seconds on a cold disk; ends early once `stop` is set. Ignores folders nested too deep, entries that
+    /// are too large, and everything after ten thousand names in a folder or 32 MB of entries.
     DesktopEntryIndex(const std::vector<std::string>& folders, const std::atomic<bool>& stop);
 
     /// See DesktopEntries.
     [[nodiscard]] std::optional<std::string> idForWindow(std::string_view instance,
                                                          std::string_view windowClass) const;
 
-    /// Whether the folders that were read still hold the same names. Looks at each folder, at none of the
-    /// entries.
+    /// Whether the folders still contain the same names. Checks each folder, but no entry.
     [[nodiscard]] bool isCurrent() const;
 
 private:

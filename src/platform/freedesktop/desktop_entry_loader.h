@@ -12,38 +12,38 @@
 
 namespace tidewatch::platform {
 
-/// Reads the `applications` folders in a thread of its own, and looks there whether they have changed: a
-/// folder on a disk or a server that hangs keeps that thread and nobody else. Safe from any thread.
+/// Loads the `applications` folders and checks them for changes on its own thread: a disk or server that
+/// hangs blocks only that thread. Thread-safe.
 class DesktopEntryLoader final {
 public:
-    /// Begins to read `folders`. Whatever is waited for is waited for no longer than `timeout`.
+    /// Starts loading `folders`. No wait takes longer than `timeout`.
     DesktopEntryLoader(std::vector<std::string> folders, std::chrono::milliseconds timeout);
     DesktopEntryLoader(const DesktopEntryLoader&) = delete;
     DesktopEntryLoader& operator=(const DesktopEntryLoader&) = delete;
 
-    /// A thread that hangs is left to itself; it goes with the process.
+    /// A thread that hangs is detached and ends with the process.
     ~DesktopEntryLoader();
 
-    /// Looks whether the folders have changed since they were read, and has them read anew if so. Does
-    /// nothing while they are being looked at or read. Waits for what the look finds.
+    /// Checks whether the folders have changed since they were loaded, and reloads them if so. No effect
+    /// while a check or load is running. Waits for the result of the check.
     void check();
 
-    /// How often looks have found a change so far.
+    /// The number of checks that have found a change.
     [[nodiscard]] int changes() const;
 
-    /// Whether folders are being read, or have been read and not been taken.
+    /// Whether an index is being loaded, or has been loaded but not taken.
     [[nodiscard]] bool isReading() const;
 
-    /// What was read since the last call; nullptr if nothing was.
+    /// The index loaded since the last call; nullptr if none.
     [[nodiscard]] std::shared_ptr<const DesktopEntryIndex> take();
 
-    /// Waits until no folder is being looked at or read, without a limit.
+    /// Waits, without a timeout, until no check or load is running.
     void waitUntilIdle() const;
 
 private:
     enum class Work { none, checking, reading, over };
 
-    // What the thread shares with this object, which it may outlive.
+    // The state shared with the thread, which may outlive this object.
     struct Shared {
         mutable std::mutex mutex;
         mutable std::condition_variable changed;

@@ -10,18 +10,16 @@
 
 namespace tidewatch::platform {
 
-/// Messages through the notification service of a freedesktop.org desktop, asked without waiting. Such a
-/// desktop asks nobody whether messages may be shown, and has no older service of its own. Main thread only;
-/// calls back on it.
+/// Notifications through the org.freedesktop.Notifications service, called asynchronously. Such a desktop
+/// needs no permission and has no legacy service. Main thread only, callbacks included.
 class DesktopNotifications final : public UserNotifications {
 public:
-    /// Without a bus a delivery fails. A service that has not
-    /// answered after `timeout` counts as failed; a message that it shows all the same, later, is then seen
-    /// twice. `bus` and `log` must outlive this object.
+    /// A delivery fails without a bus, or if the service does not reply within `timeout`; if it shows the
+    /// notification later nevertheless, that appears twice. `bus` and `log` must outlive this object.
     DesktopNotifications(SessionBus& bus, Log& log,
                          std::chrono::milliseconds timeout = std::chrono::seconds(3));
 
-    /// Whether a service runs shows only at each delivery: it may come and go.
+    /// A service may start and stop at any time, so this is only known at each delivery.
     [[nodiscard]] bool hasModernService() const override { return true; }
 
     void requestAuthorization(std::function<void(AuthorizationResult)> answered) override;
@@ -34,7 +32,7 @@ private:
     Log& log_;
     const std::chrono::milliseconds timeout_;
     std::function<void(const UserNotification&)> showLegacy_;
-    QObject pendingCalls_;  // owns what waits for an answer
+    QObject pendingCalls_;  // owns the watchers of pending calls
 };
 
 }  // namespace tidewatch::platform

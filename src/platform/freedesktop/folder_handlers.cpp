@@ -15,7 +15,7 @@ constexpr std::string_view extension = ".desktop";
 constexpr std::array<std::string_view, 3> groups = {"[Default Applications]", "[Added Associations]",
                                                     "[MIME Cache]"};
 
-/// What the desktops of this session call their own lists, each with its hyphen.
+/// The prefixes of the current desktops' lists, each with its hyphen.
 QStringList desktopPrefixes() {
     const char* desktops = std::getenv("XDG_CURRENT_DESKTOP");
     QStringList prefixes;

@@ -6,12 +6,11 @@
 
 namespace tidewatch::platform {
 
-/// The lists in which desktops and users register what opens a type of file, the most important first, as
-/// the base-directory variables name them.
+/// The mimeapps.list files of the XDG base directory variables, in order of precedence.
 [[nodiscard]] std::vector<std::string> standardRegistrationLists();
 
-/// The ids, without ".desktop", of the applications that a list of that kind names for folders, the
-/// preferred first.
+/// The ids, without ".desktop", of the applications registered for folders in such a list, preferred ones
+/// first.
 [[nodiscard]] std::vector<std::string> folderHandlers(std::string_view list);
 
 }  // namespace tidewatch::platform

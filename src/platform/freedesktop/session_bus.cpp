@@ -16,7 +16,7 @@ QDBusConnection SessionBus::connection() {
         if (current.isConnected()) return current;
         QDBusConnection::disconnectFromBus(name_);
     }
-    // A name is never used twice: what still holds the old connection keeps it open under the old one.
+    // Names are unique: holders of the old connection keep it open under its name.
     name_ = QString("tidewatch-%1").arg(++attempts_);
     return QDBusConnection::connectToBus(address_, name_);
 }

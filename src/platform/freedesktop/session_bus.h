@@ -5,17 +5,17 @@
 
 namespace tidewatch::platform {
 
-/// This program's own connection to the session bus, apart from the toolkit's. A bus that went and came back
-/// is found again by the next question. Main thread only.
+/// This program's own connection to the session bus, separate from the toolkit's. Reconnects on the next use
+/// after the bus was restarted. Main thread only.
 class SessionBus final {
 public:
-    /// To the bus at `address`; nothing is asked yet.
+    /// For the bus at `address`; does not connect yet.
     explicit SessionBus(QString address);
     ~SessionBus();
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;
 
-    /// Not connected if there is no bus at this moment.
+    /// Not connected if there is no bus.
     [[nodiscard]] QDBusConnection connection();
 
 private:

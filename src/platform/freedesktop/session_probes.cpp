@@ -15,10 +15,10 @@ namespace tidewatch::platform {
 
 namespace {
 
-/// The first message on a session manager's connection, of either side: "my numbers have the low byte first".
+/// The first message of either side on an ICE connection: "little endian".
 constexpr std::string_view byteOrder{"\0\1\0\0\0\0\0\0", 8};
 
-/// Whether the socket takes a connection at once and says anything to `greeting`.
+/// Whether the socket accepts a connection immediately and responds to `greeting`.
 bool answers(const std::optional<LocalSocket>& where, std::string_view greeting,
              std::chrono::milliseconds timeout) {
     if (!where) return false;
@@ -32,7 +32,7 @@ bool answers(const std::optional<LocalSocket>& where, std::string_view greeting,
            ::recv(connection.get(), &first, 1, 0) == 1;
 }
 
-/// Of "local/host:@/tmp/.ICE-unix/1", "unix/host:/tmp/.ICE-unix/1"; what leads to another machine is nothing.
+/// Parses "local/host:@/tmp/.ICE-unix/1" or "unix/host:/tmp/.ICE-unix/1"; nullopt for other transports.
 std::optional<LocalSocket> socketOfManager(std::string_view manager) {
     const auto colon = manager.find(':');
     if (colon == std::string_view::npos) return std::nullopt;
@@ -59,7 +59,7 @@ std::string responsiveSessionManagers(std::string_view managers, std::chrono::mi
 }
 
 bool isBusResponsive(const std::string& address, std::chrono::milliseconds timeout) {
-    // Names the ways to prove who one is.
+    // Asks for the supported authentication mechanisms.
     constexpr std::string_view greeting{"\0AUTH\r\n", 7};
     return answers(socketOfBus(address), greeting, timeout);
 }

@@ -6,15 +6,15 @@
 
 namespace tidewatch::platform {
 
-/// Questions at the start, before the toolkit asks the same without a limit. Each takes at most `timeout`
-/// for each address; whoever is well answers within a millisecond.
+/// Probes at start-up, before the toolkit connects without a timeout. Each takes at most `timeout` per
+/// address; a healthy service answers within a millisecond.
 
-/// The addresses in `managers`, the form of SESSION_MANAGER, at which a session manager on this machine
-/// answers; empty if none does.
+/// Those addresses in `managers`, in the format of SESSION_MANAGER, at which a local session manager
+/// responds; empty if none.
 [[nodiscard]] std::string responsiveSessionManagers(std::string_view managers,
                                                     std::chrono::milliseconds timeout);
 
-/// Whether the message bus at `address` answers a client that greets it.
+/// Whether the message bus at `address` responds to a handshake.
 [[nodiscard]] bool isBusResponsive(const std::string& address, std::chrono::milliseconds timeout);
 
 }  // namespace tidewatch::platform

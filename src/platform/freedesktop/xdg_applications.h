@@ -5,7 +5,7 @@
 
 namespace tidewatch::platform {
 
-/// Applications as their desktop entries describe them.
+/// Applications from their desktop entries.
 class XdgApplications final : public Applications {
 public:
     /// `entries` must outlive this object.

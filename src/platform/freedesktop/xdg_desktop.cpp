@@ -31,8 +31,7 @@ XdgDesktop::XdgDesktop(SessionBus& bus, const Applications& applications, QProce
     : bus_(bus), applications_(applications), inherited_(std::move(inherited)) {}
 
 std::string XdgDesktop::documentsDirectory() const {
-    // The toolkit would wait for ever for a named pipe in the place of the file that names the user's
-    // folders.
+    // The toolkit would block on a named pipe in place of the user-dirs file.
     const QFileInfo folders(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
                             "/user-dirs.dirs");
     if (folders.exists() && !folders.isFile()) return QDir::homePath().toStdString();
@@ -69,8 +68,7 @@ Status XdgDesktop::openFolderOf(const QString& file) const {
     return opener.startDetached() ? success() : Error{"xdg-open could not be started"};
 }
 
-/// A desktop without a file manager opens folders in whatever shows files of any kind, a web browser above
-/// all.
+/// Without a file manager, desktops open folders in any application for files, often a web browser.
 bool XdgDesktop::foldersOpenInFileManager() const {
     for (const auto& list : standardRegistrationLists()) {
         const auto text = readRegularFile(list, maxListLength);

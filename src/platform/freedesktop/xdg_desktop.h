@@ -9,17 +9,17 @@
 
 namespace tidewatch::platform {
 
-/// The acts of a freedesktop.org desktop.
+/// Operations of a freedesktop.org desktop.
 class XdgDesktop final : public Desktop {
 public:
-    /// `bus` and `applications` must outlive this object; `inherited` are the variables for programs that it
+    /// `bus` and `applications` must outlive this object; `inherited` is the environment for programs that it
     /// starts.
     XdgDesktop(SessionBus& bus, const Applications& applications, QProcessEnvironment inherited);
 
     [[nodiscard]] std::string documentsDirectory() const override;
 
-    /// Through the file manager that answers on the session bus; else the folder is opened, if it is a file
-    /// manager that is registered for folders.
+    /// Uses the file manager on the session bus; otherwise opens the folder, provided that a file manager is
+    /// registered for folders.
     void reveal(const std::string& path, std::function<void(const Status&)> done) override;
 
 private:
@@ -29,7 +29,7 @@ private:
     SessionBus& bus_;
     const Applications& applications_;
     const QProcessEnvironment inherited_;
-    QObject pendingCalls_;  // owns what waits for an answer
+    QObject pendingCalls_;  // owns the watchers of pending calls
 };
 
 }  // namespace tidewatch::platform

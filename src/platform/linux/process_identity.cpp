@@ -9,8 +9,7 @@ namespace tidewatch::platform {
 
 namespace {
 
-// What a sandbox tells of itself takes some hundred bytes. It lies where the sandboxed process can put
-// anything.
+// A sandbox's metadata is a few hundred bytes, but the sandboxed process controls the file.
 constexpr std::size_t maxSize = 64 * 1024;
 
 std::string content(const std::string& path) {

@@ -8,9 +8,8 @@
 
 namespace tidewatch::platform {
 
-/// The desktop-file id of the sandboxed application that a process belongs to, from what the sandbox itself
-/// tells: nothing for an ordinary process, or one that may not be read. `procDirectory` is "/proc" but for
-/// tests.
+/// The desktop-file id of the sandboxed application of a process, from the sandbox's metadata. Returns
+/// nullopt for an unsandboxed process, or one that cannot be inspected. `procDirectory` is for tests.
 [[nodiscard]] std::optional<std::string> sandboxedApplication(pid_t process,
                                                               const std::string& procDirectory = "/proc");
 

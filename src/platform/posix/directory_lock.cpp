@@ -43,7 +43,7 @@ bool DirectoryLock::isHeld() const {
 }
 
 RecordLock DirectoryLock::reacquire() {
-    // What cannot be made shows in the write that follows.
+    // A failure shows in the write that follows.
     static_cast<void>(makePrivateDirectories(directory_));
     auto lock = std::make_unique<FileLock>(path_);
     switch (lock->state()) {
@@ -58,7 +58,7 @@ RecordLock DirectoryLock::reacquire() {
         case FileLock::State::unavailable:
             break;
     }
-    // As at a start: better a record without a lock than none.
+    // As at start-up: better a record without a lock than none.
     return isLost_ ? RecordLock::heldByAnother : RecordLock::held;
 }
 

@@ -11,29 +11,29 @@
 
 namespace tidewatch::platform {
 
-/// Keeps other processes from writing to the data directory: whoever has locked the file "lock" in it may
-/// write. The lock ends with this object, and with the process, however that ends. Safe from any thread.
+/// Keeps other processes from writing to the data directory: only the holder of the lock on its file "lock"
+/// may write. The lock is released with this object, or when the process ends in any way. Thread-safe.
 ///
-/// While it is held the file or the whole directory may be removed, and a new start would then find nothing
-/// in its way; so the lock is looked after before each write. If another process was quicker, the directory
-/// is that one's: both count the same seconds, so nothing is lost but what was not written before the other
-/// one started. Once the other one has ended, the directory is taken back.
+/// While it is held, the file or the whole directory may be removed, so that another instance could start; so
+/// the lock is verified before each write. If another process has taken it, the directory belongs to that
+/// one: both count the same seconds, so only what was not written before the other one started is lost. Once
+/// the other one has ended, the lock is reacquired.
 class DirectoryLock final {
 public:
     /// `log` must outlive this object.
     explicit DirectoryLock(Log& log) : log_(log) {}
 
-    /// Locks `directory`. What is in it is made private and, under the lock, freed from leftovers.
+    /// Locks `directory`. Restricts the permissions of its content and, if locked, removes leftovers.
     [[nodiscard]] FileLock::State take(const std::string& directory);
 
-    /// To be called before a write. Makes the directory and the lock again where they are gone.
+    /// Must be called before a write. Recreates the directory and the lock if they are gone.
     [[nodiscard]] RecordLock ensure();
 
-    /// From now on `restore` is called by ensure(), on its thread, when the lock is held and there is nothing
-    /// at `path`. It must not call this object. An empty function ends that.
+    /// From now on ensure() calls `restore`, on its thread, whenever the lock is held but `path` does not
+    /// exist. `restore` must not call this object. An empty function ends this.
     void watchCompanion(std::string path, std::function<void()> restore);
 
-    /// Whether what lies in the directory is locked by this object.
+    /// Whether this object holds the lock of the file in the directory.
     [[nodiscard]] bool isHeld() const;
 
 private:
@@ -46,7 +46,7 @@ private:
     mutable std::mutex mutex_;
     std::string directory_;
     std::string path_;
-    std::unique_ptr<FileLock> lock_;  // none while another process, or nobody, has the lock
+    std::unique_ptr<FileLock> lock_;  // null while another process, or nobody, holds the lock
     bool isLost_ = false;
     std::string companion_;
     std::function<void()> restoreCompanion_;

@@ -46,8 +46,7 @@ public:
         auto directory = openDirectory(root, 0);
         if (!directory) {
             auto error = fileError("open", root);
-            // A path through something that is no directory leads nowhere; one to it leads to the wrong
-            // thing.
+            // ENOTDIR is "not found" for a path through a file, but not for a path to a file.
             if (error.kind == FileErrorKind::notFound && isThere(root))
                 error.kind = FileErrorKind::unreadable;
             return error;
@@ -56,7 +55,7 @@ public:
         while (!stopped_ && !pending_.empty()) {
             const auto path = std::move(pending_.back());
             pending_.pop_back();
-            // It was no link when it was found, and is none to be followed now.
+            // It was not a link when found; do not follow one that has replaced it.
             directory = openDirectory(path, O_NOFOLLOW);
             if (directory) readEntries(*directory, path);
         }
@@ -85,7 +84,7 @@ private:
 
     const HiddenFiles hidden_;
     const FileVisitor& visit_;
-    std::vector<std::string> pending_;  // directories found and not yet read
+    std::vector<std::string> pending_;  // directories still to be read
     bool stopped_ = false;
 };
 

@@ -6,7 +6,7 @@
 
 namespace tidewatch::platform {
 
-/// What the system calls an error number, in English whatever the user's language.
+/// The system's text for an error number, in English whatever the locale.
 [[nodiscard]] inline std::string errnoText(int code) {
     const char* const words = ::strerrordesc_np(code);
     return words ? words : "error " + std::to_string(code);

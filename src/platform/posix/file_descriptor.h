@@ -23,10 +23,10 @@ public:
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int get() const { return descriptor_; }
 
-    /// Leaves it open, for the caller to close.
+    /// Releases ownership; the caller must close it.
     [[nodiscard]] int release() { return std::exchange(descriptor_, -1); }
 
-    /// Closes it now and tells whether that went well; some file systems report a failed write only here.
+    /// Closes it and returns whether that succeeded; some file systems report a failed write only here.
     [[nodiscard]] bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
 
 private:

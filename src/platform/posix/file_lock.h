@@ -11,12 +11,12 @@ class FileLock final {
 public:
     enum class State { held, heldByAnother, unavailable };
 
-    /// Makes the file at `path`, for its owner only, if it is missing; its directory must exist.
+    /// Creates the file at `path`, private to its owner, if it is missing; its directory must exist.
     explicit FileLock(const std::string& path);
 
     [[nodiscard]] State state() const { return state_; }
 
-    /// Whether the file at `path` is the one that was locked. Another start would lock what lies there.
+    /// Whether the file at `path` is still the locked one. Another instance would lock the file at `path`.
     [[nodiscard]] bool isAt(const std::string& path) const;
 
 private:

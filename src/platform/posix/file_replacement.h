@@ -14,18 +14,18 @@ struct ReplacementFailure {
     std::string path;
     int code;
 
-    /// The operation, the path and the system's words.
+    /// The operation, the path and the system's error text.
     [[nodiscard]] std::string message() const;
 };
 
-/// Where a file lies that is reached through symbolic links, also one that is not there yet; the path itself
-/// if it is no link, or if the links lead nowhere.
+/// Resolves symbolic links, also if the target does not exist yet. Returns `path` if it is no link, or if the
+/// links cannot be resolved.
 [[nodiscard]] std::string resolvedLinks(const std::string& path);
 
-/// Writes `content` to the open `descriptor` of the new file `successor`, brings it to the disk, gives it the
-/// name `target`, and brings the directory to the disk. If anything fails before the new name is given, the
-/// successor is removed. Takes the descriptor. A failure of the directory alone is none: either state of the
-/// file is whole.
+/// Writes `content` to the open `descriptor` of the temporary file `successor`, syncs it, renames it to
+/// `target`, and syncs the directory. On failure before the rename the temporary file is removed. Takes
+/// ownership of the descriptor. A failure to sync the directory is ignored: either state of the file is
+/// complete.
 [[nodiscard]] std::optional<ReplacementFailure> replaceWith(int descriptor, const std::string& successor,
                                                             const std::string& target,
                                                             std::string_view content);

@@ -78,7 +78,7 @@ void LockedSingleInstance::listen() {
 }
 
 void LockedSingleInstance::retryListening() {
-    // Several writes may have asked for it before it could be done.
+    // Several writes may have requested it by now.
     const bool isBack = socket_ && ::access(ReopenSocket::pathIn(directory_).c_str(), F_OK) == 0;
     if (!isBack && lock_.isHeld()) listen();
 }
@@ -89,11 +89,11 @@ void LockedSingleInstance::acceptRequests() {
         requests_.push_back(std::move(request).value());
     }
     if (!request) {
-        // Whoever asks would be announced again at once, and without an end.
+        // The notifier would fire again immediately for the same request.
         notifier_->setEnabled(false);
         QTimer::singleShot(pause_, notifier_.get(), [this] { notifier_->setEnabled(true); });
     }
-    // If this process has been asked to end as well, it will not come to the answer.
+    // If this process is about to terminate, it does not answer any more.
     QTimer::singleShot(timeToEnd, &mainThread_, [this] { answerRequests(); });
 }
 

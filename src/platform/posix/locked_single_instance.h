@@ -16,17 +16,17 @@ class QSocketNotifier;
 
 namespace tidewatch::platform {
 
-/// The one instance per data directory: a lock in it keeps others out, a local socket beside the lock takes
-/// their request to come to the front. Neither needs a session bus.
+/// One instance per data directory: a lock file keeps others out, and a local socket beside it receives their
+/// requests to come to the front. Neither needs a session bus.
 ///
-/// An instance that is just ending answers no more; a claim waits for it. One that runs answers at once.
+/// An instance that is shutting down does not answer; a claim waits for it. A running one answers at once.
 class LockedSingleInstance final : public SingleInstance {
 public:
-    /// How long a claim waits for an instance that does not answer to end.
+    /// How long a claim waits for an unresponsive instance to end.
     static constexpr std::chrono::milliseconds defaultTimeout{10'000};
 
     /// `lock` and `log` must outlive this object.
-    /// `pause` passes before what failed is tried again.
+    /// `pause` is the delay before a retry.
     LockedSingleInstance(DirectoryLock& lock, Log& log, std::chrono::milliseconds timeout = defaultTimeout,
                          std::chrono::milliseconds pause = std::chrono::seconds(1));
     ~LockedSingleInstance() override;
@@ -49,8 +49,8 @@ private:
     std::function<void()> reopen_;
     std::unique_ptr<ReopenSocket> socket_;
     std::unique_ptr<QSocketNotifier> notifier_;
-    std::vector<FileDescriptor> requests_;  // not yet answered
-    QObject mainThread_;                    // jobs for it are posted here
+    std::vector<FileDescriptor> requests_;  // not answered yet
+    QObject mainThread_;                    // context object for jobs on the main thread
 };
 
 }  // namespace tidewatch::platform

@@ -8,10 +8,10 @@
 
 namespace tidewatch::platform {
 
-/// Reads what an open descriptor gives.
+/// Reads from an open descriptor.
 class PosixFileReader final : public FileReader {
 public:
-    /// From where the descriptor stands; `path` is for the words of errors.
+    /// Reads from the descriptor's position; `path` is for error messages.
     PosixFileReader(FileDescriptor file, std::string path) : file_(std::move(file)), path_(std::move(path)) {}
 
     [[nodiscard]] FileResult<std::size_t> read(std::span<char> buffer) override;

@@ -44,13 +44,13 @@ std::string userHomeDirectory() {
     return home;
 }
 
-// The mode of what has the name, 0 if nothing has.
+// The mode of the file, 0 if there is none.
 mode_t modeAt(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 ? status.st_mode : 0;
 }
 
-// What is replaced without asking what it is: with the right to, also a device.
+// rename() replaces anything, even a device if permitted.
 bool isDevice(mode_t mode) {
     return S_ISCHR(mode) || S_ISBLK(mode);
 }
@@ -62,11 +62,11 @@ std::string today() {
     return fmt::format("{:04}-{:02}-{:02}", day.tm_year + 1900, day.tm_mon + 1, day.tm_mday);
 }
 
-// False, with EEXIST, if something has the name.
+// False, with EEXIST, if the name is taken.
 bool renameToFree(const std::string& from, const std::string& to) {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return true;
     if (errno != EINVAL) return false;
-    // Some file systems cannot look and rename at once.
+    // Some file systems do not support RENAME_NOREPLACE.
     struct stat status {};
     if (::lstat(to.c_str(), &status) == 0) {
         errno = EEXIST;
@@ -100,7 +100,7 @@ struct NewFile {
     std::string path;
 };
 
-// A new file in the directory of `target`, hidden, under a name that nobody can foresee.
+// A new hidden file in the directory of `target`, with an unpredictable name.
 NewFile makeHiddenNeighbour(const std::string& target, mode_t mode) {
     const auto directory = target.substr(0, target.rfind('/') + 1);
     NewFile file{-1, {}};
@@ -125,7 +125,7 @@ Status PosixFileSystem::createDirectories(const std::string& path) {
 }
 
 FileResult<std::string> PosixFileSystem::readFile(const std::string& path) const {
-    // A record is as long as its years: there is no size that it must not have.
+    // The record may have any size.
     return readRegularFile(path, anySize);
 }
 
@@ -151,7 +151,7 @@ FileResult<FileInfo> PosixFileSystem::inspect(const std::string& path) const {
 
 RecordLock PosixFileSystem::ensureRecordLock(const std::string& directory) {
     if (lock_) return lock_->ensure();
-    // What cannot be made shows in the write that follows.
+    // A failure shows in the write that follows.
     if (modeAt(directory) == 0) static_cast<void>(createDirectories(directory));
     return RecordLock::held;
 }
@@ -160,11 +160,12 @@ Status PosixFileSystem::replaceAtomically(const std::string& path, std::string_v
     const auto target = resolvedLinks(path);
     if (isDevice(modeAt(target))) return Error{"replace " + target + ": a device"};
     const auto successor = target + ".tmp";
-    // What a killed writer left may be anything by now; a new file is nobody else's.
+    // What a killed writer left may have been tampered with; create a new file.
     ::unlink(successor.c_str());
     const int descriptor = ::open(successor.c_str(), newFileFlags, recordMode);
     if (descriptor < 0) return systemError("open", successor);
-    static_cast<void>(::fchmod(descriptor, recordMode));  // The umask may have taken the owner's own rights.
+    // The umask may have removed the owner's permissions.
+    static_cast<void>(::fchmod(descriptor, recordMode));
     if (const auto failure = replaceWith(descriptor, successor, target, content)) {
         return Error{failure->message()};
     }
@@ -198,7 +199,7 @@ std::optional<ExportError> PosixFileSystem::exportFile(const std::string& path, 
     if (before != 0) static_cast<void>(::fchmod(successor.descriptor, before & 07777));
     auto failure = replaceWith(successor.descriptor, successor.path, target, content);
     if (!failure) return std::nullopt;
-    failure->path = target;  // The user's word for it; the other name is gone.
+    failure->path = target;  // The path the user knows; the temporary one is gone.
     return exportError(*failure);
 }
 

@@ -6,26 +6,26 @@ namespace tidewatch::platform {
 
 class DirectoryLock;
 
-/// Files of a POSIX system. Directories it makes are for the owner alone (0700), and so are files of the
-/// record (0600), whatever the umask.
+/// Files of a POSIX system. Directories are created with mode 0700 and files of the record with 0600,
+/// whatever the umask.
 ///
-/// A file is replaced by writing its successor beside it, bringing that to the disk, renaming it, and
-/// bringing the directory to the disk. A symbolic link is followed: what it points to is replaced, or made.
-/// What is no file, such as a device, is never replaced. Messages of errors are the operation, the path and
-/// the system's words.
+/// A file is replaced by writing a temporary file beside it, syncing and renaming that, and syncing the
+/// directory. Symbolic links are followed: their target is replaced or created. What is not a regular file,
+/// such as a device, is never replaced. Error messages consist of the operation, the path and the system's
+/// error text.
 ///
-/// The successor of a file of the record has its name with ".tmp" behind: a process killed in between leaves
-/// one such file at most, which the next write replaces. That of an export has a name nobody can foresee,
-/// since its neighbours are not ours.
+/// The temporary file of the record has the suffix ".tmp": a killed process leaves at most one, which the
+/// next write replaces. That of an export has an unpredictable name, because it is created in a directory of
+/// the user's.
 ///
-/// Safe from any thread, as long as no two of them replace the same file at once.
+/// Thread-safe, unless two threads replace the same file at once.
 class PosixFileSystem final : public FileSystem {
 public:
-    /// The home directory is $HOME, else what the user database holds. `lock`, if there is one, keeps other
-    /// instances off the record and must outlive this object.
+    /// The home directory is $HOME, else from the user database. `lock`, if not null, keeps other instances
+    /// away from the record and must outlive this object.
     explicit PosixFileSystem(DirectoryLock* lock = nullptr);
 
-    /// Another home directory, absolute.
+    /// With another home directory, absolute.
     explicit PosixFileSystem(std::string homeDirectory, DirectoryLock* lock = nullptr);
 
     [[nodiscard]] std::string homeDirectory() const override { return home_; }
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] RecordLock ensureRecordLock(const std::string& directory) override;
     Status replaceAtomically(const std::string& path, std::string_view content) override;
 
-    /// Of a link, what it leads to is set aside, in its own directory.
+    /// Of a link the target is set aside, in its own directory.
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
                                                               std::string_view mark) override;
 

@@ -15,7 +15,7 @@ namespace tidewatch::platform {
 
 namespace {
 
-// A signal handler and an exit handler have no other way to find what they are to wake.
+// Signal and exit handlers can only reach their target through static state.
 volatile sig_atomic_t wakeDescriptor = -1;
 std::function<void()>& displayLost() {
     static std::function<void()> callback;
@@ -71,7 +71,7 @@ void PosixProcessTermination::onSessionEnding(std::function<void()> saving) {
     QObject::connect(
         qGuiApp, &QGuiApplication::commitDataRequest, qGuiApp,
         [saving = std::move(saving)](QSessionManager& manager) {
-            // What starts with the session is the user's choice in the menu, and its one entry.
+            // Starting with the session is the user's choice in the menu, not the session manager's.
             manager.setRestartHint(QSessionManager::RestartNever);
             saving();
         },
@@ -83,8 +83,8 @@ void PosixProcessTermination::onDisplayLost(std::function<void()> lost) {
         lost();
         atTheEnd_();
     } : std::function<void()>();
-    // The toolkit answers the loss of its connection by calling exit(), deep inside its event loop.
-    // Registered this late, the handler runs before what `lost` stands on is taken down.
+    // The toolkit calls exit() when it loses its connection, deep inside its event loop. Registered this
+    // late, the handler runs before the objects used by `lost` are destroyed.
     if (displayLost()) std::atexit(exiting);
 }
 

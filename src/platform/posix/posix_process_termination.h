@@ -8,12 +8,11 @@ class QSocketNotifier;
 
 namespace tidewatch::platform {
 
-/// SIGTERM, SIGINT and SIGHUP, the session manager, and the toolkit's exit when the X server is gone.
-/// One instance in a process.
+/// SIGTERM, SIGINT and SIGHUP, the session manager, and the toolkit's exit() when the X server connection is
+/// lost. One instance per process.
 class PosixProcessTermination final : public ProcessTermination {
 public:
-    /// `atTheEnd` is called after what onDisplayLost() was given: the last moment to bring something to the
-    /// disk.
+    /// `atTheEnd` is called after the onDisplayLost() callback: the last chance to write to disk.
     explicit PosixProcessTermination(std::function<void()> atTheEnd);
     ~PosixProcessTermination() override;
     PosixProcessTermination(const PosixProcessTermination&) = delete;

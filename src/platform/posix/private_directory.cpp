@@ -47,7 +47,7 @@ void narrow(const std::string& path, mode_t kind) {
     static_cast<void>(::chmod(path.c_str(), status.st_mode & 07777 & ~rightsOfOthers));
 }
 
-// How the toolkit names the folder in which it makes a socket ready.
+// The toolkit's name for the folder in which it prepares a socket.
 bool isSocketFolderName(std::string_view name) {
     constexpr std::size_t length = 7;
     const auto isLetterOrDigit = [](char c) {
@@ -63,7 +63,7 @@ void removeSocketFolder(const std::string& path) {
         const auto socket = path + "/" + name;
         if (S_ISSOCK(inspected(socket).st_mode)) ::unlink(socket.c_str());
     }
-    ::rmdir(path.c_str());  // Fails if anything else is in it, as it should.
+    ::rmdir(path.c_str());  // Fails, as intended, if it contains anything else.
 }
 
 }  // namespace

@@ -6,19 +6,18 @@
 
 namespace tidewatch::platform {
 
-/// Makes the directory and what is missing above it, each with mode 0700 whatever the umask. One that exists
-/// is a success and keeps its mode.
+/// Creates the directory and missing parents with mode 0700, whatever the umask. Succeeds if it exists, which
+/// keeps its mode.
 [[nodiscard]] Status makePrivateDirectories(const std::string& path);
 
-/// Takes all rights from group and others: of a directory that is to be private and of the files in it, or of
-/// a single file. What a link leads to is left alone, and so is what belongs to somebody else. What fails
-/// stays as it is.
+/// Removes all permissions of group and others: from a directory and the files in it, or from a single file.
+/// Ignores links and files of other users. Failures are ignored.
 void restrictDirectory(const std::string& path);
 void restrictFile(const std::string& path);
 
-/// Removes from the data directory what processes that were killed have left in it: successors of files that
-/// were not finished ("*.json.tmp"), and folders of six random characters behind a dot with a socket in them.
-/// To be called only by who holds the directory's lock.
+/// Removes what killed processes have left in the data directory: temporary files ("*.json.tmp"), and hidden
+/// folders with names of six random characters that contain a socket. The caller must hold the directory's
+/// lock.
 void removeLeftovers(const std::string& directory);
 
 }  // namespace tidewatch::platform

@@ -52,7 +52,7 @@ public:
             if (name == "." || name == "..") continue;
             if (++entries_ > limits_.entries) return false;
             if (isFolder(path + "/" + name, entry->d_type)) {
-                // A folder goes by its own name rather than by that of a link to it.
+                // Prefer a folder's own name over that of a link to it.
                 below.insert(entry->d_type == DT_DIR ? below.begin() : below.end(), name);
             } else {
                 visit_(path, way, name);
@@ -83,7 +83,7 @@ private:
 
 FileResult<FileDescriptor> openRegularFile(const std::string& path) {
     struct stat status {};
-    // Looked at before it is opened: with a device, opening alone can have effects.
+    // Checked before opening: opening a device can have side effects.
     if (::stat(path.c_str(), &status) != 0) return fileError("open", path);
     if (!S_ISREG(status.st_mode)) return notRegular(path);
     FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -102,7 +102,7 @@ FileResult<std::string> readRegularFile(const std::string& path, std::size_t max
     const auto announced = static_cast<std::size_t>(status.st_size);
     if (announced > maxSize) return tooLarge(path, maxSize);
 
-    // Room for the end of the file to be seen, and for the padding that parsers read past the end.
+    // Room to detect the end of the file, and for the padding that parsers require.
     constexpr std::size_t slack = 64;
     std::string content(announced + slack, '\0');
     std::size_t length = 0;

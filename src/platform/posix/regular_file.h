@@ -10,31 +10,28 @@
 
 namespace tidewatch::platform {
 
-/// For files that are as long as they must be, such as this program's own record.
+/// For files of unlimited size, such as this program's own record.
 inline constexpr std::size_t anySize = std::numeric_limits<std::size_t>::max();
 
-/// The one way to open a file to be read, whoever put it there. Only a regular file is opened, be it at the
-/// end of a link: a named pipe would wait for its writer, a device may have no end. Safe from any thread.
+/// Opens a file of any origin for reading. Only opens regular files, following links: a named pipe would
+/// block, a device may be endless. Thread-safe.
 [[nodiscard]] FileResult<FileDescriptor> openRegularFile(const std::string& path);
 
-/// The whole content of such a file. One of more than `maxSize` bytes is an error and is not read beyond
-/// them. Safe from any thread.
+/// The whole content of such a file. More than `maxSize` bytes are an error and are not read. Thread-safe.
 [[nodiscard]] FileResult<std::string> readRegularFile(const std::string& path, std::size_t maxSize);
 
-/// How far a walk through folders goes at most.
+/// The limits of a folder walk.
 struct WalkLimits {
-    int depth;            ///< folders below the first one on the way to a file
-    std::size_t entries;  ///< names in all folders together
+    int depth;            ///< nesting below the first folder
+    std::size_t entries;  ///< total number of names
 };
 
-/// Goes through a folder and those below it. A link to a folder counts as one, but each folder is entered
-/// once, by whatever way it is reached, so that links in a circle end. Names come in no particular order;
-/// what cannot be read is left out. Safe from any thread.
+/// Walks a folder recursively. Links to folders are followed, but each folder is entered once, so that cyclic
+/// links terminate. Names are in no particular order; what cannot be read is skipped. Thread-safe.
 ///
-/// `enter(path, way)` is told of each folder before it is read, the first one included, and refuses it and
-/// all below by giving false; `visit(path, way, name)` is told of everything in it that is no folder. `way`
-/// is how the folder is reached from the first, each name with a slash behind it. Gives false where a limit
-/// cut the walk short.
+/// Calls `enter(path, way)` for each folder before it is read, the first one included; returning false skips
+/// the folder. Calls `visit(path, way, name)` for everything in it that is no folder. `way` is the folder's
+/// path relative to the first one, with a trailing slash. Returns false if a limit ended the walk.
 bool walkFolders(const std::string& path, WalkLimits limits,
                  const std::function<bool(const std::string& path, const std::string& way)>& enter,
                  const std::function<void(const std::string& path, const std::string& way,

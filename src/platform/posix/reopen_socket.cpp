@@ -27,8 +27,8 @@ int newSocket() {
     return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
 }
 
-// The address of the socket in a directory. Of one whose name is too long the open directory is named, as
-// the kernel shows it to this process; the address is good as long as this object.
+// The address of the socket in a directory. If the path is too long, it goes through /proc/self/fd of the
+// open directory and is valid for this object's lifetime.
 class Address final {
 public:
     explicit Address(const std::string& directory) : directory_(-1) {
@@ -61,7 +61,7 @@ std::string ReopenSocket::pathIn(const std::string& directory) {
 Result<std::unique_ptr<ReopenSocket>> ReopenSocket::listenIn(const std::string& directory) {
     auto socket = std::make_unique<ReopenSocket>(newSocket());
     const int descriptor = socket->descriptor();
-    // Whoever left a socket here is gone: the lock is ours.
+    // The previous owner of the socket is gone: we hold the lock.
     ::unlink(pathIn(directory).c_str());
     const Address address(directory);
     ::fchmod(descriptor, 0600);
@@ -78,7 +78,7 @@ Result<FileDescriptor> ReopenSocket::nextRequest() const {
 }
 
 void ReopenSocket::answer(const FileDescriptor& request) {
-    // Whoever does not wait for the answer is none the worse for it.
+    // The peer may not wait for the answer.
     static_cast<void>(::send(request.get(), acknowledgement.data(), acknowledgement.size(), MSG_NOSIGNAL));
 }
 

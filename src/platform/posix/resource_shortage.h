@@ -4,7 +4,7 @@
 
 namespace tidewatch::platform {
 
-/// Whether a call failed for want of what may be there again soon: descriptors or memory.
+/// Whether a call failed for a temporary lack of resources: descriptors or memory.
 [[nodiscard]] inline bool isResourceShortage(int code) {
     return code == EMFILE || code == ENFILE || code == ENOBUFS || code == ENOMEM;
 }

@@ -16,7 +16,7 @@ namespace tidewatch::platform {
     return S_ISDIR(mode) ? FileKind::directory : FileKind::other;
 }
 
-/// What the system's call tells of a file, in the seam's terms.
+/// Converts the result of stat().
 [[nodiscard]] inline FileInfo fileInfo(const struct stat& status) {
     return {
         .kind = fileKind(status.st_mode),

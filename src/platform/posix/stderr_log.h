@@ -4,8 +4,8 @@
 
 namespace tidewatch::platform {
 
-/// Writes each message as one line to the standard error stream, lines of several threads never mixed.
-/// Line breaks within a message become blanks.
+/// Writes each message as one line to standard error; lines of several threads are never mixed. Line breaks
+/// in a message become spaces.
 class StderrLog final : public Log {
 public:
     void warning(std::string_view message) override;

@@ -12,12 +12,12 @@
 
 namespace tidewatch::platform {
 
-/// Why the system call that has just failed did so: the operation, the path and the system's words.
+/// The error of the system call that has just failed: the operation, the path and errno's text.
 [[nodiscard]] inline Error systemError(std::string_view operation, const std::string& path) {
     return {fmt::format("{} {}: {}", operation, path, errnoText(errno))};
 }
 
-/// The same of a call that was to read something.
+/// The same for a read operation, with its kind.
 [[nodiscard]] inline FileError fileError(std::string_view operation, const std::string& path) {
     const int code = errno;
     auto kind = FileErrorKind::unreadable;

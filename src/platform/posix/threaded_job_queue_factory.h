@@ -5,7 +5,7 @@
 
 namespace tidewatch::platform {
 
-/// A thread for each queue.
+/// Creates queues with a thread each.
 class ThreadedJobQueueFactory final : public JobQueueFactory {
 public:
     /// `mainLoop` must outlive it.

@@ -8,18 +8,17 @@
 
 namespace tidewatch::platform {
 
-/// Settings whose file is for its owner alone, whatever the umask: the toolkit replaces the file at each
-/// write, and the new one would be as open as the umask lets it.
+/// Settings whose file is private to its owner, whatever the umask: the toolkit replaces the file at each
+/// write, with permissions according to the umask.
 ///
-/// The file may become anything while the program runs. The toolkit would wait for ever for a named pipe, so
-/// what is set then stays in memory, and reaches the disk at a later sync() if the file is an ordinary one
-/// again.
+/// The file may be replaced by anything while the program runs. The toolkit would block on a named pipe, so
+/// changes stay in memory then, and are written by a later sync() once the file is a regular one again.
 class PrivateSettings final : public QSettings {
 public:
     explicit PrivateSettings(const QString& path) : QSettings(path, QSettings::NativeFormat) {}
     ~PrivateSettings() override { sync(); }
 
-    /// Whether the toolkit can open what has this name, or make it.
+    /// Whether the toolkit can open or create the file safely.
     [[nodiscard]] static bool canBeOpened(const QString& path) {
         return isOrdinary(path) && isOrdinary(path + ".lock");
     }
@@ -31,7 +30,7 @@ public:
     }
 
 protected:
-    // By this event the toolkit writes what was set.
+    // This event makes the toolkit write changes.
     bool event(QEvent* event) override {
         if (event->type() == QEvent::UpdateRequest && !canBeOpened(fileName())) return true;
         const OwnerOnly files;
@@ -45,7 +44,7 @@ private:
         return !info.exists() || (info.isFile() && info.size() <= maxSize);
     }
 
-    // While it lives, new files are for their owner alone.
+    // During its lifetime, new files are private to their owner.
     class OwnerOnly final {
     public:
         OwnerOnly() : before_(::umask(S_IRWXG | S_IRWXO)) {}

@@ -4,7 +4,7 @@
 
 namespace tidewatch::platform {
 
-/// The machine's clocks, with the time-zone data of the system.
+/// The machine's clocks, with the system's time-zone data.
 class QtClock final : public Clock {
 public:
     [[nodiscard]] Instant now() const override;

@@ -15,8 +15,8 @@ bool menuIsOpen() {
 
 }  // namespace
 
-/// One timer of the toolkit and all who share it. The wall clock may pass midnight between two timers, but
-/// hardly within one.
+/// One toolkit timer shared by several listeners. Midnight may pass between two timers, but hardly within
+/// one.
 class QtMainLoop::TimerGroup final : public std::enable_shared_from_this<TimerGroup> {
 public:
     struct Listener {
@@ -25,13 +25,13 @@ public:
     };
 
     explicit TimerGroup(std::chrono::milliseconds interval) {
-        // A precise timer keeps to its first group: it neither drifts nor makes good what it missed.
+        // A precise timer keeps to its first group: it neither drifts nor catches up.
         timer_.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { fire(); });
         timer_.start(interval);
     }
 
-    /// Whether one who joins now still waits for most of an interval.
+    /// Whether a listener that joins now still waits for most of an interval.
     [[nodiscard]] bool isYoung() const {
         return timer_.remainingTimeAsDuration() >= timer_.intervalAsDuration() * 4 / 5;
     }
@@ -41,7 +41,7 @@ public:
 
 private:
     void fire() {
-        // Any listener may let go of its timer, be it the last one, or make another.
+        // A listener may destroy its timer, even the last one, or create another.
         const auto self = shared_from_this();
         std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
         for (const auto& each : std::vector(listeners_)) {
@@ -56,7 +56,7 @@ private:
 
 namespace {
 
-/// Keeps a listener on its group.
+/// A listener's membership in a group.
 template <class TimerGroup>
 class Subscription final : public RepeatingTimer {
 public:

@@ -7,7 +7,7 @@
 
 namespace tidewatch::platform {
 
-/// The toolkit's event loop on the main thread. The application object must exist as long as this one.
+/// The toolkit's event loop on the main thread. The application object must outlive this one.
 class QtMainLoop final : public MainLoop {
 public:
     QtMainLoop();

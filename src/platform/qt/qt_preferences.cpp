@@ -23,7 +23,7 @@ QtPreferences::QtPreferences(const std::string& configDirectory, Log& log) {
 }
 
 QtPreferences::~QtPreferences() {
-    // The toolkit's destructor would open the file once more.
+    // The toolkit's destructor would open the file again.
     const bool closes = !settings_ || PrivateSettings::canBeOpened(settings_->fileName());
     if (!closes) static_cast<void>(settings_.release());
 }

@@ -12,12 +12,12 @@
 
 namespace tidewatch::platform {
 
-/// Preferences in an INI file: `brightlooms/tidewatch.conf` under the user's configuration directory. What
-/// the file holds is text, so every value is read by the rules for texts. Values that are set within one turn
-/// of the main loop reach the disk together, at its end. The file is for its owner alone.
+/// Preferences in an INI file: `brightlooms/tidewatch.conf` in the user's configuration directory. The file
+/// contains strings, so every value is converted from a string. Changes within one turn of the main loop are
+/// written together at its end. The file is private to its owner.
 ///
-/// What is there under the name of the file, or of its lock, and is no ordinary file of a sensible size is
-/// left alone: then values live in memory only, and the log says so once.
+/// If the file, or its lock file, is not a regular file of reasonable size, it is left alone: values are kept
+/// in memory only, which is logged once.
 class QtPreferences final : public Preferences {
 public:
     /// `configDirectory` is the user's, absolute.
@@ -35,7 +35,7 @@ public:
     void setText(std::string_view key, std::string_view value) override;
     void remove(std::string_view key) override;
 
-    /// Brings what was set to the disk now; for when the main loop will not turn again.
+    /// Writes changes now; for when the main loop does not run again.
     void sync();
 
 private:
@@ -44,7 +44,7 @@ private:
 
     mutable std::mutex mutex_;
     std::unique_ptr<PrivateSettings> settings_;
-    QVariantMap memory_;  // in the place of the file
+    QVariantMap memory_;  // used instead of the file
 };
 
 }  // namespace tidewatch::platform

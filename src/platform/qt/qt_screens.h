@@ -4,7 +4,7 @@
 
 namespace tidewatch::platform {
 
-/// The screens as the toolkit knows them. The application object must exist as long as this one.
+/// The toolkit's screens. The application object must outlive this one.
 class QtScreens final : public Screens {
 public:
     [[nodiscard]] std::vector<Screen> all() const override;

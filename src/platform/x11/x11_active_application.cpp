@@ -40,7 +40,7 @@ X11ActiveApplication::~X11ActiveApplication() = default;
 std::optional<AppId> X11ActiveApplication::current() {
     processEvents();
     if (!connection_.alive()) return std::nullopt;
-    // What changes during a look calls for another one.
+    // A change during the query requires another one.
     constexpr int maxChecks = 3;
     for (int looks = 0; stale_ && looks < maxChecks; ++looks) refresh();
     return application_;
@@ -52,7 +52,7 @@ void X11ActiveApplication::refresh() {
     if (window_ == XCB_WINDOW_NONE) return;
     setWatched(window_, itsPropertiesAndEnd);
     application_ = identify(window_);
-    // What came along with the answers no longer wakes the notifier.
+    // Events received along with replies do not wake the notifier.
     processEvents();
 }
 
@@ -78,7 +78,7 @@ bool X11ActiveApplication::isRelevant(const xcb_generic_event_t& event) const {
     }
 }
 
-/// A window that is no longer in front must not go on reporting: nobody may ask for hours.
+/// Unsubscribe from a window that is no longer active: its events might not be consumed for hours.
 void X11ActiveApplication::invalidate() {
     stale_ = true;
     application_.reset();
@@ -104,7 +104,7 @@ std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
     const std::string instance = names.empty() ? "" : names[0];
     const std::string windowClass = names.size() < 2 ? "" : names[1];
     if (auto id = entries_.idForWindow(instance, windowClass)) return AppId(std::move(*id));
-    // Better no application for a moment than the time of one under two names.
+    // Better no application for a moment than one application's time under two names.
     stale_ = entries_.isReading();
     if (stale_) return std::nullopt;
     const auto& name = windowClass.empty() ? instance : windowClass;
@@ -113,8 +113,8 @@ std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
 
 std::optional<pid_t> X11ActiveApplication::process(xcb_window_t window) const {
     if (!canAskForProcess_) return std::nullopt;
-    // The server knows the process at the other end of the connection; what a window says of itself may be a
-    // number that means something inside a sandbox only.
+    // The server knows the client's process id; the window's own property may hold one that is only valid
+    // inside a sandbox.
     const xcb_res_client_id_spec_t spec{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
     const auto cookie = xcb_res_query_client_ids(connection_.get(), 1, &spec);
     const XcbReply<xcb_res_query_client_ids_reply_t> reply(

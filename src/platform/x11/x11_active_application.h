@@ -14,19 +14,19 @@ class QSocketNotifier;
 
 namespace tidewatch::platform {
 
-/// The application of the window that has the focus, as the window manager announces it. What does not
-/// change is not asked again: the server reports changes of the active window and of its properties, so a
-/// question that finds no such report costs no round trip. Reports are taken as they come, also while nobody
-/// asks: what is not taken, the server keeps. Main thread only.
+/// The application of the focused window, from the window manager's _NET_ACTIVE_WINDOW. The result is cached:
+/// the server sends events for changes of the active window and its properties, so a query without such an
+/// event needs no round trip. Events are consumed as they arrive, so that they do not accumulate. Main thread
+/// only.
 class X11ActiveApplication final : public FrontmostApplication {
 public:
-    /// Uses `connection` for itself alone, and `entries`; both must outlive this object. `own` is the
+    /// Requires exclusive use of `connection`. Both references must outlive this object. `own` is the
     /// identifier of this program's windows.
     X11ActiveApplication(const X11Connection& connection, DesktopEntries& entries, AppId own);
     ~X11ActiveApplication() override;
 
-    /// Nothing without a window manager that announces the active window, without an active window, or for
-    /// a window that does not say what it is.
+    /// Returns nullopt without a window manager that announces the active window, without an active window,
+    /// or for a window that cannot be identified.
     [[nodiscard]] std::optional<AppId> current() override;
 
 private:

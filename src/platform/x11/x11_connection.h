@@ -12,18 +12,18 @@
 
 namespace tidewatch::platform {
 
-/// Frees what xcb hands out.
+/// Frees memory allocated by xcb.
 struct XcbFree {
     void operator()(void* memory) const noexcept { std::free(memory); }
 };
 template <class T>
 using XcbReply = std::unique_ptr<T, XcbFree>;
 
-/// A connection of our own to the X server, apart from the toolkit's: errors of its requests arrive as
-/// events and are dropped, so that a window that vanishes meanwhile does no harm. Main thread only.
+/// Our own connection to the X server, separate from the toolkit's: errors arrive as events and are ignored,
+/// so that a window destroyed meanwhile does no harm. Main thread only.
 class X11Connection final {
 public:
-    /// To the server that DISPLAY names. A server that cannot be reached leaves it not alive.
+    /// Connects to the server in DISPLAY; on failure alive() is false.
     X11Connection();
 
     [[nodiscard]] bool alive() const { return xcb_connection_has_error(connection_.get()) == 0; }
@@ -36,12 +36,12 @@ public:
     [[nodiscard]] bool hasExtension(xcb_extension_t* extension) const;
 
     [[nodiscard]] std::optional<std::uint32_t> cardinal(xcb_window_t window, xcb_atom_t property) const;
-    /// All numbers of a property of 32 bits each; none without it.
+    /// All values of a 32-bit property; empty without it.
     [[nodiscard]] std::vector<std::uint32_t> cardinals(xcb_window_t window, xcb_atom_t property) const;
-    /// The texts of a property of one or more strings that end with a zero byte.
+    /// The strings of a property of zero-terminated strings.
     [[nodiscard]] std::vector<std::string> texts(xcb_window_t window, xcb_atom_t property) const;
 
-    /// The next event without waiting, errors left out; nothing if there is none.
+    /// The next event without blocking, ignoring errors; null if there is none.
     [[nodiscard]] XcbReply<xcb_generic_event_t> pollEvent() const;
 
 private:

@@ -24,7 +24,7 @@ std::optional<double> X11InputActivity::secondsSinceLastInput() const {
     const auto cookie = xcb_screensaver_query_info(connection_.get(), connection_.root());
     const XcbReply<xcb_screensaver_query_info_reply_t> reply(
         xcb_screensaver_query_info_reply(connection_.get(), cookie, nullptr));
-    // Every client is told of a new keyboard layout, whether it asked or not.
+    // Every client receives keyboard mapping events, even without subscribing; consume them.
     while (connection_.pollEvent()) {
     }
     if (!reply) return std::nullopt;

@@ -5,8 +5,8 @@
 
 namespace tidewatch::platform {
 
-/// Idleness as the X server's screen-saver extension counts it: right to some milliseconds, about ten
-/// microseconds a question.
+/// Idle time from the X server's screen-saver extension: accurate to some milliseconds, about ten
+/// microseconds per query.
 class X11InputActivity final : public InputActivity {
 public:
     /// `connection` must outlive this object.
