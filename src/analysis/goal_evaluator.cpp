@@ -9,7 +9,7 @@ namespace {
 
 using namespace std::chrono;
 
-// Truncated toward zero. What an edited file may ask for beyond all reason is brought to a reason.
+// Truncated toward zero. Absurd values from an edited file are clamped.
 Seconds secondsOf(double hours) {
     constexpr double limit = 0x1p62;
     return Seconds(static_cast<std::int64_t>(std::clamp(hours * 3600.0, -limit, limit)));

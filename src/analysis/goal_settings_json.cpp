@@ -35,10 +35,10 @@ constexpr std::array goalFields{
     GoalField{"weeklyHours", &GoalSettings::weeklyHours},
 };
 
-// Beyond it nothing can be meant, and texts and sums of it need not be thought of.
+// Larger values are meaningless and would complicate texts and sums.
 constexpr double maxGoal = 1e6;
 
-// Each tells whether the value is of the field's type and range.
+// Each returns whether the value has the field's type and range.
 struct Read {
     GoalSettings& settings;
     json::element value;

@@ -22,7 +22,7 @@ struct DayAndHour {
     int hour;
 };
 
-// The pieces of a key between blanks are a day and a whole number.
+// A key is a day and an integer, separated by a space.
 std::optional<DayAndHour> dayAndHourOf(std::string_view key) {
     const auto takePiece = [&key] {
         const auto* begin = std::ranges::find_if(key, [](char character) { return character != ' '; });
@@ -81,7 +81,7 @@ public:
         for (UsageSnapshot::Index i = 0; i < hours_.keyCount(); ++i) {
             const auto key = dayAndHourOf(hours_.key(i));
             if (!key || key->day < cutoffKey) continue;
-            // The hours of a day stand together, unless a key has another shape.
+            // The hours of a day are adjacent, unless a key is malformed.
             if (today == days.end() || today->first != key->day) {
                 today = days.try_emplace(days.end(), key->day);
             }

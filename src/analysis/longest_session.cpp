@@ -19,7 +19,7 @@ struct BusyBucket {
     Seconds seconds;
 };
 
-// Nothing if it is no number of two digits below `limit`.
+// Returns nullopt unless it is a two-digit number below `limit`.
 std::optional<int> twoDigits(std::string_view text, int limit) {
     const auto isDigit = [](char character) { return character >= '0' && character <= '9'; };
     if (!isDigit(text[0]) || !isDigit(text[1])) return std::nullopt;
@@ -27,7 +27,7 @@ std::optional<int> twoDigits(std::string_view text, int limit) {
     return value < limit ? std::optional(value) : std::nullopt;
 }
 
-// Reads keys of the form "yyyy-MM-dd HH:mm"; what is to be known of a day is worked out once for all its
+// Reads keys of the form "yyyy-MM-dd HH:mm"; what depends on the day only is computed once for all its
 // buckets.
 class BucketKeyReader final {
 public:
@@ -61,7 +61,7 @@ private:
     std::optional<Instant> midnight_;  // if times of the day can be added to it
 };
 
-// By the day, which is what stands before the first blank; it is never more than the whole key.
+// By the day, which is the part before the first space, and a prefix of the key.
 bool isBefore(std::string_view key, std::string_view cutoffKey) {
     return !cutoffKey.empty() && (key < cutoffKey || key.substr(0, key.find(' ')) < cutoffKey);
 }
@@ -79,7 +79,7 @@ std::vector<BusyBucket> busyBuckets(const UsageSnapshot& minutes, std::string_vi
         if (total < minBusy) continue;
         if (const auto start = reader.instantOf(key)) buckets.push_back({*start, total});
     }
-    // Keys ascend, and so do their instants but for the nights in which the clock changes.
+    // Keys are ascending, and so are their instants except around a change of UTC offset.
     if (!std::ranges::is_sorted(buckets, {}, &BusyBucket::start)) {
         std::ranges::stable_sort(buckets, {}, &BusyBucket::start);
     }

@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t maxTopAppsOfMonth = 8;
 constexpr const char* noDay = "—";
 
-// The days of the month so far: how many have any time, and which has most.
+// The days of the month so far: how many have any time, and which has the most.
 void reviewDays(const DailyStore& days, std::span<const DayKey> keys, ReportData& data) {
     data.recordDay = noDay;
     for (const auto& key : keys) {

@@ -7,13 +7,13 @@ namespace {
 
 constexpr std::size_t maxCodePoints = 32;
 
-/// A code point at the beginning of a text; one of -1 stands for a byte that is none.
+/// The first code point of a text; -1 for an invalid byte.
 struct CodePoint {
     utf8proc_int32_t value = -1;
     std::size_t size = 1;
 };
 
-// `text` is not empty.
+// `text` must not be empty.
 CodePoint firstCodePoint(std::string_view text) {
     CodePoint point;
     const auto size = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
@@ -22,7 +22,7 @@ CodePoint firstCodePoint(std::string_view text) {
     return point;
 }
 
-// The bytes of the first character of `text`, which is not empty.
+// The size in bytes of the first character of `text`, which must not be empty.
 std::size_t sizeOfFirstCharacter(std::string_view text) {
     auto last = firstCodePoint(text);
     std::size_t size = last.size;

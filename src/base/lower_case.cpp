@@ -20,7 +20,7 @@ std::string lowerCasedAscii(std::string_view text) {
     return result;
 }
 
-// Takes the first character off `text`, which is not empty.
+// Removes the first character of `text`, which must not be empty.
 std::string takeLowerCased(std::string_view& text) {
     utf8proc_int32_t character = -1;
     const auto size = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),

@@ -8,7 +8,7 @@
 namespace tidewatch {
 namespace {
 
-// Takes the decimal digits at the front of `text` off and tells how many there were.
+// Removes leading decimal digits from `text` and returns their number.
 std::size_t takeDigits(std::string_view& text) {
     const auto count = std::min(text.find_first_not_of("0123456789"), text.size());
     text.remove_prefix(count);
@@ -21,7 +21,7 @@ bool takeOneOf(std::string_view& text, std::string_view characters) {
     return true;
 }
 
-// Streams also take plus signs and hexadecimal digits.
+// Streams also accept plus signs and hexadecimal digits.
 bool isDecimal(std::string_view text) {
     takeOneOf(text, "-");
     auto digits = takeDigits(text);
@@ -36,7 +36,7 @@ bool isDecimal(std::string_view text) {
 
 }  // namespace
 
-// Not every standard library has std::from_chars for this type, and std::strtod goes by the user's language.
+// Not every standard library has std::from_chars for double, and std::strtod depends on the locale.
 std::optional<double> parseReal(std::string_view text) {
     if (!isDecimal(text)) return std::nullopt;
     std::istringstream stream{std::string(text)};

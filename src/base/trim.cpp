@@ -7,7 +7,7 @@
 namespace tidewatch {
 namespace {
 
-// No character's encoding is the beginning or the end of another's, so bytes can be compared as they are.
+// UTF-8 is self-synchronising, so bytes can be compared directly.
 constexpr std::array<std::string_view, 18> blanks{
     "\t",           " ",
     "\xC2\xA0",      // U+00A0

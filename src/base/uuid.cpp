@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t canonicalLength = 36;
 
-// Between which bytes of the sixteen a dash stands.
+// The byte positions before which a dash is written.
 constexpr bool dashBefore(std::size_t byte) {
     return byte == 4 || byte == 6 || byte == 8 || byte == 10;
 }

@@ -13,7 +13,7 @@ struct CategoryRow {
     Tier defaultTier;
 };
 
-// Browsers and the rest count as productive on purpose: the user narrows that down.
+// Browsers and "other" count as productive on purpose: the user refines that.
 constexpr std::array categoryRows{
     CategoryRow{Category::audioVideo, "Audio/Video", Tier::productive},
     CategoryRow{Category::design, "Diseño", Tier::productive},

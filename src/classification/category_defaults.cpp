@@ -8,8 +8,8 @@ namespace {
 
 using DefaultRow = CategoryDefault;
 
-// Some rows stand where they stand on purpose: a messenger's helper among the tools of development, a
-// calendar among the meetings, a media player among the utilities.
+// Some rows are where they are on purpose: a messenger's helper under development, a calendar under meetings,
+// a media player under utilities.
 constexpr std::array defaultRows{
     DefaultRow{"com.blackmagic-design.DaVinciResolve", Category::audioVideo},
     DefaultRow{"com.apple.FinalCut", Category::audioVideo},

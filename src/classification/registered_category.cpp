@@ -7,18 +7,18 @@
 namespace tidewatch {
 namespace {
 
-// Decided by the first row all of whose words are registered, so from the more specific to the more general.
+// The first row whose words are all registered decides, so rows go from specific to general.
 struct RegisteredRow {
     std::string_view word;
-    std::string_view andWord;  // empty: the one word decides
+    std::string_view andWord;  // empty if one word suffices
     Category category;
 };
 
 constexpr std::array registeredRows{
-    // Whoever can hold a conference there is rarely there for anything else.
+    // An application for conferences is rarely used for anything else.
     RegisteredRow{"VideoConference", "", Category::meetings},
 
-    // What says exactly what somebody does there.
+    // Unambiguous activities.
     RegisteredRow{"IDE", "", Category::development},
     RegisteredRow{"TerminalEmulator", "", Category::development},
     RegisteredRow{"Debugger", "", Category::development},
@@ -31,7 +31,7 @@ constexpr std::array registeredRows{
     RegisteredRow{"ContactManagement", "", Category::communication},
     RegisteredRow{"Calendar", "", Category::meetings},
 
-    // Making sound and pictures comes before playing them; many a player also records.
+    // Producing audio and video precedes playing it; many players also record.
     RegisteredRow{"AudioVideoEditing", "", Category::audioVideo},
     RegisteredRow{"Sequencer", "", Category::music},
     RegisteredRow{"Midi", "", Category::music},
@@ -45,7 +45,7 @@ constexpr std::array registeredRows{
     RegisteredRow{"Mixer", "", Category::system},
     RegisteredRow{"DiscBurning", "", Category::utilities},
 
-    // Games name their kind, some of them nothing else, but every one of them is a game first.
+    // Games register their genre, some nothing else; all of them are games first.
     RegisteredRow{"Game", "", Category::games},
     RegisteredRow{"ActionGame", "", Category::games},
     RegisteredRow{"AdventureGame", "", Category::games},
@@ -63,7 +63,7 @@ constexpr std::array registeredRows{
     RegisteredRow{"News", "", Category::entertainment},
     RegisteredRow{"Feed", "", Category::entertainment},
 
-    // After games and entertainment: where people play or watch together they also chat.
+    // After games and entertainment, which often include chat.
     RegisteredRow{"InstantMessaging", "", Category::communication},
     RegisteredRow{"Chat", "", Category::communication},
     RegisteredRow{"IRCClient", "", Category::communication},
@@ -90,7 +90,7 @@ constexpr std::array registeredRows{
     RegisteredRow{"ProjectManagement", "", Category::documents},
     RegisteredRow{"Dictionary", "", Category::documents},
 
-    // The main categories. A text editor that is a tool of development says so.
+    // The main categories. A text editor for development registers as such.
     RegisteredRow{"Development", "", Category::development},
     RegisteredRow{"TextEditor", "", Category::documents},
     RegisteredRow{"Documentation", "", Category::documents},

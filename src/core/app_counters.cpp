@@ -7,13 +7,13 @@
 namespace tidewatch {
 namespace {
 
-// Nodes of one level, side by side.
+// Adjacent nodes of one level.
 struct Nodes {
     std::size_t level;
     CounterRecord::Range range;
 };
 
-// What lies directly under the keys, from these nodes on; nothing for unknown ones.
+// The nodes directly under `keys`, starting at these nodes; nullopt for unknown keys.
 std::optional<Nodes> nodesUnder(const CounterRecord& record, Nodes nodes, AppCounters::Keys keys) {
     for (const auto key : keys) {
         const auto found = record.find(nodes.level, nodes.range, key);
@@ -27,7 +27,7 @@ Nodes firstLevel(const CounterRecord& record) {
     return {0, record.top()};
 }
 
-// The counters that lie under the nodes, side by side too.
+// The counters under the nodes, also adjacent.
 CounterRecord::Range leavesUnder(const CounterRecord& record, Nodes nodes) {
     for (; nodes.level + 1 < record.depth() && nodes.range.size() > 0; ++nodes.level) {
         nodes.range = {record.children(nodes.level, nodes.range.begin).begin,
@@ -85,7 +85,7 @@ Seconds AppCounters::seconds(Keys keys) const {
 std::vector<AppSeconds> AppCounters::aggregate(std::span<const DayKey> days, Keys below) const {
     return file_.read([&](const CounterRecord& record) {
         const auto appLevel = record.depth() - 1;
-        // One slot a name that the record knows; those of no application on these days stay empty.
+        // One slot per interned name; names without seconds on these days stay 0.
         std::vector<std::optional<Seconds>> sums(record.nameCount());
         for (const auto& day : days) {
             const std::array<std::string_view, 1> first{day.text()};

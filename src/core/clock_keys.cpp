@@ -10,7 +10,7 @@
 namespace tidewatch {
 namespace {
 
-// The pieces between separators; empty ones are left out.
+// Splits at the separators, omitting empty parts.
 std::vector<std::string_view> pieces(std::string_view text, char separator) {
     std::vector<std::string_view> result;
     while (!text.empty()) {

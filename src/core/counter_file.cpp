@@ -8,15 +8,15 @@ CounterFile::CounterFile(platform::FileSystem& files, platform::Log& log, const 
     : record_(format.depth), file_(files, log, format.fileName, format.flushFailed) {
     const auto parse = [&](std::string text) { return parseCounters(std::move(text), format.depth); };
     auto record = file_.read(parse);
-    // A missing file is read as an empty one, so that what the JSON library keeps for the whole process is
-    // older than any exit handler that flushes, and outlives it.
+    // A missing file is parsed as an empty one, so that the JSON library's static state is initialised
+    // before, and destroyed after, any exit handler that flushes.
     if (!record) record = parse("{}");
     if (record) record_ = std::move(*record);
 }
 
 void CounterFile::flush() {
     const std::lock_guard writing(writing_);
-    // Only now: a write that was waited for took its time.
+    // Only now: waiting for another write may have taken time.
     write(snapshot());
 }
 

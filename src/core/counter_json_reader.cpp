@@ -10,7 +10,7 @@
 namespace tidewatch {
 namespace {
 
-// Read as it goes by: a tree of the whole would take more memory and time than all the rest.
+// On-demand parsing: a DOM would take more memory and time than everything else.
 namespace json = simdjson::ondemand;
 
 std::optional<Seconds> counterIn(json::value value) {
@@ -19,7 +19,7 @@ std::optional<Seconds> counterIn(json::value value) {
         const bool isCounter = integer >= -maxCounter && integer <= maxCounter;
         return isCounter ? std::optional(Seconds(integer)) : std::nullopt;
     }
-    // An integer of more than 64 bits would be rounded to one that fits.
+    // An integer of more than 64 bits would be rounded.
     bool isInteger = true;
     if (value.is_integer().get(isInteger) != simdjson::SUCCESS || isInteger) return std::nullopt;
     double real = 0;
@@ -65,7 +65,7 @@ private:
         return field.value().get_object().get(child) == simdjson::SUCCESS && readObject(child, level + 1);
     }
 
-    // Nearly all keys are meant as they stand in the text; only one with an escape has to be copied.
+    // Nearly all keys are without escapes; only others have to be copied.
     std::optional<std::string_view> keyOf(json::field& field) const {
         const auto begin = static_cast<std::size_t>(field.key().raw() - text_.data());
         const auto standing = text_.substr(begin, text_.find('"', begin) - begin);

@@ -13,10 +13,10 @@
 namespace tidewatch {
 namespace {
 
-// Short pieces are copied with what lies behind them, at a length that the compiler knows.
+// Short pieces are copied together with the bytes after them, at a constant length.
 constexpr std::size_t stride = 64;
 
-// A text that is followed by as many readable bytes as a stride may overrun it.
+// A text followed by enough readable bytes to be copied in whole strides.
 class PaddedText final {
 public:
     explicit PaddedText(std::string text) : size_(text.size()), text_(std::move(text)) {
@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] std::size_t size() const { return size_; }
 
-    /// Copies it to `target`, where a stride more than its size can be written; gives where it ends there.
+    /// Copies it to `target`, which has room for one more stride; returns the end of the copy.
     char* copyTo(char* target) const {
         std::memcpy(target, text_.data(), stride);
         if (size_ > stride) std::memcpy(target + stride, text_.data() + stride, size_ - stride);
@@ -37,8 +37,7 @@ private:
     std::string text_;
 };
 
-// Computes an upper bound of the text's length, so that memory is allocated once and filled without checking
-// back.
+// Computes an upper bound of the text's length, so that memory is allocated once and filled without checking.
 class Measure final {
 public:
     void character(char) { ++size_; }
@@ -55,7 +54,7 @@ private:
     std::size_t size_ = 0;
 };
 
-// Writes into memory that Measure has found large enough.
+// Writes into memory of the size computed by Measure.
 class Fill final {
 public:
     explicit Fill(std::size_t size)
@@ -83,7 +82,7 @@ public:
         for (std::size_t level = 0; level < record.depth(); ++level) {
             indents_.push_back(std::string("\n").append(2 * (level + 1), ' '));
             memberStarts_.emplace_back();
-            // Names recur hundreds of thousands of times in a record of years; each is escaped once.
+            // Names recur hundreds of thousands of times; each is escaped once.
             for (std::uint32_t name = 0; level > 0 && name < record.nameCount(); ++name) {
                 memberStarts_.back().emplace_back(indents_.back() + quoted(record.name(name)) + " : ");
             }

@@ -5,8 +5,8 @@
 namespace tidewatch {
 namespace {
 
-// The same time on the clock one calendar day earlier. The zone's offset may differ between the two; a time
-// that a daylight-saving night skips comes out as much later as the night skips.
+// The same local time one calendar day earlier. The zone's offset may differ between the two; a skipped local
+// time is shifted forward by the gap.
 Instant oneDayEarlier(Instant instant, const platform::TimeZone& zone) {
     const auto earlier = instant - std::chrono::days(1);
     return earlier + (zone.utcOffset(instant) - zone.utcOffset(earlier));

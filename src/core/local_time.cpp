@@ -5,7 +5,7 @@
 namespace tidewatch {
 namespace {
 
-// Some zones keep another offset for the month of Ramadan; none comes back to an offset sooner.
+// Some zones change their offset for the month of Ramadan; none returns to an offset sooner.
 constexpr std::chrono::days stretch(14);
 
 }  // namespace
@@ -15,7 +15,7 @@ LocalTime localTime(Instant instant, const platform::TimeZone& zone) {
 }
 
 Instant instantOf(LocalTime time, const platform::TimeZone& zone) {
-    // Offsets lie within a day of UTC, so these two are the ones before and after a change that is near.
+    // Offsets are within a day of UTC, so these two are the ones before and after a nearby transition.
     const Instant asUtc(time.time_since_epoch());
     const auto before = asUtc - zone.utcOffset(asUtc - std::chrono::days(1));
     const auto after = asUtc - zone.utcOffset(asUtc + std::chrono::days(1));

@@ -11,8 +11,8 @@ namespace {
 
 constexpr std::string_view replacement = "\xEF\xBF\xBD";
 
-// Which lead bytes there are, how many bytes follow, and what the first of those may be. The narrowed ranges
-// keep out overlong forms, surrogates and what lies beyond U+10FFFF.
+// Lead bytes, the number of continuation bytes, and the range of the first one, which excludes overlong
+// forms, surrogates and code points beyond U+10FFFF.
 struct LeadRange {
     unsigned char first;
     unsigned char last;
@@ -34,7 +34,7 @@ struct Piece {
     bool whole;
 };
 
-// The character, or the part of one, at the start of `text`, which is not empty.
+// The code point, or a part of one, at the start of `text`, which must not be empty.
 Piece firstPiece(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const auto* lead = std::ranges::find_if(

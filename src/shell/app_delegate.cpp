@@ -10,8 +10,8 @@ namespace tidewatch {
 
 namespace {
 
-/// How long a tray may take to appear before its absence is told, in seconds; at the start of a session
-/// the program may well be faster than the tray.
+/// How long a tray may take to appear before the user is told, in seconds; at session start the program may
+/// be faster than the tray.
 constexpr int trayTimeout = 10;
 
 }  // namespace
@@ -33,7 +33,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     observeBroadcasts();
     dependencies_.engine.start();
     dependencies_.notifications.requestAuthorization();
-    // Posted, as the engine posts its tick: each second's tick has run before.
+    // Posted, like the engine's tick, so that each second's tick has run before.
     menuRefreshTimer_ =
         dependencies_.mainLoop.repeat(std::chrono::seconds(1), platform::TimerMode::defaultOnly,
                                       [this] { postLater(&AppDelegate::refreshTimerFired); });

@@ -22,11 +22,11 @@
 
 namespace tidewatch {
 
-/// The application's root object: installs every long-lived observer and timer, and decides when the stores
-/// reach the disk outside the tick's own cadence. Main thread only.
+/// The application's root object: installs all long-lived observers and timers, and decides when the stores
+/// are flushed outside the tick's own schedule. Main thread only.
 class AppDelegate final {
 public:
-    /// What the delegate works with; all of it must outlive it.
+    /// All of it must outlive the delegate.
     struct Dependencies {
         platform::MainLoop& mainLoop;
         const platform::Screens& screens;
@@ -41,28 +41,28 @@ public:
         const ThemeController& theme;
         Surfaces& surfaces;
         StatisticsWindow& statistics;
-        /// What the status item says at this moment.
+        /// The status item's current title.
         std::function<StatusTitle()> title;
-        /// The status menu as it stands at this moment.
+        /// The current status menu.
         std::function<MenuRows()> menu;
     };
 
     explicit AppDelegate(Dependencies dependencies);
     ~AppDelegate();
 
-    /// Once, when the main loop is about to run.
+    /// Called once, before the main loop runs.
     void applicationDidFinishLaunching();
 
-    /// The whole of the shutdown: everything is written.
+    /// Shuts down: writes everything.
     void applicationWillTerminate();
 
     /// The program was started again, or asked to come to the front.
     void applicationShouldHandleReopen();
 
-    /// The session may be about to end: what is known is written, and counting goes on.
+    /// The session may be about to end: writes everything, and counting continues.
     void flushAllStores();
 
-    /// Puts the floating clock on the screen or takes it away, and keeps that over restarts.
+    /// Shows or hides the floating clock, persistently.
     void toggleVisible();
 
     void refreshStatusBarTitle();
@@ -70,8 +70,7 @@ public:
 private:
     using Work = void (AppDelegate::*)();
 
-    /// Does `work` in a job of its own, after those that are waiting already; not at all if this object is
-    /// gone by then.
+    /// Posts `work` to the main loop; dropped if this object has been destroyed by then.
     void postLater(Work work);
     void applyLayoutChange();
     void observeBroadcasts();
@@ -92,7 +91,7 @@ private:
     std::vector<Connection> observers_;
     std::unique_ptr<platform::RepeatingTimer> menuRefreshTimer_;
     int secondsWithoutTray_ = 0;
-    /// Jobs that were posted and run after this object is gone find it expired.
+    /// Expires with this object, for posted jobs.
     std::shared_ptr<AppDelegate*> self_ = std::make_shared<AppDelegate*>(this);
 };
 

@@ -72,7 +72,7 @@ void ExportCommands::exportReport() {
         if (dependencies_.generateReport(path)) {
             revealFile(dependencies_.desktop, dependencies_.dialogs, path, "No se pudo mostrar el reporte");
         } else {
-            // A report that could not be written is only logged; its place is shown all the same.
+            // A report that could not be written is only logged; its path is revealed anyway.
             dependencies_.desktop.reveal(path, [](const Status&) {});
         }
     });

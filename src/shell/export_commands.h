@@ -17,11 +17,11 @@
 
 namespace tidewatch {
 
-/// What writes the record into files of the user's choosing. All of them ask for the place first and return
-/// at once; an answer that is no place ends them without a word. Main thread only.
+/// Exports the record to files of the user's choice. All commands are asynchronous: they first show a save
+/// dialog, and cancelling it ends them silently. Main thread only.
 class ExportCommands final {
 public:
-    /// What the commands work on; all of it must outlive this object.
+    /// All of it must outlive this object.
     struct Dependencies {
         const TimerEngine& engine;
         DailyStore& days;
@@ -33,19 +33,19 @@ public:
         platform::FileSystem& files;
         platform::Desktop& desktop;
         Dialogs& dialogs;
-        /// Writes the report of the month; false if it could not be written.
+        /// Writes the monthly report; returns false on failure.
         std::function<bool(const std::string& path)> generateReport;
     };
 
     explicit ExportCommands(Dependencies dependencies);
 
-    /// Today's applications, whatever day is on show.
+    /// Today's applications, whatever day is selected.
     void exportCSV();
 
-    /// The whole history of a project; nothing for one that is there no more.
+    /// The whole history of a project; no effect for one that no longer exists.
     void exportProjectCSV(const Uuid& id);
 
-    /// The month on a page. Shows the place in the file manager, also after a failure, which is not told.
+    /// The monthly report. Reveals the path in the file manager, even after a failure, which is only logged.
     void exportReport();
 
 private:

@@ -12,16 +12,16 @@ namespace tidewatch {
 struct MenuRow;
 using MenuRows = std::vector<MenuRow>;
 
-/// One row of a menu: a separator, a submenu (children), a command (action) or, with neither, a disabled row
-/// that only tells something.
+/// One row of a menu: a separator, a submenu (children), a command (action) or, with neither, a disabled
+/// informational row.
 struct MenuRow {
-    std::string title{};  ///< what a user named may be empty, or of any length
+    std::string title{};  ///< user-defined names may be empty, or of any length
     bool checked = false;
     std::optional<char> keyEquivalent{};
     std::optional<RgbColor> swatch{};  ///< a dot of this colour before the title
     std::function<void()> action{};
     MenuRows children{};
-    bool separates = false;  ///< a line between other rows, with nothing of the above
+    bool separates = false;  ///< a separator, without any of the above
 
     [[nodiscard]] static MenuRow separator() { return {.separates = true}; }
     [[nodiscard]] bool isEnabled() const { return action || !children.empty(); }

@@ -68,7 +68,7 @@ MenuRow dayStartMenu(const Settings& settings, StatusCommands& commands) {
     return menu;
 }
 
-/// What the session keeps the program from noticing, if anything.
+/// What the session prevents the program from seeing, if anything.
 void appendInputCoverage(MenuRows& rows, platform::InputCoverage coverage) {
     using platform::InputCoverage;
     if (coverage == InputCoverage::nothing)
@@ -78,7 +78,7 @@ void appendInputCoverage(MenuRows& rows, platform::InputCoverage coverage) {
     }
 }
 
-/// The least uncategorised time that is worth a row.
+/// The minimum uncategorised time that is shown.
 constexpr Seconds significantUncategorized{60};
 
 ProductivityScore scoreOfToday(const DailyStore& days, const ProductivityScorer& scorer) {

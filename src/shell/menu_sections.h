@@ -16,12 +16,12 @@
 
 namespace tidewatch {
 
-// What a section is made from must outlive it, and commands also the rows that it makes.
+// The arguments must outlive the section, and commands also its rows.
 
 /// How productive today has been.
 [[nodiscard]] MenuSection scoreSection(const DailyStore& days, const ProductivityScorer& scorer);
 
-/// What is counted, and what the session keeps the program from noticing.
+/// The current counts, and what the session prevents the program from seeing.
 [[nodiscard]] MenuSection countingSection(const TimerEngine& engine,
                                           const platform::InputActivity& inputActivity);
 
@@ -32,23 +32,23 @@ namespace tidewatch {
 [[nodiscard]] MenuSection appearanceSection(const ThemeRegistry& themes, const ThemeController& theme,
                                             const Settings& settings, StatusCommands& commands);
 
-/// From when on the user is away, and when a day begins.
+/// The idle threshold and the start of the day.
 [[nodiscard]] MenuSection countingRuleSection(const Settings& settings, StatusCommands& commands);
 
 /// The submenu of projects.
 [[nodiscard]] MenuSection projectSection(const ProjectStore& projects, ProjectCommands& commands,
                                          ExportCommands& exports);
 
-/// Whether the floating clock is on the screen, and its return to 0.
+/// Showing, hiding and resetting the floating clock.
 [[nodiscard]] MenuSection clockSection(const Settings& settings, StatusCommands& commands);
 
-/// The record, to look at and to take away.
+/// Statistics, data file and exports.
 [[nodiscard]] MenuSection recordSection(StatusCommands& commands, ExportCommands& exports);
 
 /// Whether the program starts with the session.
 [[nodiscard]] MenuSection loginSection(const platform::LoginItem& loginItem, StatusCommands& commands);
 
-/// The end of the program.
+/// Quitting.
 [[nodiscard]] MenuSection endSection(StatusCommands& commands);
 
 }  // namespace tidewatch

@@ -9,14 +9,14 @@
 
 namespace tidewatch {
 
-/// What the rows about projects do. A command for a project that is there no more does nothing. Main thread
+/// The commands of the project menu. A command for a project that no longer exists has no effect. Main thread
 /// only.
 class ProjectCommands final {
 public:
     /// Both must outlive this object.
     ProjectCommands(ProjectStore& projects, Dialogs& dialogs) : projects_(projects), dialogs_(dialogs) {}
 
-    /// Nothing stands for no project.
+    /// Nullopt deactivates the active project.
     void switchProject(std::optional<Uuid> id);
 
     /// Asks for a name. The new project becomes the active one at once.
@@ -26,7 +26,7 @@ public:
     void archiveProject(const Uuid& id);
     void unarchiveProject(const Uuid& id);
 
-    /// Asks whether it is meant.
+    /// Asks for confirmation.
     void deleteProject(const Uuid& id);
 
 private:

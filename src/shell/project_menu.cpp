@@ -11,7 +11,7 @@ namespace tidewatch {
 
 namespace {
 
-/// What the colours of new projects are called, in their order.
+/// The names of the project colours, in their order.
 constexpr std::array<std::string_view, 8> colorTitles = {"Verde",  "Azul", "Ámbar",   "Rojo",
                                                          "Morado", "Teal", "Naranja", "Rosa"};
 

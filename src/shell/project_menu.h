@@ -7,7 +7,7 @@
 
 namespace tidewatch {
 
-/// The submenu of projects as they stand at this moment. The commands must outlive the row.
+/// The submenu of the current projects. The commands must outlive the row.
 [[nodiscard]] MenuRow projectMenu(const ProjectStore& projects, ProjectCommands& commands,
                                   ExportCommands& exports);
 

@@ -7,8 +7,8 @@
 
 namespace tidewatch {
 
-/// The menu that says what an application is and what that counts as, as it stands at this moment. A choice
-/// is followed by a reload of `model`. Both must outlive the rows.
+/// The menu for an application's category and that category's tier, with the current ones checked. A choice
+/// reloads `model`. Both must outlive the rows.
 [[nodiscard]] MenuRows reclassifyMenu(const AppId& app, CategoryStore& categories, DashboardModel& model);
 
 }  // namespace tidewatch

@@ -7,8 +7,8 @@
 
 namespace tidewatch {
 
-/// Shows the file at the absolute `path` in the file manager. Where there is none, a dialog under `title`
-/// says where the file lies. Both must outlive the main loop.
+/// Shows the file at the absolute `path` in the file manager. If there is none, a dialog with `title` shows
+/// the path. Both must outlive the main loop.
 inline void revealFile(platform::Desktop& desktop, Dialogs& dialogs, const std::string& path,
                        const std::string& title) {
     desktop.reveal(path, [&dialogs, path, title](const Status& shown) {

@@ -16,10 +16,10 @@
 
 namespace tidewatch {
 
-/// What the rows of the status menu do. Main thread only.
+/// The commands of the status menu. Main thread only.
 class StatusCommands final {
 public:
-    /// What the commands work on; all of it must outlive this object.
+    /// All of it must outlive this object.
     struct Dependencies {
         Settings& settings;
         const Broadcaster& broadcaster;
@@ -30,7 +30,7 @@ public:
         platform::LoginItem& loginItem;
         Dialogs& dialogs;
         StatisticsWindow& statistics;
-        /// Puts the floating clock on the screen or takes it away.
+        /// Shows or hides the floating clock.
         std::function<void()> toggleVisible;
         std::function<void()> refreshStatusBarTitle;
         std::function<void()> terminate;
@@ -47,7 +47,7 @@ public:
 
     void showStats();
 
-    /// A failure is told in a dialog.
+    /// A failure is shown in a dialog.
     void revealData();
     void toggleLoginItem();
 

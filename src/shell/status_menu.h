@@ -7,13 +7,13 @@
 
 namespace tidewatch {
 
-/// A feature's part of the status menu: appends its rows as they stand at this moment.
+/// A feature's part of the status menu: appends its current rows.
 using MenuSection = std::function<void(MenuRows&)>;
 
-/// The status menu from top to bottom: a line between two groups, none within one.
+/// The status menu from top to bottom, with separators between groups.
 using MenuGroups = std::vector<std::vector<MenuSection>>;
 
-/// The status menu as it stands at this moment.
+/// Builds the current status menu.
 [[nodiscard]] MenuRows buildStatusMenu(const MenuGroups& groups);
 
 }  // namespace tidewatch

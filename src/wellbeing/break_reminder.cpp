@@ -63,7 +63,7 @@ void BreakReminder::triggerAlert(DayLength length, Seconds totalToday) {
     postNotification();
 }
 
-// One turn later, so that whoever watches has seen the alert before the message goes out.
+// Posted, so that listeners have seen the alert before the notification is shown.
 void BreakReminder::postNotification() {
     mainLoop_.post([alive = std::weak_ptr(alive_),
                     notification = std::visit(NotificationTexts{textsOf(stretch_)}, reason_)] {

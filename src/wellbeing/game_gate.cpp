@@ -18,7 +18,7 @@ constexpr std::string_view lockedUntil = "gate.lockedUntil";
 
 constexpr int chargesBetweenPersists = 30;
 
-// An edited preference may name a moment that no Instant can hold, or that leaves no room to reckon with.
+// An edited preference may be out of range for Instant or for arithmetic with it.
 constexpr Instant latestLock = std::chrono::sys_days(9999y / 12 / 31);
 
 using RealSeconds = std::chrono::duration<double>;
@@ -76,7 +76,7 @@ GameGate::Lock GameGate::endLockIfOver() {
 }
 
 void GameGate::charge() {
-    // What an edited preference holds beyond the hour is not counted further.
+    // An edited preference may exceed the hour; do not count further.
     if (workSeconds_ < workToUnlock) workSeconds_ += Seconds(1);
     if (workSeconds_ < workToUnlock) {
         if (++chargedSincePersist_ >= chargesBetweenPersists) persist();

@@ -18,12 +18,12 @@
 namespace tidewatch {
 namespace {
 
-// The toolkit places letters on whole dots in places: this makes them too small to matter.
+// In places the toolkit positions letters on whole dots: this makes dots negligibly small.
 constexpr int dotsPerPoint = 20;
 constexpr int pointsPerInch = 72;
 
 QString lineText(std::string_view utf8) {
-    // What comes from elsewhere may hold line ends, which a line cannot.
+    // External text may contain line breaks.
     return text(utf8).simplified();
 }
 
@@ -31,13 +31,13 @@ QString lineText(std::string_view utf8) {
 QFont toPageFont(const FontSpec& spec) {
     auto font = toQFont(spec);
     font.setPixelSize(static_cast<int>(std::lround(spec.size * dotsPerPoint)));
-    // A ligature is one glyph for two letters, and a search for them does not find it.
+    // A ligature is one glyph for two letters, which a text search does not find.
     font.setStyleStrategy(
         static_cast<QFont::StyleStrategy>(QFont::NoSubpixelAntialias | QFont::PreferNoShaping));
     return font;
 }
 
-// A piece of a line that is drawn in one go; lengths in dots.
+// A run of text drawn in one call; lengths in dots.
 struct Run {
     QString text;
     double x = 0;  // from the line's start

@@ -31,7 +31,7 @@ constexpr double barHeight = 8;
 constexpr double barRadius = 2;
 constexpr double nameColumn = 150;
 
-// One measure for all typefaces, so that the page keeps its lines whichever of them are on the machine.
+// The same metrics for all typefaces, so that the layout does not depend on the installed fonts.
 constexpr double ascent(double size) {
     return std::round(size * 0.95);
 }
@@ -48,7 +48,7 @@ std::string figures(const GoalProgress& goal) {
     return hm(goal.currentSeconds) + " / " + hm(goal.targetSeconds);
 }
 
-// A text that is yet to get its place.
+// A text without a position yet.
 struct Line {
     std::string text;
     FontSpec font;
@@ -181,7 +181,7 @@ private:
         return textWidth_(text.text, text.font, text.tracking);
     }
 
-    // With the blank after it, which in a monospaced family is as wide as a digit.
+    // Including the following space, which in a monospaced family is as wide as a digit.
     [[nodiscard]] double widthOfSymbol(const Metric& metric, const FontSpec& valueFont) const {
         const double width = widthOf({metric.symbol, starFont(valueFont.size)});
         return width > 0 ? width + widthOf({"0", valueFont}) : 0;

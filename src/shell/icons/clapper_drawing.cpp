@@ -7,8 +7,8 @@ namespace tidewatch {
 
 namespace {
 
-/// Where the toolkit joins or strokes paths it makes polygons of their curves, fine enough for lengths of
-/// many pixels but not for these; so it is given paths so much larger.
+/// The toolkit flattens curves when it joins or strokes paths, too coarsely for these small dimensions; so
+/// paths are enlarged by this factor.
 constexpr double fineness = 64;
 
 QPainterPath enlarged(const QPainterPath& path) {

@@ -6,10 +6,10 @@
 
 namespace tidewatch {
 
-/// The brand's figure: a clapperboard whose slate is a clock. Its parts as paths, filled or to be filled, in
-/// a coordinate system whose y grows upward.
+/// The brand's logo: a clapperboard whose slate is a clock. Its parts as filled paths, in a coordinate system
+/// with y growing upward.
 struct ClapperDrawing {
-    QPainterPath slate;  ///< the outline of the body, as the area of its line
+    QPainterPath slate;  ///< the stroked outline of the body
     QPainterPath bar;
     QPainterPath hands;
     QPainterPath dot;
@@ -17,14 +17,14 @@ struct ClapperDrawing {
     [[nodiscard]] QPainterPath whole() const;
 };
 
-/// What the figure is drawn from; lengths in the units of the drawing.
+/// The dimensions of the logo, in units of the drawing.
 struct ClapperMetrics {
     QRectF slate;
     double slateCorner = 0;
     double slateLine = 0;
     double handLine = 0;
     double dotDiameter = 0;
-    QRectF bar;  ///< before it is turned
+    QRectF bar;  ///< before rotation
     double barCorner = 0;
     double barTurn = 0;  ///< radians, counterclockwise
     QPointF barPivot;

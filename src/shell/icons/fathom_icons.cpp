@@ -11,7 +11,7 @@ namespace tidewatch::fathom {
 
 namespace {
 
-/// Points of the drawing of the application's icon, a side.
+/// The side of the application icon's drawing, in points.
 constexpr double appIconUnits = 160;
 
 QColor colour(const Color& from) {

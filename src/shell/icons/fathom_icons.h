@@ -10,13 +10,13 @@ namespace tidewatch::fathom {
 inline constexpr double menubarIconWidth = 17;
 inline constexpr double menubarIconHeight = 15;
 
-/// The area of the brand's figure, in points, y growing downward; to be filled with one colour.
+/// The filled shape of the brand's logo, in points, y growing downward.
 [[nodiscard]] QPainterPath menubarIconShape();
 
-/// The same drawn in one colour on clear ground, `scale` pixels to a point.
+/// The same in one colour on a transparent background, `scale` pixels per point.
 [[nodiscard]] QImage menubarIcon(double scale, const QColor& tint);
 
-/// The brand's figure on a rounded square of `pixels` a side, 1 or more.
+/// The brand's logo on a rounded square with sides of `pixels`, 1 or more.
 [[nodiscard]] QImage appIcon(int pixels);
 
 }  // namespace tidewatch::fathom

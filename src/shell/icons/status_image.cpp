@@ -29,7 +29,7 @@ QColor moodColour(StatusTitle::Mood mood) {
 const QColor iconTint(0xEC, 0xEA, 0xE4);
 const QColor halo(0, 0, 0, 120);
 
-/// The outline of a text of this height of capitals, its width at most `width`, standing on the origin.
+/// The outline of a text with this cap height and at most this width, its baseline at the origin.
 QPainterPath textPath(const QString& text, double capHeight, double width) {
     QFont font(tidewatch::text(fathom::sansFamily));
     font.setPixelSize(100);
@@ -44,7 +44,7 @@ QPainterPath textPath(const QString& text, double capHeight, double width) {
     return QTransform::fromScale(wide, tall).map(path.translated(-bounds.left(), 0));
 }
 
-/// The dash of a day of which nothing can be said yet. Drawn, so that no font is loaded for it.
+/// The dash of a day without a score. Drawn, so that no font is loaded for it.
 QPainterPath dashPath(double capHeight) {
     QPainterPath path;
     path.addRoundedRect(QRectF(0, -0.62 * capHeight, 1.5 * capHeight, 0.28 * capHeight), 0.14 * capHeight,

@@ -6,8 +6,8 @@
 
 namespace tidewatch {
 
-/// The status item for a tray, which gives it a square of `pixels` a side: the brand's figure above, the
-/// day's figure below it. Legible on light and dark trays.
+/// The tray icon as a square with sides of `pixels`: the brand's logo above, the day's figure below. Legible
+/// on light and dark trays.
 [[nodiscard]] QImage statusImage(int pixels, const StatusTitle& title);
 
 }  // namespace tidewatch

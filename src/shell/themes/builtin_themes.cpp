@@ -109,7 +109,7 @@ Theme editorialTheme() {
 }
 
 Theme minimalTheme() {
-    // The panel's material is dark on every desktop, so the desktop's colours are those on dark ground.
+    // The panel is dark on every desktop, so it uses the system colours for dark backgrounds.
     constexpr auto ground = Appearance::dark;
     return {
         .id = "minimal",

@@ -9,7 +9,7 @@
 
 namespace tidewatch {
 
-/// What lies behind the dashboard's cards.
+/// The decoration behind the dashboard's cards.
 enum class Decoration { none, paperGrain, scanlines, liquid };
 
 inline constexpr std::size_t gamePieceCount = 7;
@@ -40,7 +40,7 @@ struct DashboardStyle {
     bool operator==(const DashboardStyle&) const = default;
 };
 
-/// Strength of the colours of the moving background where it lies behind the dashboard.
+/// The colour intensity of the animated background behind the dashboard.
 inline constexpr double liquidDecorationIntensity = 0.45;
 
 }  // namespace tidewatch

@@ -20,7 +20,7 @@ inline constexpr Color blue = Color::hex6(0x6B9ED4);
 inline constexpr Color red = Color::hex6(0xD15757);
 inline constexpr Color amber = Color::hex6(0xE8C458);
 
-/// The same colours for window frames and printed pages, which carry three decimals.
+/// The same colours for window frames and printed pages, with three decimals.
 inline constexpr Color inkNS{0.039, 0.039, 0.039};
 inline constexpr Color paperNS{0.957, 0.945, 0.918};
 inline constexpr Color greenNS{0.482, 0.847, 0.561};

@@ -2,7 +2,7 @@
 
 namespace tidewatch {
 
-/// Which kind of type; the toolkit's side knows what each is on this machine.
+/// The role of a font; `ui` maps it to families on this machine.
 enum class FontRole {
     serif,             ///< the brand's serif
     mono,              ///< the brand's monospaced family
@@ -15,7 +15,7 @@ enum class FontRole {
 
 enum class FontWeight { light, regular, medium, semibold, bold };
 
-/// Whether all ten digits take the same width.
+/// Whether all ten digits have the same width.
 enum class Digits { proportional, monospaced };
 
 /// A font as the themes ask for it.

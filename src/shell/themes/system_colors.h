@@ -5,15 +5,15 @@
 
 namespace tidewatch {
 
-/// Whether dark text stands on light ground or light text on dark.
+/// Dark text on a light background, or light text on a dark one.
 enum class Appearance { light, dark };
 
 /// The colours that belong to the desktop rather than to the brand.
 enum class SystemColor { primary, secondary, green, gray };
 
-/// What each is here, where the desktop has no such names: text as black or white that lets a little of
-/// its ground through, secondary text at just over half of that, and the green and gray of status lights.
-/// The gray stands on both grounds alike, because palettes without an appearance use it too.
+/// Their values on desktops without such system colours: text is slightly transparent black or white,
+/// secondary text at just over half opacity, and the green and gray of status indicators. The gray is the
+/// same in both appearances, because palettes without an appearance use it too.
 [[nodiscard]] constexpr Color systemColor(SystemColor color, Appearance appearance) {
     const bool dark = appearance == Appearance::dark;
     switch (color) {

@@ -9,7 +9,7 @@
 
 namespace tidewatch {
 
-/// What the floating clock's panel is painted with.
+/// The background of the floating clock's panel.
 enum class PanelBackground { ochre, editorial, minimal, hacker, liquid };
 
 /// Points of the unscaled drawing.
@@ -28,7 +28,7 @@ struct PanelPadding {
     bool operator==(const PanelPadding&) const = default;
 };
 
-/// How the floating clock looks and how the dashboard is coloured. A plain record; never changes.
+/// The appearance of the floating clock and the colours of the dashboard. Immutable.
 struct Theme {
     std::string id;           ///< stored in the settings
     std::string displayName;  ///< shown in the menu

@@ -9,7 +9,7 @@
 
 namespace tidewatch {
 
-/// Which theme is active. Main thread only.
+/// Holds the active theme. Main thread only.
 class ThemeController final {
 public:
     /// Starts with the theme that the settings name. All three must outlive this object.
@@ -17,11 +17,11 @@ public:
 
     [[nodiscard]] const Theme& active() const { return *active_; }
 
-    /// Activates the theme of this id, then stores the id as it was given, then broadcasts ThemeChanged;
-    /// also when nothing changes. An unknown id activates the first theme and is stored all the same.
+    /// Activates the theme with this id, then stores the given id, then broadcasts ThemeChanged, even if
+    /// nothing changes. An unknown id activates the first theme and is stored as given.
     void switchTo(std::string_view id);
 
-    /// Emitted each time that `active` has been set anew, before it is stored.
+    /// Emitted each time the active theme is set, before it is stored.
     Signal<> changed;
 
 private:

@@ -15,7 +15,7 @@ public:
 
     [[nodiscard]] std::span<const Theme> themes() const { return themes_; }
 
-    /// The theme of this id; the first one if there is none. Lives as long as the registry.
+    /// The theme with this id, or the first one if unknown. Valid for the registry's lifetime.
     [[nodiscard]] const Theme& theme(std::string_view id) const;
 
 private:

@@ -5,7 +5,7 @@
 
 namespace tidewatch {
 
-/// The light and the hairlines of laid paper, behind the dashboard. Takes no clicks.
+/// The shading and hairlines of laid paper behind the dashboard. Ignores clicks.
 class EditorialPaperGrain : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -15,7 +15,7 @@ public:
     void paint(QPainter* painter) override;
 };
 
-/// The lines of an old screen, behind the dashboard. Takes no clicks.
+/// CRT scan lines behind the dashboard. Ignores clicks.
 class HackerScanlines : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -5,7 +5,7 @@
 
 namespace tidewatch {
 
-/// Calls back on the frames of the display for as long as it runs: on every one, or on every `every`-th.
+/// While running, calls `tick` on every display frame, or on every n-th.
 class FrameTicker final : public QAbstractAnimation {
     Q_OBJECT
 

@@ -9,7 +9,7 @@
 namespace tidewatch {
 namespace {
 
-/// Below this width, in pixels, the orbs would lose their shape; above the other one nothing is gained.
+/// In pixels: below the minimum the orbs lose their shape, above the maximum nothing is gained.
 constexpr double minWidth = 48;
 constexpr double maxWidth = 160;
 
@@ -101,7 +101,7 @@ void LiquidBackground::watch(QQuickWindow* window) {
 }
 
 bool LiquidBackground::eventFilter(QObject* watched, QEvent* event) {
-    // The window learns of its exposure from this very event, so it is asked afterwards.
+    // The window updates its exposure from this very event, so query it afterwards.
     if (event->type() == QEvent::Expose || event->type() == QEvent::Hide) {
         QMetaObject::invokeMethod(this, &LiquidBackground::updateMoving, Qt::QueuedConnection);
     }

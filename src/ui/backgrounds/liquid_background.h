@@ -13,12 +13,12 @@
 
 namespace tidewatch {
 
-/// The moving background of liquid crystal. It is painted small and scaled up, and only while `running` is
-/// true, the item is visible and its window is on the screen: otherwise it costs nothing.
+/// The animated liquid-crystal background. It is painted at a reduced size and scaled up, and only while
+/// `running` is true, the item is visible and its window is exposed.
 class LiquidBackground : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    /// Where the movement stands; without it the liquid stands still.
+    /// Drives the animation; without it the liquid does not move.
     Q_PROPERTY(tidewatch::WallClock* time READ time WRITE setTime NOTIFY changed FINAL)
     /// Strength of the colours, from 0 to 1.
     Q_PROPERTY(double intensity READ intensity WRITE setIntensity NOTIFY changed FINAL)
@@ -27,9 +27,9 @@ class LiquidBackground : public QQuickPaintedItem {
     /// Pixels to a point of the unscaled drawing.
     Q_PROPERTY(double unit READ unit WRITE setUnit NOTIFY changed FINAL)
     Q_PROPERTY(bool translucent READ translucent WRITE setTranslucent NOTIFY changed FINAL)
-    /// How many times smaller it is painted than shown.
+    /// The factor by which it is painted smaller than shown.
     Q_PROPERTY(double reduction READ reduction WRITE setReduction NOTIFY changed FINAL)
-    /// Paints on every so many-th frame of the display; 1 or more.
+    /// Repaints every n-th display frame; 1 or more.
     Q_PROPERTY(int everyFrames READ everyFrames WRITE setEveryFrames NOTIFY changed FINAL)
     Q_PROPERTY(bool running READ running WRITE setRunning NOTIFY changed FINAL)
 
@@ -54,7 +54,7 @@ public:
     [[nodiscard]] bool running() const { return running_; }
     void setRunning(bool running);
 
-    /// Whether it is being painted anew frame by frame at this moment.
+    /// Whether it is currently animating.
     [[nodiscard]] bool isMoving() const { return ticker_.state() == QAbstractAnimation::Running; }
 
     void paint(QPainter* painter) override;

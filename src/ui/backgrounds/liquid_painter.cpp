@@ -23,10 +23,10 @@ constexpr double blurRadius = 28;
 constexpr double spectrumOpacity = 0.7;
 constexpr double baseOpacity = 0.18;
 
-/// What lies under the liquid where the desktop cannot.
+/// The base under the liquid on an opaque panel.
 constexpr Color deepWater{0.05, 0.05, 0.09};
 
-/// Round the colour wheel in steps of a pastel, so that neighbours melt into one another.
+/// Pastel steps around the colour wheel, so that neighbours blend.
 constexpr std::array<Color, 7> spectrum = {{
     {1, 0.42, 0.62},
     {1, 0.74, 0.42},
@@ -43,13 +43,13 @@ double angleAt(double seconds, double period) {
     return std::fmod(seconds, period) / period * 360;
 }
 
-/// A square image of a whole wheel, large enough to cover a box of `box` pixels however it is turned.
+/// A square image of a wheel, large enough to cover a box of `box` pixels at any rotation.
 template <std::size_t Count>
 QImage wheelImage(QSize box, const std::array<Color, Count>& stops) {
     const int side = static_cast<int>(std::ceil(std::hypot(box.width(), box.height()))) + 2;
     QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
     QConicalGradient gradient(QRectF(image.rect()).center(), 0);
-    // The last stop leads back into the first.
+    // The last stop equals the first.
     for (std::size_t i = 0; i <= Count; ++i) {
         gradient.setColorAt(static_cast<double>(i) / Count, toQColor(stops[i % Count]));
     }
@@ -73,7 +73,7 @@ QImage glintsImage(const LiquidSetting& setting) {
     return wheelImage(setting.pixels, colors);
 }
 
-/// Angles grow against the clock.
+/// Angles are counterclockwise.
 void drawTurned(QPainter& painter, const QImage& image, QPointF centre, double angle) {
     painter.save();
     painter.translate(centre);
@@ -95,7 +95,7 @@ void paintOrb(QPainter& painter, const SpecularOrb& orb, double pixelsPerPoint) 
     painter.drawEllipse(orb.centre, outer, outer);
 }
 
-/// Light from the upper left, and a shade below in which white letters can be read.
+/// Light from the upper left, and a shade below that makes white text legible.
 QLinearGradient sheen(const QRectF& box) {
     QLinearGradient gradient(box.topLeft(), box.bottomRight());
     gradient.setColorAt(0, toQColor(Color::whiteAt(0.24)));
@@ -155,7 +155,7 @@ void paintLiquid(QPainter& painter, const QImage& layers, const PanelShape& shap
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     QBrush liquid(layers);
-    // From the middle of the outermost pixels on: beyond them the brush would mix in the opposite edge.
+    // From the centre of the outermost pixels: beyond them the brush would blend in the opposite edge.
     liquid.setTransform(QTransform::fromTranslate(-0.5, -0.5) *
                         QTransform::fromScale(shape.size.width() / std::max(1, layers.width() - 1),
                                               shape.size.height() / std::max(1, layers.height() - 1)));

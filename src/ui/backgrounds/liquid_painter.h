@@ -10,7 +10,7 @@
 
 namespace tidewatch {
 
-/// Where the three movements of the liquid stand, in degrees from 0 up to but not including 360.
+/// The phases of the three animations, in degrees, 0 inclusive to 360 exclusive.
 struct LiquidAngles {
     double spectrum = 0;  ///< turns once in 18 seconds
     double glints = 0;    ///< once in 9
@@ -20,26 +20,26 @@ struct LiquidAngles {
 /// `seconds` since any fixed moment, not below 0.
 [[nodiscard]] LiquidAngles liquidAngles(double seconds);
 
-/// A spot of light, in the measures of the box that it moves in.
+/// A highlight, in the coordinates of its box.
 struct SpecularOrb {
     QPointF centre;
     double diameter = 0;
 };
 [[nodiscard]] std::array<SpecularOrb, 4> specularOrbs(QSizeF box, double orbAngle);
 
-/// What a small image of the liquid is painted for.
+/// The parameters of a reduced image of the liquid.
 struct LiquidSetting {
     QSize pixels;          ///< of the small image
-    QSizeF points;         ///< of the panel that it stands for, unscaled
+    QSizeF points;         ///< of the panel that it represents, unscaled
     double intensity = 1;  ///< strength of the colours, 0 to 1
     Ground ground = Ground::translucent;
 
     bool operator==(const LiquidSetting&) const = default;
 };
 
-/// The layers of the liquid in a small image: everything in it is soft, so that it can be scaled up without
-/// being told from one painted at full size. The two wheels of colour and of light are painted once and then
-/// only turned, the first one blurred beforehand: a round blur does not mind the turning.
+/// Paints the layers of the liquid into a small image: everything in it is soft, so that scaling it up is not
+/// noticeable. The colour and highlight wheels are painted once and then only rotated, the first one blurred
+/// beforehand: an isotropic blur is invariant under rotation.
 class LiquidPainter final {
 public:
     explicit LiquidPainter(const LiquidSetting& setting);
@@ -55,7 +55,7 @@ private:
     QImage glints_;
 };
 
-/// Lays a small image over the panel, rounded if its ground is translucent, with a thin stroke at the edge.
+/// Draws a small image over the panel, rounded if its ground is translucent, with a thin border.
 void paintLiquid(QPainter& painter, const QImage& layers, const PanelShape& shape);
 
 }  // namespace tidewatch

@@ -7,7 +7,7 @@
 
 namespace tidewatch {
 
-/// The still background of the clock's panel; painted again only when it changes.
+/// The static background of the clock's panel; repainted only on changes.
 class PanelBackgroundItem : public QQuickPaintedItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(PanelBackground)
@@ -16,7 +16,7 @@ class PanelBackgroundItem : public QQuickPaintedItem {
     Q_PROPERTY(double cornerRadius READ cornerRadius WRITE setCornerRadius NOTIFY changed FINAL)
     /// Pixels to a point of the unscaled drawing.
     Q_PROPERTY(double unit READ unit WRITE setUnit NOTIFY changed FINAL)
-    /// Whether the corners are left out and the desktop may show through.
+    /// Whether the corners are rounded and the desktop may show through.
     Q_PROPERTY(bool translucent READ translucent WRITE setTranslucent NOTIFY changed FINAL)
 
 public:

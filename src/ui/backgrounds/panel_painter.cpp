@@ -33,8 +33,8 @@ void paintEditorial(QPainter& painter, const PanelShape& shape) {
     drawBorder(painter, shape, toQColor(Color::blackAt(0.07)), 0.5);
 }
 
-/// A dark sheet of glass. No desktop blurs what lies behind a window for everybody, so the sheet is dense
-/// enough for its digits to be read over anything.
+/// A dark pane. Blurring behind windows is not available everywhere, so it is dense enough for its digits to
+/// be legible over anything.
 void paintMinimal(QPainter& painter, const PanelShape& shape) {
     const double density = shape.ground == Ground::translucent ? 0.78 : 1;
     painter.fillPath(shape.area(), toQColor(Color{0.135, 0.135, 0.145}.at(density)));

@@ -5,9 +5,8 @@
 
 namespace tidewatch {
 
-/// Paints the background of the clock's panel. A translucent one is rounded and leaves its corners as they
-/// are; an opaque one fills the rectangle, to be cut by the window. For PanelBackground::liquid, which
-/// moves, it paints nothing.
+/// Paints the background of the clock's panel. A translucent one is rounded; an opaque one fills the
+/// rectangle, which the window clips. Paints nothing for PanelBackground::liquid, which is animated.
 void paintPanel(QPainter& painter, PanelBackground background, const PanelShape& shape);
 
 }  // namespace tidewatch

@@ -11,7 +11,7 @@ namespace tidewatch {
 /// Whether the desktop behind a panel may show through it.
 enum class Ground { translucent, opaque };
 
-/// A panel to be painted, in pixels of the painter, its top left corner at (0, 0).
+/// The geometry of a panel in the painter's pixels, its top left corner at (0, 0).
 struct PanelShape {
     QSizeF size;
     double cornerRadius = 0;
@@ -23,12 +23,12 @@ struct PanelShape {
     /// The rounded panel.
     [[nodiscard]] QPainterPath outline() const;
 
-    /// What is to be filled: the rounded panel, or its whole rectangle if the window does the rounding.
+    /// The area to fill: the rounded panel, or its whole rectangle if the window does the rounding.
     [[nodiscard]] QPainterPath area() const;
 };
 
-/// Draws a line along the inner side of the panel's edge, round its corners; `width` in points of the
-/// unscaled drawing, but at least one pixel of the screen.
+/// Draws a border inside the panel's edge; `width` in points of the unscaled drawing, but at least one screen
+/// pixel.
 void drawBorder(QPainter& painter, const PanelShape& shape, const QColor& color, double width);
 
 }  // namespace tidewatch

@@ -11,7 +11,7 @@ void setPictureSize(QQuickPaintedItem& item, const QSizeF& size) {
                       static_cast<int>(std::ceil(covered.height())));
     const double ratio = item.window() != nullptr ? item.window()->effectiveDevicePixelRatio() : 1;
     item.setContentsSize(whole);
-    // Without this, a picture with a size of its own is painted in points and enlarged.
+    // Otherwise a texture with an explicit size is painted in points and scaled up.
     item.setTextureSize((QSizeF(whole) * ratio).toSize());
     item.update();
 }

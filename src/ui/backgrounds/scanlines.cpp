@@ -7,7 +7,7 @@
 namespace tidewatch {
 namespace {
 
-/// Below this many pixels of the screen from line to line there is no room for a line and a gap.
+/// The minimum line distance in screen pixels that leaves room for a line and a gap.
 constexpr double closestStep = 1.5;
 
 }  // namespace

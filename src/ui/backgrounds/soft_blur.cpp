@@ -13,14 +13,14 @@ namespace {
 constexpr int passes = 3;
 constexpr std::size_t channels = 4;
 
-/// A row or column of an image: `count` pixels that lie `stride` bytes apart.
+/// A row or column of an image: `count` pixels, `stride` bytes apart.
 struct Strip {
     uchar* first;
     std::size_t count;
     std::size_t stride;
 };
 
-/// The half width of the average that has to be taken three times to give this deviation.
+/// The radius of the box blur that, applied three times, gives this deviation.
 int halfWidth(double deviation) {
     const double width = std::sqrt(12 * deviation * deviation / passes + 1);
     return static_cast<int>(std::lround((width - 1) / 2));

@@ -7,7 +7,7 @@
 
 namespace tidewatch {
 
-/// The wall clock as the moving backgrounds read it, frame by frame.
+/// The wall clock for animated backgrounds.
 class WallClock final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -18,7 +18,7 @@ public:
     explicit WallClock(const platform::Clock& clock, QObject* parent = nullptr)
         : QObject(parent), clock_(clock) {}
 
-    /// Seconds since the beginning of 2001, UTC, with their fraction.
+    /// Fractional seconds since the beginning of 2001, UTC.
     [[nodiscard]] double secondsSinceReferenceDate() const;
 
 private:

@@ -6,16 +6,16 @@
 
 namespace tidewatch {
 
-/// A ring that is filled from 12 o'clock clockwise, with round ends. As large as fits into the item.
+/// A ring filled clockwise from 12 o'clock, with round ends. As large as fits into the item.
 class DonutRing : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    /// From 0 to 1, and 1 for anything above; negative for an empty ring.
+    /// 0 to 1, clamped above; negative for an empty ring.
     Q_PROPERTY(double fraction READ fraction WRITE setFraction NOTIFY fractionChanged FINAL)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
-    /// Of the ring itself, below the filled part.
+    /// The colour of the unfilled ring.
     Q_PROPERTY(QColor track READ track WRITE setTrack NOTIFY trackChanged FINAL)
-    /// Of the ring, in pixels.
+    /// In pixels.
     Q_PROPERTY(double thickness READ thickness WRITE setThickness NOTIFY thicknessChanged FINAL)
 
 public:

@@ -10,8 +10,8 @@
 
 namespace tidewatch {
 
-/// A list for views whose rows change in place: what stays keeps its delegate. Every row has the one role
-/// "row".
+/// A list model whose rows are updated in place, so that unchanged rows keep their delegates. Every row has
+/// the single role "row".
 class RowListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -25,7 +25,7 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override { return {{rowRole, "row"}}; }
 };
 
-/// Such a list of `Row`s, values that can be compared and that have an `id` of their own among the rows.
+/// A list of `Row`s: equality-comparable values with a unique `id`.
 template <class Row>
 class RowList final : public RowListModel {
 public:
@@ -42,7 +42,7 @@ public:
         return QVariant::fromValue(rows_[static_cast<std::size_t>(index.row())]);
     }
 
-    /// Brings the list to `target` by removing, moving, inserting and changing single rows.
+    /// Makes the list equal to `target` by removing, moving, inserting and changing single rows.
     void setRows(const std::vector<Row>& target) {
         removeAllBut(target);
         for (std::size_t place = 0; place < target.size(); ++place) bringTo(place, target[place]);

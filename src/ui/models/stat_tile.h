@@ -6,7 +6,7 @@
 
 namespace tidewatch {
 
-/// A figure with its name and a word about it, as a card of its own.
+/// A figure with a title and a subtitle, shown as a card.
 class StatTile final {
     Q_GADGET
     QML_VALUE_TYPE(statTile)

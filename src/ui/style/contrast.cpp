@@ -6,7 +6,7 @@
 namespace tidewatch {
 namespace {
 
-// The relative luminance of sRGB colours as the guidelines for accessible content define it.
+// The relative luminance of sRGB colours as defined by WCAG.
 double linear(double part) {
     return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
 }

@@ -7,22 +7,21 @@
 
 namespace tidewatch {
 
-/// Registers for this process every file ".ttf" of the folder "Fonts" in the program's resources. What
-/// cannot be registered is passed over: text then falls to the desktop's own families. To be called once,
-/// before the first view. Gives the number of files registered.
+/// Registers every .ttf file in the folder "Fonts" of the program's resources for this process. Files that
+/// cannot be registered are ignored: text then uses the fallback families. Must be called once, before the
+/// first view. Returns the number of registered files.
 int registerFonts();
 int registerFonts(const QString& folder);
 
-/// Where the program's own fonts lie: beside the program, or where an installation puts its data.
+/// The folder of the program's fonts: beside the program, or in the installed data directory.
 [[nodiscard]] QString fontsFolder();
 
-/// The font on this machine, with the families to fall back on; unhinted, so that it looks and measures the
-/// same at every scale. The toolkit has whole pixels only: a fraction is rounded, and is to be had by drawing
-/// a larger font smaller.
+/// The font with its fallback families; unhinted, so that its appearance and metrics are the same at every
+/// scale. The toolkit has whole pixel sizes only: fractions are rounded; scale the painter for others.
 [[nodiscard]] QFont toQFont(const FontSpec& spec);
 
-/// The brand's monospaced font in the cuts that the brand uses (light, medium and semibold; every other
-/// weight is the regular one); the desktop's own monospaced font of that weight where it is missing.
+/// The brand's monospaced font in the weights that the brand uses (light, medium and semibold; regular for
+/// any other); the desktop's monospaced font of that weight if it is missing.
 [[nodiscard]] QFont monoNSFont(double size, FontWeight weight);
 
 }  // namespace tidewatch

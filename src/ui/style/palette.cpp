@@ -6,10 +6,10 @@
 namespace tidewatch {
 namespace {
 
-/// Nothing of the liquid behind the dashboard is brighter.
+/// The brightest colour of the liquid behind the dashboard.
 constexpr Color brightestLiquid = Color::whiteLevel(0.8);
 
-/// Covers just so much of it that the quietest words of the theme can be read.
+/// Dense enough for the theme's faintest text to be legible.
 constexpr double liquidCover = 0.75;
 
 QColor groundOf(const DashboardStyle& style) {

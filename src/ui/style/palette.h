@@ -9,7 +9,7 @@
 
 namespace tidewatch {
 
-/// The colours of a DashboardStyle as the views read them.
+/// The colours of a DashboardStyle for the views.
 class Palette final {
     Q_GADGET
     QML_ANONYMOUS
@@ -54,8 +54,8 @@ public:
     QColor tierOther;
     QColor amber;
     QColor onFill;      ///< of text and symbols on a fill of one of the tiers' colours
-    QColor ground;      ///< under cards and words where what lies behind them is lively; else transparent
-    QColor textGround;  ///< what text on a card stands on, opaque; the brightest there is of it
+    QColor ground;      ///< below cards and text on busy backgrounds; else transparent
+    QColor textGround;  ///< the brightest opaque background of text on a card
 
     bool operator==(const Palette&) const = default;
 };

@@ -11,8 +11,8 @@
 
 namespace tidewatch {
 
-/// What all views share: the active theme's palette, the measures and the brand's fonts. One in an engine,
-/// made by it on first use; wears the first theme until it is told to follow a controller.
+/// The style shared by all views: the active theme's palette, metrics and the brand's fonts. One per engine,
+/// created by it on first use; uses the first theme until follow() is called.
 class Style final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -31,10 +31,10 @@ public:
 
     explicit Style(QObject* parent = nullptr);
 
-    /// The one of this engine, which owns it. Nothing if the engine does not know the module.
+    /// The engine's instance, owned by the engine. Null if the module is not imported.
     [[nodiscard]] static Style* of(QQmlEngine& engine);
 
-    /// Wears the active theme of `controller`, which must outlive this object, from now on.
+    /// Applies the active theme of `controller`, which must outlive this object, now and on changes.
     void follow(ThemeController& controller);
 
     [[nodiscard]] const Palette& palette() const { return palette_; }
@@ -49,15 +49,15 @@ public:
     Q_INVOKABLE [[nodiscard]] QFont sans(double size, tidewatch::Style::Weight weight) const;
     Q_INVOKABLE [[nodiscard]] QFont system(double size, tidewatch::Style::Weight weight) const;
 
-    /// The font of headings: small, heavy and spaced capitals, whatever the case of the text.
+    /// The font of headings: small, bold, letter-spaced capitals, whatever the case of the text.
     Q_INVOKABLE [[nodiscard]] QFont heading() const;
 
-    /// `font` with so many pixels more between its letters.
+    /// `font` with this letter spacing in pixels.
     Q_INVOKABLE [[nodiscard]] QFont tracked(const QFont& font, double spacing) const;
 
-    /// `color` as text can wear it on `ground`: as it is where it is easy to read there, else as much darker
-    /// or lighter as it must be. It depends on nothing else, so that a view that gives it the palette's
-    /// ground is asked again when the theme changes.
+    /// `color` adjusted for text on `ground`: unchanged if legible, else just as much darker or lighter as
+    /// needed. Depends only on its arguments, so that a binding to the palette's ground is re-evaluated when
+    /// the theme changes.
     Q_INVOKABLE [[nodiscard]] QColor legibleOn(const QColor& ground, const QColor& color) const;
 
 Q_SIGNALS:

@@ -61,7 +61,7 @@ void AppIconView::paint(QPainter* painter) {
     if (std::max(rendered_.width(), rendered_.height()) != pixels) {
         rendered_ = icon_.pixmap(QSize(pixels, pixels), 1.0);
     }
-    // An icon that is smaller than wanted is enlarged, one that is not square keeps its shape.
+    // A smaller icon is scaled up; the aspect ratio is kept.
     const auto size = QSizeF(rendered_.size()).scaled(side_, side_, Qt::KeepAspectRatio);
     const QRectF place((side_ - size.width()) / 2, (side_ - size.height()) / 2, size.width(), size.height());
     painter->setRenderHint(QPainter::SmoothPixmapTransform);

@@ -9,8 +9,8 @@
 
 namespace tidewatch {
 
-/// An application's icon, as high and wide as its `side`: the desktop's own, or a symbol of ours. Where the
-/// desktop has no icon of that name, or one that must not be opened, the symbol of an application in general.
+/// An application's icon, `side` pixels high and wide: from the desktop, or one of our symbols. If the
+/// desktop has no such icon, or one that must not be opened, a generic application symbol.
 class AppIconView : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -54,7 +54,7 @@ private:
     double side_ = 0;
     QIcon icon_;
     QPainterPath symbol_;
-    // The icon as it was last painted: rendering one anew can take milliseconds.
+    // The rendered icon: rendering can take milliseconds.
     QPixmap rendered_;
 };
 

@@ -7,16 +7,15 @@
 
 namespace tidewatch {
 
-/// A symbol by its name in the symbol table, in one colour, as high and wide as its `side`.
-/// A name that is not in the table draws nothing.
+/// A symbol from the symbol table, in one colour, `side` pixels high and wide. An unknown name draws nothing.
 class Symbol : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged FINAL)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
     Q_PROPERTY(double side READ side WRITE setSide NOTIFY sideChanged FINAL)
-    /// Degrees clockwise that the drawing is turned by; smooth, unlike the item's own rotation. What is
-    /// turned needs an item larger than its `side` so as to keep its corners.
+    /// Clockwise rotation in degrees; antialiased, unlike the item's own rotation. The item must be larger
+    /// than `side` so as not to clip the corners.
     Q_PROPERTY(double turn READ turn WRITE setTurn NOTIFY turnChanged FINAL)
 
 public:

@@ -4,14 +4,14 @@
 
 namespace tidewatch {
 
-// Symbols of our own, each to be filled and as large as fits into a square of side 1 at (0, 0).
+// Our own symbols as filled paths, each as large as fits into the unit square at (0, 0).
 
 /// A five-pointed star with slightly rounded points.
 [[nodiscard]] QPainterPath filledStar();
 [[nodiscard]] QPainterPath hollowStar();
 
 [[nodiscard]] QPainterPath filledCircle();
-/// A window with its bar and the three buttons in it: an application that has no picture of its own.
+/// A window with a title bar and three buttons: an application without an icon.
 [[nodiscard]] QPainterPath appWindow();
 
 /// A round bomb with a light on its body and a burning fuse.

@@ -7,8 +7,8 @@
 
 namespace tidewatch {
 
-/// A row of symbols in one drawing, so that small ones stand at exactly equal distances. Names and colours
-/// belong together by their place; of the longer list the rest is ignored.
+/// A row of symbols in one drawing, so that small ones are spaced evenly. Names and colours correspond by
+/// index; extra elements of the longer list are ignored.
 class SymbolRow : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

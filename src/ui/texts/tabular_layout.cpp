@@ -7,11 +7,10 @@
 namespace tidewatch {
 namespace {
 
-/// A colon is a third as wide as its cell in a monospaced font; this leaves it some air.
+/// A colon takes a third of its cell in a monospaced font; this leaves it some space.
 constexpr double closeColon = 0.55;
 
-/// Narrower digits, in pixels of the screen, would be changed too much by whole pixels, and cannot be read
-/// anyway.
+/// Narrower digits, in screen pixels, would be distorted by rounding, and are illegible anyway.
 constexpr double minWholeCell = 4;
 
 enum class Colons { asInFont, close };

@@ -8,7 +8,7 @@
 
 namespace tidewatch {
 
-/// A piece of a line that is drawn in one go, `x` pixels from the line's start.
+/// A run of text drawn in one call, `x` pixels from the line's start.
 struct TabularRun {
     QString text;
     double x = 0;
@@ -18,23 +18,22 @@ struct TabularRun {
 struct TabularLine {
     std::vector<TabularRun> runs;
     double width = 0;   ///< without the letter spacing after the last letter
-    double shrink = 1;  ///< what the drawing has to be scaled by to keep within the maximum width
+    double shrink = 1;  ///< the scale needed to keep within the maximum width
 };
 
 /// Lengths in the font's own pixels.
 struct TabularOptions {
     Digits digits = Digits::proportional;
-    double wordGap = -1;      ///< what a blank takes; negative for the font's own blank
+    double wordGap = -1;      ///< the width of a space; negative for the font's own
     double maximumWidth = 0;  ///< 0 for none
-    double screenPixel = 0;   ///< a pixel of the screen; 0 for a page without pixels
+    double screenPixel = 0;   ///< the size of a screen pixel; 0 for a page without pixels
 
     bool operator==(const TabularOptions&) const = default;
 };
 
-/// Lays out one line. With monospaced digits every digit stands in the middle of a cell as wide as the
-/// widest digit, so that a running clock does not tremble; cells are whole pixels of the screen, so that a
-/// digit looks the same in each of them. A line that is wider than allowed first draws its colons closer,
-/// then is to be drawn smaller.
+/// Lays out one line. With monospaced digits every digit is centred in a cell as wide as the widest digit, so
+/// that a running clock does not jitter; cells are whole screen pixels, so that a digit looks the same in
+/// each of them. A line that is too wide first narrows its colons, then is scaled down.
 [[nodiscard]] TabularLine layOutTabular(const QString& text, const QFont& font,
                                         const TabularOptions& options);
 

@@ -12,11 +12,11 @@
 namespace tidewatch {
 namespace {
 
-/// Letters below this size, in pixels of the screen, lose half of their colour to the smoothing of edges.
-/// They are drawn twice, which gives it back without making them bolder.
+/// Letters below this size, in screen pixels, lose half of their colour to antialiasing. Drawing them twice
+/// restores it without making them bolder.
 constexpr double faintSize = 12;
 
-/// How far below the letters the layers of the shade lie, in the font's pixels.
+/// The vertical offsets of the shadow's layers, in the font's pixels.
 constexpr std::array shadeDrops = {0.3, 0.6, 0.9, 1.2};
 
 }  // namespace
@@ -96,21 +96,22 @@ void TabularText::componentComplete() {
 }
 
 void TabularText::relayout() {
-    // While a view is being made, the font may not be there yet: the desktop's would be loaded for nothing.
+    // While a view is being created, the font may not be set yet: the default one would be loaded for
+    // nothing.
     if (!isComponentComplete()) return;
     auto options = options_;
     options.screenPixel = screenPixel() / unit_;
     line_ = layOutTabular(text_, font_, options);
     const double scale = unit_ * line_.shrink;
     const QFontMetricsF metrics(font_);
-    // Room on both sides for letters that reach out of their own width.
+    // Room on both sides for letters that overhang their advance width.
     const double overhang =
         text_.isEmpty()
             ? 0
             : std::max({0.0, -metrics.leftBearing(text_.front()), -metrics.rightBearing(text_.back())});
     const QSizeF exact((line_.width + 2 * overhang) * scale, metrics.height() * scale);
     setImplicitSize(exact.width(), exact.height());
-    // The picture is of whole pixels; the layout goes by what the line takes.
+    // The texture has whole pixels; the implicit size is the line's exact one.
     setPictureSize(*this, exact);
 }
 
@@ -122,7 +123,7 @@ void TabularText::geometryChange(const QRectF& to, const QRectF& from) {
 void TabularText::paint(QPainter* painter) {
     const double scale = unit_ * line_.shrink;
     const double pixel = screenPixel();
-    // Of two pixels equally near the upper one: lines of letters look centred a little above their middle.
+    // On a tie round up: text looks centred slightly above its middle.
     const auto onPixel = [pixel](double length) { return std::floor(length / pixel + 0.4) * pixel; };
     const QFontMetricsF metrics(font_);
     painter->translate(onPixel((width() - line_.width * scale) / 2), onPixel(metrics.ascent() * scale));

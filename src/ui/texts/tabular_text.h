@@ -9,8 +9,8 @@
 
 namespace tidewatch {
 
-/// One line of text whose digits stand in cells of equal width, in a font of the unscaled drawing that is
-/// drawn `unit` times as large. As wide and high as its line; letters stand on whole pixels of the screen.
+/// One line of text with tabular digits, in a font of the unscaled drawing, scaled by `unit`. Its implicit
+/// size is that of its line; letters are aligned to screen pixels.
 class TabularText : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -18,12 +18,12 @@ class TabularText : public QQuickPaintedItem {
     Q_PROPERTY(QFont font READ font WRITE setFont NOTIFY layoutChanged FINAL)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged FINAL)
     Q_PROPERTY(bool equalDigits READ equalDigits WRITE setEqualDigits NOTIFY layoutChanged FINAL)
-    /// What a blank takes, in the font's pixels; negative for the font's own blank.
+    /// The width of a space, in the font's pixels; negative for the font's own.
     Q_PROPERTY(double wordGap READ wordGap WRITE setWordGap NOTIFY layoutChanged FINAL)
-    /// What the line may take, in the font's pixels; a longer one is drawn closer and then smaller. 0: all.
+    /// The maximum width in the font's pixels; a longer line is narrowed, then scaled down. 0 for unlimited.
     Q_PROPERTY(double maximumWidth READ maximumWidth WRITE setMaximumWidth NOTIFY layoutChanged FINAL)
     Q_PROPERTY(double unit READ unit WRITE setUnit NOTIFY layoutChanged FINAL)
-    /// A soft shade under the letters, for grounds on which they would be lost; transparent for none.
+    /// A soft shadow under the letters for legibility; transparent for none.
     Q_PROPERTY(QColor shade READ shade WRITE setShade NOTIFY colorChanged FINAL)
 
 public:

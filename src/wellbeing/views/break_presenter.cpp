@@ -51,7 +51,7 @@ void BreakPresenter::dismiss() {
 }
 
 void BreakPresenter::sync() {
-    // The texts first, so that an alert never comes up with those of the last one.
+    // Texts first, so that an alert never appears with those of the previous one.
     if (stretch_ != reminder_.stretch() || reason_ != reminder_.reason()) {
         stretch_ = reminder_.stretch();
         reason_ = reminder_.reason();
