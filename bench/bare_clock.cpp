@@ -1,7 +1,7 @@
-// The least that a clock on the screen costs with this toolkit: a window with a text that changes each
-// second. What the program costs is held against it in the same run.
+// The minimum cost of a clock on the screen with this toolkit: a window with a text that changes each second.
+// The baseline for the program's cost in the same run.
 //
-// Usage: bare_clock X Y, the window's place.
+// Usage: bare_clock X Y, the window's position.
 
 #include <QGuiApplication>
 #include <QPainter>

@@ -1,5 +1,5 @@
-// What the statistics window reads of a ten-year record: the whole of a day every two seconds, and the look
-// back over everything.
+// What the statistics window computes from a ten-year record: a whole day every two seconds, and the insights
+// over everything.
 
 #include "analysis/dashboard_model.h"
 #include "analysis/insights_engine.h"

@@ -1,4 +1,5 @@
-// A day of a ten-year record as the statistics window reads it, and a copy of the whole for the insights.
+// A day of a ten-year record as the statistics window reads it, and a snapshot of everything for the
+// insights.
 
 #include "bench/support/bench_world.h"
 #include "bench/support/ratio.h"
@@ -35,7 +36,7 @@ int main() {
             }
         },
         1);
-    // The status item asks every second.
+    // The status item needs it every second.
     verdicts.computation(
         "score of a day, ten years",
         [&] {
@@ -44,7 +45,7 @@ int main() {
             }
         },
         0.1);
-    // Insights over everything have 5 ms.
+    // The limit of insights over everything is 5 ms.
     verdicts.computation(
         "snapshots of hours and minutes, ten years",
         [&] {

@@ -1,6 +1,6 @@
-// Writing the counter files of a ten-year record beside the main thread, against the least that any program
-// would have to do for the same bytes: copy them once, write, sync, rename and sync the directory. And what
-// the flushes of a minute cost the machine, while the user works and while nobody does.
+// Writing the counter files of a ten-year record in the background, relative to the minimum that any program
+// would have to do for the same bytes: copy them once, write, sync, rename and sync the directory. And the
+// cost of a minute's flushes, while the user works and while idle.
 
 #include <fcntl.h>
 #include <time.h>
@@ -75,7 +75,7 @@ struct Cost {
     double megabytes = 0;     // written
 };
 
-/// What the two flushes of a minute cost, `flush` being one of them.
+/// The cost of the two flushes of a minute, `flush` being one of them.
 Cost costOfAMinute(FlushBench& bench, const std::function<void()>& flush) {
     Cost cost;
     const auto begin = processorTime();

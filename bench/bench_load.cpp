@@ -1,4 +1,4 @@
-// Reading a record of one to twenty years at the start, and what it takes in memory afterwards.
+// Loading a record of one to twenty years at start-up, and its memory use afterwards.
 
 #include <fmt/format.h>
 #include <malloc.h>
@@ -28,7 +28,7 @@ double megabytesOnDisk(const BenchWorld& world) {
     return static_cast<double>(bytes) / 1e6;
 }
 
-// Ten years are to take 80 ms and 15 MB for 40 MB in files; more or less of it, in proportion.
+// Ten years may take 80 ms and 15 MB for 40 MB in files; other amounts in proportion.
 constexpr double maxMillisecondsPerMegabyte = 80.0 / 40;
 constexpr double maxHeapPerMegabyte = 15.0 / 40;
 

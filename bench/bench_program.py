@@ -1,4 +1,4 @@
-"""What the whole program costs, on an empty record and on one of ten years: memory, processor time, start."""
+"""The cost of the whole program, with an empty and a ten-year record: memory, processor time, start-up."""
 
 import os
 import subprocess
@@ -40,7 +40,7 @@ RECORDS = (Record("empty record", 45, False), Record("ten-year record", 60, True
 
 
 class Report:
-    """What was measured beside its limit; only a run that judges can exceed one."""
+    """Measurements with their limits; limits are only enforced with TIDEWATCH_BENCH=judge."""
 
     def __init__(self):
         self.exceeded = False
@@ -70,7 +70,7 @@ def start_bare_clock(world):
 
 
 def milliseconds_to_digits(world, start, stop):
-    """From the start of a process until its digits are on the screen."""
+    """The time from process start until its digits are on the screen."""
     process = start()
     wait_until(lambda: shows_digits(world), "the digits", every=0.002)
     elapsed = time.monotonic() - process.started

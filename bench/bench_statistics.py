@@ -1,4 +1,4 @@
-"""What the statistics window costs on a ten-year record: its opening, its refresh, its memory while open and after."""
+"""The cost of the statistics window with a ten-year record: opening, refresh, memory while open and afterwards."""
 
 import json
 import os

@@ -1,4 +1,4 @@
-// The longest streak that is counted, on a ten-year record in which every day of it is good.
+// The maximum streak, on a ten-year record in which every day counts.
 
 #include <array>
 #include <string_view>
@@ -20,8 +20,8 @@ using namespace tidewatch::bench;
 constexpr std::chrono::sys_days today = std::chrono::January / 15 / 2026;
 constexpr int daysThatCount = 400;
 
-// Weekends and what lies after the record's end get a full day with every application, so that no day is
-// cheaper than a working day.
+// Weekends and days after the record's end get a full day with every application, so that no day is cheaper
+// than a working day.
 void fillGaps(LargeRecord& record, const std::vector<AppSeconds>& fullDay) {
     for (int i = 0; i <= daysThatCount; ++i) {
         const auto day = toDayKey(today - std::chrono::days(i));

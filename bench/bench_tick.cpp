@@ -1,5 +1,5 @@
-// One second of work on a ten-year record: an ordinary one, and the 30th, which hands the record to the queue
-// that writes it, with the one after it, which books to what is being written.
+// One tick on a ten-year record: an ordinary one, and the 30th, which takes the snapshots to be written, with
+// the one after it, which books while they are being written.
 
 #include <algorithm>
 

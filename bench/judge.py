@@ -1,7 +1,7 @@
 """Runs one benchmark program: judge.py PROGRAM SCRATCH
 
-A trial by default. With TIDEWATCH_BENCH=judge its bars are judged: by the clock and by memory in one run, by the
-instructions of what is pure computation in another one under callgrind.
+A trial run by default. With TIDEWATCH_BENCH=judge its limits are checked: time and memory in one run, instructions of
+pure computation in another one under callgrind.
 """
 
 import os

@@ -34,13 +34,13 @@
 
 namespace tidewatch::bench {
 
-/// Ends the benchmark: what it would measure after a failure is not what it is about.
+/// Aborts the benchmark: measurements after a failure would be meaningless.
 inline void giveUp(const std::string& complaint) {
     std::fprintf(stderr, "%s\n", complaint.c_str());
     std::exit(2);
 }
 
-/// A machine with a real disk, a scripted user and clock, and a made-up record in its data directory.
+/// A machine with a real disk, scripted input and clock, and a generated record in its data directory.
 struct BenchWorld {
     explicit BenchWorld(const LargeRecord& record) {
         std::filesystem::create_directory(directory.path() + "/.tidewatch");
@@ -61,7 +61,7 @@ struct BenchWorld {
     platform::FakeLog log{giveUp};
 };
 
-/// All stores, the counters' files read.
+/// All stores, loaded.
 struct BenchStores {
     explicit BenchStores(BenchWorld& world)
         : settings(world.preferences),
@@ -109,7 +109,7 @@ struct BenchStores {
     ProjectTimeStore times;
 };
 
-/// The program's record as it runs in that world, with a project that is being worked on.
+/// The program's engine and stores in that world, with an active project.
 struct BenchCore : BenchStores {
     explicit BenchCore(BenchWorld& world)
         : BenchStores(world),

@@ -26,7 +26,7 @@ std::string dateText(std::chrono::sys_days day) {
                        static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()));
 }
 
-// Names as long and as alike as real ones are.
+// Names as long and as similar as real ones.
 std::vector<std::string> applicationNames(int count) {
     constexpr std::array patterns{"org.example.Editor{:02}", "firefox-{:02}", "com.example.mail.client{:02}",
                                   "xterm{:02}", "org.example.desktop.Files{:02}"};
@@ -69,7 +69,7 @@ private:
         }
     }
 
-    // The one place that knows which files a second of work reaches.
+    // The only place that knows which files contain a second of work.
     void book(const std::string& dayText, int bucket, std::string_view app, int count) {
         constexpr int firstBucket = 9 * bucketsPerHour;
         const int hour = (firstBucket + bucket) / bucketsPerHour;

@@ -9,7 +9,7 @@
 
 namespace tidewatch::bench {
 
-/// How much work a made-up record holds. The same values always give the same record.
+/// The size of a generated record. The same values always give the same record.
 struct RecordSize {
     int years = 10;
     int daysPerYear = 260;   ///< Mondays to Fridays
@@ -21,7 +21,7 @@ struct RecordSize {
     std::uint32_t seed = 20260115;
 };
 
-/// The record of somebody who has worked with the program for years, one part a data file.
+/// The record of somebody who has used the program for years, one member per data file.
 struct LargeRecord {
     CounterRecord today{1};
     CounterRecord apps{2};
@@ -37,7 +37,7 @@ struct LargeRecord {
 /// The projects that a record's seconds are booked to, as many as RecordSize asks for.
 [[nodiscard]] Uuid projectId(int project);
 
-/// Writes the record's files into the directory, which exists.
+/// Writes the record's files into an existing directory.
 void writeLargeRecord(const LargeRecord& record, const std::string& directory);
 
 }  // namespace tidewatch::bench

@@ -63,7 +63,7 @@ void Verdicts::race(std::string_view name, const std::function<void()>& work, do
     if (run_ == Run::counted) return;
     auto ours = Milliseconds::max();
     auto theirs = Milliseconds::max();
-    // In turns, so that a disk that is busy for a while is so for both.
+    // Alternating, so that a temporarily busy disk affects both.
     for (int round = 0; round < (run_ == Run::judged ? rounds : 1); ++round) {
         ours = std::min(ours, timed(work));
         theirs = std::min({theirs, timed(peer), timed(peer)});

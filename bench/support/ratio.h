@@ -9,41 +9,41 @@ namespace tidewatch::bench {
 
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
-/// How long one call takes on the steady clock.
+/// The duration of one call on the steady clock.
 [[nodiscard]] Milliseconds timed(const std::function<void()>& work);
 
-/// What a run of a benchmark is for.
+/// The mode of a benchmark run.
 enum class Run {
-    trial,    ///< everything is done once or twice and must come out right; nothing is judged
-    judged,   ///< TIDEWATCH_BENCH=judge: what goes by the clock or by memory is judged
-    counted,  ///< under callgrind: what is pure computation is judged, and nothing else is done
+    trial,    ///< everything runs once or twice and must be correct; no limit is checked
+    judged,   ///< TIDEWATCH_BENCH=judge: limits on time and memory are checked
+    counted,  ///< under callgrind: only limits on pure computation are checked
 };
 
-/// Does the work of one benchmark program and collects the verdicts on it.
+/// Runs the measurements of one benchmark program and collects the verdicts.
 ///
-/// A verdict must not depend on the machine. So pure computation is judged by the instructions that it takes,
-/// and what has to go by the clock against a peer that does the least that any program would have to do, in
-/// turns with it. bench/judge.py starts a program once for each of the two.
+/// A verdict must not depend on the machine. So pure computation is judged by its number of instructions, and
+/// anything else relative to a baseline that does the minimum any program would have to do, alternating with
+/// it. bench/judge.py starts a program once for each of the two.
 class Verdicts final {
 public:
     Verdicts();
 
     [[nodiscard]] Run run() const { return run_; }
 
-    /// Pure computation, for which a processor that does ten million instructions a millisecond (as one of
-    /// 3 GHz does) takes at most so long. The first call of `work` warms up and does not count.
+    /// Pure computation, limited to the given time on a processor with ten million instructions per
+    /// millisecond (about 3 GHz). The first call of `work` warms up and is not counted.
     void computation(std::string_view name, const std::function<void()>& work, double maxMilliseconds);
 
-    /// Work that the machine has a part in, a disk above all: at its best it takes at most `ratio` times what
-    /// `peer` takes at its best. `peerName` says what the peer does.
+    /// Work that depends on the machine, above all a disk: its best time must be at most `ratio` times that
+    /// of the baseline `peer`. `peerName` describes the baseline.
     void race(std::string_view name, const std::function<void()>& work, double ratio,
               std::string_view peerName, const std::function<void()>& peer);
 
-    /// An amount that is the same in each run. `bar` says where the limit comes from.
+    /// An amount that is the same in each run. `bar` describes the limit.
     void amount(std::string_view name, double measured, double limit, std::string_view unit,
                 std::string_view bar);
 
-    /// What main returns: 0 if every bar that was judged was met.
+    /// The exit status: 0 if all checked limits were met.
     [[nodiscard]] int exitCode() const { return failed_ ? 1 : 0; }
 
 private:
@@ -52,7 +52,7 @@ private:
     [[nodiscard]] double millionsOfInstructions(const std::function<void()>& work);
 
     Run run_;
-    std::string countsPath_;  // where callgrind leaves its counts, numbered from 1 on
+    std::string countsPath_;  // callgrind's output files, numbered from 1
     int counts_ = 0;
     bool failed_ = false;
 };

@@ -18,7 +18,7 @@ namespace tidewatch::test {
 
 inline const std::string goalsJson = "/home/user/.tidewatch/goals.json";
 
-/// One run of goals and rewards, and of what they build on, in a world.
+/// Goals, rewards and what they depend on, in a fake world.
 struct AnalysisFixture {
     explicit AnalysisFixture(FakeWorld& world)
         : settings(world.preferences),
@@ -44,7 +44,7 @@ struct AnalysisFixture {
     void setTime(const DayKey& day, int seconds) { daily.set(Seconds(seconds), day); }
     void setTime(std::chrono::year_month_day day, int seconds) { setTime(toDayKey(day), seconds); }
 
-    /// Adds seconds of applications that count as these tiers.
+    /// Books seconds to applications of these tiers.
     void addClassified(const DayKey& day, int productive, int distracting) {
         for (int i = 0; i < productive; ++i) apps.incrementApp(AppId("com.apple.dt.Xcode"), day);
         for (int i = 0; i < distracting; ++i) apps.incrementApp(AppId("com.netflix.Netflix"), day);

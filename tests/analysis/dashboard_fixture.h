@@ -13,7 +13,7 @@
 
 namespace tidewatch::test {
 
-/// One run of everything that the statistics window reads, in a world.
+/// Everything that the statistics window reads, in a fake world.
 struct DashboardFixture : ClassificationFixture {
     explicit DashboardFixture(FakeWorld& world)
         : ClassificationFixture(world),

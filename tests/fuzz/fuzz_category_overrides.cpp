@@ -1,4 +1,4 @@
-// What the user changed of the built-in classification.
+// The file of the user's classification.
 
 #include <string>
 

@@ -1,5 +1,5 @@
-// Counter files, against a strict reader and a writer of the test's own. The first byte of an input says how
-// deep the counters lie, the rest is the file.
+// Counter files, compared with a strict parser and an independent serializer. The first byte of an input is
+// the depth of the counters, the rest is the file.
 
 #include <array>
 #include <cmath>
@@ -16,7 +16,7 @@
 namespace tidewatch::fuzz {
 namespace {
 
-// More seconds than any life has.
+// 68 years in seconds.
 constexpr std::int64_t largest = 2'147'483'647;
 
 /// A branch has children, a leaf seconds.
@@ -26,7 +26,7 @@ struct Node {
 };
 
 std::optional<std::int64_t> secondsOf(const Json::Number& number) {
-    // All whole numbers in range are exact as doubles, and those out of range stay out of it.
+    // Integers in range are exact as doubles, and others stay out of range.
     const double real = realOf(number);
     if (std::trunc(real) != real || std::abs(real) > static_cast<double>(largest)) return std::nullopt;
     return static_cast<std::int64_t>(real);

@@ -1,4 +1,4 @@
-// Desktop entries, which any package and any program of the user may have put there.
+// Desktop entries, which any package or program may install.
 
 #include <algorithm>
 #include <string>

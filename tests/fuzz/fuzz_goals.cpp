@@ -1,4 +1,4 @@
-// The user's goals, against a strict reader.
+// The goals file, compared with a strict parser.
 
 #include <string>
 

@@ -1,5 +1,4 @@
-// Names of days and of ten minutes, identifiers and colours, as they stand in files that others may have
-// edited.
+// Keys of days and buckets, identifiers and colours in files that may have been edited.
 
 #include <algorithm>
 #include <cctype>

@@ -1,4 +1,4 @@
-// A preference as somebody typed it into the file, and every setting that could be meant by it.
+// A manually edited preference, read as every setting.
 
 #include <array>
 #include <charconv>

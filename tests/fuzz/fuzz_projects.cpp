@@ -1,4 +1,4 @@
-// The list of projects, against a strict reader; and each colour in it.
+// The projects file, compared with a strict parser; and each colour in it.
 
 #include <algorithm>
 #include <string>
@@ -25,7 +25,7 @@ bool isProject(const Json& json, const Project& project) {
            *color == project.colorHex && *archived == project.archived;
 }
 
-// Of a key that is given twice either may count.
+// Of duplicate keys either may win.
 bool givesAKeyTwice(const Json& json) {
     constexpr auto twice = [](const Json& object, std::string_view key) {
         return object.all(key).size() > 1;

@@ -1,4 +1,4 @@
-// What a process's sandbox tells of it, in files that the process itself may have written.
+// Sandbox metadata, in files that the process itself may have written.
 
 #include <algorithm>
 #include <string>

@@ -7,14 +7,14 @@
 
 namespace tidewatch::fuzz {
 
-/// Ends the run, and the input that led here is kept, unless `holds`.
+/// Aborts the run unless `holds`; the fuzzer keeps the input.
 inline void require(bool holds, const char* rule) {
     if (holds) return;
     std::fprintf(stderr, "This does not hold: %s\n", rule);
     std::abort();
 }
 
-/// What a target does with one input.
+/// Runs the target on one input.
 void check(std::string_view input);
 
 }  // namespace tidewatch::fuzz

@@ -1,4 +1,4 @@
-// Texts that need not be UTF-8: repaired, in lower case, without the white space around them.
+// Possibly invalid UTF-8: repaired, lower-cased, trimmed.
 
 #include <cctype>
 #include <string>
@@ -24,8 +24,7 @@ void requireLowerCased(std::string_view text) {
     const auto lower = lowerCased(text);
     require(lowerCased(lower) == lower, "what is in lower case stays");
     require(isUtf8(text) == isUtf8(lower), "what is UTF-8 stays so, and what is not as well");
-    // No character's lower case has a byte of ASCII where the character has none, but the Kelvin sign and the
-    // I with a dot.
+    // Only the Kelvin sign and the dotted I have an ASCII lower case.
     std::string asciiOnly;
     for (const char c : text) {
         if (static_cast<unsigned char>(c) < 0x80) asciiOnly += static_cast<char>(std::tolower(c));

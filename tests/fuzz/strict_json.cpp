@@ -34,7 +34,7 @@ void appendUtf8(std::string& out, std::uint32_t character) {
     }
 }
 
-// Recursive descent, one function a rule of the grammar. Each takes what it is about off `rest_`.
+// Recursive descent, one function per grammar rule. Each consumes its part of `rest_`.
 class Parser final {
 public:
     explicit Parser(std::string_view text) : rest_(text) {}

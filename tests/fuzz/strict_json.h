@@ -9,8 +9,7 @@
 
 namespace tidewatch::fuzz {
 
-/// A JSON value as it stands in its text: members in their order and with their repetitions, numbers as
-/// spelled.
+/// A JSON value as written: members in order, including duplicates, numbers unparsed.
 class Json final {
 public:
     struct Number {
@@ -36,7 +35,7 @@ public:
         if constexpr (std::is_same_v<Type, Members>) return kind_ == Kind::members ? &members_ : nullptr;
     }
 
-    /// The members of that name, in their order; none if it is no object.
+    /// The members with that name, in order; empty if it is no object.
     [[nodiscard]] std::vector<const Json*> all(std::string_view name) const;
 
 private:
@@ -50,15 +49,15 @@ private:
     Members members_;
 };
 
-/// Reads JSON to the letter of RFC 8259, after a byte order mark if there is one: a second opinion on what
-/// the program's reader, which is made for speed, takes and refuses. Half of a surrogate pair alone is no
-/// character, and what is not UTF-8 is no text. Nothing for what is nested more than 900 levels deep.
+/// Parses JSON strictly according to RFC 8259, after an optional byte order mark: an independent check of
+/// what the program's fast parser accepts. Rejects lone surrogates and invalid UTF-8. Returns nullopt for
+/// nesting deeper than 900 levels.
 [[nodiscard]] std::optional<Json> parseStrictly(std::string_view text);
 
-/// Whether `text` is UTF-8, to the letter of RFC 3629.
+/// Whether `text` is valid UTF-8 according to RFC 3629.
 [[nodiscard]] bool isUtf8(std::string_view text);
 
-/// The nearest double of a number as JSON spells it.
+/// The double nearest to a JSON number.
 [[nodiscard]] double realOf(const Json::Number& number);
 
 }  // namespace tidewatch::fuzz

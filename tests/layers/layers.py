@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Reads every #include and QML import under a source tree and tells which of them the plan of rooms forbids.
+"""Checks every #include and QML import in a source tree against the dependency rules of its rooms.
 
 Usage: layers.py SOURCE_DIRECTORY
 
-A room is a directory; the longest row of ROOMS that a file's path begins with is its room. What a row does not
-allow is forbidden. Prints one line a violation, "file:line: what", and ends with 1 if there is any.
+A room is a directory; a file belongs to the row of ROOMS with the longest matching path prefix. What a row does not
+allow is forbidden. Prints one line per violation, "file:line: what", and exits with 1 if there is any.
 """
 
 import re
@@ -41,7 +41,7 @@ MACHINE_HEADERS = {"filesystem", "fstream", "ctime", "csignal", "iostream"}
 
 @dataclass(frozen=True)
 class Room:
-    """May include the rooms and libraries it knows; `machine`: may ask the machine itself."""
+    """May include the rooms and libraries in `knows`; `machine`: may access the machine directly."""
 
     knows: frozenset
     libraries: frozenset
@@ -56,7 +56,7 @@ DOMAIN = ("core", "classification", "projects", "analysis", "wellbeing", "claude
 
 
 def rooms():
-    """The plan: each room with what it may know. A room always knows itself."""
+    """The dependency rules: each room with what it may include, always including itself."""
     plan = {
         "base": room(libraries="fmt utf8proc"),
         "platform/api": room("base"),
@@ -161,7 +161,7 @@ class Violation:
 
 
 def blanked(source, keep_strings):
-    """The source with comments, and if asked so literals, as blanks; every line keeps its number."""
+    """The source with comments, and optionally literals, replaced by spaces; line numbers are kept."""
 
     def blank(match):
         text = match.group(0)
@@ -173,7 +173,7 @@ def blanked(source, keep_strings):
 
 
 def room_of(path):
-    """The room of a path relative to the source tree, "" if no row of the plan holds it."""
+    """The room of a path relative to the source tree, or ""."""
     best = ""
     for name in ROOMS:
         if (path == name or path.startswith(name + "/")) and len(name) > len(best):
@@ -193,7 +193,7 @@ def library_of(header):
 
 
 def objection_to_include(source_root, own_room, header, quoted):
-    """Why a file of `own_room` may not include `header`; None if it may."""
+    """Why a file of `own_room` must not include `header`; None if it may."""
     plan = ROOMS[own_room]
     if quoted:
         target = room_of(header)
@@ -217,7 +217,7 @@ def objection_to_include(source_root, own_room, header, quoted):
 
 
 def check_cpp(source_root, path, own_room):
-    """The violations of one C++ file, and the other rooms that it includes."""
+    """The violations of one C++ file, and the rooms that it includes."""
     source = (source_root / path).read_text(encoding="utf-8")
     violations, neighbours = [], set()
     code = blanked(source, keep_strings=True)
@@ -301,7 +301,7 @@ def check_labels(path, code):
 
 
 def cycle_in(graph):
-    """Rooms that lead back to themselves, in order, as a list; empty if there are none."""
+    """A dependency cycle as a list of rooms; empty if there is none."""
     done, trail = set(), []
 
     def visit(node):

@@ -1,4 +1,4 @@
-// Runs the tests of windows and dialogs: on a screen in memory, with the scene graph that the program uses.
+// Runs the tests of windows and dialogs: off screen, with the program's scene graph.
 
 #include <gmock/gmock.h>
 

@@ -7,20 +7,20 @@
 
 namespace tidewatch::test {
 
-/// Chance that is the same everywhere for the same seed, unlike the standard distributions.
+/// Random numbers that are reproducible on every platform, unlike the standard distributions.
 class Chance final {
 public:
     explicit Chance(std::uint32_t seed) : generator_(seed) {}
 
-    /// `low` to `high`, both included.
+    /// `low` to `high`, inclusive.
     [[nodiscard]] int between(int low, int high) {
         return low + static_cast<int>(generator_() % static_cast<std::uint32_t>(high - low + 1));
     }
 
-    /// True once in `n` times.
+    /// True with a probability of 1 in `n`.
     [[nodiscard]] bool onceIn(int n) { return between(1, n) == 1; }
 
-    /// One of the elements; the sequence is not empty.
+    /// A random element of a non-empty sequence.
     template <class Sequence>
     [[nodiscard]] const auto& oneOf(const Sequence& sequence) {
         return sequence[static_cast<std::size_t>(between(0, static_cast<int>(std::size(sequence)) - 1))];

@@ -9,7 +9,7 @@
 
 namespace tidewatch::test {
 
-/// One run of the core with what its seconds count as.
+/// The core with its classification.
 struct ClassificationFixture : CoreFixture {
     explicit ClassificationFixture(FakeWorld& world, TickListeners listeners = {})
         : CoreFixture(world, listeners),

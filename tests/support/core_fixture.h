@@ -16,8 +16,8 @@
 
 namespace tidewatch::test {
 
-/// One run of the program's core in a world; a second one in the same world is the next start. Without a
-/// queue of its own for the disk it has one of the world's.
+/// The program's core in a fake world; a second one in the same world is a restart. `queue` writes to disk;
+/// null for one of the world's.
 struct CoreFixture {
     explicit CoreFixture(FakeWorld& world, TickListeners listeners = {},
                          std::unique_ptr<JobQueue> queue = nullptr)

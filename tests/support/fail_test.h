@@ -6,7 +6,7 @@
 
 namespace tidewatch::test {
 
-/// For FakeLog: what it complains of fails the running test.
+/// For FakeLog: fails the current test.
 inline void failTest(const std::string& complaint) {
     ADD_FAILURE() << complaint;
 }

@@ -8,8 +8,8 @@
 
 namespace tidewatch::test {
 
-/// A machine for a test: nine in the morning of 2026-01-15 in UTC, an empty disk, a user who is there, and
-/// no application in front. A warning that the test does not announce fails it.
+/// A fake machine for a test: 2026-01-15 09:00 UTC, an empty disk, an active user, and no frontmost
+/// application. An unexpected warning fails the test.
 struct FakeWorld : platform::FakeMachine {
     FakeWorld()
         : FakeMachine(std::chrono::sys_days(std::chrono::January / 15 / 2026) + std::chrono::hours(9),

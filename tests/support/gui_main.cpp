@@ -1,5 +1,4 @@
-// Runs the tests of what needs the toolkit: on a screen in memory, with the scene graph that the program
-// uses.
+// Runs the tests that need the toolkit: off screen, with the program's scene graph.
 
 #include <gmock/gmock.h>
 

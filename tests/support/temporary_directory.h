@@ -12,7 +12,7 @@
 
 namespace tidewatch::test {
 
-/// A new directory on the real disk, removed with all it holds at the end.
+/// A new directory on the real disk, removed recursively on destruction.
 class TemporaryDirectory final {
 public:
     TemporaryDirectory() {
@@ -29,14 +29,14 @@ public:
 
     [[nodiscard]] const std::string& path() const { return path_; }
 
-    /// Writes a file below the directory and makes the folders on the way.
+    /// Writes a file below the directory, creating parent folders.
     void write(const std::string& name, std::string_view content) const {
         const auto file = std::filesystem::path(path_) / name;
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file) << content;
     }
 
-    /// What a file below the directory holds; empty if there is none.
+    /// The content of a file below the directory; empty if there is none.
     [[nodiscard]] std::string read(const std::string& name) const {
         std::ifstream file(std::filesystem::path(path_) / name);
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

@@ -16,17 +16,17 @@
 
 namespace tidewatch {
 
-/// A window of the software scene graph with whatever view the components make, in any theme.
+/// A software-rendered window with a view made of the components, in any theme.
 class UiScene {
 public:
     UiScene();
     virtual ~UiScene();
 
-    /// Shows what `source` makes with these properties, in a window of this size. The toolkit and the style
-    /// are imported already.
+    /// Shows the QML `source` with these properties in a window of this size. Qt Quick and the style are
+    /// already imported.
     void show(const QString& source, QSize size = {480, 320}, const QVariantMap& properties = {});
 
-    /// The item of the view of this name; nothing if there is none.
+    /// The view's item with this objectName, or null.
     [[nodiscard]] QQuickItem* item(const QString& name) const;
 
     [[nodiscard]] QVariant seen(const char* property) const { return view_->property(property); }
@@ -34,7 +34,7 @@ public:
     /// Presses and releases a key in the window.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
-    /// Presses and releases the left button in the middle of `target`, or at this place in it.
+    /// Clicks the centre of `target`, or this position in it.
     void click(const QQuickItem& target);
     void click(const QQuickItem& target, QPointF place);
 

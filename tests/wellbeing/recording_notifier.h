@@ -6,7 +6,7 @@
 
 namespace tidewatch::test {
 
-/// Keeps what the user would be shown.
+/// Records notifications.
 class RecordingNotifier final : public Notifier {
 public:
     void notify(const platform::UserNotification& notification) override { shown.push_back(notification); }

@@ -5,7 +5,7 @@
 
 namespace tidewatch::demo {
 
-/// An application of the demonstration as the desktop would know it.
+/// An application of the demonstration as registered with the desktop.
 struct DemoApplication {
     std::string_view id;          ///< of its desktop entry
     std::string_view name;        ///< in Spanish
@@ -14,7 +14,7 @@ struct DemoApplication {
     std::string_view color;       ///< of its icon, "#RRGGBB"
 };
 
-/// Those that have a desktop entry. What else is worked in is unknown to the desktop.
+/// Applications with a desktop entry. Others in the record are unknown to the desktop.
 [[nodiscard]] std::span<const DemoApplication> demoApplications();
 
 }  // namespace tidewatch::demo

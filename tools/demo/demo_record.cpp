@@ -45,7 +45,7 @@ ProjectList makeProjects() {
     return list;
 }
 
-/// The feasts on which nobody works, and two spells of holidays.
+/// Public holidays and two vacations.
 bool isHoliday(sys_days day) {
     const year_month_day date(day);
     const auto isNth = [&](unsigned nth, month in) {
@@ -70,7 +70,7 @@ DayPlan workingDay(std::uint32_t seed) {
     return plan;
 }
 
-/// Nothing on a day off.
+/// Nullopt on a day off.
 std::optional<DayPlan> planOf(sys_days day, std::uint32_t seed) {
     auto plan = workingDay(seed);
     Chance chance(seed + 2);
@@ -128,7 +128,7 @@ private:
         }
     }
 
-    /// The one place that knows which files a minute of work reaches.
+    /// The only place that knows which files contain a minute of work.
     void book(const DayKey& day, sys_days date, const WorkedMinute& minute) {
         const auto sinceMidnight = static_cast<int>(minute.sinceMidnight.count());
         const int hour = sinceMidnight / 60;

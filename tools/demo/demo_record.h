@@ -10,13 +10,13 @@
 
 namespace tidewatch::demo {
 
-/// The time on the clock on the wall.
+/// Local time.
 struct WallMoment {
     std::chrono::sys_days day;
     std::chrono::minutes sinceMidnight{0};
 };
 
-/// A year in the life of somebody who writes programs, draws and answers mail for a small studio.
+/// A year of work of somebody who programs, designs and answers mail for a small studio.
 struct DemoRecord {
     CounterRecord today{1};
     CounterRecord apps{2};
@@ -28,9 +28,8 @@ struct DemoRecord {
     GoalSettings goals;
 };
 
-/// The year that ends `now`, with nothing in it that lies later. The day of `now` is a working day whatever
-/// it is called. The same arguments always give the same record, and days before that day do not depend on
-/// the time on it.
+/// The year ending at `now`. The day of `now` is a working day, whatever its weekday. Deterministic; earlier
+/// days do not depend on the time of day of `now`.
 [[nodiscard]] DemoRecord makeDemoRecord(const WallMoment& now, std::uint32_t seed = 20260421);
 
 }  // namespace tidewatch::demo

@@ -12,7 +12,7 @@ namespace {
 
 using std::chrono::minutes;
 
-/// What somebody is busy with for a while.
+/// An activity for a while.
 enum class Activity { mail, coding, drawing, writing, figures, meeting, drifting, playing };
 
 struct Ingredient {

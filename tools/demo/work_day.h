@@ -7,10 +7,10 @@
 
 namespace tidewatch::demo {
 
-/// Which of the projects a minute belongs to.
+/// The project of a minute.
 enum class Share { none, first, second };
 
-/// One minute at the machine.
+/// One minute of activity.
 struct WorkedMinute {
     std::chrono::minutes sinceMidnight;
     int seconds = 0;  ///< 1 to 60
@@ -18,20 +18,20 @@ struct WorkedMinute {
     Share share = Share::none;
 };
 
-/// How a day went.
+/// A day's activity.
 enum class Mood { good, usual, poor };
 
-/// What a day is like before it begins.
+/// The plan of a day.
 struct DayPlan {
     std::uint32_t seed = 0;
     Mood mood = Mood::usual;
     std::chrono::minutes start{0};   ///< since midnight
     std::chrono::minutes target{0};  ///< of work
     bool meeting = false;
-    bool evening = false;  ///< some play after supper
+    bool evening = false;  ///< games in the evening
 };
 
-/// The minutes of a day in ascending order, from one midnight to the next at most.
+/// The minutes of a day in ascending order, within that calendar day.
 [[nodiscard]] std::vector<WorkedMinute> liveThrough(const DayPlan& plan);
 
 }  // namespace tidewatch::demo

@@ -3,19 +3,19 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Tidewatch.Ui
 
-/*! The ground of the statistics window, with what the theme lays behind its cards. */
+/*! The background of the statistics window, with the theme's decoration behind the cards. */
 Rectangle {
     id: root
 
-    /*! What moves the grounds that move. */
+    /*! Drives animated backgrounds. */
     property WallClock time
 
-    /*! Whether anything of it can be seen, so that it is worth moving. */
+    /*! Whether any of it is visible; otherwise it is not animated. */
     property bool running: true
 
     color: Style.palette.bg
 
-    // Each is there only while its theme is worn: a painted item holds a picture as large as the window.
+    // Each exists only while its theme is active: a painted item holds a texture as large as the window.
     Repeater {
         model: Style.decoration === Style.PaperGrain ? 1 : 0
         delegate: EditorialPaperGrain {

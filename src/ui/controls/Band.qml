@@ -3,8 +3,8 @@ import QtQuick.Templates as T
 import Tidewatch.Ui
 
 /*!
-    What lies between the cards, on the ground that makes it legible over a lively background; where the background
-    is quiet, nothing of it is seen. Give it one child, which may fill it (`anchors.fill: parent`).
+    Content between the cards, on a ground that keeps it legible over a busy background and is invisible over a
+    quiet one. Takes one child, which may fill it (`anchors.fill: parent`).
 */
 T.Pane {
     id: root
@@ -13,7 +13,7 @@ T.Pane {
 
     implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: contentHeight + topPadding + bottomPadding
-    // In line with what stands in the cards.
+    // Aligned with the content of the cards.
     horizontalPadding: seen ? 20 : 0
     verticalPadding: seen ? 8 : 0
     Accessible.ignored: true

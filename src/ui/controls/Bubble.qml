@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewatch.Ui
 
-/*! Words that come up below what they belong to when it has been pointed at for a moment, over all else. */
+/*! A tool tip below its item, shown after hovering for a moment, above everything else. */
 Item {
     id: root
 
@@ -17,7 +17,7 @@ Item {
         y: root.height + 6
         implicitWidth: Math.min(root.maxWidth, implicitContentWidth + leftPadding + rightPadding)
         implicitHeight: implicitContentHeight + topPadding + bottomPadding
-        // Between it and the edges of the window.
+        // Its distance from the edges of the window.
         margins: 8
         horizontalPadding: 10
         verticalPadding: 7
@@ -35,7 +35,7 @@ Item {
 
         background: Rectangle {
             radius: Style.metrics.controlRadius
-            // The cards of some themes let through what lies behind them.
+            // The cards of some themes are translucent.
             color: Style.palette.windowBackground
             border.width: 1
             border.color: Style.palette.mute

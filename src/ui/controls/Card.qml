@@ -3,18 +3,18 @@ import QtQuick.Templates as T
 import Tidewatch.Ui
 
 /*!
-    A rounded ground for what belongs together. Give it one child: the card is by itself as large as that child
-    wants to be, and the child may fill it (`anchors.fill: parent`).
+    A rounded card. Takes one child: the card's implicit size is that of the child, which may fill it
+    (`anchors.fill: parent`).
 
-    What it is for assistive technology goes into `accessibleText` and `accessibleRole`: the template insists on a role of its
-    own for itself.
+    For assistive technology set `accessibleText` and `accessibleRole`: the template overrides the role of the card
+    itself.
 */
 T.Pane {
     id: root
 
     property color color: Style.palette.card
 
-    /*! Without it only what lies in the card speaks. */
+    /*! If empty, only the card's content is accessible. */
     property string accessibleText
     property int accessibleRole: Accessible.Grouping
 

@@ -1,11 +1,11 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! A switch for one of a row of filters: full and with its colour when it is on, hollow and quiet when it is off. */
+/*! A filter chip: filled and coloured when on, outlined when off. */
 PressButton {
     id: root
 
-    /*! Of the dot. */
+    /*! The colour of the dot. */
     property color color: Style.palette.strongMute
 
     function flip() {

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Ui
 
-/*! What stands where there is nothing to show yet. */
+/*! Shown instead of content while there is none. */
 ColumnLayout {
     id: root
 

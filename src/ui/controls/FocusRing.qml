@@ -1,16 +1,16 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! Shows that what it lies around has the keyboard. Lay it over the control with `shown: visualFocus`. */
+/*! Shows that a control has keyboard focus. Place it over the control with `shown: visualFocus`. */
 Rectangle {
     id: root
 
     property bool shown: false
 
-    /*! Of the control inside. */
+    /*! The radius of the control. */
     property real controlRadius: Style.metrics.controlRadius
 
-    /*! Between the control and the ring. */
+    /*! The gap between the control and the ring. */
     property real gap: 2
 
     readonly property int line: 2

@@ -1,7 +1,7 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! A button that is one symbol. */
+/*! A button with only a symbol. */
 PressButton {
     id: root
 

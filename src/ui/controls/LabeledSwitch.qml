@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewatch.Ui
 
-/*! A setting that is on or off, its words before the switch. The owner sets `checked` in answer to `toggled`. */
+/*! A labelled on/off setting. The owner updates `checked` in response to `toggled`. */
 Item {
     id: root
 
@@ -26,7 +26,7 @@ Item {
             tell();
         }
 
-        /*! The template has toggled itself; what is shown is the owner's to say. */
+        /*! The template has toggled itself; restore the owner's value. */
         function tell() {
             root.toggled(checked);
             checked = root.checked;

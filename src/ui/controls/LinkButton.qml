@@ -1,7 +1,7 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! A quiet button: only its words. */
+/*! A flat button: only its text. */
 PressButton {
     id: root
 

@@ -1,17 +1,17 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! A thin bar, filled from the left. Without a name it only illustrates a figure beside it. */
+/*! A thin progress bar. Without an accessible name it is decorative. */
 Item {
     id: root
 
-    /*! From 0 to 1; what lies outside is brought inside. */
+    /*! 0 to 1, clamped. */
     property real fraction: 0
     property color color: Style.palette.tierProductive
     property color track: Style.palette.stroke
     property string accessibleName
 
-    /*! The figure in words, for those who cannot see the bar. */
+    /*! The value as accessible text. */
     property string valueText
 
     readonly property real filled: Math.min(1, Math.max(0, fraction))
@@ -33,7 +33,7 @@ Item {
     Rectangle {
         objectName: "fill"
         visible: root.filled > 0
-        // Never shorter than its own round ends.
+        // At least as long as its round ends.
         width: Math.max(height, Math.round(parent.width * root.filled))
         height: parent.height
         radius: height / 2

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewatch.Ui
 
-/*! What all buttons have in common: the keyboard, the pointer, the ring of the focus, and a name. */
+/*! The base of all buttons: keyboard, pointer, focus ring and accessible name. */
 T.AbstractButton {
     id: root
 
@@ -16,16 +16,16 @@ T.AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
-    // The toolkit does not tell it by itself.
+    // The toolkit does not report it by itself.
     Accessible.description: enabled ? "" : "no disponible"
     Accessible.ignored: !visible
-    // By the bus a control can be pressed that the pointer and the keyboard cannot.
+    // The accessibility bus can press controls that the pointer and keyboard cannot.
     Accessible.onPressAction: {
         if (enabled)
             clicked();
     }
 
-    // The space bar alone comes with the template.
+    // The template only handles the space bar.
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 

@@ -3,8 +3,8 @@ import QtQuick.Templates as T
 import Tidewatch.Ui
 
 /*!
-    A column that scrolls: by the wheel, a finger, its bar and the keys that its content leaves over, never by
-    dragging with the mouse. What gets the focus inside comes into view.
+    A scrollable column: by wheel, touch, scroll bar and the keys not handled by its content, never by dragging with
+    the mouse. Scrolls to the item that gets the focus.
 */
 Item {
     id: root
@@ -12,7 +12,7 @@ Item {
     default property alias content: column.data
     property alias spacing: column.spacing
 
-    /*! Left free around the column. */
+    /*! The padding around the column. */
     property real padding: 0
 
     property alias contentY: flickable.contentY
@@ -57,7 +57,7 @@ Item {
     }
 
     function followFocus() {
-        // What was clicked is in view already, and must not slip away under the pointer.
+        // A clicked item is in view already and must not move under the pointer.
         const control = focused as T.Control;
         if (control === null || control.focusReason !== Qt.MouseFocusReason)
             showFocused();
@@ -102,7 +102,7 @@ Item {
         id: flickable
 
         anchors.fill: parent
-        // A mouse would drag it; the handlers below serve the others.
+        // A mouse would drag it; the handlers below handle wheel and touch pad.
         interactive: false
         contentWidth: width
         contentHeight: column.implicitHeight + 2 * root.padding
@@ -122,7 +122,7 @@ Item {
     WheelHandler {
         acceptedDevices: PointerDevice.AllDevices
         onWheel: event => {
-            // Touch pads tell pixels, wheels notches of 120.
+            // Touch pads report pixels, wheels notches of 120.
             if (event.pixelDelta.y !== 0)
                 root.scrollTo(flickable.contentY - event.pixelDelta.y);
             else

@@ -2,13 +2,13 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewatch.Ui
 
-/*! A line to search by. Escape empties it first, and goes on to the views around it when it is empty. */
+/*! A search field. Escape clears it, or propagates if it is empty. */
 T.TextField {
     id: root
 
     property alias placeholder: root.placeholderText
 
-    /*! Of the button that empties the line. */
+    /*! The accessible name of the clear button. */
     property string clearName: "Borrar búsqueda"
 
     signal edited(string text)

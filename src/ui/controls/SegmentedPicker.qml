@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Tidewatch.Ui
 
 /*!
-    One of a few values, side by side. The arrow keys choose; the owner sets `currentIndex` in answer to
+    A choice of a few values, side by side. The arrow keys select; the owner updates `currentIndex` in response to
     `activated`.
 */
 Item {
@@ -61,7 +61,7 @@ Item {
                 implicitWidth: Math.max(56, implicitContentWidth + leftPadding + rightPadding)
                 height: row.height - 4
                 horizontalPadding: 14
-                // One stop of the tabulator for all: the chosen one. What has the focus must stay a stop.
+                // A single tab stop: the selected segment. The focused one must remain a tab stop.
                 focusPolicy: chosen || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
                 hoverEnabled: true
                 text: root.labels[index]

@@ -2,11 +2,11 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewatch.Ui
 
-/*! A scroll bar that is there only where there is something to scroll, and fades while it is not used. */
+/*! A scroll bar that is visible only if there is something to scroll, and fades while idle. */
 T.ScrollBar {
     id: root
 
-    /*! How much of it is left while it is not used: what shows that there is more. */
+    /*! Its opacity while idle: it hints that there is more. */
     property real restingOpacity: 0
 
     padding: 3

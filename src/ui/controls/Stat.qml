@@ -1,7 +1,7 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! A small figure under its name. */
+/*! A small value below its title. */
 Column {
     id: root
 

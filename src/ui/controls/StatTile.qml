@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Tidewatch.Ui
 
-/*! A figure on a card, under its symbol and name. */
+/*! A card with a value below its symbol and title. */
 Card {
     id: root
 

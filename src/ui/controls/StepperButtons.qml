@@ -1,7 +1,7 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! Less and more of a value that is shown beside it: one stop of the tabulator, worked with the arrows, + and -. */
+/*! Buttons to decrease and increase a value shown beside them: one tab stop, operated with the arrows, + and -. */
 Item {
     id: root
 
@@ -9,10 +9,10 @@ Item {
     property bool canIncrease: true
     property string accessibleName
 
-    /*! The value as it is shown. */
+    /*! The displayed value. */
     property string valueText
 
-    // The same for assistive technology, which asks for these by name.
+    // For assistive technology, which looks these up by name.
     property real value: 0
     property real minimumValue: 0
     property real maximumValue: 0
@@ -33,7 +33,7 @@ Item {
 
     implicitWidth: buttons.implicitWidth
     implicitHeight: 30
-    // By the keyboard only: a click on one of the buttons leaves the focus where it is.
+    // By keyboard only: a click on a button leaves the focus unchanged.
     activeFocusOnTab: true
 
     Accessible.role: Accessible.SpinBox

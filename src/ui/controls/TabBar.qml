@@ -4,7 +4,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Tidewatch.Ui
 
-/*! The tabs by their names. The owner sets `currentIndex` in answer to `activated`. */
+/*! A tab bar. The owner updates `currentIndex` in response to `activated`. */
 Row {
     id: root
 
@@ -38,7 +38,7 @@ Row {
             implicitHeight: 40
             text: root.labels[index]
             hoverEnabled: true
-            // One stop of the tabulator for all: the current one.
+            // A single tab stop: the current tab.
             focusPolicy: current || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
             checkable: false
             autoExclusive: false

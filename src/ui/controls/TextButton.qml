@@ -1,13 +1,13 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! A button with words, and with a symbol before them if it is given one. */
+/*! A button with text and an optional symbol before it. */
 PressButton {
     id: root
 
     property string symbol
 
-    /*! The one that the view is about. */
+    /*! Whether it is the view's primary action. */
     property bool primary: false
 
     readonly property color ink: {
@@ -18,7 +18,7 @@ PressButton {
 
     implicitWidth: implicitContentWidth + 36
     implicitHeight: 36
-    // A wider button has its words in the middle.
+    // A wider button centres its content.
     horizontalPadding: Math.round((width - implicitContentWidth) / 2)
     cornerRadius: Style.metrics.chipRadius
     opacity: primary && !enabled ? 0.45 : 1

@@ -1,10 +1,10 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! Words that assistive technology reads by themselves: a plain text is silent. */
+/*! A text that is accessible by itself; PlainText is not. */
 PlainText {
     Accessible.role: Accessible.StaticText
     Accessible.name: text
-    // What is hidden is told to assistive technology like what must be scrolled to.
+    // Assistive technology would otherwise see hidden text like text scrolled out of view.
     Accessible.ignored: !visible || text === ""
 }

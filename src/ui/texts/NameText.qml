@@ -4,13 +4,12 @@ import QtQuick
 import Tidewatch.Ui
 
 /*!
-    A name that others gave, on one line: what does not fit is cut off at its end, and the whole is told under the
-    pointer.
+    An external name on one line, elided at its end if it does not fit, with the full name as a tool tip.
 */
 PlainText {
     id: root
 
-    // Not where its letters would begin: it stands beside its icon however it is written.
+    // Left-aligned even for right-to-left text: it is next to its icon.
     horizontalAlignment: Text.AlignLeft
     elide: Text.ElideRight
     maximumLineCount: 1
@@ -18,7 +17,7 @@ PlainText {
     HoverHandler {
         id: pointer
     }
-    // Made only for a name that asks for it: there may be hundreds.
+    // Created only if needed: there may be hundreds of names.
     Repeater {
         model: root.truncated && pointer.hovered ? 1 : 0
         delegate: Bubble {

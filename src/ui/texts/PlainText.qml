@@ -1,6 +1,6 @@
 import QtQuick
 
-/*! Words just as they are: left to itself, the toolkit takes for markup what looks like it, and fetches its pictures. */
+/*! Plain text: by default the toolkit interprets anything that looks like markup, and fetches its images. */
 Text {
     textFormat: Text.PlainText
 }

@@ -1,11 +1,11 @@
 import QtQuick
 import Tidewatch.Ui
 
-/*! The bomb that rocks on its disc, with a ring that goes out from it again and again. */
+/*! The rocking bomb on its disc, with a repeatedly expanding ring. */
 Item {
     id: root
 
-    /*! Whether it is worth moving. */
+    /*! Whether it is animated. */
     property bool running: false
 
     readonly property color alarm: Style.palette.tierDistracting

@@ -3,8 +3,8 @@ import Tidewatch.Ui
 import Tidewatch.Wellbeing
 
 /*!
-    The break alert, to be laid over everything in its window: takes every click, turn of the wheel and key, and
-    goes away by its button only. Afterwards the focus is where it was.
+    The break alert, an overlay over the whole window: intercepts all clicks, wheel events and keys, and is dismissed by
+    its button only. Restores the focus afterwards.
 */
 FocusScope {
     id: root
@@ -15,7 +15,7 @@ FocusScope {
     readonly property bool seen: visible && Window.visibility !== Window.Hidden
                                  && Window.visibility !== Window.Minimized
 
-    /*! What had the focus before the alert came up. */
+    /*! The item that had the focus before the alert. */
     property Item previousFocus: null
 
     function takeFocus() {
@@ -26,7 +26,7 @@ FocusScope {
     }
 
     function restoreFocus() {
-        // Else what holds this view would hand the focus back to it.
+        // Otherwise the enclosing focus scope would return the focus to it.
         focus = false;
         if (previousFocus !== null)
             previousFocus.forceActiveFocus(Qt.OtherFocusReason);
@@ -49,7 +49,7 @@ FocusScope {
     Timer {
         id: arrival
 
-        // The focus must not be moved while the views are still on their way into the window.
+        // The focus must not be changed while the views are still being added to the window.
         interval: 0
         onTriggered: root.takeFocus()
     }
@@ -84,7 +84,7 @@ FocusScope {
         width: Math.min(480, parent.width - 32)
         height: content.implicitHeight + 56
         radius: root.cardRadius
-        // The cards of some themes let through what lies behind them.
+        // The cards of some themes are translucent.
         color: Style.palette.windowBackground
 
         Rectangle {

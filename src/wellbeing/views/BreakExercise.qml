@@ -2,7 +2,7 @@ import QtQuick
 import Tidewatch.Ui
 import Tidewatch.Wellbeing
 
-/*! What to do in the break. */
+/*! The exercise for the break. */
 Rectangle {
     id: root
 

@@ -21,7 +21,7 @@ inline std::string described(const FontSpec& font) {
                        font.digits == Digits::monospaced ? " even" : "");
 }
 
-/// A page as lines to read and to compare: what is drawn, one a line.
+/// A page as text for comparison: one drawing operation per line.
 inline std::string described(const ReportPage& page) {
     std::string lines = fmt::format("title {}\npaper {}\n", page.title, described(page.paper));
     for (const auto& box : page.boxes) {

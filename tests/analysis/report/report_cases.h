@@ -8,7 +8,7 @@
 
 namespace tidewatch::test {
 
-/// A month that a report may have to show.
+/// A month to report on.
 struct ReportCase {
     std::string name;
     ReportData data;

@@ -1,1 +1,1 @@
-"""A real desktop of its own for each test of the real program."""
+"""A private real desktop for each test of the real program."""

@@ -1,4 +1,4 @@
-"""The accessibility bus: what a screen reader is told of the program, and what it can do there."""
+"""The accessibility bus: what a screen reader sees of the program, and the actions it offers."""
 
 from dataclasses import dataclass, field
 
@@ -25,12 +25,12 @@ _STATES = {
 
 
 class Gone(Exception):
-    """What was asked is no longer there."""
+    """The queried object no longer exists."""
 
 
 @dataclass
 class Node:
-    """One thing that a screen reader can speak of, as it was at the moment of asking."""
+    """A snapshot of one accessible object."""
 
     bus: "Accessibility" = field(repr=False)
     owner: str = field(repr=False)
@@ -42,13 +42,13 @@ class Node:
     children: list = field(repr=False, default_factory=list)
 
     def all(self):
-        """It and all below it, in the order of reading; also what must be scrolled to."""
+        """It and all descendants in reading order, including those out of view."""
         yield self
         for child in self.children:
             yield from child.all()
 
     def find(self, role=None, name=None):
-        """All below it with that role and that very name."""
+        """All descendants with this role and exact name."""
         return [
             node
             for node in self.all()
@@ -59,7 +59,7 @@ class Node:
         return [node.name for node in self.find(role) if node.name]
 
     def texts(self):
-        """Everything that is said of it and of what is below it."""
+        """All texts of it and its descendants."""
         return [text for node in self.all() for text in (node.name, node.description) if text]
 
     def frame(self):
@@ -72,19 +72,19 @@ class Node:
         return [action[0] for action in self.bus.call(self, "org.a11y.atspi.Action", "GetActions")[0]]
 
     def act(self, name):
-        """Does what a screen reader's user asks for by that action's name."""
+        """Performs the action with this name."""
         number = GLib.Variant("(i)", (self.actions().index(name),))
         self.bus.call(self, "org.a11y.atspi.Action", "DoAction", number)
 
     def value(self):
-        """(present, least, most) of what has a number."""
+        """(current, min, max) of an object with a value."""
         return tuple(
             self.bus.property(self, "org.a11y.atspi.Value", name)
             for name in ("CurrentValue", "MinimumValue", "MaximumValue")
         )
 
     def tree(self, depth=0):
-        """For a person to read, when a test fails."""
+        """Human-readable, for failures."""
         about = f" ({self.description})" if self.description else ""
         states = " ".join(sorted(self.states - {"enabled", "showing"}))
         lines = [f"{'  ' * depth}{self.role}: {self.name!r}{about} {states}".rstrip()]
@@ -92,7 +92,7 @@ class Node:
 
 
 class Accessibility:
-    """A reader's connection to the accessibility bus of one desktop."""
+    """A screen reader's connection to the accessibility bus of one desktop."""
 
     def __init__(self, session_address):
         session = self._connect(session_address)
@@ -114,7 +114,7 @@ class Accessibility:
         self._bus.close_sync(None)
 
     def knows(self, pid):
-        """Whether a process has announced itself."""
+        """Whether a process is registered on the bus."""
         try:
             applications = self._call("org.a11y.atspi.Registry", _ROOT, _ACCESSIBLE, "GetChildren")[0]
             return pid in [self._process(owner) for owner, _ in applications]
@@ -122,7 +122,7 @@ class Accessibility:
             return False
 
     def window(self, pid, title):
-        """The window of a process with all that it shows, None if the bus knows none with that title."""
+        """The process's window with this title and its descendants, or None."""
         try:
             for owner, path in self._call("org.a11y.atspi.Registry", _ROOT, _ACCESSIBLE, "GetChildren")[0]:
                 if self._process(owner) != pid:
@@ -179,7 +179,7 @@ class Accessibility:
 
 
 def wait_for_window(bus, pid, title, condition=lambda window: True, what="the window on the bus", seconds=PATIENCE):
-    """The window once `condition(window)` holds; what was found instead stands in the failure."""
+    """Waits for the window to satisfy `condition(window)`; the failure shows what was found instead."""
     last = []
 
     def look():

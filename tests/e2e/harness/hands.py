@@ -1,4 +1,4 @@
-"""A user's hands: keys and mouse, as the X server takes them from real devices."""
+"""Keyboard and mouse input, synthesised in the X server as if from real devices."""
 
 import subprocess
 import time
@@ -38,7 +38,7 @@ class Hands:
         self._xdotool("mouseup", button)
 
     def click(self, x, y, button=LEFT):
-        """As a hand does it: there, a moment's rest, down, up."""
+        """Like a user: move there, pause, press, release."""
         self.move(x, y)
         time.sleep(0.1)
         self.press(button)

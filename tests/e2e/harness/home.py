@@ -1,4 +1,4 @@
-"""A user's home directory: the record and the settings that the program keeps there."""
+"""A user's home directory with the program's record and settings."""
 
 import configparser
 import json
@@ -19,13 +19,13 @@ class Home:
         self.login_entry = self.path / ".config/autostart/com.brightlooms.tidewatch.desktop"
 
     def write_settings(self, **values):
-        """Puts settings there before the program starts."""
+        """Writes settings before the program starts."""
         lines = ["[General]", *(f"{key}={value}" for key, value in values.items())]
         self.settings_file.parent.mkdir(parents=True, exist_ok=True)
         self.settings_file.write_text("\n".join(lines) + "\n", encoding="utf-8")
 
     def settings(self):
-        """All settings as texts; {} without a file."""
+        """All settings as strings; {} without a file."""
         parser = configparser.ConfigParser(interpolation=None)
         parser.optionxform = str
         parser.read(self.settings_file, encoding="utf-8")
@@ -35,7 +35,7 @@ class Home:
         return self.settings().get(key)
 
     def read(self, name):
-        """The content of a counter file; {} without one. A file that is no JSON fails the test."""
+        """The content of a counter file; {} without one. Invalid JSON fails the test."""
         path = self.data / name
         return json.loads(path.read_text(encoding="utf-8")) if path.exists() else {}
 
@@ -44,7 +44,7 @@ class Home:
         (self.data / name).write_text(content, encoding="utf-8")
 
     def day_seconds(self):
-        """Seconds of all days together: a test may run over midnight."""
+        """The seconds of all days together: a test may run across midnight."""
         return sum(self.read("today.json").values())
 
     def application_seconds(self, application):
@@ -55,12 +55,12 @@ class Home:
 
 
 def leaves(content, path=()):
-    """The numbers of a counter file by their paths, which are tuples of keys."""
+    """The numbers of a counter file by path (a tuple of keys)."""
     if not isinstance(content, dict):
         return {path: content}
     return {place: value for key, below in content.items() for place, value in leaves(below, (*path, key)).items()}
 
 
 def today():
-    """Today's key on the desktop of a test."""
+    """Today's key in a test's time zone."""
     return local_time.now().strftime("%Y-%m-%d")

@@ -1,10 +1,10 @@
-"""Where on earth the desktops of the tests stand: where it is about noon, so that no test meets a midnight unasked."""
+"""The time zone of the test desktops: one where it is about noon, so that no test runs across midnight by accident."""
 
 import datetime
 
 
 def zone_where_it_is(hour):
-    """The name of a zone whose clocks show `hour` and some minutes now."""
+    """The name of a time zone where it is now `hour` and some minutes."""
     ahead = hour - datetime.datetime.now(datetime.timezone.utc).hour
     if ahead > 14:
         ahead -= 24

@@ -1,4 +1,4 @@
-"""The program's tray icon and its menu, worked as a user works them."""
+"""The program's tray icon and its menu, operated like a user does."""
 
 import time
 
@@ -23,7 +23,7 @@ class Menu:
         self._world = world
 
     def tray_icon(self):
-        """The icon's window inside the tray, None if there is none."""
+        """The icon's window inside the tray, or None."""
         tray = self._world.screen.window(window_class="trayer")
         if tray is None:
             return None
@@ -83,7 +83,7 @@ class Menu:
         wait_until(lambda: not self.popups(), "the menu to close")
 
     def row_frame(self, popup, row):
-        """Where on the screen a row of the open menu lies: where the keyboard's choice lights up."""
+        """The screen rectangle of a row of the open menu, from its highlight by keyboard."""
         plain = self._world.screen.grab(popup.frame)
         self._world.hands.key(*["Down"] * (row + 1))
         time.sleep(0.2)

@@ -1,14 +1,14 @@
-"""When something happened and how long it lasted, as closely as one who looks on can tell.
+"""When something happened and how long it lasted, as precisely as an observer can tell.
 
-A machine that is busy takes its time between what a test asks for and what the program does. So a moment is a span in
-which something happened, and what the program counts is held against the shortest and the longest time that it can
-have been at it.
+On a busy machine there is a delay between what a test requests and what the program does. So a moment is an interval in
+which something happened, and what the program counts is compared with the shortest and the longest time that it can
+have been counting.
 """
 
 import time
 from dataclasses import dataclass
 
-EDGE = 2  # seconds: what a clock of whole seconds may count more or less at the ends of a time
+EDGE = 2  # seconds: the error of whole-second counting at both ends of an interval
 
 
 @dataclass(frozen=True)
@@ -18,7 +18,7 @@ class Moment:
 
     @staticmethod
     def of(action):
-        """That of something that `action()` brings about."""
+        """The moment of an event caused by `action()`."""
         earliest = time.monotonic()
         action()
         return Moment(earliest, time.monotonic())
@@ -40,6 +40,6 @@ class Lapse:
         return Lapse(self.min + other.min, self.max + other.max)
 
     def assert_counted(self, seconds, before=0):
-        """Fails unless a program that counted all the while may have come from `before` to `seconds`."""
+        """Fails unless a program counting all the time can have gone from `before` to `seconds`."""
         if not self.min - EDGE <= seconds - before <= self.max + EDGE:
             raise AssertionError(f"{seconds - before} s were counted in {self.min:.1f} to {self.max:.1f} s")

@@ -17,7 +17,7 @@ def _die_with_parent():
 
 
 class Process:
-    """One child in a session of its own; its words go to `log_path`."""
+    """A child process in its own session; its output goes to `log_path`."""
 
     def __init__(self, arguments, env, log_path, pass_fds=()):
         self.name = os.path.basename(str(arguments[0]))
@@ -50,14 +50,14 @@ class Process:
         self._popen.send_signal(number)
 
     def wait(self, seconds=PATIENCE):
-        """The exit status; a negative one is the signal that ended it."""
+        """Waits for the exit status; a negative one is the terminating signal."""
         try:
             return self._popen.wait(seconds)
         except subprocess.TimeoutExpired:
             raise AssertionError(f"{self.name} did not end within {seconds:g} s") from None
 
     def end(self, seconds=10.0):
-        """Asks it to end, and makes it if it does not."""
+        """Terminates it, and kills it if it does not exit."""
         if self.is_running():
             self.send(signal.SIGTERM)
             try:

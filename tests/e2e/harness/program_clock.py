@@ -1,4 +1,4 @@
-"""The wall clock that a program sees: the machine's, moved as a test wants it."""
+"""The wall clock seen by a program: the machine's, shifted by the test."""
 
 import datetime
 import glob
@@ -6,7 +6,7 @@ import time
 
 
 class ProgramClock:
-    """To be handed to a program at its start; may be set again while the program runs. Only the wall clock is moved."""
+    """Passed to a program at its start; can be set again while the program runs. Only shifts the wall clock."""
 
     def __init__(self, folder):
         self._file = folder / "program-clock"
@@ -31,7 +31,7 @@ class ProgramClock:
         part.replace(self._file)
 
     def seconds_after(self, moment):
-        """How long ago it was `moment`, by this clock; negative if it is yet to come."""
+        """The time since `moment` by this clock; negative if in the future."""
         return time.time() + self._offset - timestamp(moment)
 
     def sleep_until(self, moment):

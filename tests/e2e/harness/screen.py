@@ -1,4 +1,4 @@
-"""What is on the screen: windows, their places and their pixels."""
+"""The screen: windows, their geometry and pixels."""
 
 from dataclasses import dataclass
 
@@ -33,7 +33,7 @@ class Rectangle:
 
 @dataclass(frozen=True)
 class Window:
-    """A mapped window as it was at the moment of asking."""
+    """A snapshot of a mapped window."""
 
     id: int
     title: str
@@ -44,7 +44,7 @@ class Window:
 
 
 class Screen:
-    """A connection to the X server, for looking only."""
+    """A read-only connection to the X server."""
 
     def __init__(self, name):
         self._display = display.Display(name)
@@ -57,7 +57,7 @@ class Screen:
             pass  # the server went first
 
     def windows(self):
-        """All mapped windows with a class, the lowest first; also those inside others."""
+        """All mapped windows with a class, from bottom to top, including nested ones."""
         found = []
         self._collect(self._root, found)
         return found
@@ -108,13 +108,13 @@ class Screen:
         return name.value.decode("utf-8", "replace") if isinstance(name.value, bytes) else str(name.value)
 
     def property(self, window_id, name):
-        """The numbers of a window's property, or [] without one. A window of 0 is the root."""
+        """The numbers of a window's property, or []. Window 0 is the root."""
         window = self._display.create_resource_object("window", window_id) if window_id else self._root
         value = window.get_full_property(self._display.intern_atom(name), X.AnyPropertyType)
         return [] if value is None else list(value.value)
 
     def text_property(self, window_id, name):
-        """A window's property as a text, "" without one. A window of 0 is the root."""
+        """A window's property as a string, or "". Window 0 is the root."""
         return bytes(self.property(window_id, name)).decode("utf-8")
 
     def states(self, window_id):
@@ -122,15 +122,15 @@ class Screen:
         return {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_STATE")}
 
     def active_window(self):
-        """The identifier of the window that has the focus, 0 if none has."""
+        """The id of the focused window, or 0."""
         return next(iter(self.property(0, "_NET_ACTIVE_WINDOW")), 0)
 
     def managed(self):
-        """The windows that the window manager knows, oldest first."""
+        """The windows managed by the window manager, oldest first."""
         return self.property(0, "_NET_CLIENT_LIST")
 
     def stacking(self):
-        """The managed windows' identifiers, the lowest first."""
+        """The ids of the managed windows, from bottom to top."""
         return self.property(0, "_NET_CLIENT_LIST_STACKING")
 
     def has_window_manager(self):
@@ -176,7 +176,7 @@ class Screen:
 
 
 def difference(before, after):
-    """The rectangle (in the pictures' own coordinates) outside of which both pictures agree, or None."""
+    """The bounding rectangle of all differences between two pictures, or None."""
     box = ImageChops.difference(before, after).getbbox()
     if box is None:
         return None
@@ -184,5 +184,5 @@ def difference(before, after):
 
 
 def distance(one, other):
-    """How far two colours are apart: the largest of the three channels' differences."""
+    """The distance of two colours: the maximum difference of a channel."""
     return max(abs(a - b) for a, b in zip(one, other))

@@ -1,4 +1,4 @@
-"""Services on a session bus that a test plays itself."""
+"""Fake services on a session bus."""
 
 import threading
 
@@ -17,7 +17,7 @@ _FILE_MANAGER = """<node><interface name="org.freedesktop.FileManager1">
 
 
 class Service:
-    """Owns a name on the bus at `address` and answers on a thread of its own, until closed."""
+    """Owns a name on the bus at `address` and replies on its own thread, until closed."""
 
     name = path = description = None
 
@@ -63,7 +63,7 @@ class Service:
 
 
 class TrayOnTheBus(Service):
-    """A tray of the kind that its items speak with over the bus; shows nothing."""
+    """A StatusNotifierItem tray; displays nothing."""
 
     name, path, description = "org.kde.StatusNotifierWatcher", "/StatusNotifierWatcher", _WATCHER
 
@@ -83,7 +83,7 @@ class TrayOnTheBus(Service):
 
 
 class FileManager(Service):
-    """Notes the files that it is asked to show."""
+    """Records the files that it is asked to show."""
 
     name, path, description = "org.freedesktop.FileManager1", "/org/freedesktop/FileManager1", _FILE_MANAGER
 
@@ -96,7 +96,7 @@ class FileManager(Service):
 
 
 def register_folder_opener(world, categories):
-    """Makes one application the one that opens folders."""
+    """Registers an application as the handler for folders."""
     applications = world.home.path / ".local/share/applications"
     applications.mkdir(parents=True, exist_ok=True)
     entry = f"[Desktop Entry]\nType=Application\nName=Opener\nExec=true\nCategories={categories}\n"

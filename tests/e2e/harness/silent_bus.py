@@ -1,4 +1,4 @@
-"""Something that looks like a session bus and is none."""
+"""An unresponsive fake session bus."""
 
 import socket
 import struct
@@ -28,7 +28,7 @@ def _answer_to_hello(serial):
 
 
 class SilentBus:
-    """Takes every connection at `path` and says nothing; or, `says_hello`, no more than what opens one."""
+    """Accepts connections at `path` without responding or, with `says_hello`, responds to the handshake only."""
 
     def __init__(self, path, says_hello=False):
         self._says_hello = says_hello

@@ -1,4 +1,4 @@
-"""The statistics window, worked with hands and read through the accessibility bus."""
+"""The statistics window, operated by input events and read through the accessibility bus."""
 
 from harness.accessibility import wait_for_window
 from harness.hands import LEFT
@@ -16,21 +16,21 @@ class StatisticsWindow:
         self._pid = program.pid
 
     def open(self):
-        """As a second start of the program does it."""
+        """Opens it by a second start of the program."""
         self._world.start_program(wait_for_clock=False).wait()
         window = wait_until(self._world.statistics, "the statistics window")
         wait_until(lambda: self._world.screen.active_window() == window.id, "the focus")
         self.wait_for(lambda read: read.find("page tab"), "the tabs")
 
     def wait_for(self, condition, what):
-        """What the bus tells of the window, once `condition(it)` holds."""
+        """Waits for the accessible window to satisfy `condition(it)`."""
         return wait_for_window(self._world.accessibility, self._pid, STATISTICS_TITLE, condition, what)
 
     def wait_for_text(self, role, name):
         return self.wait_for(lambda read: read.find(role, name), f"the {role} {name!r}").find(role, name)[0]
 
     def tab(self, name):
-        """The pane of the tab on show, once it is that one."""
+        """Waits for this tab to be shown, and returns its pane."""
         return self.wait_for(lambda read: read.find("panel", name), f"the tab {name}").find("panel", name)[0]
 
     def select(self, name):
@@ -42,12 +42,12 @@ class StatisticsWindow:
         self._world.hands.click(*node.frame().centre, button)
 
     def focused(self):
-        """(role, name) of what has the keyboard, None if nothing has it."""
+        """(role, name) of the focused object, or None."""
         read = self.wait_for(lambda _: True, "the window")
         return next(((node.role, node.name) for node in read.all() if "focused" in node.states and node.role != "frame"), None)
 
     def tab_to(self, role, name):
-        """Goes there with the tabulator, as far as it takes."""
+        """Presses Tab until it is focused."""
         for _ in range(40):
             self._world.hands.key("Tab")
             if self.focused() == (role, name):

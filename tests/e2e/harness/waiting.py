@@ -1,10 +1,10 @@
-"""Waiting for something to become true, with an end to the patience."""
+"""Waiting for a condition, with a timeout."""
 
 import time
 
 
 class TimeOut(AssertionError):
-    """What was waited for did not come."""
+    """The condition did not become true in time."""
 
 
 # How long something is waited for that is sure to come. No test is about it: a machine may be as slow and as busy
@@ -13,7 +13,7 @@ PATIENCE = 120.0
 
 
 def wait_until(condition, what, seconds=PATIENCE, every=0.05):
-    """The first true result of `condition()`, or TimeOut, which names `what`, after `seconds`."""
+    """Returns the first true result of `condition()`; raises TimeOut, with `what`, after `seconds`."""
     deadline = time.monotonic() + seconds
     while True:
         result = condition()
@@ -25,7 +25,7 @@ def wait_until(condition, what, seconds=PATIENCE, every=0.05):
 
 
 def stays(condition, what, seconds=1.0, every=0.1):
-    """Fails unless `condition()` holds at every look for `seconds`."""
+    """Fails unless `condition()` holds at every check for `seconds`."""
     deadline = time.monotonic() + seconds
     while time.monotonic() < deadline:
         if not condition():

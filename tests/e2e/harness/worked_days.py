@@ -1,4 +1,4 @@
-"""A record of yesterday and today, small enough that every figure can be told from it by hand."""
+"""A record of yesterday and today, small enough to verify every figure by hand."""
 
 import datetime
 import json
@@ -53,7 +53,7 @@ def day_key(days_ago=0):
 
 
 def short_date(days_ago=0):
-    """As the interface writes it: "sáb 21 nov"."""
+    """As displayed: "sáb 21 nov"."""
     moment = local_time.now() - datetime.timedelta(days=days_ago)
     weekday = ("lun", "mar", "mié", "jue", "vie", "sáb", "dom")[moment.weekday()]
     month = ("ene", "feb", "mar", "abr", "may", "jun", "jul", "ago", "sep", "oct", "nov", "dic")[moment.month - 1]
@@ -61,7 +61,7 @@ def short_date(days_ago=0):
 
 
 def duration(seconds):
-    """As the tabs write it: "1h 14m", "35m", "42s"."""
+    """As displayed in the tabs: "1h 14m", "35m", "42s"."""
     if seconds >= 3600:
         return f"{seconds // 3600}h {seconds % 3600 // 60}m"
     return f"{seconds // 60}m" if seconds >= 60 else f"{seconds}s"
@@ -115,7 +115,7 @@ def write(home, today=None, yesterday=None):
 
 
 def same_week(days_ago):
-    """Whether that day lies in today's week, which begins on a Monday."""
+    """Whether that day is in today's week, which starts on Monday."""
     return local_time.now().weekday() >= days_ago
 
 

@@ -1,4 +1,4 @@
-"""One private desktop: X server, session bus, window manager, tray, notification daemon, a home, the program."""
+"""A private desktop: X server, session bus, window manager, tray, notification daemon, home directory, the program."""
 
 import os
 import re
@@ -119,7 +119,7 @@ class World:
         root_colour.wait()
 
     def _environment(self):
-        """The variables of a plain session: nothing of the caller's own desktop, locale or home gets in."""
+        """The environment of a plain session, without the caller's desktop, locale or home."""
         runtime = Path(self._runtime)
         environment = {
             "PATH": f"{self._make_opener()}:{os.environ.get('PATH', '/usr/bin:/bin')}",
@@ -138,7 +138,7 @@ class World:
         return environment
 
     def _make_opener(self):
-        """A desktop's opener that only notes what it was to open; gives the folder that it lies in."""
+        """Creates an xdg-open that only records its arguments; returns its folder."""
         folder = self.folder / "bin"
         folder.mkdir(exist_ok=True)
         opener = folder / "xdg-open"
@@ -147,13 +147,13 @@ class World:
         return folder
 
     def opened(self):
-        """What the desktop was asked to open, in order."""
+        """The arguments of the desktop's opener, in order."""
         notes = self.folder / "opened"
         return notes.read_text(encoding="utf-8").split() if notes.exists() else []
 
     @property
     def bus_path(self):
-        """The socket of the session bus, where there is one."""
+        """The socket of the session bus, if there is one."""
         return Path(self._runtime) / "bus"
 
     def start_session_bus(self):
@@ -167,7 +167,7 @@ class World:
         return bus
 
     def _start_accessibility(self):
-        """The bus that screen readers listen on, and a reader's connection to it."""
+        """Starts the accessibility bus and connects to it as a screen reader."""
         from harness.accessibility import Accessibility
 
         self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
@@ -192,14 +192,14 @@ class World:
         return self._screen
 
     def start(self, *arguments):
-        """Starts any program on this desktop; it ends with it."""
+        """Starts a program on this desktop, which ends with it."""
         name = os.path.basename(str(arguments[0]))
         process = Process(arguments, self.env, self.folder / f"{name}.log")
         self._processes.append(process)
         return process
 
     def open_terminal(self, window_class="WorkTerm"):
-        """A terminal that swallows what is typed; gives its window once it has the focus."""
+        """Opens a terminal that ignores input; returns its window once it is focused."""
         self.start(
             "xterm", "-class", window_class, "-name", window_class.lower(), "-geometry", "60x10+40+60",
             "-e", "sh", "-c", "cat > /dev/null",
@@ -236,7 +236,7 @@ class World:
         return Moment(asked, time.monotonic())
 
     def clock(self):
-        """The clock's window, None while it is hidden."""
+        """The clock's window, or None while it is hidden."""
         managed = self.screen.managed()
         for window in self.screen.windows():
             if window.window_class == CLOCK_CLASS and window.title == CLOCK_TITLE and window.id in managed:
@@ -244,11 +244,11 @@ class World:
         return None
 
     def statistics(self):
-        """The statistics window, None while it is not on the screen."""
+        """The statistics window, or None while it is not shown."""
         return self.screen.window(title=STATISTICS_TITLE)
 
     def check_log(self):
-        """Fails on any line that a program wrote and the test did not announce."""
+        """Fails on any line that a program logged and the test did not expect."""
         unexpected = [
             line
             for process in self.programs

@@ -8,26 +8,26 @@
 
 namespace tidewatch::platform {
 
-/// A message bus for one test alone, on which nothing is started on demand.
+/// A private message bus for one test, without service activation.
 class PrivateBus final {
 public:
-    /// Fails the running test if the bus does not come up.
+    /// Fails the current test if the bus does not start.
     PrivateBus();
     ~PrivateBus();
     PrivateBus(const PrivateBus&) = delete;
     PrivateBus& operator=(const PrivateBus&) = delete;
 
-    /// A connection of its own at each call.
+    /// A new connection on each call.
     [[nodiscard]] QDBusConnection connect();
 
     [[nodiscard]] const QString& address() const { return address_; }
 
     void stop();
 
-    /// Once more after a stop, at the same address. Fails the running test if the bus does not come up.
+    /// Restarts after a stop, at the same address. Fails the running test if the bus does not come up.
     void start();
 
-    /// Keeps the bus from doing anything, as a debugger does, until it is resumed.
+    /// Suspends the bus, like a debugger, until it is resumed.
     void suspend();
     void resume();
 

@@ -2,7 +2,7 @@
 
 namespace tidewatch::test {
 
-/// While it lives, this process has no descriptor left for whoever connects to it.
+/// During its lifetime, this process has no file descriptor left to accept connections.
 class NoDescriptorsLeft final {
 public:
     NoDescriptorsLeft();
@@ -10,7 +10,7 @@ public:
     NoDescriptorsLeft& operator=(const NoDescriptorsLeft&) = delete;
     ~NoDescriptorsLeft();
 
-    /// How often somebody could not be let in for that.
+    /// How often a connection could not be accepted.
     [[nodiscard]] int refused() const;
 };
 

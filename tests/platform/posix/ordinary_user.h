@@ -8,10 +8,10 @@
 
 namespace tidewatch::test {
 
-/// While it lives, this process has no more rights than an ordinary user: root may read what nobody may.
+/// During its lifetime, this process has the permissions of an ordinary user, since root can read everything.
 class OrdinaryUser final {
 public:
-    /// `directory` is what the user is still to get into.
+    /// `directory` stays accessible to that user.
     explicit OrdinaryUser(const std::string& directory) : before_(::geteuid()) {
         constexpr uid_t nobody = 65534;
         if (before_ != 0) return;

@@ -9,10 +9,10 @@
 
 namespace tidewatch::platform {
 
-/// An X server for one test alone, which DISPLAY names from then on, and another program's connection to it.
+/// A private X server for one test, set in DISPLAY, and another client's connection to it.
 class PrivateXServer final {
 public:
-    /// Fails the running test if the server does not come up.
+    /// Fails the current test if the server does not start.
     PrivateXServer();
     ~PrivateXServer();
     PrivateXServer(const PrivateXServer&) = delete;
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] xcb_window_t openWindow(const std::string& windowClass) const;
     void setClass(xcb_window_t window, const std::string& windowClass) const;
     void setNumber(xcb_window_t window, xcb_atom_t property, std::uint32_t value) const;
-    /// Returns once the server has seen all that was sent.
+    /// Waits until the server has processed all requests.
     void sync() const;
 
 private:

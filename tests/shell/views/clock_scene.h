@@ -18,15 +18,15 @@
 
 namespace tidewatch {
 
-/// What the floating clock stands on, on a fake machine: an editor in front, nothing booked yet.
+/// The floating clock's models on a fake machine: an editor in front, nothing booked yet.
 class ClockWorld {
 public:
     ClockWorld();
 
-    /// Starts the program anew with this total for the day, as if it had been booked before.
+    /// Restarts with this total for the day.
     void startAt(Seconds today);
 
-    /// Lets the engine tick for so long.
+    /// Lets the engine tick for this long.
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
 
     test::FakeWorld machine_;
@@ -39,20 +39,20 @@ public:
     std::unique_ptr<ClockPresenter> presenter_;
 };
 
-/// The clock's view on such a world, in a window of the software scene graph.
+/// The clock's view on such a world, in a software-rendered window.
 class ClockScene : public ClockWorld {
 public:
     ClockScene();
     virtual ~ClockScene();
 
-    /// Makes the view anew, `scale` times the theme's size, in a window larger by `margin` pixels on each
+    /// Recreates the view, `scale` times the theme's size, in a window larger by `margin` pixels on each
     /// side.
     void show(double scale, int margin = 0);
 
-    /// The item of the view of this name; nothing if there is none.
+    /// The view's item with this objectName, or null.
     [[nodiscard]] QQuickItem* item(const QString& name) const;
 
-    /// What the window shows; nothing of this is translucent on a screen that is only in memory.
+    /// A picture of the window, which is opaque off screen.
     [[nodiscard]] QImage picture();
 
     QQmlEngine engineOfViews_;

@@ -9,13 +9,13 @@
 
 namespace tidewatch {
 
-/// A reminder on a fake machine, and what its alert shows.
+/// A break reminder on a fake machine, and its presenter.
 class BreakWorld {
 public:
-    /// Active seconds, each with the same total of the day.
+    /// Ticks active seconds, each with the same total of the day.
     void sit(Seconds seconds, Seconds totalToday = Seconds(0));
 
-    /// Sits until an alert comes up, on a day of ordinary length or on a long one of so many hours.
+    /// Ticks until an alert is raised, on a normal day or on a long one of this many hours.
     void sitUntilAlert();
     void sitUntilAlert(int hoursOfDay);
 
@@ -27,10 +27,10 @@ public:
     BreakPresenter presenter_{reminder_};
 };
 
-/// The alert's view over a window with a button and a pane that scrolls, in any theme.
+/// The alert's view over a window with a button and a scroll pane, in any theme.
 class BreakScene : public BreakWorld, public UiScene {
 public:
-    /// Makes the window anew.
+    /// Recreates the window.
     void showWindow(QSize size = {900, 620});
 };
 
