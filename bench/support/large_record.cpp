@@ -105,7 +105,7 @@ private:
 
 void writeFile(const std::string& path, const CounterRecord& record) {
     std::ofstream file(path, std::ios::binary);
-    file << serializeCounters(record).view();
+    file << serializeCounters(record);
     if (!file.flush()) throw std::runtime_error("cannot write " + path);
 }
 

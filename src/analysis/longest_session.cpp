@@ -1,6 +1,7 @@
 #include "analysis/longest_session.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <vector>
 
@@ -19,11 +20,13 @@ struct BusyBucket {
     Seconds seconds;
 };
 
-// Returns nullopt unless it is a two-digit number below `limit`.
-std::optional<int> twoDigits(std::string_view text, int limit) {
+// Returns nullopt unless there is a two-digit number below `limit` at this place of the key.
+std::optional<int> twoDigits(std::string_view key, std::size_t at, int limit) {
     const auto isDigit = [](char character) { return character >= '0' && character <= '9'; };
-    if (!isDigit(text[0]) || !isDigit(text[1])) return std::nullopt;
-    const int value = (text[0] - '0') * 10 + (text[1] - '0');
+    const char tens = key[at];
+    const char ones = key[at + 1];
+    if (!isDigit(tens) || !isDigit(ones)) return std::nullopt;
+    const int value = (tens - '0') * 10 + (ones - '0');
     return value < limit ? std::optional(value) : std::nullopt;
 }
 
@@ -35,20 +38,20 @@ public:
 
     std::optional<Instant> instantOf(std::string_view key) {
         if (key.size() != 16 || key[10] != ' ' || key[13] != ':') return std::nullopt;
-        const auto hour = twoDigits(key.substr(11, 2), hoursPerDay);
-        const auto minute = twoDigits(key.substr(14, 2), 60);
-        if (const auto dayText = key.substr(0, 10); dayText != dayText_) turnTo(dayText);
+        const auto hour = twoDigits(key, 11, hoursPerDay);
+        const auto minute = twoDigits(key, 14, 60);
+        if (!std::equal(dayText_.begin(), dayText_.end(), key.begin())) turnTo(key);
         if (!day_ || !hour || !minute) return std::nullopt;
         const auto time = std::chrono::minutes(*hour * 60 + *minute);
         return midnight_ ? *midnight_ + time : tidewatch::instantOf(*day_ + time, zone_);
     }
 
 private:
-    void turnTo(std::string_view dayText) {
-        dayText_ = dayText;
+    void turnTo(std::string_view key) {
+        key.copy(dayText_.data(), dayText_.size());
         day_.reset();
         midnight_.reset();
-        const auto day = parseDayKey(dayText);
+        const auto day = parseDayKey({dayText_.data(), dayText_.size()});
         if (!day) return;
         day_ = std::chrono::local_days(day->time_since_epoch());
         if (const auto offset = offsets_.allDay(*day_)) midnight_ = *day - *offset;
@@ -56,7 +59,7 @@ private:
 
     const platform::TimeZone& zone_;
     DayOffsets offsets_;
-    std::string_view dayText_;
+    std::array<char, 10> dayText_{};
     std::optional<std::chrono::local_days> day_;
     std::optional<Instant> midnight_;  // if times of the day can be added to it
 };

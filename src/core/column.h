@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "base/copy_on_write.h"
@@ -18,6 +19,13 @@ public:
 
     [[nodiscard]] T operator[](std::size_t index) const {
         return (*chunks_[index / chunkSize])[index % chunkSize];
+    }
+    /// The values from `begin` on, but before `end`, that lie side by side; at least one if `begin` < `end`.
+    /// Valid until the column changes.
+    [[nodiscard]] std::span<const T> run(std::size_t begin, std::size_t end) const {
+        if (begin >= end) return {};
+        const auto place = begin % chunkSize;
+        return {chunks_[begin / chunkSize]->data() + place, std::min(end - begin, chunkSize - place)};
     }
     [[nodiscard]] T back() const { return (*this)[size_ - 1]; }
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 #include "core/column.h"
 
@@ -13,8 +14,17 @@ class CounterColumn final {
 public:
     [[nodiscard]] std::size_t size() const { return narrow_.size(); }
 
-    [[nodiscard]] std::int64_t operator[](std::size_t index) const {
-        const auto cell = narrow_[index];
+    /// How an integer lies in the column.
+    using Cell = std::uint32_t;
+
+    [[nodiscard]] std::int64_t operator[](std::size_t index) const { return valueOf(narrow_[index]); }
+
+    /// See Column::run().
+    [[nodiscard]] std::span<const Cell> run(std::size_t begin, std::size_t end) const {
+        return narrow_.run(begin, end);
+    }
+
+    [[nodiscard]] std::int64_t valueOf(Cell cell) const {
         return (cell & wideMark) != 0 ? wide_[cell & ~wideMark] : cell;
     }
 
@@ -32,15 +42,15 @@ public:
     void append(std::int64_t value) { narrow_.append(cellFor(value)); }
 
 private:
-    static constexpr std::uint32_t wideMark = 0x8000'0000;
+    static constexpr Cell wideMark = 0x8000'0000;
 
-    std::uint32_t cellFor(std::int64_t value) {
-        if (value >= 0 && value < wideMark) return static_cast<std::uint32_t>(value);
+    Cell cellFor(std::int64_t value) {
+        if (value >= 0 && value < wideMark) return static_cast<Cell>(value);
         wide_.append(value);
-        return static_cast<std::uint32_t>(wide_.size() - 1) | wideMark;
+        return static_cast<Cell>(wide_.size() - 1) | wideMark;
     }
 
-    Column<std::uint32_t> narrow_;
+    Column<Cell> narrow_;
     Column<std::int64_t> wide_;
 };
 

@@ -46,7 +46,8 @@ void CounterFile::flushWaiting() {
 }
 
 void CounterFile::write(const Snapshot& snapshot) {
-    if (file_.write(serializeCounters(snapshot.record).view())) writtenRevision_ = snapshot.revision;
+    const auto content = [&](platform::ByteSink& sink) { serializeCounters(snapshot.record, sink); };
+    if (file_.write(content)) writtenRevision_ = snapshot.revision;
 }
 
 }  // namespace tidewatch

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstring>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,6 +23,7 @@ public:
     }
 
     [[nodiscard]] std::size_t size() const { return size_; }
+    [[nodiscard]] std::string_view text() const { return {text_.data(), size_}; }
 
     /// Copies it to `target`, which has room for one more stride; returns the end of the copy.
     char* copyTo(char* target) const {
@@ -37,43 +37,55 @@ private:
     std::string text_;
 };
 
-// Computes an upper bound of the text's length, so that memory is allocated once and filled without checking.
-class Measure final {
+// Collects short texts into pieces for a sink.
+class PieceBuffer final {
 public:
-    void character(char) { ++size_; }
-    void text(std::string_view text) { size_ += text.size(); }
-    void text(const PaddedText& text) { size_ += text.size(); }
-    void number(std::int64_t) {
+    explicit PieceBuffer(platform::ByteSink& sink) : sink_(sink) {}
+
+    void character(char c) {
+        makeRoomFor(1);
+        *next_++ = c;
+    }
+    void text(std::string_view text) {
+        makeRoomFor(text.size());
+        next_ = std::ranges::copy(text, next_).out;
+    }
+
+    /// A text and a number behind it.
+    void counter(const PaddedText& text, std::int64_t number) {
         constexpr std::size_t maxDigits = 20;
-        size_ += maxDigits;
+        makeRoomFor(text.size() + stride + maxDigits);
+        next_ = text.copyTo(next_);
+        next_ = std::to_chars(next_, end_, number).ptr;
     }
 
-    [[nodiscard]] std::size_t size() const { return size_ + stride; }
-
-private:
-    std::size_t size_ = 0;
-};
-
-// Writes into memory of the size computed by Measure.
-class Fill final {
-public:
-    explicit Fill(std::size_t size)
-        : bytes_(std::make_unique_for_overwrite<char[]>(size)), next_(bytes_.get()), end_(next_ + size) {}
-
-    void character(char c) { *next_++ = c; }
-    void text(std::string_view text) { next_ = std::ranges::copy(text, next_).out; }
-    void text(const PaddedText& text) { next_ = text.copyTo(next_); }
-    void number(std::int64_t number) { next_ = std::to_chars(next_, end_, number).ptr; }
-
-    CounterText take() {
-        const auto size = static_cast<std::size_t>(next_ - bytes_.get());
-        return {std::move(bytes_), size};
+    void flush() {
+        open_ = open_ && sink_.append({bytes_.data(), next_});
+        next_ = bytes_.data();
     }
 
+    /// False once the sink could not store a piece.
+    [[nodiscard]] bool isOpen() const { return open_; }
+
 private:
-    std::unique_ptr<char[]> bytes_;
-    char* next_;
-    char* end_;
+    // Small enough to stay in a processor's cache until it is written.
+    static constexpr std::size_t pieceSize = std::size_t(128) * 1024;
+
+    void makeRoomFor(std::size_t size) {
+        if (static_cast<std::size_t>(end_ - next_) >= size) return;
+        flush();
+        if (bytes_.size() < size) {
+            bytes_.resize(size);
+            next_ = bytes_.data();
+            end_ = next_ + bytes_.size();
+        }
+    }
+
+    platform::ByteSink& sink_;
+    std::vector<char> bytes_ = std::vector<char>(pieceSize);
+    char* next_ = bytes_.data();
+    char* end_ = next_ + bytes_.size();
+    bool open_ = true;
 };
 
 class Writer final {
@@ -89,12 +101,10 @@ public:
         }
     }
 
-    CounterText write() const {
-        Measure measure;
-        writeObject(measure, 0, record_.top());
-        Fill fill(measure.size());
-        writeObject(fill, 0, record_.top());
-        return fill.take();
+    void write(platform::ByteSink& sink) const {
+        PieceBuffer buffer(sink);
+        writeObject(buffer, 0, record_.top());
+        buffer.flush();
     }
 
 private:
@@ -104,41 +114,61 @@ private:
         return result + '"';
     }
 
-    template <class Sink>
-    void writeObject(Sink& sink, std::size_t level, CounterRecord::Range members) const {
-        const bool isLast = level + 1 == record_.depth();
-        sink.character('{');
-        if (members.size() == 0) sink.character('\n');
-        for (auto node = members.begin; node < members.end; ++node) {
-            if (node != members.begin) sink.character(',');
-            writeMemberStart(sink, level, node);
-            if (isLast) {
-                sink.number(record_.seconds(node).count());
-            } else {
-                writeObject(sink, level + 1, record_.children(level, node));
-            }
+    void writeObject(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) const {
+        buffer.character('{');
+        if (members.size() == 0) {
+            buffer.character('\n');
+        } else if (level == 0) {
+            writeKeys(buffer, members);
+        } else {
+            writeNames(buffer, level, members);
         }
-        sink.text(level == 0 ? "\n" : std::string_view(indents_[level - 1]));
-        sink.character('}');
+        buffer.text(level == 0 ? "\n" : std::string_view(indents_[level - 1]));
+        buffer.character('}');
     }
 
-    // From the end of the line before to the blank behind the colon.
-    template <class Sink>
-    void writeMemberStart(Sink& sink, std::size_t level, CounterRecord::Index node) const {
-        if (level > 0) {
-            sink.text(memberStarts_[level][record_.nameId(level, node)]);
+    void writeKeys(PieceBuffer& buffer, CounterRecord::Range keys) const {
+        for (auto node = keys.begin; node < keys.end && buffer.isOpen(); ++node) {
+            if (node != keys.begin) buffer.character(',');
+            buffer.text(indents_[0]);
+            writeKey(buffer, record_.text(0, node));
+            buffer.text(" : ");
+            if (record_.depth() == 1) {
+                buffer.text(std::to_string(record_.seconds(node).count()));
+            } else {
+                writeObject(buffer, 1, record_.children(0, node));
+            }
+        }
+    }
+
+    static void writeKey(PieceBuffer& buffer, std::string_view key) {
+        if (std::ranges::any_of(key, mustBeEscapedInJson)) {
+            buffer.text(quoted(key));
+        } else {
+            buffer.character('"');
+            buffer.text(key);
+            buffer.character('"');
+        }
+    }
+
+    void writeNames(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) const {
+        const auto& starts = memberStarts_[level];
+        bool isFirst = true;
+        const auto separate = [&] {
+            if (!std::exchange(isFirst, false)) buffer.character(',');
+        };
+        if (level + 1 == record_.depth()) {
+            record_.forEachLeaf(members, [&](std::uint32_t name, Seconds seconds) {
+                separate();
+                buffer.counter(starts[name], seconds.count());
+            });
             return;
         }
-        sink.text(indents_[0]);
-        const auto key = record_.text(0, node);
-        if (std::ranges::any_of(key, mustBeEscapedInJson)) {
-            sink.text(quoted(key));
-        } else {
-            sink.character('"');
-            sink.text(key);
-            sink.character('"');
+        for (auto node = members.begin; node < members.end; ++node) {
+            separate();
+            buffer.text(starts[record_.nameId(level, node)].text());
+            writeObject(buffer, level + 1, record_.children(level, node));
         }
-        sink.text(" : ");
     }
 
     const CounterRecord& record_;
@@ -148,8 +178,14 @@ private:
 
 }  // namespace
 
-CounterText serializeCounters(const CounterRecord& record) {
-    return Writer(record).write();
+void serializeCounters(const CounterRecord& record, platform::ByteSink& sink) {
+    Writer(record).write(sink);
+}
+
+std::string serializeCounters(const CounterRecord& record) {
+    platform::StringSink sink;
+    serializeCounters(record, sink);
+    return std::move(sink).text();
 }
 
 }  // namespace tidewatch

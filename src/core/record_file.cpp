@@ -13,6 +13,10 @@ RecordFile::RecordFile(platform::FileSystem& files, platform::Log& log, std::str
       failure_(failure) {}
 
 bool RecordFile::write(std::string_view content) {
+    return write([content](platform::ByteSink& sink) { sink.append(content); });
+}
+
+bool RecordFile::write(const platform::ContentWriter& content) {
     written_.reset();
     if (ensureLock() == platform::RecordLock::heldByAnother) return false;
     const auto replaced = replace(content);
@@ -20,11 +24,7 @@ bool RecordFile::write(std::string_view content) {
         if (!failure_.empty()) log_.warning(failure_ + replaced.error().message);
         return false;
     }
-    // What somebody else put there meanwhile is not taken for ours if it differs in size; if it does not, it
-    // stays until the next change.
-    if (const auto info = files_.inspect(path_); info && info.value().size == content.size()) {
-        written_ = info.value();
-    }
+    written_ = replaced.value();
     return true;
 }
 
@@ -47,8 +47,8 @@ std::optional<std::string> RecordFile::readText() {
     return text ? std::optional(std::move(text).value()) : std::nullopt;
 }
 
-Status RecordFile::replace(std::string_view content) {
-    if (auto kept = setUnreadAside(); !kept) return kept;
+Result<platform::FileInfo> RecordFile::replace(const platform::ContentWriter& content) {
+    if (const auto kept = setUnreadAside(); !kept) return kept.error();
     return files_.replaceAtomically(path_, content);
 }
 

@@ -36,6 +36,7 @@ public:
 
     /// Whether `content` is on the disk now. If not, the log tells why and the file holds what it held
     /// before.
+    bool write(const platform::ContentWriter& content);
     bool write(std::string_view content);
 
     /// Whether the last write() succeeded and its file is still there, neither replaced nor changed since.
@@ -50,7 +51,7 @@ private:
 
     [[nodiscard]] platform::RecordLock ensureLock();
     [[nodiscard]] std::optional<std::string> readText();
-    [[nodiscard]] Status replace(std::string_view content);
+    [[nodiscard]] Result<platform::FileInfo> replace(const platform::ContentWriter& content);
     [[nodiscard]] Status setUnreadAside();
 
     platform::FileSystem& files_;

@@ -29,10 +29,7 @@ public:
     /// Calls `visit(std::uint32_t app, Seconds seconds)` for each application of a key.
     template <class Visitor>
     void forEachApp(Index key, Visitor&& visit) const {
-        const auto apps = record_.children(0, key);
-        for (auto app = apps.begin; app < apps.end; ++app) {
-            visit(record_.nameId(1, app), record_.seconds(app));
-        }
+        record_.forEachLeaf(record_.children(0, key), std::forward<Visitor>(visit));
     }
 
 private:

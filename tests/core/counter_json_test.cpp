@@ -4,20 +4,18 @@
 
 #include <array>
 #include <limits>
+#include <string>
+#include <vector>
 
 namespace tidewatch {
 namespace {
 
 using namespace std::string_literals;
 
-std::string write(const CounterRecord& record) {
-    return std::string(serializeCounters(record).view());
-}
-
 // What a reader makes of `text` and writes again; nothing if it is refused.
 std::optional<std::string> reread(std::string text, std::size_t depth) {
     const auto record = parseCounters(std::move(text), depth);
-    return record ? std::optional(write(*record)) : std::nullopt;
+    return record ? std::optional(serializeCounters(*record)) : std::nullopt;
 }
 
 void set(CounterRecord& record, std::initializer_list<std::string_view> path, std::int64_t seconds) {
@@ -28,7 +26,7 @@ TEST(CounterJson, OneLevelIsWrittenExactly) {
     CounterRecord record(1);
     set(record, {"2026-01-15"}, 1840);
     set(record, {"2026-01-14"}, 20013);
-    EXPECT_EQ(write(record), "{\n  \"2026-01-14\" : 20013,\n  \"2026-01-15\" : 1840\n}");
+    EXPECT_EQ(serializeCounters(record), "{\n  \"2026-01-14\" : 20013,\n  \"2026-01-15\" : 1840\n}");
 }
 
 TEST(CounterJson, TwoLevelsAreWrittenExactly) {
@@ -36,7 +34,7 @@ TEST(CounterJson, TwoLevelsAreWrittenExactly) {
     set(record, {"2026-01-14", "xterm"}, 5);
     set(record, {"2026-01-14", "firefox"}, 60);
     set(record, {"2026-01-15", "firefox"}, 1);
-    EXPECT_EQ(write(record), R"({
+    EXPECT_EQ(serializeCounters(record), R"({
   "2026-01-14" : {
     "firefox" : 60,
     "xterm" : 5
@@ -51,7 +49,7 @@ TEST(CounterJson, ThreeLevelsAreWrittenExactly) {
     CounterRecord record(3);
     set(record, {"2026-01-15", "B", "xterm"}, 2);
     set(record, {"2026-01-15", "A", "xterm"}, 1);
-    EXPECT_EQ(write(record), R"({
+    EXPECT_EQ(serializeCounters(record), R"({
   "2026-01-15" : {
     "A" : {
       "xterm" : 1
@@ -64,8 +62,8 @@ TEST(CounterJson, ThreeLevelsAreWrittenExactly) {
 }
 
 TEST(CounterJson, AnEmptyObjectIsABraceAnEmptyLineAndABrace) {
-    EXPECT_EQ(write(CounterRecord(1)), "{\n\n}");
-    EXPECT_EQ(write(CounterRecord(3)), "{\n\n}");
+    EXPECT_EQ(serializeCounters(CounterRecord(1)), "{\n\n}");
+    EXPECT_EQ(serializeCounters(CounterRecord(3)), "{\n\n}");
     EXPECT_EQ(reread(R"({"a":{},"b":{"c":{}}})", 3), R"({
   "a" : {
 
@@ -81,25 +79,25 @@ TEST(CounterJson, AnEmptyObjectIsABraceAnEmptyLineAndABrace) {
 TEST(CounterJson, KeysAreEscapedWhereTheyMustBeAndSlashesToo) {
     CounterRecord record(1);
     set(record, {"a\"b\\c/d\b\f\n\r\t\x01\x1F\x7F"}, 1);
-    EXPECT_EQ(write(record), "{\n  \"a\\\"b\\\\c\\/d\\b\\f\\n\\r\\t\\u0001\\u001f\x7F\" : 1\n}");
+    EXPECT_EQ(serializeCounters(record), "{\n  \"a\\\"b\\\\c\\/d\\b\\f\\n\\r\\t\\u0001\\u001f\x7F\" : 1\n}");
 }
 
 TEST(CounterJson, KeysBelowTheFirstLevelAreEscapedTheSameWay) {
     CounterRecord record(2);
     set(record, {"d", "a/\"\n"}, 1);
-    EXPECT_EQ(write(record), "{\n  \"d\" : {\n    \"a\\/\\\"\\n\" : 1\n  }\n}");
+    EXPECT_EQ(serializeCounters(record), "{\n  \"d\" : {\n    \"a\\/\\\"\\n\" : 1\n  }\n}");
 }
 
 TEST(CounterJson, WhatLiesBeyondAsciiStaysAsItIs) {
     CounterRecord record(1);
     set(record, {"ca\u00F1a \u2028\U0001F30A"}, 1);
-    EXPECT_EQ(write(record), "{\n  \"ca\u00F1a \u2028\U0001F30A\" : 1\n}");
+    EXPECT_EQ(serializeCounters(record), "{\n  \"ca\u00F1a \u2028\U0001F30A\" : 1\n}");
 }
 
 TEST(CounterJson, KeysAreSortedAsPlainBytes) {
     CounterRecord record(1);
     for (const auto* key : {"b", "a", "B", "\u00E1", "a10", "a2", ""}) set(record, {key}, 1);
-    EXPECT_EQ(write(record),
+    EXPECT_EQ(serializeCounters(record),
               "{\n  \"\" : 1,\n  \"B\" : 1,\n  \"a\" : 1,\n  \"a10\" : 1,\n  \"a2\" : 1,\n  \"b\" : 1,\n"
               "  \"\u00E1\" : 1\n}");
 }
@@ -109,7 +107,7 @@ TEST(CounterJson, EveryIntegerOf64BitsIsWritten) {
     set(record, {"max"}, std::numeric_limits<std::int64_t>::max());
     set(record, {"min"}, std::numeric_limits<std::int64_t>::min());
     set(record, {"edge"}, std::int64_t(1) << 31);
-    EXPECT_EQ(write(record),
+    EXPECT_EQ(serializeCounters(record),
               "{\n  \"edge\" : 2147483648,\n  \"max\" : 9223372036854775807,\n"
               "  \"min\" : -9223372036854775808\n}");
 }
@@ -119,7 +117,7 @@ TEST(CounterJson, CountersOfALifetimeAreReadBackAndNegativeOnesToo) {
     set(record, {"most"}, maxCounter);
     set(record, {"least"}, -maxCounter);
     set(record, {"zero"}, 0);
-    const auto text = write(record);
+    const auto text = serializeCounters(record);
     EXPECT_EQ(text, "{\n  \"least\" : -2147483647,\n  \"most\" : 2147483647,\n  \"zero\" : 0\n}");
     EXPECT_EQ(reread(text, 1), text);
 }
@@ -132,9 +130,62 @@ TEST(CounterJson, NoSumOverWhatAFileCanHoldOverflows) {
 TEST(CounterJson, AKeyWithANulIsWrittenAndReadBack) {
     CounterRecord record(2);
     set(record, {"d", "a\0b"s}, 1);
-    const auto text = write(record);
+    const auto text = serializeCounters(record);
     EXPECT_EQ(text, "{\n  \"d\" : {\n    \"a\\u0000b\" : 1\n  }\n}");
     EXPECT_EQ(reread(text, 2), text);
+}
+
+// Keeps the pieces, and takes as many as it is told.
+class PieceSink final : public platform::ByteSink {
+public:
+    explicit PieceSink(std::size_t capacity) : capacity_(capacity) {}
+
+    bool append(std::string_view piece) override {
+        pieces.emplace_back(piece);
+        return pieces.size() < capacity_;
+    }
+
+    std::vector<std::string> pieces;
+
+private:
+    std::size_t capacity_;
+};
+
+// A record of more than a piece, with a key and a name that are longer than a piece.
+CounterRecord longRecord() {
+    CounterRecord record(2);
+    for (int day = 0; day < 5000; ++day) {
+        const auto key = std::to_string(10'000 + day);
+        for (const auto* name : {"firefox", "mpv", "xterm"}) set(record, {key, name}, day);
+    }
+    set(record, {std::string(300'000, 'k'), "xterm"}, 1);
+    set(record, {"z", std::string(300'000, 'n')}, 2);
+    return record;
+}
+
+TEST(CounterJson, ALongRecordComesInPiecesThatTogetherAreItsText) {
+    std::string expected = "{";
+    for (int day = 0; day < 5000; ++day) {
+        const auto seconds = std::to_string(day);
+        expected += "\n  \"" + std::to_string(10'000 + day) + "\" : {\n    \"firefox\" : " + seconds +
+                    ",\n    \"mpv\" : " + seconds + ",\n    \"xterm\" : " + seconds + "\n  },";
+    }
+    expected += "\n  \"" + std::string(300'000, 'k') +
+                "\" : {\n    \"xterm\" : 1\n  },\n  \"z\" : {\n    \"" + std::string(300'000, 'n') +
+                "\" : 2\n  }\n}";
+    PieceSink sink(1'000'000);
+    serializeCounters(longRecord(), sink);
+    EXPECT_GT(sink.pieces.size(), 4U);
+    std::string text;
+    for (const auto& piece : sink.pieces) text += piece;
+    EXPECT_TRUE(text == expected);
+    EXPECT_TRUE(serializeCounters(longRecord()) == expected);
+}
+
+TEST(CounterJson, NothingIsAppendedAfterTheSinkHasStopped) {
+    PieceSink sink(2);
+    serializeCounters(longRecord(), sink);
+    EXPECT_EQ(sink.pieces.size(), 2U);
 }
 
 TEST(CounterJson, AnyJsonOfTheShapeIsRead) {
@@ -218,7 +269,7 @@ TEST(CounterJson, EveryTruncationIsRefused) {
     set(record, {"2026-01-14", "P/1", "firefox"}, 20013);
     set(record, {"2026-01-15", "ca\u00F1a", "org.gnome.Terminal"}, 60);
     set(record, {"2026-01-15", "ca\u00F1a", "xterm"}, 1);
-    const auto text = write(record);
+    const auto text = serializeCounters(record);
     ASSERT_EQ(reread(text, 3), text);
     for (std::size_t length = 0; length < text.size(); ++length) {
         EXPECT_EQ(reread(text.substr(0, length), 3), std::nullopt) << length;

@@ -111,11 +111,11 @@ void check(std::string_view input) {
 
     std::vector<std::string_view> path;
     requireFound(*record, *expected, path);
-    const std::string written(serializeCounters(*record).view());
+    const auto written = serializeCounters(*record);
     require(written == textOf(*expected, depth), "what is written has the exact form");
     const auto again = parseCounters(written, depth);
     require(again.has_value(), "what is written can be read");
-    require(serializeCounters(*again).view() == written, "what is read back is written the same");
+    require(serializeCounters(*again) == written, "what is read back is written the same");
 }
 
 }  // namespace tidewatch::fuzz

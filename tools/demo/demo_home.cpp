@@ -30,7 +30,7 @@ void write(const fs::path& path, std::string_view content) {
 }
 
 void write(const fs::path& path, const CounterRecord& record) {
-    write(path, serializeCounters(record).view());
+    write(path, serializeCounters(record));
 }
 
 std::string desktopEntry(const DemoApplication& app, const std::string& iconFolder) {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "base/result.h"
+#include "platform/api/byte_sink.h"
 #include "platform/api/file_error.h"
 #include "platform/api/file_info.h"
 #include "platform/api/file_reader.h"
@@ -73,8 +74,12 @@ public:
 
     /// Replaces the file's content, or creates the file, readable by its owner only. On success the new
     /// content is synced to disk; on failure, or after a crash at any moment, the file is unchanged. Leaves
-    /// no temporary file behind on failure.
-    virtual Status replaceAtomically(const std::string& path, std::string_view content) = 0;
+    /// no temporary file behind on failure. Returns what inspect() returns for the file until somebody else
+    /// changes or replaces it.
+    virtual Result<FileInfo> replaceAtomically(const std::string& path, const ContentWriter& content) = 0;
+    Result<FileInfo> replaceAtomically(const std::string& path, std::string_view content) {
+        return replaceAtomically(path, [content](ByteSink& sink) { sink.append(content); });
+    }
 
     /// Renames the file to an unused name: its own, ".`mark`-" and today's date, and a number from 2 up if
     /// that is taken. Returns the new name; nullopt if the file is missing or empty, which leaves it in

@@ -77,6 +77,10 @@ FileResult<std::unique_ptr<FileReader>> MemoryFileSystem::openForReading(const s
 
 FileResult<FileInfo> MemoryFileSystem::inspect(const std::string& path) const {
     const std::lock_guard lock(mutex_);
+    return inspectLocked(path);
+}
+
+FileResult<FileInfo> MemoryFileSystem::inspectLocked(const std::string& path) const {
     FileInfo info;
     if (directories_.contains(path)) {
         info.kind = FileKind::directory;
@@ -128,13 +132,16 @@ std::vector<std::string> MemoryFileSystem::pathsBelow(const std::string& directo
     return {paths.begin(), paths.end()};
 }
 
-Status MemoryFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
+Result<FileInfo> MemoryFileSystem::replaceAtomically(const std::string& path, const ContentWriter& content) {
+    StringSink sink;
+    content(sink);
     std::unique_lock lock(mutex_);
     ++stalledWrites_;
     stallChanged_.notify_all();
     stallChanged_.wait(lock, [this] { return !stalled_; });
     --stalledWrites_;
-    return write(path, content);
+    if (const auto written = write(path, sink.text()); !written) return written.error();
+    return inspectLocked(path).value();
 }
 
 Result<std::optional<std::string>> MemoryFileSystem::setAside(const std::string& path,

@@ -27,7 +27,8 @@ public:
     [[nodiscard]] FileStatus enumerate(const std::string& directory, HiddenFiles hidden,
                                        const FileVisitor& visit) const override;
     [[nodiscard]] RecordLock ensureRecordLock(const std::string& directory) override;
-    Status replaceAtomically(const std::string& path, std::string_view content) override;
+    using FileSystem::replaceAtomically;
+    Result<FileInfo> replaceAtomically(const std::string& path, const ContentWriter& content) override;
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,
                                                               std::string_view mark) override;
     [[nodiscard]] std::optional<ExportError> exportFile(const std::string& path,
@@ -93,6 +94,7 @@ private:
     void replace(const std::string& path, std::string_view content);
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
     [[nodiscard]] Status write(const std::string& path, std::string_view content);
+    [[nodiscard]] FileResult<FileInfo> inspectLocked(const std::string& path) const;
     [[nodiscard]] bool makeDirectories(const std::string& path);
     [[nodiscard]] std::vector<std::string> pathsBelow(const std::string& directory) const;
 

@@ -11,9 +11,11 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 #include "platform/posix/errno_text.h"
 #include "platform/posix/file_descriptor.h"
+#include "platform/posix/stat_file_info.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -27,6 +29,24 @@ bool writeAll(int descriptor, std::string_view content) {
     }
     return true;
 }
+
+// Writes to an open file, as long as that goes well.
+class DescriptorSink final : public ByteSink {
+public:
+    explicit DescriptorSink(int descriptor) : descriptor_(descriptor) {}
+
+    bool append(std::string_view piece) override {
+        if (code_ == 0 && !writeAll(descriptor_, piece)) code_ = errno;
+        return code_ == 0;
+    }
+
+    /// The error number of the piece that could not be written, 0 if there was none.
+    [[nodiscard]] int code() const { return code_; }
+
+private:
+    int descriptor_;
+    int code_ = 0;
+};
 
 std::optional<std::string> linkTarget(const std::string& path) {
     std::array<char, PATH_MAX> buffer{};
@@ -61,20 +81,31 @@ std::string resolvedLinks(const std::string& path) {
     return path;
 }
 
-std::optional<ReplacementFailure> replaceWith(int descriptor, const std::string& successor,
-                                              const std::string& target, std::string_view content) {
+Result<FileInfo, ReplacementFailure> replaceWith(int descriptor, const std::string& successor,
+                                                 const std::string& target, const ContentWriter& content) {
     FileDescriptor file(descriptor);
+    DescriptorSink sink(file.get());
     const auto failed = [&](std::string_view step) {
         const int code = errno;
         ::unlink(successor.c_str());
         return ReplacementFailure{step, successor, code};
     };
-    if (!writeAll(file.get(), content)) return failed("write");
+    content(sink);
+    if (sink.code() != 0) {
+        errno = sink.code();
+        return failed("write");
+    }
     if (::fsync(file.get()) != 0) return failed("sync");
+    struct stat written {};
+    if (::fstat(file.get(), &written) != 0) return failed("inspect");
     if (!file.close()) return failed("close");
     if (std::rename(successor.c_str(), target.c_str()) != 0) return failed("rename");
     syncDirectoryOf(target);
-    return std::nullopt;
+    // Some file systems stamp a file once more as it is closed.
+    struct stat placed {};
+    const bool isOurs = ::stat(target.c_str(), &placed) == 0 && placed.st_dev == written.st_dev &&
+                        placed.st_ino == written.st_ino && placed.st_size == written.st_size;
+    return fileInfo(isOurs ? placed : written);
 }
 
 }  // namespace tidewatch::platform

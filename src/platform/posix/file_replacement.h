@@ -2,9 +2,12 @@
 
 #include <sys/types.h>
 
-#include <optional>
 #include <string>
 #include <string_view>
+
+#include "base/result.h"
+#include "platform/api/byte_sink.h"
+#include "platform/api/file_info.h"
 
 namespace tidewatch::platform {
 
@@ -25,9 +28,9 @@ struct ReplacementFailure {
 /// Writes `content` to the open `descriptor` of the temporary file `successor`, syncs it, renames it to
 /// `target`, and syncs the directory. On failure before the rename the temporary file is removed. Takes
 /// ownership of the descriptor. A failure to sync the directory is ignored: either state of the file is
-/// complete.
-[[nodiscard]] std::optional<ReplacementFailure> replaceWith(int descriptor, const std::string& successor,
-                                                            const std::string& target,
-                                                            std::string_view content);
+/// complete. Returns the information about the new file in its place, or, if it was replaced already, as it
+/// was before the rename.
+Result<FileInfo, ReplacementFailure> replaceWith(int descriptor, const std::string& successor,
+                                                 const std::string& target, const ContentWriter& content);
 
 }  // namespace tidewatch::platform

@@ -156,7 +156,7 @@ RecordLock PosixFileSystem::ensureRecordLock(const std::string& directory) {
     return RecordLock::held;
 }
 
-Status PosixFileSystem::replaceAtomically(const std::string& path, std::string_view content) {
+Result<FileInfo> PosixFileSystem::replaceAtomically(const std::string& path, const ContentWriter& content) {
     const auto target = resolvedLinks(path);
     if (isDevice(modeAt(target))) return Error{"replace " + target + ": a device"};
     const auto successor = target + ".tmp";
@@ -166,10 +166,9 @@ Status PosixFileSystem::replaceAtomically(const std::string& path, std::string_v
     if (descriptor < 0) return systemError("open", successor);
     // The umask may have removed the owner's permissions.
     static_cast<void>(::fchmod(descriptor, recordMode));
-    if (const auto failure = replaceWith(descriptor, successor, target, content)) {
-        return Error{failure->message()};
-    }
-    return success();
+    const auto written = replaceWith(descriptor, successor, target, content);
+    if (!written) return Error{written.error().message()};
+    return written.value();
 }
 
 Result<std::optional<std::string>> PosixFileSystem::setAside(const std::string& path, std::string_view mark) {
@@ -197,10 +196,12 @@ std::optional<ExportError> PosixFileSystem::exportFile(const std::string& path, 
     const auto successor = makeHiddenNeighbour(target, before == 0 ? newFileMode : recordMode);
     if (successor.descriptor < 0) return exportError({"open", target, errno});
     if (before != 0) static_cast<void>(::fchmod(successor.descriptor, before & 07777));
-    auto failure = replaceWith(successor.descriptor, successor.path, target, content);
-    if (!failure) return std::nullopt;
-    failure->path = target;  // The path the user knows; the temporary one is gone.
-    return exportError(*failure);
+    const auto written = replaceWith(successor.descriptor, successor.path, target,
+                                     [content](ByteSink& sink) { sink.append(content); });
+    if (written) return std::nullopt;
+    auto failure = written.error();
+    failure.path = target;  // The path the user knows; the temporary one is gone.
+    return exportError(failure);
 }
 
 }  // namespace tidewatch::platform

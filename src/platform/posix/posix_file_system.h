@@ -37,7 +37,8 @@ public:
     [[nodiscard]] FileStatus enumerate(const std::string& directory, HiddenFiles hidden,
                                        const FileVisitor& visit) const override;
     [[nodiscard]] RecordLock ensureRecordLock(const std::string& directory) override;
-    Status replaceAtomically(const std::string& path, std::string_view content) override;
+    using FileSystem::replaceAtomically;
+    Result<FileInfo> replaceAtomically(const std::string& path, const ContentWriter& content) override;
 
     /// Of a link the target is set aside, in its own directory.
     [[nodiscard]] Result<std::optional<std::string>> setAside(const std::string& path,

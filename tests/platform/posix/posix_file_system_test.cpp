@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <vector>
 
 #include "tests/support/temporary_directory.h"
 
@@ -215,13 +216,45 @@ TEST_F(PosixFileSystemTest, ASymbolicLinkStaysAndItsTargetIsReplaced) {
     EXPECT_EQ(files.readFile(directory.path() + "/elsewhere/real.json").value(), "new");
 }
 
+TEST_F(PosixFileSystemTest, ContentThatComesInPiecesIsWrittenWhole) {
+    ASSERT_TRUE(files.replaceAtomically(file, [](ByteSink& sink) {
+        for (const auto* piece : {"one ", "", "two ", "three"}) EXPECT_TRUE(sink.append(piece));
+    }));
+    EXPECT_EQ(files.readFile(file).value(), "one two three");
+}
+
+TEST_F(PosixFileSystemTest, APieceThatCannotBeWrittenEndsTheContentAndKeepsTheOldFile) {
+    ASSERT_TRUE(files.replaceAtomically(file, "old"));
+    std::vector<bool> taken;
+    const auto status = [&] {
+        const FileSizeLimit limit(4096);
+        return files.replaceAtomically(file, [&](ByteSink& sink) {
+            taken.push_back(sink.append("small"));
+            taken.push_back(sink.append(std::string(100'000, 'x')));
+            taken.push_back(sink.append("small"));
+        });
+    }();
+    EXPECT_THAT(taken, testing::ElementsAre(true, false, false));
+    ASSERT_FALSE(status);
+    EXPECT_THAT(status.error().message, AllOf(HasSubstr("write "), HasSubstr(": File too large")));
+    EXPECT_EQ(files.readFile(file).value(), "old");
+    EXPECT_THAT(names(), testing::ElementsAre("today.json"));
+}
+
+TEST_F(PosixFileSystemTest, AWriteReturnsWhatTheNewFileLooksLikeUntilSomebodyReplacesIt) {
+    const auto written = files.replaceAtomically(file, "ours");
+    ASSERT_TRUE(written);
+    EXPECT_EQ(written.value(), files.inspect(file).value());
+    ASSERT_TRUE(files.replaceAtomically(file, "them"));
+    EXPECT_NE(written.value(), files.inspect(file).value()) << "of the same size, yet another file";
+}
+
 TEST_F(PosixFileSystemTest, AWriteThatBreaksOffKeepsTheOldFileAndLeavesNothingBeside) {
     ASSERT_TRUE(files.replaceAtomically(file, "old"));
-    Status status = success();
-    {
+    const auto status = [this] {
         const FileSizeLimit limit(4096);
-        status = files.replaceAtomically(file, std::string(100'000, 'x'));
-    }
+        return files.replaceAtomically(file, std::string(100'000, 'x'));
+    }();
     ASSERT_FALSE(status);
     EXPECT_THAT(status.error().message, AllOf(HasSubstr("write "), HasSubstr(": File too large")));
     EXPECT_EQ(files.readFile(file).value(), "old");
