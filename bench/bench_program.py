@@ -15,13 +15,16 @@ from harness.world import World  # noqa: E402
 
 JUDGED = os.environ.get("TIDEWATCH_BENCH") == "judge"
 
-SETTLE_SECONDS = 33 if JUDGED else 1  # beyond the first periodic write
-MEASURED_SECONDS = 24 if JUDGED else 4  # and before the next: what a write costs has a limit of its own, in bench_flush
+SETTLE_SECONDS = 5 if JUDGED else 1
+MEASURED_SECONDS = 60 if JUDGED else 4  # a minute holds two flushes
+IDLE_THRESHOLD = 120  # longer than the minute that is measured at work
 STARTS = 7 if JUDGED else 1
 
-# Times what the barest clock of the same toolkit takes, in the same run.
-START_LIMIT = 3.5
+# Times what the barest clock of the same toolkit takes, in the same run. It starts in some 45 ms and spends some 30 ms
+# of a minute; the bars are 300 ms for a start, 60 ms for a minute, and 120 ms more for the two flushes of ten years.
+START_LIMIT = 6.5
 PROCESSOR_LIMIT = 2
+FLUSHES_LIMIT = 4
 
 # Where the digits of the clock are, and how bright they become.
 ORIGIN = (300, 200)
@@ -32,11 +35,11 @@ BRIGHT = 200
 @dataclass(frozen=True)
 class Record:
     name: str
-    memory_limit: int  # megabytes
+    memory_limit: int  # megabytes of private memory
     ten_years: bool
 
 
-RECORDS = (Record("empty record", 45, False), Record("ten-year record", 60, True))
+RECORDS = (Record("empty record", 8, False), Record("ten-year record", 18, True))
 
 
 class Report:
@@ -44,6 +47,11 @@ class Report:
 
     def __init__(self):
         self.exceeded = False
+
+    @staticmethod
+    def remark(what, value, unit):
+        """What is worth knowing, and judged by nobody."""
+        print(f"{what:<44} {value:8.1f} {unit}", flush=True)
 
     def line(self, what, value, limit, unit):
         verdict = "ok" if value <= limit else "ABOVE THE LIMIT"
@@ -103,23 +111,54 @@ def processor_milliseconds(processes, seconds):
 
 
 def measure_running(report, worlds):
-    """Clock and tray as they come, ticking, between two periodic writes. All at once: each waits nearly all of the
+    """Clock and tray as they come: a minute at work, then one of idleness. All at once: each waits nearly all of the
     time."""
     for _, world in worlds:
-        world.home.write_settings()
+        world.home.write_settings(idleThresholdSeconds=IDLE_THRESHOLD)
     programs = [world.start_program() for _, world in worlds]
     bare = start_bare_clock(worlds[0][1])
     time.sleep(SETTLE_SECONDS)
-    *spent, bare_spent = processor_milliseconds([*programs, bare], MEASURED_SECONDS)
-    for (record, world), program, milliseconds in zip(worlds, programs, spent):
-        a_minute = 60 / MEASURED_SECONDS
-        limit = PROCESSOR_LIMIT * bare_spent * a_minute
-        report.line(f"processor time a minute, {record.name}", milliseconds * a_minute, limit, "ms")
-        report.line(f"resident memory, {record.name}", program.memory_kilobytes() / 1024, record.memory_limit, "MB")
-        world.stop_program(program)
+    measure_minute(report, worlds, programs, bare, "at work")
+    for (record, world), program in zip(worlds, programs):
+        report.line(f"private memory, {record.name}", private_megabytes(program), record.memory_limit, "MB")
+        report.remark(f"resident memory, {record.name}", program.resident_memory_kilobytes() / 1024, "MB")
         if world.home.day_seconds() <= 0:
             raise AssertionError("the program did not count")
+    if JUDGED:
+        wait_until_idle(worlds)
+        measure_minute(report, worlds, programs, bare, "idle")
+    for (_, world), program in zip(worlds, programs):
+        world.stop_program(program)
     bare.end()
+
+
+def wait_until_idle(worlds):
+    """The record on the disk no longer changes once what was counted last has been flushed."""
+    time.sleep(IDLE_THRESHOLD - MEASURED_SECONDS)
+    for _, world in worlds:
+        seconds = None
+        while seconds != (seconds := world.home.day_seconds()):
+            time.sleep(31)
+
+
+def measure_minute(report, worlds, programs, bare, what):
+    written = [program.written_bytes() for program in programs]
+    *spent, bare_spent = processor_milliseconds([*programs, bare], MEASURED_SECONDS)
+    for (record, _), program, milliseconds, before in zip(worlds, programs, spent, written):
+        a_minute = 60 / MEASURED_SECONDS
+        limit = PROCESSOR_LIMIT + (FLUSHES_LIMIT if record.ten_years and what == "at work" else 0)
+        report.line(
+            f"processor time a minute {what}, {record.name}", milliseconds * a_minute, limit * bare_spent * a_minute, "ms"
+        )
+        megabytes = (program.written_bytes() - before) * a_minute / 1e6
+        if what == "idle":
+            report.line(f"written in a minute {what}, {record.name}", megabytes, 0, "MB")
+        else:
+            report.remark(f"written in a minute {what}, {record.name}", megabytes, "MB")
+
+
+def private_megabytes(program):
+    return program.private_memory_kilobytes() / 1024
 
 
 def main():

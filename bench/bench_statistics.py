@@ -9,7 +9,14 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests/e2e"))
 
-from bench_program import JUDGED, Report, milliseconds_to_digits, processor_milliseconds, start_bare_clock  # noqa: E402
+from bench_program import (  # noqa: E402
+    JUDGED,
+    Report,
+    milliseconds_to_digits,
+    private_megabytes,
+    processor_milliseconds,
+    start_bare_clock,
+)
 from harness.hands import LEFT  # noqa: E402
 from harness.home import today  # noqa: E402
 from harness.screen import Rectangle  # noqa: E402
@@ -17,11 +24,11 @@ from harness.waiting import stays, wait_until  # noqa: E402
 from harness.world import World  # noqa: E402
 
 OPENINGS = 5 if JUDGED else 1
-OPENING_LIMIT = 3.5  # times the start of the barest clock of the same toolkit
+OPENING_LIMIT = 6.5  # times the start of the barest clock of the same toolkit, some 45 ms; the bar is 300 ms
 REFRESH_LIMIT = 30  # times the processor time that this clock takes for a second
 REFRESH_SECONDS = 2
-OPEN_MEMORY_LIMIT = 90  # megabytes
-LEFT_BEHIND_LIMIT = 10  # megabytes
+OPEN_MEMORY_LIMIT = 30  # megabytes of private memory
+LEFT_BEHIND_LIMIT = 4  # megabytes of private memory
 
 CATEGORIES = ("Desarrollo", "Navegador", "Sistema", "Música", "Social", "Juegos")
 
@@ -104,10 +111,6 @@ def after_a_write(world):
     time.sleep(SETTLE_SECONDS)
 
 
-def megabytes(program):
-    return program.memory_kilobytes() / 1024
-
-
 def main():
     report = Report()
     with World("bench-statistics") as world:
@@ -116,7 +119,7 @@ def main():
         wait_until(lambda: world.clock() is not None, "the clock")
         after_a_write(world)
         (closed_cost,) = processor_milliseconds([program], MEASURED_SECONDS)
-        before = megabytes(program)
+        before = private_megabytes(program)
 
         # In turns, so that a machine that is busy is so for both; the first ones read from the disk.
         times, bare = [], []
@@ -135,20 +138,21 @@ def main():
         refreshes = MEASURED_SECONDS / REFRESH_SECONDS
         limit = REFRESH_LIMIT * bare_cost / MEASURED_SECONDS
         report.line("processor time of a refresh", (open_cost - closed_cost) / refreshes, limit, "ms")
-        report.line("resident memory, window open", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
+        report.line("private memory, window open", private_megabytes(program), OPEN_MEMORY_LIMIT, "MB")
+        report.remark("resident memory, window open", program.resident_memory_kilobytes() / 1024, "MB")
 
         close(world)
         time.sleep(SETTLE_SECONDS)
-        report.line("more than before, closed again", megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
+        report.line("more than before, closed again", private_megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
 
         open_by_click(world)
         for tab in range(TABS, 0, -1):
             world.hands.key(f"ctrl+{tab}")
             time.sleep(1)
-        report.line("resident memory, every tab shown", megabytes(program), OPEN_MEMORY_LIMIT, "MB")
+        report.line("private memory, every tab shown", private_megabytes(program), OPEN_MEMORY_LIMIT, "MB")
         close(world)
         time.sleep(SETTLE_SECONDS)
-        report.line("more than before, closed after every tab", megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
+        report.line("more than before, closed after every tab", private_megabytes(program) - before, LEFT_BEHIND_LIMIT, "MB")
         world.stop_program(program)
     return 1 if report.exceeded else 0
 

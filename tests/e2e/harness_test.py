@@ -62,7 +62,7 @@ class Harness(unittest.TestCase):
             busy = world.start("sh", "-c", "while :; do :; done")
             time.sleep(0.5)
             self.assertGreater(busy.processor_seconds(), 0.1)
-            self.assertGreater(busy.memory_kilobytes(), 100)
+            self.assertGreater(busy.private_memory_kilobytes(), 100)
 
     def test_a_difference_is_bounded(self):
         with World("harness-pixels") as world:

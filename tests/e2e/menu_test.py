@@ -194,7 +194,7 @@ class Choices(unittest.TestCase):
                 if scale == "50":
                     world.screenshot("panel")
                     self.assertEqual(frame.width, WIDTH)
-                self.assertLess(world.program.memory_kilobytes(), 300_000)
+                self.assertLess(world.program.resident_memory_kilobytes(), 300_000)
                 world.stop_program(world.program)
 
     def test_an_idleness_threshold_is_stored(self):

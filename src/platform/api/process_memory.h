@@ -7,9 +7,8 @@ class ProcessMemory {
 public:
     virtual ~ProcessMemory() = default;
 
-    /// Gives the machine back what was freed and is kept for later use, and the code that has run so far:
-    /// what runs again is brought back page by page. Takes some milliseconds: for the moment after the start,
-    /// or after something large has gone for good.
+    /// Returns to the system the heap that was freed and is kept for later use. Takes some milliseconds: for the
+    /// moment after the start, or after something large has gone for good.
     virtual void releaseUnused() = 0;
 };
 

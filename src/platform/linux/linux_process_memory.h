@@ -4,7 +4,7 @@
 
 namespace tidewatch::platform {
 
-/// The heap of the C library, and what the program, its libraries and its fonts map to read only.
+/// The heap of the C library.
 class LinuxProcessMemory final : public ProcessMemory {
 public:
     void releaseUnused() override;

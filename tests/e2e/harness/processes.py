@@ -74,13 +74,25 @@ class Process:
         with open(self.log_path, encoding="utf-8", errors="replace") as log:
             return log.read()
 
-    def memory_kilobytes(self):
-        """Resident memory."""
-        with open(f"/proc/{self.pid}/status", encoding="ascii") as status:
-            for line in status:
-                if line.startswith("VmRSS:"):
+    def private_memory_kilobytes(self):
+        """What the machine would get back if the process ended: pages of its own that are on no disk."""
+        return self._mapped_kilobytes("Private_Dirty")
+
+    def resident_memory_kilobytes(self):
+        """All pages that it has in memory, shared ones and those that can be read anew from a file included."""
+        return self._mapped_kilobytes("Rss")
+
+    def _mapped_kilobytes(self, field):
+        with open(f"/proc/{self.pid}/smaps_rollup", encoding="ascii") as mappings:
+            for line in mappings:
+                if line.startswith(f"{field}:"):
                     return int(line.split()[1])
-        raise AssertionError("no VmRSS")
+        raise AssertionError(f"no {field}")
+
+    def written_bytes(self):
+        """What it has made the disk take so far."""
+        with open(f"/proc/{self.pid}/io", encoding="ascii") as counts:
+            return next(int(line.split()[1]) for line in counts if line.startswith("write_bytes:"))
 
     def processor_seconds(self):
         """Processor time so far, all threads."""
