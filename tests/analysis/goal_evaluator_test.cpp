@@ -73,7 +73,7 @@ TEST_F(GoalEvaluatorTest, TargetsAreHoursInSecondsTruncated) {
     EXPECT_EQ(rows[3].fraction, 0);
 }
 
-TEST_F(GoalEvaluatorTest, ATargetBeyondAllReasonDoesNoHarm) {
+TEST_F(GoalEvaluatorTest, AnAbsurdTargetIsHarmless) {
     setGoals({.dailyHours = 1e300, .weeklyHours = -1e300});
     fixture_.setTime(2026y / 1 / 15, 3600);
     const auto rows = evaluator_.evaluate();
@@ -134,7 +134,7 @@ TEST_F(GoalEvaluatorTest, ASumTakesAbsentDaysAsZero) {
     EXPECT_EQ(fixture_.daily.allDays().size(), 1u) << "asking made a day";
 }
 
-TEST_F(GoalEvaluatorTest, NewGoalsAreSeenAtOnce) {
+TEST_F(GoalEvaluatorTest, NewGoalsTakeEffectAtOnce) {
     fixture_.setTime(2026y / 1 / 15, 3600);
     setGoals({.dailyHours = 1});
     EXPECT_EQ(evaluator_.evaluate()[0].fraction, 1.0);

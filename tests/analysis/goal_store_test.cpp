@@ -63,7 +63,7 @@ TEST_F(GoalStoreTest, TheFileIsWrittenSortedAndPrettyPrinted) {
     EXPECT_EQ(world_.files.content(test::goalsJson), busyText);
 }
 
-TEST_F(GoalStoreTest, WhatIsSavedIsReadBackToTheLastDigit) {
+TEST_F(GoalStoreTest, SavedValuesAreReadBackExactly) {
     GoalStore store(world_.files, world_.log);
     for (const double number : {0.1 + 0.2, 1.0 / 3, 1e-300, -0.5, 123456.789, 1e6}) {
         GoalSettings settings;
@@ -108,7 +108,7 @@ TEST_F(GoalStoreTest, AFileThatLacksAnyOtherKeyGivesAllFiveDefaults) {
     }
 }
 
-TEST_F(GoalStoreTest, AnyValidJsonOfTheSameShapeIsRead) {
+TEST_F(GoalStoreTest, AnyValidJsonOfTheSameStructureIsParsed) {
     EXPECT_EQ(load(busyText), busy);
     EXPECT_EQ(load(R"({"weeklyHours":4e1,"notificationsEnabled":false,"monthlyHours":160.0,
                        "dailyProductivity":6.5e-1,"dailyHours":75E-1})"),
@@ -116,7 +116,7 @@ TEST_F(GoalStoreTest, AnyValidJsonOfTheSameShapeIsRead) {
     EXPECT_EQ(load(std::string("\xEF\xBB\xBF") + busyText), busy);
 }
 
-TEST_F(GoalStoreTest, OtherKeysAreIgnoredAndOfEqualOnesTheLastCounts) {
+TEST_F(GoalStoreTest, OtherKeysAreIgnoredAndOfDuplicatesTheLastWins) {
     EXPECT_EQ(load(R"({"later":[1,{}],"dailyHours":1,"dailyProductivity":0.65,"monthlyHours":160,
                        "notificationsEnabled":false,"weeklyHours":40,"dailyHours":7.5})"),
               busy);
@@ -215,7 +215,7 @@ TEST_F(GoalStoreTest, ADirectoryThatCannotBeMadeIsSilent) {
     EXPECT_EQ(world_.files.content(test::goalsJson), std::nullopt);
 }
 
-TEST_F(GoalStoreTest, ANumberThatJsonCannotSayIsNotSaved) {
+TEST_F(GoalStoreTest, ANonFiniteNumberIsNotSaved) {
     world_.files.put(test::goalsJson, busyText);
     GoalStore store(world_.files, world_.log);
     GoalSettings settings;

@@ -268,7 +268,7 @@ TEST_F(InsightsEngineTest, AnotherClassificationChangesTheBestScore) {
     EXPECT_EQ(engine_.compute(InsightsRange::week).bestScore, 1.0);
 }
 
-TEST_F(InsightsEngineTest, ADateIsShortAndAKeyThatIsNoneStaysAsItIs) {
+TEST_F(InsightsEngineTest, ADateIsShortAndAnInvalidKeyIsUnchanged) {
     EXPECT_EQ(engine_.shortDate(DayKey("2026-11-20")), "vie 20 nov");
     EXPECT_EQ(engine_.shortDate(DayKey("ayer")), "ayer");
     world_.clock.setZone(platform::fixedZone(-6h));
@@ -281,7 +281,7 @@ TEST_F(InsightsEngineTest, AClockTimeIsThatOfTheZoneOfTheMoment) {
     EXPECT_EQ(engine_.clockTime(utc(2026y / 11 / 20, 9h + 5min)), "1:05 pm");
 }
 
-TEST_F(InsightsEngineTest, AnHourBeyondTheDayIsBroughtIntoIt) {
+TEST_F(InsightsEngineTest, AnHourBeyondTheDayWrapsAround) {
     EXPECT_EQ(InsightsEngine::hourLabel(-1), "11 pm");
     EXPECT_EQ(InsightsEngine::hourLabel(-25), "11 pm");
     EXPECT_EQ(InsightsEngine::hourLabel(24), "12 am");

@@ -293,7 +293,7 @@ private:
     Insights result_;
 };
 
-TEST(InsightsPropertyTest, GivesWhatTheSlowComputationGives) {
+TEST(InsightsPropertyTest, AgreesWithASlowImplementation) {
     int sessions = 0;
     const auto all = places();
     std::vector<Almanac> almanacs;

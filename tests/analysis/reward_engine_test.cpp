@@ -196,7 +196,7 @@ TEST_F(RewardEngineTest, AStreakCrossesTheNightsThatChangeTheClock) {
     }
 }
 
-TEST_F(RewardEngineTest, TimeBelowZeroDoesNoHarm) {
+TEST_F(RewardEngineTest, NegativeTimeIsHarmless) {
     fixture_.setTime(today_, -6 * hour);
     EXPECT_EQ(rewards_.starsToday(), 0);
 }

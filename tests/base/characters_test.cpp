@@ -34,7 +34,7 @@ TEST(CharactersTest, ATextWithNoMoreIsWhole) {
     EXPECT_EQ(firstCharacters(5, ""), "");
 }
 
-TEST(CharactersTest, MarksWithoutEndAreNotOneCharacter) {
+TEST(CharactersTest, EndlessMarksAreSplit) {
     std::string marked = "a";
     for (int i = 0; i < 1000; ++i) marked += "\u0301";
     EXPECT_EQ(firstCharacters(1, marked).size(), 1U + 31 * 2);
@@ -46,7 +46,7 @@ TEST(CharactersTest, EachByteOfInvalidUtf8IsOne) {
     EXPECT_EQ(firstCharacters(2, "a\xE2\x80"), "a\xE2");
 }
 
-TEST(CharactersTest, WithinSoManyBytesNoneIsCut) {
+TEST(CharactersTest, ALimitInBytesSplitsNoCharacter) {
     EXPECT_EQ(charactersWithin(5, "ñandú"), "ñand");
     EXPECT_EQ(charactersWithin(6, "ñandú"), "ñand");
     EXPECT_EQ(charactersWithin(7, "ñandú"), "ñandú");

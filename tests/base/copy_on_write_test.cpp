@@ -20,7 +20,7 @@ TEST(CopyOnWriteTest, CopiesShareTheValueUntilOneIsEdited) {
     EXPECT_EQ(*second, "b");
 }
 
-TEST(CopyOnWriteTest, WhatIsNotSharedIsEditedInItsPlace) {
+TEST(CopyOnWriteTest, AnUnsharedValueIsEditedInPlace) {
     CopyOnWrite<std::string> only;
     const auto* before = &*only;
     only.edit() = "a";
@@ -32,7 +32,7 @@ TEST(CopyOnWriteTest, WhatIsNotSharedIsEditedInItsPlace) {
     EXPECT_EQ(&*moved, before);
 }
 
-TEST(CopyOnWriteTest, AssigningLetsGoOfTheOldValue) {
+TEST(CopyOnWriteTest, AssigningReleasesTheOldValue) {
     CopyOnWrite<std::string> first;
     const auto second = first;
     first = CopyOnWrite<std::string>();

@@ -28,7 +28,7 @@ TEST(ParseRealTest, GivesBackWhatWasPrintedToTheLastBit) {
     }
 }
 
-TEST(ParseRealTest, TakesNothingElseForANumber) {
+TEST(ParseRealTest, RejectsEverythingElse) {
     for (const auto* text :
          {"",    "-",    ".",  "-.",  "e3",  "1e",   "1e+", "+1",       " 1",    "1 ",
           "1,5", "0x10", "1x", "--1", "inf", "-inf", "nan", "infinity", "1.2.3", "1e3.5"}) {
@@ -37,7 +37,7 @@ TEST(ParseRealTest, TakesNothingElseForANumber) {
     EXPECT_EQ(parseReal(std::string_view("1\0", 2)), std::nullopt);
 }
 
-TEST(ParseRealTest, WhatADoubleCannotHoldIsNoNumber) {
+TEST(ParseRealTest, RejectsNumbersOutOfRange) {
     EXPECT_EQ(parseReal("1e400"), std::nullopt);
     EXPECT_EQ(parseReal("-1e400"), std::nullopt);
 }

@@ -55,7 +55,7 @@ private:
     std::shared_future<void> whenOpen_ = opened_.get_future().share();
 };
 
-TEST_F(SerialQueueTest, JobsRunOneAfterTheOtherInTheirOrderBesideTheCaller) {
+TEST_F(SerialQueueTest, JobsRunSequentiallyInOrderOffTheCallersThread) {
     std::vector<int> done;  // by the queue's thread alone, until it has finished
     std::thread::id worker;
     queue->post([&] { worker = std::this_thread::get_id(); });
@@ -66,7 +66,7 @@ TEST_F(SerialQueueTest, JobsRunOneAfterTheOtherInTheirOrderBesideTheCaller) {
     EXPECT_NE(worker, std::this_thread::get_id());
 }
 
-TEST_F(SerialQueueTest, WhoPostsDoesNotWait) {
+TEST_F(SerialQueueTest, PostingDoesNotBlock) {
     Gate gate;
     std::vector<int> done;
     queue->post([&] { gate.wait(); });
@@ -80,7 +80,7 @@ TEST_F(SerialQueueTest, AnEmptyQueueIsFinished) {
     queue->finish();
 }
 
-TEST_F(SerialQueueTest, TheEndWaitsForAllThatIsQueued) {
+TEST_F(SerialQueueTest, DestructionWaitsForAllJobs) {
     std::vector<int> done;
     for (int i = 0; i < 100; ++i) queue->post([&done, i] { done.push_back(i); });
     queue.reset();
@@ -115,7 +115,7 @@ TEST_F(SerialQueueTest, AResultComesBackToTheOwner) {
     EXPECT_EQ(arrived, std::this_thread::get_id());
 }
 
-TEST_F(SerialQueueTest, AResultThatArrivesAfterTheEndIsDropped) {
+TEST_F(SerialQueueTest, AResultAfterDestructionIsDropped) {
     std::vector<int> results;
     queue->run([] { return 1; }, [&](int result) { results.push_back(result); });
     queue.reset();

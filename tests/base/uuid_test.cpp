@@ -17,7 +17,7 @@ TEST(UuidTest, ReadsTheCanonicalFormInEitherLetterCase) {
     EXPECT_EQ(lower->text(), canonical);
 }
 
-TEST(UuidTest, ReadsNoOtherForm) {
+TEST(UuidTest, RejectsOtherForms) {
     for (const auto* text :
          {"", "0F8FAD5B", "0F8FAD5B-D9CB-469F-A165-70867728950", "0F8FAD5B-D9CB-469F-A165-70867728950E0",
           "{0F8FAD5B-D9CB-469F-A165-70867728950E}", "0F8FAD5BD9CB-469F-A165-70867728950E-",

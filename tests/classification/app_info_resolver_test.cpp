@@ -23,7 +23,7 @@ TEST_F(AppInfoResolverTest, ARegisteredApplicationWithoutAnIconHasNone) {
     EXPECT_EQ(resolver.info(AppId("tool")), (AppInfo{"Tool", std::nullopt}));
 }
 
-TEST_F(AppInfoResolverTest, AnUnknownApplicationGoesByItsIdentifierAndHasNoIcon) {
+TEST_F(AppInfoResolverTest, AnUnknownApplicationHasItsIdentifierAsNameAndNoIcon) {
     EXPECT_EQ(resolver.info(AppId("org.example.Unknown")), (AppInfo{"org.example.Unknown", std::nullopt}));
 }
 

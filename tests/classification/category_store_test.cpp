@@ -164,7 +164,7 @@ TEST_F(CategoryStoreTest, AFileWithoutAppOverridesReadsAsEmpty) {
     expectNoOverrides();
 }
 
-TEST_F(CategoryStoreTest, OneUnknownRawValueLosesTheWholeFileAtTheNextWrite) {
+TEST_F(CategoryStoreTest, OneUnknownRawValueInvalidatesTheWholeFile) {
     for (
         const auto* text : {
             R"({"appOverrides":{"com.example.Editor":"Desarrollo","b":"desarrollo"},"tierOverrides":[]})",
@@ -181,7 +181,7 @@ TEST_F(CategoryStoreTest, OneUnknownRawValueLosesTheWholeFileAtTheNextWrite) {
     }
 }
 
-TEST_F(CategoryStoreTest, AnythingOfAnotherShapeReadsAsEmpty) {
+TEST_F(CategoryStoreTest, AMalformedFileReadsAsEmpty) {
     for (
         const auto* text : {
             "",
@@ -203,12 +203,12 @@ TEST_F(CategoryStoreTest, AnythingOfAnotherShapeReadsAsEmpty) {
     }
 }
 
-TEST_F(CategoryStoreTest, KeysBesideTheTwoAreIgnored) {
+TEST_F(CategoryStoreTest, OtherKeysAreIgnored) {
     restartWith(R"({"version":2,"appOverrides":{"com.example.Editor":"Desarrollo"},"tierOverrides":[]})");
     EXPECT_EQ(store->category(editor), Category::development);
 }
 
-TEST_F(CategoryStoreTest, ACategoryGivenTwiceCountsAsGivenLast) {
+TEST_F(CategoryStoreTest, OfDuplicatesTheLastWins) {
     restartWith(R"({"appOverrides":{},"tierOverrides":["Navegador","neutral","Navegador","distrayendo"]})");
     EXPECT_EQ(store->tier(Category::browser), Tier::distracting);
 }
@@ -248,7 +248,7 @@ TEST_F(CategoryStoreTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFil
     }
 }
 
-TEST_F(CategoryStoreTest, AFailedWriteIsLoggedAndTheChangeStandsInMemory) {
+TEST_F(CategoryStoreTest, AFailedWriteIsLoggedAndTheChangeStaysInMemory) {
     world.files.failWrite(1);
     world.log.expectWarning("Tidewatch: failed to write categories.json: ");
     store->setCategory(Category::development, editor);

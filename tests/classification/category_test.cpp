@@ -74,7 +74,7 @@ constexpr AppsOfCategory wholeTable[] = {
      "com.disney.disneyplus com.apple.podcasts com.apple.iBooksX"},
 };
 
-TEST(TierTest, FourInTheirOrderWithWhatIsStoredAndShown) {
+TEST(TierTest, FourInOrderWithStoredAndDisplayedValues) {
     std::vector<std::pair<std::string_view, std::string_view>> texts;
     for (const auto tier : allTiers()) texts.emplace_back(rawValue(tier), displayName(tier));
     EXPECT_THAT(texts,
@@ -82,7 +82,7 @@ TEST(TierTest, FourInTheirOrderWithWhatIsStoredAndShown) {
                             Pair("distrayendo", "Distrayendo"), Pair("sincategorizar", "Sin categorizar")));
 }
 
-TEST(TierTest, IsReadFromItsRawValueOnly) {
+TEST(TierTest, IsParsedFromItsExactRawValue) {
     for (const auto tier : allTiers()) EXPECT_EQ(tierFromRaw(rawValue(tier)), tier);
     for (const auto* raw : {"", "Productivo", "productivo ", "Sin categorizar", "productive"}) {
         EXPECT_EQ(tierFromRaw(raw), std::nullopt) << raw;
@@ -103,7 +103,7 @@ TEST(CategoryTest, FifteenInTheirOrderWithTheirTiers) {
                             Pair("Otro", productive), Pair("Sin categorizar", uncategorized)));
 }
 
-TEST(CategoryTest, IsReadFromItsRawValueOnly) {
+TEST(CategoryTest, IsParsedFromItsExactRawValue) {
     for (const auto category : allCategories()) EXPECT_EQ(categoryFromRaw(rawValue(category)), category);
     for (const auto* raw : {"", "desarrollo", "Diseno", "Audio\\/Video", "Sistema "}) {
         EXPECT_EQ(categoryFromRaw(raw), std::nullopt) << raw;

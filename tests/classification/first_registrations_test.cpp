@@ -131,7 +131,7 @@ TEST_F(FirstRegistrationsTest, AKnownApplicationIsAskedForOnce) {
     EXPECT_EQ(world.applications.lookupCount(), 2);
 }
 
-TEST_F(FirstRegistrationsTest, NothingIsWrittenWithoutNews) {
+TEST_F(FirstRegistrationsTest, NothingIsWrittenWithoutAChange) {
     store->flushRegistered();
     EXPECT_THAT(world.files.writes(), IsEmpty());
     meetBoth();
@@ -147,7 +147,7 @@ TEST_F(FirstRegistrationsTest, NothingIsWrittenWithoutNews) {
     EXPECT_THAT(world.files.writes(), SizeIs(1));
 }
 
-TEST_F(FirstRegistrationsTest, AFailedWriteIsLoggedAndTheNextNewsTriesAgain) {
+TEST_F(FirstRegistrationsTest, AFailedWriteIsLoggedAndRetriedWithTheNextApplication) {
     install(terminal, {"TerminalEmulator"});
     EXPECT_EQ(store->category(terminal), Category::development);
     world.files.failWrite(1);
@@ -160,7 +160,7 @@ TEST_F(FirstRegistrationsTest, AFailedWriteIsLoggedAndTheNextNewsTriesAgain) {
     EXPECT_EQ(onDisk(), bothOnDisk);
 }
 
-TEST_F(FirstRegistrationsTest, AnythingOfAnotherShapeReadsAsEmptyAndIsReplaced) {
+TEST_F(FirstRegistrationsTest, AMalformedFileReadsAsEmptyAndIsReplaced) {
     for (const auto* text : {"", "[]", "null", "not json", R"({"chess":"Office"})", R"({"chess":[1]})",
                              R"({"chess":["Office"],"other":null})", R"({"chess":["Office")"}) {
         world.files.put(registeredJson, text);
@@ -171,7 +171,7 @@ TEST_F(FirstRegistrationsTest, AnythingOfAnotherShapeReadsAsEmptyAndIsReplaced) 
     }
 }
 
-TEST_F(FirstRegistrationsTest, WhatCannotBeReadIsKeptBeforeItIsReplaced) {
+TEST_F(FirstRegistrationsTest, AnUnreadableFileIsKeptBeforeItIsReplaced) {
     world.files.put(registeredJson, R"({"chess":["Office"],})");
     restart();
     meetBoth();
@@ -187,7 +187,7 @@ TEST_F(FirstRegistrationsTest, NothingIsWrittenIntoAnotherInstancesDirectory) {
     EXPECT_THAT(world.files.writes(), IsEmpty());
 }
 
-TEST_F(FirstRegistrationsTest, WordsThatSayNothingAnyMoreGiveWayToTheDesktop) {
+TEST_F(FirstRegistrationsTest, UselessRegistrationsAreReplacedByTheDesktops) {
     world.files.put(registeredJson, R"({"chess":["X-Whatever"]})");
     restart();
     meetBoth();

@@ -121,7 +121,7 @@ std::vector<std::string> words(const std::string& categories) {
     return result;
 }
 
-TEST(KnownPackagesTest, EachCountsAsWhatItsUsersTakeItFor) {
+TEST(KnownPackagesTest, EachHasTheExpectedCategory) {
     for (const auto& package : packages()) {
         const auto category = categoryOfRegistered(words(package.categories));
         ASSERT_TRUE(category) << package.name;
@@ -130,7 +130,7 @@ TEST(KnownPackagesTest, EachCountsAsWhatItsUsersTakeItFor) {
     }
 }
 
-TEST(KnownPackagesTest, TheyAreFiftyAtLeast) {
+TEST(KnownPackagesTest, AreAtLeastFifty) {
     EXPECT_GE(packages().size(), 50u);
 }
 

@@ -82,7 +82,7 @@ TEST_F(ProductivityScorerTest, SumsOverTheDaysGiven) {
     EXPECT_EQ(fixture.scorer.compute(std::vector{DayKey("2020-01-01")}), ProductivityScore());
 }
 
-TEST_F(ProductivityScorerTest, SecondsThatNoApplicationGotAreOutside) {
+TEST_F(ProductivityScorerTest, SecondsWithoutAnApplicationAreExcluded) {
     world.putAppInFront("com.brightlooms.tidewatch");
     fixture.engine.start();
     world.mainLoop.runFor(std::chrono::seconds(70));

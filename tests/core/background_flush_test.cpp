@@ -31,7 +31,7 @@ struct BackgroundFlushTest : testing::Test {
     }
 };
 
-TEST_F(BackgroundFlushTest, WritesTheStateOfTheMomentAtWhichItWasAskedFor) {
+TEST_F(BackgroundFlushTest, WritesTheStateAtTheTimeOfTheCall) {
     world.queues.hold();
     book(3);
     apps.flushOn(*queue);
@@ -41,7 +41,7 @@ TEST_F(BackgroundFlushTest, WritesTheStateOfTheMomentAtWhichItWasAskedFor) {
     EXPECT_EQ(onDisk(), withSeconds(3));
 }
 
-TEST_F(BackgroundFlushTest, OfSeveralThatWaitTheNewestAloneIsWritten) {
+TEST_F(BackgroundFlushTest, OfSeveralPendingStatesOnlyTheNewestIsWritten) {
     world.queues.hold();
     for (int i = 0; i < 3; ++i) {
         book(1);
@@ -64,7 +64,7 @@ TEST_F(BackgroundFlushTest, AnOlderStateIsNotWrittenAfterANewerOne) {
     EXPECT_EQ(world.files.writeCount(), 1);
 }
 
-TEST_F(BackgroundFlushTest, AnOlderStateIsBetterThanTheOneBeforeIfTheNewerOneCouldNotBeWritten) {
+TEST_F(BackgroundFlushTest, AnOlderStateIsWrittenIfTheNewerOneCouldNotBe) {
     world.queues.hold();
     book(1);
     apps.flushOn(*queue);
@@ -76,7 +76,7 @@ TEST_F(BackgroundFlushTest, AnOlderStateIsBetterThanTheOneBeforeIfTheNewerOneCou
     EXPECT_EQ(onDisk(), withSeconds(1));
 }
 
-TEST_F(BackgroundFlushTest, WritesNothingWithoutAChange) {
+TEST_F(BackgroundFlushTest, SkipsTheWriteWithoutAChange) {
     book(1);
     apps.flush();
     for (int i = 0; i < 3; ++i) apps.flushOn(*queue);
@@ -93,7 +93,7 @@ TEST_F(BackgroundFlushTest, TheFirstFlushWritesWhatWasReadInTheLayoutOfCounterFi
     EXPECT_EQ(onDisk(), withSeconds(7));
 }
 
-TEST_F(BackgroundFlushTest, ATotalThatIsSetToWhatItIsIsNoChange) {
+TEST_F(BackgroundFlushTest, SettingTheSameTotalIsNoChange) {
     const Settings settings(world.preferences);
     const DayRule dayRule(world.clock, settings);
     DailyStore daily(world.files, world.log, dayRule);
@@ -108,7 +108,7 @@ TEST_F(BackgroundFlushTest, ATotalThatIsSetToWhatItIsIsNoChange) {
     EXPECT_EQ(world.files.writeCount(), 2);
 }
 
-TEST_F(BackgroundFlushTest, AFileThatIsNotTheOneThatWasWrittenIsWrittenAgain) {
+TEST_F(BackgroundFlushTest, AReplacedFileIsWrittenAgain) {
     book(5);
     apps.flush();
     const std::vector<void (*)(test::FakeWorld&)> mishaps{
@@ -126,7 +126,7 @@ TEST_F(BackgroundFlushTest, AFileThatIsNotTheOneThatWasWrittenIsWrittenAgain) {
     }
 }
 
-TEST_F(BackgroundFlushTest, AWriteThatFailedIsTriedAgainAlthoughNothingHasChanged) {
+TEST_F(BackgroundFlushTest, AFailedWriteIsRetriedWithoutAChange) {
     book(5);
     world.files.failWrite(1);
     world.log.expectWarning("Tidewatch: failed to flush app usage store: write: Input/output error");
@@ -136,7 +136,7 @@ TEST_F(BackgroundFlushTest, AWriteThatFailedIsTriedAgainAlthoughNothingHasChange
     EXPECT_EQ(onDisk(), withSeconds(5));
 }
 
-TEST_F(BackgroundFlushTest, WhatAnotherProcessPutThereIsReplacedAlthoughNothingHasChanged) {
+TEST_F(BackgroundFlushTest, AnotherProcessesFileIsReplacedWithoutAChange) {
     book(5);
     apps.flush();
     world.files.setRecordLock(platform::RecordLock::heldByAnother);
@@ -204,7 +204,7 @@ TEST_F(StalledTickTest, TheDayThatEndsIsHandedOverWithItsOwnTotal) {
     EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 2\n}");
 }
 
-TEST_F(StalledTickTest, WhatWaitsIsWrittenBeforeTheStoresAreGone) {
+TEST_F(StalledTickTest, PendingStatesAreWrittenBeforeTheStoresAreDestroyed) {
     tick(30);
     fixture.reset();
     expectOnDisk(30);

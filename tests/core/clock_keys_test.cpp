@@ -132,12 +132,12 @@ TEST_F(ClockKeysTest, EveryMomentsKeysAreAmongThoseOfItsDay) {
     }
 }
 
-TEST(ComponentsTest, OfABucketKeyAreItsHourAndMinute) {
+TEST(ComponentsTest, AreHourAndMinuteOfABucketKey) {
     EXPECT_EQ(components(BucketKey("2026-01-15 09:40")), (ClockMinute{9, 40}));
     EXPECT_EQ(components(BucketKey("2026-01-15 23:00")), (ClockMinute{23, 0}));
 }
 
-TEST(ComponentsTest, OfAKeyWithoutAMinuteAreNothing) {
+TEST(ComponentsTest, RejectAKeyWithoutAMinute) {
     for (const auto* key : {"2026-01-15", "2026-01-15 09", "2026-01-15 09:", "2026-01-15 :40", "", " ", ":",
                             "2026-01-15 09:40:10", "2026-01-15 nine:40", "2026-01-15 09:4x",
                             "2026-01-15 09:99999999999999999999"}) {
@@ -145,7 +145,7 @@ TEST(ComponentsTest, OfAKeyWithoutAMinuteAreNothing) {
     }
 }
 
-TEST(ComponentsTest, AreTakenFromWhatStandsBehindTheLastBlank) {
+TEST(ComponentsTest, AreParsedAfterTheLastSpace) {
     EXPECT_EQ(components(BucketKey("08:10 09:40")), (ClockMinute{9, 40}));
     EXPECT_EQ(components(BucketKey("09:40")), (ClockMinute{9, 40}));
     EXPECT_EQ(components(BucketKey("2026-01-15  09:40 ")), (ClockMinute{9, 40}));

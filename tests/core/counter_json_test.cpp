@@ -88,7 +88,7 @@ TEST(CounterJson, KeysBelowTheFirstLevelAreEscapedTheSameWay) {
     EXPECT_EQ(serializeCounters(record), "{\n  \"d\" : {\n    \"a\\/\\\"\\n\" : 1\n  }\n}");
 }
 
-TEST(CounterJson, WhatLiesBeyondAsciiStaysAsItIs) {
+TEST(CounterJson, NonAsciiIsKept) {
     CounterRecord record(1);
     set(record, {"ca\u00F1a \u2028\U0001F30A"}, 1);
     EXPECT_EQ(serializeCounters(record), "{\n  \"ca\u00F1a \u2028\U0001F30A\" : 1\n}");
@@ -188,22 +188,22 @@ TEST(CounterJson, NothingIsAppendedAfterTheSinkHasStopped) {
     EXPECT_EQ(sink.pieces.size(), 2U);
 }
 
-TEST(CounterJson, AnyJsonOfTheShapeIsRead) {
+TEST(CounterJson, AnyJsonOfThisStructureIsParsed) {
     EXPECT_EQ(reread("\xEF\xBB\xBF \t\r\n{ \"b\":2,\"\\u0061\\/\" : 1 } \n", 1),
               "{\n  \"a\\/\" : 1,\n  \"b\" : 2\n}");
 }
 
-TEST(CounterJson, ANumberIsReadByItsValueNotItsSpelling) {
+TEST(CounterJson, ANumberIsParsedByValueNotByNotation) {
     EXPECT_EQ(reread(R"({"a":60.0,"b":6e1,"c":-0,"d":-0.0,"e":1.5e1})", 1),
               "{\n  \"a\" : 60,\n  \"b\" : 60,\n  \"c\" : 0,\n  \"d\" : 0,\n  \"e\" : 15\n}");
 }
 
-TEST(CounterJson, OfEqualKeysTheLastStandsWithItsOwnMembersOnly) {
+TEST(CounterJson, OfDuplicateKeysTheLastWinsWithItsOwnMembersOnly) {
     EXPECT_EQ(reread(R"({"a":1,"b":2,"a":3})", 1), "{\n  \"a\" : 3,\n  \"b\" : 2\n}");
     EXPECT_EQ(reread(R"({"a":{"x":1},"\u0061":{"y":2,"y":3}})", 2), "{\n  \"a\" : {\n    \"y\" : 3\n  }\n}");
 }
 
-TEST(CounterJson, KeysInAnyOrderAreRead) {
+TEST(CounterJson, KeysInAnyOrderAreParsed) {
     EXPECT_EQ(reread(R"({"b":{"z":{"2":2,"1":1},"y":{"3":3}},"a":{"x":{}}})", 3), R"({
   "a" : {
     "x" : {
@@ -230,7 +230,7 @@ struct Refused {
 
 class RefusedTexts : public testing::TestWithParam<Refused> {};
 
-TEST_P(RefusedTexts, AreNotOfTheShape) {
+TEST_P(RefusedTexts, AreRejected) {
     EXPECT_EQ(reread(std::string(GetParam().text), GetParam().depth), std::nullopt);
 }
 
@@ -264,7 +264,7 @@ INSTANTIATE_TEST_SUITE_P(
         Refused{"Nul", 1, std::string_view("{\"a\":1}\0", 8)}),
     [](const auto& instance) { return instance.param.name; });
 
-TEST(CounterJson, EveryTruncationIsRefused) {
+TEST(CounterJson, EveryTruncationIsRejected) {
     CounterRecord record(3);
     set(record, {"2026-01-14", "P/1", "firefox"}, 20013);
     set(record, {"2026-01-15", "ca\u00F1a", "org.gnome.Terminal"}, 60);
@@ -276,7 +276,7 @@ TEST(CounterJson, EveryTruncationIsRefused) {
     }
 }
 
-TEST(CounterJson, NestingBeyondAllMeasureIsRefused) {
+TEST(CounterJson, ExcessiveNestingIsRejected) {
     std::string text;
     for (int i = 0; i < 100'000; ++i) text += R"({"a":)";
     EXPECT_EQ(reread(text, 3), std::nullopt);

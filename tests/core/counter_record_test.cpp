@@ -90,7 +90,7 @@ TEST_P(CounterRecordOfDepth, IsTheSameAfterAFile) {
     EXPECT_EQ(serializeCounters(*reread), serializeCounters(record));
 }
 
-TEST_P(CounterRecordOfDepth, ReadingAMissingPathMakesNothing) {
+TEST_P(CounterRecordOfDepth, ReadingAMissingPathCreatesNothing) {
     CounterRecord record(GetParam());
     EXPECT_EQ(record.seconds(views(randomPath())), Seconds());
     EXPECT_EQ(record.top().size(), 0u);
@@ -143,7 +143,7 @@ TEST_P(CounterRecordOfDepth, ACopyStaysAsItWasWhateverIsBookedAfterIt) {
 
 INSTANTIATE_TEST_SUITE_P(CounterRecord, CounterRecordOfDepth, testing::Values(1, 2, 3));
 
-TEST(CounterRecord, TextsThatAreNotUtf8AreTakenAsTheirRepairedForm) {
+TEST(CounterRecord, InvalidUtf8IsRepaired) {
     CounterRecord record(2);
     const std::vector<std::string_view> raw{"day\xFF", "caf\xE9"};
     const std::vector<std::string_view> repaired{"day\xEF\xBF\xBD", "caf\xEF\xBF\xBD"};
@@ -164,7 +164,7 @@ TEST(CounterRecord, CountersLeaveAndReenterTheRangeOfAClock) {
     }
 }
 
-TEST(CounterRecord, SettingTellsWhetherAnythingChanged) {
+TEST(CounterRecord, SetReturnsWhetherAnythingChanged) {
     CounterRecord record(2);
     const std::vector<std::string_view> path{"a", "b"};
     EXPECT_TRUE(record.set(path, Seconds(0))) << "there was no such counter";

@@ -21,13 +21,13 @@ struct DailyStoreTest : testing::Test {
     [[nodiscard]] DailyStore open() { return {world.files, world.log, dayRule}; }
 };
 
-TEST_F(DailyStoreTest, ADayNeverSeenHasZeroSecondsAndStaysUnseen) {
+TEST_F(DailyStoreTest, AnUnknownDayHasZeroSecondsAndStaysUnknown) {
     const auto store = open();
     EXPECT_EQ(store.seconds(monday), Seconds(0));
     EXPECT_THAT(store.allDays(), IsEmpty());
 }
 
-TEST_F(DailyStoreTest, SetReplacesWhatWasThere) {
+TEST_F(DailyStoreTest, SetReplacesTheValue) {
     auto store = open();
     store.set(Seconds(10), monday);
     store.set(Seconds(7), monday);
@@ -124,7 +124,7 @@ TEST_F(DailyStoreTest, AnUnreadableFileIsReadAsNoData) {
     EXPECT_THAT(open().allDays(), IsEmpty());
 }
 
-TEST_F(DailyStoreTest, KeysThatAreNoDaysAreKept) {
+TEST_F(DailyStoreTest, InvalidDayKeysAreKept) {
     world.files.put(world.todayJson, R"({"not a day":5,"":6})");
     auto store = open();
     store.flush();

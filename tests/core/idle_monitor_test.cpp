@@ -9,7 +9,7 @@
 namespace tidewatch {
 namespace {
 
-TEST(IdleMonitor, PassesOnWhatTheMachineTells) {
+TEST(IdleMonitor, ForwardsThePlatformsValue) {
     platform::FakeInputActivity input;
     const IdleMonitor monitor(input);
     input.set(12.5);
@@ -17,7 +17,7 @@ TEST(IdleMonitor, PassesOnWhatTheMachineTells) {
     EXPECT_TRUE(monitor.hasSource());
 }
 
-TEST(IdleMonitor, WithoutASourceTheUserHasBeenAwayForEver) {
+TEST(IdleMonitor, WithoutASourceTheUserIsIdleForEver) {
     platform::FakeInputActivity input;
     const IdleMonitor monitor(input);
     input.set(std::nullopt);

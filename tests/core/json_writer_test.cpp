@@ -54,7 +54,7 @@ TEST(JsonWriterTest, EscapesKeysAndTextsAlike) {
     EXPECT_EQ(writer.take(), "{\n  \"a\\/b\\\"\\n\" : \"\\\\ \\t\\u0001 Audio\\/Vídeo\"\n}");
 }
 
-TEST(JsonWriterTest, WhatIsNotUtf8IsWrittenRepaired) {
+TEST(JsonWriterTest, InvalidUtf8IsWrittenRepaired) {
     JsonWriter writer;
     writer.beginArray();
     writer.string("caf\xE9");
@@ -62,7 +62,7 @@ TEST(JsonWriterTest, WhatIsNotUtf8IsWrittenRepaired) {
     EXPECT_EQ(writer.take(), "[\n  \"caf\uFFFD\"\n]");
 }
 
-TEST(JsonDocumentTest, WhatIsNotJsonIsNothing) {
+TEST(JsonDocumentTest, RejectsInvalidJson) {
     for (const auto* text : {"", " ", "{", "{} x", "\"\xFF\"", "nul"}) {
         EXPECT_FALSE(JsonDocument::parse(text)) << text;
     }

@@ -12,7 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 
-TEST(IdleOption, AllCasesStandInTheOrderOfTheMenu) {
+TEST(IdleOption, AllOptionsAreInMenuOrder) {
     std::vector<std::int64_t> raws;
     std::vector<std::string> labels;
     for (const auto option : allIdleOptions()) {
@@ -24,7 +24,7 @@ TEST(IdleOption, AllCasesStandInTheOrderOfTheMenu) {
     EXPECT_THAT(labels, ElementsAre("1 min", "3 min", "5 min", "10 min", "15 min", "30 min"));
 }
 
-TEST(IdleOption, OnlyExactRawValuesNameAnOption) {
+TEST(IdleOption, OnlyExactRawValuesMatch) {
     EXPECT_EQ(idleOption(300), IdleOption::five);
     EXPECT_EQ(idleOption(301), std::nullopt);
     EXPECT_EQ(idleOption(0), std::nullopt);
@@ -42,7 +42,7 @@ TEST(IdleOption, AnyStoredValueHasAClosestOption) {
     EXPECT_EQ(closestIdleOption(std::numeric_limits<std::int64_t>::max()), IdleOption::thirty);
 }
 
-TEST(SizeOption, AllCasesStandInTheOrderOfTheMenu) {
+TEST(SizeOption, AllOptionsAreInMenuOrder) {
     std::vector<double> raws;
     std::vector<std::string> labels;
     for (const auto option : allSizeOptions()) {
@@ -54,7 +54,7 @@ TEST(SizeOption, AllCasesStandInTheOrderOfTheMenu) {
     EXPECT_THAT(labels, ElementsAre("10%", "25%", "50%", "75%", "100%", "500%"));
 }
 
-TEST(SizeOption, OnlyExactRawValuesNameAnOption) {
+TEST(SizeOption, OnlyExactRawValuesMatch) {
     EXPECT_EQ(sizeOption(0.5), SizeOption::md);
     EXPECT_EQ(sizeOption(0.51), std::nullopt);
 }
@@ -69,7 +69,7 @@ TEST(SizeOption, AValueNotInTheListShowsTheNearest) {
     EXPECT_EQ(closestSizeOption(3.1), SizeOption::huge);
 }
 
-TEST(SizeOption, ValuesThatAreNoSizeShowSomeOption) {
+TEST(SizeOption, InvalidSizesHaveAClosestOption) {
     EXPECT_EQ(closestSizeOption(-1), SizeOption::xs);
     EXPECT_EQ(closestSizeOption(std::numeric_limits<double>::quiet_NaN()), SizeOption::xs);
 }

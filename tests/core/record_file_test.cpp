@@ -58,7 +58,7 @@ TEST_F(RecordFileTest, ADamagedFileIsSetAsideOnceBeforeTheFirstWriteAndALineSays
                                                " could not be read; it is kept as " + damaged));
 }
 
-TEST_F(RecordFileTest, AFileThatMayNotBeReadIsSetAsideToo) {
+TEST_F(RecordFileTest, AnUnreadableFileIsSetAsideToo) {
     world.files.put(path, "good but not for us");
     world.files.makeUnreadable(path);
     EXPECT_EQ(file.read(goodText), std::nullopt);
@@ -83,7 +83,7 @@ TEST_F(RecordFileTest, ASecondDamagedFileOfADayIsKeptBesideTheFirst) {
     EXPECT_EQ(content(std::string(damaged) + "-2"), "garbage");
 }
 
-TEST_F(RecordFileTest, AWriteThatFailsIsToldAndLosesNoDamagedFile) {
+TEST_F(RecordFileTest, AFailedWriteIsLoggedAndLosesNoDamagedFile) {
     world.files.put(path, "garbage");
     EXPECT_EQ(file.read(goodText), std::nullopt);
     world.files.failWrite(1);
@@ -95,7 +95,7 @@ TEST_F(RecordFileTest, AWriteThatFailsIsToldAndLosesNoDamagedFile) {
     EXPECT_EQ(world.log.infos().size(), 1u);
 }
 
-TEST_F(RecordFileTest, WithoutWordsForItAFailureIsSilent) {
+TEST_F(RecordFileTest, WithoutAMessageAFailureIsSilent) {
     RecordFile silent(world.files, world.log, "notes.json");
     world.files.failWrite(1);
     EXPECT_FALSE(silent.write("good"));

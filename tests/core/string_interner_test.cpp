@@ -18,7 +18,7 @@ std::vector<std::string> manyNames() {
     return names;
 }
 
-TEST(StringInternerTest, EachNameKeepsItsNumberHoweverOftenAndInWhateverOrderItComes) {
+TEST(StringInternerTest, EachNameKeepsItsNumber) {
     const auto names = manyNames();
     StringInterner table;
     for (std::uint32_t i = 0; i < names.size(); ++i) ASSERT_EQ(table.intern(names[i]), i);
@@ -30,7 +30,7 @@ TEST(StringInternerTest, EachNameKeepsItsNumberHoweverOftenAndInWhateverOrderItC
     EXPECT_EQ(table.size(), names.size());
 }
 
-TEST(StringInternerTest, ACopyStandsOnItsOwn) {
+TEST(StringInternerTest, ACopyIsIndependent) {
     auto original = std::make_unique<StringInterner>();
     const auto names = manyNames();
     for (const auto& name : names) original->intern(name);
@@ -42,7 +42,7 @@ TEST(StringInternerTest, ACopyStandsOnItsOwn) {
     EXPECT_EQ(copy.intern(names.back()), names.size() - 1);
 }
 
-TEST(StringInternerTest, AMovedTableStillKnowsItsNames) {
+TEST(StringInternerTest, AMovedTableKeepsItsNames) {
     StringInterner original;
     original.intern("short");
     original.intern("a name that is too long for the string itself");

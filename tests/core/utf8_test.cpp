@@ -13,7 +13,7 @@ struct Repair {
 
 class RepairedUtf8 : public testing::TestWithParam<Repair> {};
 
-TEST_P(RepairedUtf8, PutsAReplacementCharacterWhereTextIsNoText) {
+TEST_P(RepairedUtf8, InvalidUtf8IsReplaced) {
     EXPECT_EQ(repairedUtf8(GetParam().text), GetParam().repaired);
     EXPECT_EQ(ValidUtf8(GetParam().text).text(), GetParam().repaired);
 }

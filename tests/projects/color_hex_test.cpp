@@ -17,14 +17,14 @@ TEST(ColorHexTest, ReadsSixDigitsWithOrWithoutAHashSignAndBlanks) {
     EXPECT_EQ(parseColorHex("#010203"), (RgbColor{1, 2, 3}));
 }
 
-TEST(ColorHexTest, ReadsNothingElse) {
+TEST(ColorHexTest, RejectsEverythingElse) {
     for (const auto* text : {"", "#", "##7BD88F", "#7BD88", "#7BD88F0", "#7BD8 8F", "# 7BD88F", "#7BD88G",
                              "-7BD88", "0x7BD8", "green", "#7BD8é"}) {
         EXPECT_EQ(parseColorHex(text), std::nullopt) << text;
     }
 }
 
-TEST(ProjectTest, AColourThatCannotBeReadShowsAsGreen) {
+TEST(ProjectTest, AnInvalidColourShowsAsGreen) {
     EXPECT_EQ((Project{{}, "a", "#010203", false}.color()), (RgbColor{1, 2, 3}));
     EXPECT_EQ((Project{{}, "a", "verde", false}.color()), (RgbColor{52, 199, 89}));
 }

@@ -146,7 +146,7 @@ TEST_F(ProjectStoreTest, ANameIsTrimmedWhenAProjectIsRenamed) {
     EXPECT_EQ(store->project(project.id)->name, "Dos tres");
 }
 
-TEST_F(ProjectStoreTest, ANameOfOnlyBlanksDoesNotRename) {
+TEST_F(ProjectStoreTest, ABlankNameDoesNotRename) {
     const auto project = store->addProject("Uno");
     const auto writes = world.files.writes().size();
     for (const auto* blank : {"", "   ", "\n\t", "\u00A0"}) store->renameProject(project.id, blank);
@@ -169,7 +169,7 @@ TEST_F(ProjectStoreTest, DeletingAnUnknownProjectWritesAndPosts) {
     EXPECT_EQ(posted, 1);
 }
 
-TEST_F(ProjectStoreTest, AColourIsTakenUnchecked) {
+TEST_F(ProjectStoreTest, AColourIsNotValidated) {
     const auto project = store->addProject("Uno");
     store->setColor("whatever", project.id);
     EXPECT_EQ(store->project(project.id)->colorHex, "whatever");
@@ -231,7 +231,7 @@ TEST_F(ProjectStoreTest, TheFileIsReadAndWrittenBackByteForByte) {
     EXPECT_EQ(store->dataFilePath(), world.projectsJson);
 }
 
-TEST_F(ProjectStoreTest, AColourThatCannotBeReadShowsAsGreenAndIsKept) {
+TEST_F(ProjectStoreTest, AnInvalidColourShowsAsGreenAndIsKept) {
     restartWith(twoProjects);
     EXPECT_EQ(store->project(otherId)->color(), (RgbColor{52, 199, 89}));
     store->renameProject(otherId, "Otro");
@@ -248,14 +248,14 @@ TEST_F(ProjectStoreTest, TheActiveIdMayBeMissingOrNullOrOfNoProject) {
     EXPECT_EQ(store->activeProjectId(), someId);
 }
 
-TEST_F(ProjectStoreTest, KeysBesideThoseNamedAreIgnored) {
+TEST_F(ProjectStoreTest, OtherKeysAreIgnored) {
     restartWith(
         R"({"version":1,"projects":[{"id":"0F8FAD5B-D9CB-469F-A165-70867728950E","name":"a","colorHex":"b",)"
         R"("archived":false,"notes":[1]}]})");
     EXPECT_THAT(store->projects(), SizeIs(1));
 }
 
-TEST_F(ProjectStoreTest, AMissingKeyReadsAsNoProjectsAtAll) {
+TEST_F(ProjectStoreTest, AMissingKeyReadsAsNoProjects) {
     const std::string good =
         R"({"id":"7C9E6679-7425-40DE-944B-E07FC1F90AE7","name":"a","colorHex":"b","archived":false})";
     restartWith(R"({"projects":[)" + good + "]}");
@@ -271,7 +271,7 @@ TEST_F(ProjectStoreTest, AMissingKeyReadsAsNoProjectsAtAll) {
     }
 }
 
-TEST_F(ProjectStoreTest, AnythingOfAnotherShapeReadsAsNoProjectsAtAll) {
+TEST_F(ProjectStoreTest, AMalformedFileReadsAsNoProjects) {
     for (
         const auto* text : {
             "",
@@ -331,7 +331,7 @@ TEST_F(ProjectStoreTest, EveryByteGarbledNeitherCrashesNorLeavesAnUnreadableFile
     }
 }
 
-TEST_F(ProjectStoreTest, AFailedWriteIsLoggedTheChangeStandsAndIsAnnounced) {
+TEST_F(ProjectStoreTest, AFailedWriteIsLoggedTheChangeIsKeptAndAnnounced) {
     world.files.failWrite(1);
     world.log.expectWarning("Tidewatch: failed to save projects: ");
     const auto project = store->addProject("Uno");

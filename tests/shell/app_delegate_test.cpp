@@ -205,7 +205,7 @@ TEST_F(AppDelegateTest, AChangeOfProjectsShowsAtOnce) {
     EXPECT_EQ(surfaces_.statusItem().title().text(), "— · LMN Juvenil");
 }
 
-TEST_F(AppDelegateTest, AMilestoneIsToldOnceAlsoAcrossARestart) {
+TEST_F(AppDelegateTest, AMilestoneIsNotifiedOnceEvenAcrossARestart) {
     auto goals = GoalSettings();
     goals.dailyHours = 10.0 / 3600;
     launch();
@@ -220,7 +220,7 @@ TEST_F(AppDelegateTest, AMilestoneIsToldOnceAlsoAcrossARestart) {
     EXPECT_EQ(titles, (std::vector<std::string>{"Casi lo logras", "Meta diaria cumplida ⭐"}));
 }
 
-TEST_F(AppDelegateTest, AMissingTrayIsToldOnce) {
+TEST_F(AppDelegateTest, AMissingTrayIsShownOnce) {
     launch();
     surfaces_.statusItem().setShown(false);
     runFor(10s);

@@ -52,7 +52,7 @@ TEST_F(ExportCommandsTest, TheDayIsReadAfterTheAnswer) {
     EXPECT_TRUE(surfaces_.warnings().empty());
 }
 
-TEST_F(ExportCommandsTest, WithoutAnAnswerNothingIsWrittenOrSaid) {
+TEST_F(ExportCommandsTest, WithoutAnAnswerNothingIsWrittenOrShown) {
     ASSERT_TRUE(choose("Exportar día (CSV)…"));
     EXPECT_EQ(written(), "(none)");
     EXPECT_TRUE(surfaces_.warnings().empty());
@@ -66,7 +66,7 @@ TEST_F(ExportCommandsTest, TheDayOfTheQuestionIsExportedAlsoOverMidnight) {
     EXPECT_EQ(written(), "bundle_id,app_name,category,tier,seconds,hms,percent\n");
 }
 
-TEST_F(ExportCommandsTest, ADayThatCannotBeWrittenIsTold) {
+TEST_F(ExportCommandsTest, AFailedExportOfTheDayIsShown) {
     runFor(5s);
     ASSERT_TRUE(choose("Exportar día (CSV)…"));
     machine_.files.failWrite(1);
@@ -75,7 +75,7 @@ TEST_F(ExportCommandsTest, ADayThatCannotBeWrittenIsTold) {
               std::vector<std::string>{"No se pudo escribir el archivo: El disco dio un error."});
 }
 
-TEST_F(ExportCommandsTest, AFullDiskIsToldInPlainWords) {
+TEST_F(ExportCommandsTest, AFullDiskIsShownInPlainWords) {
     ASSERT_TRUE(choose("Exportar día (CSV)…"));
     machine_.files.setDisk(platform::MemoryFileSystem::Disk::full);
     surfaces_.place(place);
@@ -112,7 +112,7 @@ TEST_F(ExportCommandsTest, AProjectIsWrittenWithItsTotal) {
               "# total,,,,,5,00:00:05\n");
 }
 
-TEST_F(ExportCommandsTest, AProjectThatCannotBeWrittenIsTold) {
+TEST_F(ExportCommandsTest, AFailedExportOfAProjectIsShown) {
     activeProject("Corto");
     ASSERT_TRUE(choose("Exportar CSV…"));
     machine_.files.failWrite(1);

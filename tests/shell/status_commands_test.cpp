@@ -88,7 +88,7 @@ TEST_F(StatusCommandsTest, ToggleLoginItemRegistersAndUnregisters) {
     EXPECT_FALSE(machine_.loginItem.isEnabled());
 }
 
-TEST_F(StatusCommandsTest, AFailureToChangeTheLoginItemIsTold) {
+TEST_F(StatusCommandsTest, AFailureToChangeTheLoginItemIsShown) {
     machine_.loginItem.setFailure(Error{"the folder is read-only"});
     ASSERT_TRUE(choose("Iniciar al arrancar"));
     EXPECT_EQ(surfaces_.warnings(),

@@ -128,7 +128,7 @@ const std::vector<Deed> deeds{
 
 class TitleAfter : public TitleWorld, public testing::WithParamInterface<Deed> {};
 
-TEST_P(TitleAfter, IsDrawnAsOftenAsTold) {
+TEST_P(TitleAfter, IsDrawnAsOftenAsSpecified) {
     GetParam().happens(*this);
     EXPECT_EQ(titlesSince(), GetParam().titles);
 }

@@ -114,7 +114,7 @@ TEST_F(ComponentsTest, AMeterIsFilledWithinItsEnds) {
     EXPECT_EQ(fillAt(7), 200);
 }
 
-TEST_F(ComponentsTest, AMeterWithANameTellsItsValue) {
+TEST_F(ComponentsTest, AMeterWithANameReportsItsValue) {
     show("Meter { fraction: 0.25; accessibleName: 'Horas por día'; valueText: '2.0h / 8.0h' }");
     auto& meter = accessible(*view_);
     EXPECT_EQ(meter.role(), QAccessible::ProgressBar);
@@ -143,7 +143,7 @@ TEST_F(ComponentsTest, AnIconButtonTakesTheMouseTheKeysAndAssistiveTechnology) {
     EXPECT_EQ(count("clicks"), 5);
 }
 
-TEST_F(ComponentsTest, ADisabledButtonSaysSo) {
+TEST_F(ComponentsTest, ADisabledButtonIsReportedAsDisabled) {
     show(oneIconButton);
     EXPECT_EQ(accessible(*view_).text(QAccessible::Description), "");
     view_->setEnabled(false);
@@ -303,7 +303,7 @@ TEST_F(ComponentsTest, TheStepperTakesClicksOnItsTwoButtons) {
     EXPECT_EQ(count("value"), 0);
 }
 
-TEST_F(ComponentsTest, TheStepperTellsItsValueAndStepsForAssistiveTechnology) {
+TEST_F(ComponentsTest, TheStepperReportsItsValueAndStepsForAssistiveTechnology) {
     show(stepper);
     EXPECT_EQ(accessible(*view_).role(), QAccessible::SpinBox);
     EXPECT_EQ(nameOf(*view_), "Horas por día");
@@ -366,7 +366,7 @@ Item {
     }
 })";
 
-TEST_F(ComponentsTest, TheSearchFieldTellsWhatIsTyped) {
+TEST_F(ComponentsTest, TheSearchFieldReportsEdits) {
     show(search);
     press(Qt::Key_Tab);
     press(Qt::Key_A);
@@ -505,7 +505,7 @@ TEST_F(ComponentsTest, AnIconThatIsNotThereIsTheSymbolOfAnApplication) {
     }
 }
 
-TEST_F(ComponentsTest, BehindTheDashboardLiesWhatTheThemeSays) {
+TEST_F(ComponentsTest, TheDashboardHasTheThemesDecoration) {
     show("DashboardBackground { width: 200; height: 100 }");
     const auto shown = [this](const char* name) { return item(name) != nullptr; };
     EXPECT_FALSE(shown("paperGrain") || shown("scanlines") || shown("liquid"));
@@ -518,7 +518,7 @@ TEST_F(ComponentsTest, BehindTheDashboardLiesWhatTheThemeSays) {
     EXPECT_TRUE(shown("liquid"));
 }
 
-TEST_F(ComponentsTest, TheLiquidBehindTheDashboardHasItsToldStrengthAndNothingDimsIt) {
+TEST_F(ComponentsTest, TheLiquidBehindTheDashboardHasItsSpecifiedIntensity) {
     theme_.switchTo("liquid");
     show("DashboardBackground { width: 200; height: 100 }");
     for (const QQuickItem* shown = item("liquid"); shown != nullptr; shown = shown->parentItem()) {
@@ -527,7 +527,7 @@ TEST_F(ComponentsTest, TheLiquidBehindTheDashboardHasItsToldStrengthAndNothingDi
     EXPECT_EQ(item("liquid")->property("intensity").toReal(), 0.45);
 }
 
-TEST_F(ComponentsTest, WhatIsDisabledSaysSoAndCannotBePressedByTheBus) {
+TEST_F(ComponentsTest, ADisabledControlIsReportedAndCannotBePressedThroughTheAccessibilityBus) {
     show(R"(Item {
         property int told: 0
         Column {
@@ -550,7 +550,7 @@ TEST_F(ComponentsTest, WhatIsDisabledSaysSoAndCannotBePressedByTheBus) {
     EXPECT_EQ(count("told"), 4);
 }
 
-TEST_F(ComponentsTest, TheGroundMovesOnlyInItsThemeAndWhileItIsWorthIt) {
+TEST_F(ComponentsTest, TheBackgroundIsAnimatedOnlyInItsThemeAndWhileVisible) {
     platform::FakeClock clock{Instant(std::chrono::seconds(1'764'000'000))};
     WallClock time(clock);
     show("DashboardBackground { width: 200; height: 100 }");

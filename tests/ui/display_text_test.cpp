@@ -18,7 +18,7 @@ TEST(NameText, AnOrdinaryNameStaysAsItIs) {
     EXPECT_EQ(nameText(" con margen "), " con margen ");
 }
 
-TEST(NameText, WhatLooksLikeMarkupStaysWords) {
+TEST(NameText, MarkupStaysPlainText) {
     EXPECT_EQ(nameText("<b>uno</b> &lt;"), "<b>uno</b> &lt;");
 }
 
@@ -27,19 +27,19 @@ TEST(NameText, BreaksOfLinesAndControlsAreBlanks) {
     EXPECT_EQ(nameText("uno\u2028dos\u2029tres\u0085cuatro\u001b[1m"), "uno dos tres cuatro [1m");
 }
 
-TEST(NameText, ANameWithNothingToSeeSaysSo) {
+TEST(NameText, AnInvisibleNameIsReplaced) {
     for (const auto* nothing : {"", " ", "\n\n", "\t", "\u200b\u200e", "\u00a0\u2003"}) {
         EXPECT_EQ(nameText(nothing), "Sin nombre") << nothing;
     }
 }
 
-TEST(NameText, TwoHundredUserPerceivedCharactersAreTheMost) {
+TEST(NameText, NamesAreLimitedToTwoHundredCharacters) {
     EXPECT_EQ(nameText(repeated("a", 200)), QString(200, 'a'));
     EXPECT_EQ(nameText(repeated("a", 201)), QString(200, 'a') + "…");
     EXPECT_EQ(nameText(repeated("a", 50'000)), QString(200, 'a') + "…");
 }
 
-TEST(NameText, NoUserPerceivedCharacterIsCutInTwo) {
+TEST(NameText, NoCharacterIsSplit) {
     // Eleven bytes and five units of text each, and one to the eye.
     const std::string coder = "👩‍💻";
     EXPECT_EQ(nameText(repeated(coder, 201)), QString::fromStdString(repeated(coder, 200)) + "…");
@@ -47,14 +47,14 @@ TEST(NameText, NoUserPerceivedCharacterIsCutInTwo) {
     EXPECT_EQ(nameText(repeated(accented, 201)), QString::fromStdString(repeated(accented, 200)) + "…");
 }
 
-TEST(NameText, OneCharacterOfEndlessAccentsIsCutAtTheEndOfAnAccent) {
+TEST(NameText, AnEndlessCharacterIsCutAfterAnAccent) {
     const auto name = nameText("e" + repeated("\u0301", 50'000));
     EXPECT_LT(name.size(), 5000);
     EXPECT_TRUE(name.endsWith("…"));
     EXPECT_FALSE(name.contains(QChar::ReplacementCharacter));
 }
 
-TEST(NameText, InvalidUtf8AreShownAsSuch) {
+TEST(NameText, InvalidUtf8IsShownAsReplacementCharacters) {
     EXPECT_EQ(nameText("uno\xff"), QString("uno") + QChar(QChar::ReplacementCharacter));
     EXPECT_TRUE(nameText(repeated("\xbf", 50'000)).size() <= 201);
 }

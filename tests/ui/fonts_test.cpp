@@ -13,7 +13,7 @@ TEST(Fonts, AMissingFolderMeansNoFonts) {
     EXPECT_EQ(registerFonts("/nowhere/Fonts"), 0);
 }
 
-TEST(Fonts, FilesThatAreNoFontsAreIgnored) {
+TEST(Fonts, InvalidFontFilesAreIgnored) {
     QTemporaryDir folder;
     for (const auto* name : {"broken.ttf", "notes.txt", "other.otf"}) {
         QFile file(folder.filePath(name));

@@ -131,7 +131,7 @@ TEST_F(BreakReminderTest, SittingDisplayPadsTheSmallerPart) {
     EXPECT_EQ(reminder_->sittingDisplay(), "2h 03m");
 }
 
-TEST_F(BreakReminderTest, GoingIdleEndsTheSittingAndNotTheAlert) {
+TEST_F(BreakReminderTest, GoingIdleEndsTheSittingButNotTheAlert) {
     sit(7200, shortDay_);
     reminder_->userWentIdle();
     EXPECT_EQ(reminder_->sittingSeconds(), Seconds(0));
@@ -140,14 +140,14 @@ TEST_F(BreakReminderTest, GoingIdleEndsTheSittingAndNotTheAlert) {
     EXPECT_EQ(reminder_->sittingDisplay(), "0m 05s") << "counts since the return";
 }
 
-TEST_F(BreakReminderTest, WhileAnAlertStandsNoOtherFollows) {
+TEST_F(BreakReminderTest, NoAlertIsRaisedWhileOneIsActive) {
     sit(3 * 7200, shortDay_);
     EXPECT_EQ(reminder_->alertsToday(), 1);
     EXPECT_EQ(reminder_->sittingSeconds(), Seconds(3 * 7200)) << "goes on counting";
     EXPECT_EQ(shownAfterARun().size(), 1u);
 }
 
-TEST_F(BreakReminderTest, ADismissalStartsTheSittingAfreshAndKeepsTheAlertsCount) {
+TEST_F(BreakReminderTest, DismissingRestartsTheSittingAndKeepsTheAlertCount) {
     sit(7300, shortDay_);
     reminder_->dismissAlert();
     EXPECT_FALSE(reminder_->alertActive());

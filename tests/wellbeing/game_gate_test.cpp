@@ -60,7 +60,7 @@ TEST_F(GameGateTest, TheFirstGameOfANewInstallationIsFree) {
     EXPECT_TRUE(notifier_.shown.empty());
 }
 
-TEST_F(GameGateTest, OnlyThePresenceOfTheMarkIsTested) {
+TEST_F(GameGateTest, OnlyThePresenceOfTheKeyMatters) {
     world_.preferences.setBoolean("gate.initialized", false);
     EXPECT_EQ(start().state(), State(Charging{Seconds(0)}));
 }
@@ -172,7 +172,7 @@ TEST_F(GameGateTest, AStoredLockOfZeroOrBelowIsNone) {
     EXPECT_EQ(startCharged(7).lockedUntil(), std::nullopt);
 }
 
-TEST_F(GameGateTest, AStoredLockBeyondAllReasonIsALongOne) {
+TEST_F(GameGateTest, AnAbsurdStoredLockIsALongOne) {
     for (const double stored : {1e300, std::numeric_limits<double>::infinity()}) {
         world_.preferences.setReal("gate.lockedUntil", stored);
         startCharged(0);
@@ -184,7 +184,7 @@ TEST_F(GameGateTest, AStoredLockBeyondAllReasonIsALongOne) {
     }
 }
 
-TEST_F(GameGateTest, AnExpiredLockIsKeptAsReadUntilATickOrARefresh) {
+TEST_F(GameGateTest, AnExpiredLockIsKeptUntilATickOrARefresh) {
     startLocked();
     world_.clock.advance(5h);
     start();
@@ -219,7 +219,7 @@ TEST_F(GameGateTest, StartingWhileLockedOrChargingChangesNothing) {
     EXPECT_FALSE(gate_->playingNow());
 }
 
-TEST_F(GameGateTest, AGameInCourseStaysPlayableButIsNotStartedTwice) {
+TEST_F(GameGateTest, ARunningGameStaysPlayableButIsNotStartedTwice) {
     start();
     EXPECT_TRUE(gate_->startPlay());
     EXPECT_FALSE(gate_->startPlay());
@@ -246,7 +246,7 @@ TEST_F(GameGateTest, AStoredChargeAboveTheHourLeavesNothingToWork) {
     EXPECT_EQ(gate_->workSeconds(), Seconds(3600));
 }
 
-TEST_F(GameGateTest, AStoredChargeOutOfAllRangesDoesNoHarm) {
+TEST_F(GameGateTest, AnAbsurdStoredChargeIsHarmless) {
     startCharged(std::numeric_limits<std::int64_t>::max());
     EXPECT_EQ(gate_->workRemaining(), Seconds(0));
     work(1);

@@ -47,7 +47,7 @@ protected:
     const int goal_ = 6 * 3600;
 };
 
-TEST_F(NotificationManagerTest, AMessageGoesToTheNewerService) {
+TEST_F(NotificationManagerTest, ANotificationUsesTheModernService) {
     start({.granted = true, .error = {}});
     EXPECT_TRUE(manager_->authorized());
     EXPECT_FALSE(manager_->useFallback());
@@ -58,7 +58,7 @@ TEST_F(NotificationManagerTest, AMessageGoesToTheNewerService) {
     EXPECT_TRUE(service_.deliveredLegacy().empty());
 }
 
-TEST_F(NotificationManagerTest, AMessageNeedsNoAnswerFirst) {
+TEST_F(NotificationManagerTest, ANotificationNeedsNoPermissionFirst) {
     start();
     manager_->requestAuthorization();
     EXPECT_FALSE(manager_->authorized());
@@ -66,7 +66,7 @@ TEST_F(NotificationManagerTest, AMessageNeedsNoAnswerFirst) {
     EXPECT_EQ(service_.delivered(), Messages{message});
 }
 
-TEST_F(NotificationManagerTest, WithoutANewerServiceAllGoToTheOlderOneAndNobodyIsAsked) {
+TEST_F(NotificationManagerTest, WithoutAModernServiceTheLegacyOneIsUsedWithoutAskingForPermission) {
     service_.setModernService(false);
     start();
     manager_->notify(message);
@@ -80,7 +80,7 @@ TEST_F(NotificationManagerTest, WithoutANewerServiceAllGoToTheOlderOneAndNobodyI
     EXPECT_TRUE(service_.delivered().empty());
 }
 
-TEST_F(NotificationManagerTest, ARefusalOfTheUserIsNoFailure) {
+TEST_F(NotificationManagerTest, ARefusalIsNoFailure) {
     start({.granted = false, .error = {}});
     EXPECT_FALSE(manager_->authorized());
     EXPECT_FALSE(manager_->useFallback());
@@ -88,7 +88,7 @@ TEST_F(NotificationManagerTest, ARefusalOfTheUserIsNoFailure) {
     EXPECT_EQ(service_.delivered(), Messages{message});
 }
 
-TEST_F(NotificationManagerTest, AFailedRequestIsLoggedAndSwitchesTheRestOfTheRunToTheOlderService) {
+TEST_F(NotificationManagerTest, AFailedRequestIsLoggedAndSwitchesToTheLegacyService) {
     world_.log.expectWarning("Notif auth error: no centre");
     start({.granted = true, .error = Error{"no centre"}});
     EXPECT_TRUE(manager_->useFallback());
@@ -110,7 +110,7 @@ TEST_F(NotificationManagerTest, TheAnswerIsTakenOnTheMainThread) {
     EXPECT_TRUE(manager_->authorized());
 }
 
-TEST_F(NotificationManagerTest, AFailedDeliveryIsLoggedAndTakesTheOlderPathOnTheMainThread) {
+TEST_F(NotificationManagerTest, AFailedDeliveryIsLoggedAndUsesTheLegacyServiceOnTheMainThread) {
     start({.granted = true, .error = {}});
     manager_->notify(message);
     world_.log.expectWarning("Notif deliver error: no service");
@@ -120,7 +120,7 @@ TEST_F(NotificationManagerTest, AFailedDeliveryIsLoggedAndTakesTheOlderPathOnThe
     EXPECT_EQ(service_.deliveredLegacy(), Messages{message});
 }
 
-TEST_F(NotificationManagerTest, AfterAFailedDeliveryTheNewerServiceIsTriedAgain) {
+TEST_F(NotificationManagerTest, AfterAFailedDeliveryTheModernServiceIsTriedAgain) {
     start({.granted = true, .error = {}});
     manager_->notify(message);
     world_.log.expectWarning("Notif deliver error: busy");
@@ -132,7 +132,7 @@ TEST_F(NotificationManagerTest, AfterAFailedDeliveryTheNewerServiceIsTriedAgain)
     EXPECT_EQ(service_.deliveredLegacy().size(), 1u);
 }
 
-TEST_F(NotificationManagerTest, WhatIsReportedAfterTheEndIsDropped) {
+TEST_F(NotificationManagerTest, ReportsAfterDestructionAreDropped) {
     start();
     manager_->requestAuthorization();
     manager_->notify(message);
@@ -157,7 +157,7 @@ TEST_F(NotificationManagerTest, NotifyRepeatsAndFireOnceDoesNot) {
     EXPECT_TRUE(world_.preferences.boolean("notif-key"));
 }
 
-TEST_F(NotificationManagerTest, AMessageCountsAsSeenAlthoughItsDeliveryFailed) {
+TEST_F(NotificationManagerTest, AFailedDeliveryCountsAsSeen) {
     start();
     manager_->fireOnce("key", message);
     world_.log.expectWarning("Notif deliver error: gone");
@@ -178,7 +178,7 @@ TEST_F(NotificationManagerTest, AGoalOfZeroHoursHasNoMilestones) {
     EXPECT_TRUE(service_.delivered().empty());
 }
 
-TEST_F(NotificationManagerTest, EachMilestoneIsToldOnce) {
+TEST_F(NotificationManagerTest, EachMilestoneIsNotifiedOnce) {
     start();
     check(goal_ * 85 / 100);
     check(goal_ * 85 / 100);
@@ -201,7 +201,7 @@ TEST_F(NotificationManagerTest, ARestartOnTheSameDayRepeatsNothing) {
     EXPECT_EQ(service_.delivered().size(), 2u) << "a new day is told anew";
 }
 
-TEST_F(NotificationManagerTest, AStartPastTheGoalTellsTheGoalAlone) {
+TEST_F(NotificationManagerTest, AStartPastTheGoalNotifiesTheGoalOnly) {
     start();
     check(goal_ + 100);
     ASSERT_EQ(service_.delivered().size(), 1u);
@@ -210,7 +210,7 @@ TEST_F(NotificationManagerTest, AStartPastTheGoalTellsTheGoalAlone) {
     EXPECT_FALSE(world_.preferences.contains("notif-goal80-2026-01-15"));
 }
 
-TEST_F(NotificationManagerTest, BelowFourFifthsNothingIsTold) {
+TEST_F(NotificationManagerTest, BelowFourFifthsNothingIsNotified) {
     start();
     check(0);
     check(goal_ * 8 / 10 - 1);
@@ -240,7 +240,7 @@ TEST_F(NotificationManagerTest, TheTextsNameTheTimeAndTheWholeHoursOfTheGoal) {
                         {"Meta diaria cumplida ⭐", "Llevas 7h 30m hoy — superaste tu meta de 7h. ¡Bien!"}}));
 }
 
-TEST_F(NotificationManagerTest, LessThanAnHourIsToldInMinutes) {
+TEST_F(NotificationManagerTest, LessThanAnHourIsGivenInMinutes) {
     start();
     goals_.setSettings({.dailyHours = 0.75});
     check(45 * 60);

@@ -9,7 +9,7 @@
 namespace tidewatch {
 namespace {
 
-TEST(Stretch, AllStandInTheOrderOfTheirRotation) {
+TEST(Stretch, AllAreInRotationOrder) {
     EXPECT_THAT(allStretches(),
                 testing::ElementsAre(Stretch::neck, Stretch::shoulders, Stretch::back, Stretch::eyes,
                                      Stretch::wrists, Stretch::hips, Stretch::fullBody));

@@ -21,7 +21,7 @@ protected:
     const std::string path_ = "/home/user/Documentos/fathom-reporte.pdf";
 };
 
-TEST_F(PdfReportTest, WritesAPdfWhereItIsTold) {
+TEST_F(PdfReportTest, WritesAPdfToTheGivenPath) {
     fixture_.setTime(DayKey("2026-01-15"), 5000);
     world_.files.put(path_, "an older one");
     EXPECT_TRUE(report_.generate(path_));
@@ -31,7 +31,7 @@ TEST_F(PdfReportTest, WritesAPdfWhereItIsTold) {
     EXPECT_EQ(world_.files.exports(), std::vector<std::string>{path_});
 }
 
-TEST_F(PdfReportTest, AFailureIsLoggedAndLeavesTheFileAsItWas) {
+TEST_F(PdfReportTest, AFailureIsLoggedAndLeavesTheFileUnchanged) {
     world_.files.put(path_, "an older one");
     world_.files.setDisk(platform::MemoryFileSystem::Disk::full);
     world_.log.expectWarning("PdfReport write: ");

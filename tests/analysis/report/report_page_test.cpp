@@ -41,7 +41,7 @@ TEST_P(ReportPageCase, IsTheGoldenPage) {
     EXPECT_EQ(test::described(layOutReport(GetParam().data, plainWidth)), golden(GetParam().name));
 }
 
-TEST_P(ReportPageCase, KeepsToItsFrame) {
+TEST_P(ReportPageCase, StaysWithinItsFrame) {
     const auto page = layOutReport(GetParam().data, plainWidth);
     for (const auto& text : page.texts) {
         EXPECT_GE(text.x, 60) << text.text;

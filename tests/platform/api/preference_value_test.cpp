@@ -71,7 +71,7 @@ TEST(PreferenceValue, OnlyTextsReadAsText) {
     EXPECT_EQ(asText(Value(true)), "");
 }
 
-TEST(MemoryPreferences, TellAnAbsentKeyFromAStoredZero) {
+TEST(MemoryPreferences, DistinguishAMissingKeyFromAStoredZero) {
     MemoryPreferences preferences;
     EXPECT_FALSE(preferences.contains("hour"));
     EXPECT_EQ(preferences.integer("hour"), 0);
@@ -82,7 +82,7 @@ TEST(MemoryPreferences, TellAnAbsentKeyFromAStoredZero) {
     preferences.remove("hour");
 }
 
-TEST(MemoryPreferences, GiveBackWhatWasWritten) {
+TEST(MemoryPreferences, ReturnWhatWasWritten) {
     MemoryPreferences preferences;
     preferences.setBoolean("b", true);
     preferences.setReal("r", 0.1);

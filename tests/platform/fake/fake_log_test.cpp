@@ -17,12 +17,12 @@ struct FakeLogTest : testing::Test {
                                [this](const std::string& text) { complaints.push_back(text); }};
 };
 
-TEST_F(FakeLogTest, ComplainsOfAWarningThatWasNotAnnounced) {
+TEST_F(FakeLogTest, FailsForAnUnexpectedWarning) {
     log->warning("disk on fire");
     EXPECT_THAT(complaints, ElementsAre(HasSubstr("disk on fire")));
 }
 
-TEST_F(FakeLogTest, TakesAnAnnouncedWarningOnce) {
+TEST_F(FakeLogTest, AcceptsAnExpectedWarningOnce) {
     log->expectWarning("on fire");
     log->warning("disk on fire");
     EXPECT_THAT(complaints, IsEmpty());
@@ -30,13 +30,13 @@ TEST_F(FakeLogTest, TakesAnAnnouncedWarningOnce) {
     EXPECT_EQ(complaints.size(), 1u);
 }
 
-TEST_F(FakeLogTest, ComplainsOfAnAnnouncedWarningThatNeverCame) {
+TEST_F(FakeLogTest, FailsForAnExpectedWarningThatNeverCame) {
     log->expectWarning("on fire");
     log.reset();
     EXPECT_THAT(complaints, ElementsAre(HasSubstr("on fire")));
 }
 
-TEST_F(FakeLogTest, HasNothingAgainstInformation) {
+TEST_F(FakeLogTest, AcceptsInformation) {
     log->info("started");
     EXPECT_THAT(log->infos(), ElementsAre("started"));
     EXPECT_THAT(complaints, IsEmpty());

@@ -83,7 +83,7 @@ TEST(MemoryFileSystem, TruncatesAFile) {
     EXPECT_EQ(files.content("/d/f"), "ab");
 }
 
-TEST(MemoryFileSystem, TellsAFileFromTheOneThatReplacedIt) {
+TEST(MemoryFileSystem, DistinguishesAFileFromItsReplacement) {
     MemoryFileSystem files;
     files.put("/home/user/a", "12345");
     const auto first = files.inspect("/home/user/a").value();
@@ -100,7 +100,7 @@ TEST(MemoryFileSystem, TellsAFileFromTheOneThatReplacedIt) {
     EXPECT_FALSE(files.inspect("/home/user/b"));
 }
 
-TEST(MemoryFileSystem, TellsWhyAFileCannotBeRead) {
+TEST(MemoryFileSystem, ReportsWhyAFileCannotBeRead) {
     MemoryFileSystem files;
     files.put("/d/f", "1");
     files.makeUnreadable("/d/f");
@@ -111,7 +111,7 @@ TEST(MemoryFileSystem, TellsWhyAFileCannotBeRead) {
     EXPECT_EQ(files.openForReading("/d/g", 0).error().kind, FileErrorKind::notFound);
 }
 
-TEST(MemoryFileSystem, GivesAFileInPieces) {
+TEST(MemoryFileSystem, ReadsAFileInPieces) {
     MemoryFileSystem files;
     files.put("/d/f", "one two three");
     const auto reader = files.openForReading("/d/f", 4);
@@ -157,7 +157,7 @@ TEST(MemoryFileSystem, EnumeratesWhatIsBelowADirectory) {
     EXPECT_EQ(find(HiddenFiles::skipped, removeE), (Paths{"/d/a", "/d/a-c", "/d/a/b", "/d/closed"}));
 }
 
-TEST(MemoryFileSystem, ADirectoryThatCannotBeEnumeratedSaysWhy) {
+TEST(MemoryFileSystem, ADirectoryThatCannotBeEnumeratedReportsWhy) {
     MemoryFileSystem files;
     files.put("/d/f", "1");
     files.makeUnreadable("/d");

@@ -25,7 +25,7 @@ TEST(BusAddressTest, OfSeveralTheFirstOnThisMachineIsTaken) {
     EXPECT_STREQ(socket->name.sun_path, "/a");
 }
 
-TEST(BusAddressTest, WhatLeadsElsewhereIsNone) {
+TEST(BusAddressTest, OtherTransportsAreRejected) {
     EXPECT_FALSE(socketOfBus(""));
     EXPECT_FALSE(socketOfBus("tcp:host=127.0.0.1,port=5"));
     EXPECT_FALSE(socketOfBus("unixexec:path=/bin/true"));

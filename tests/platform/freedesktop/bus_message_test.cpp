@@ -15,7 +15,7 @@ std::string hello() {
            "\3\1s\0\5\0\0\0Hello\0\0\0"s;
 }
 
-TEST(BusMessageTest, ACallTellsWhomItAsksForWhat) {
+TEST(BusMessageTest, ACallHasItsDestinationAndMember) {
     const auto message = BusMessage::parse(hello());
     ASSERT_TRUE(message);
     EXPECT_EQ(message->type, BusMessage::Type::call);
@@ -27,27 +27,27 @@ TEST(BusMessageTest, ACallTellsWhomItAsksForWhat) {
     EXPECT_EQ(message->answers, 0u);
 }
 
-TEST(BusMessageTest, ACallThatWantsNoReplySaysSo) {
+TEST(BusMessageTest, ACallWithoutAReplyIsFlagged) {
     auto bytes = hello();
     bytes[2] = 1;
     EXPECT_FALSE(BusMessage::parse(bytes)->wantsReply);
 }
 
-TEST(BusMessageTest, TheSizeIsKnownFromTheFirstSixteenBytesOn) {
+TEST(BusMessageTest, TheSizeIsKnownFromSixteenBytesOn) {
     const auto bytes = hello();
     EXPECT_EQ(BusMessage::sizeAtFront(bytes.substr(0, 15)), 0u);
     EXPECT_EQ(BusMessage::sizeAtFront(bytes.substr(0, 16)), bytes.size());
     EXPECT_EQ(BusMessage::sizeAtFront(bytes + "more"), bytes.size());
 }
 
-TEST(BusMessageTest, NoBeginningOfAMessageIsReadAsAWhole) {
+TEST(BusMessageTest, NoPrefixOfAMessageIsParsed) {
     const auto bytes = hello();
     for (std::size_t size = 0; size < bytes.size(); ++size) {
         EXPECT_FALSE(BusMessage::parse(bytes.substr(0, size))) << size;
     }
 }
 
-TEST(BusMessageTest, DamagedMessagesAreRefused) {
+TEST(BusMessageTest, MalformedMessagesAreRejected) {
     EXPECT_FALSE(BusMessage::sizeAtFront("HTTP/1.1 400 Bad"));
     auto endless = hello();
     endless[7] = '\x7f';

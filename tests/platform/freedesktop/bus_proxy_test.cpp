@@ -89,7 +89,7 @@ protected:
     QStringList connections_;
 };
 
-TEST_F(BusProxyTest, CallsAnswersAndNamesPassThrough) {
+TEST_F(BusProxyTest, CallsRepliesAndNamesAreForwarded) {
     auto mine = connectThroughProxy();
     ASSERT_TRUE(mine.isConnected());
     EXPECT_FALSE(askBus(mine).failed());
@@ -102,7 +102,7 @@ TEST_F(BusProxyTest, CallsAnswersAndNamesPassThrough) {
     EXPECT_EQ(call.reply().arguments().value(0).toString(), "pong");
 }
 
-TEST_F(BusProxyTest, AStoppedBusIsAnsweredForAndThenAtOnceUntilItGoesOn) {
+TEST_F(BusProxyTest, CallsToAStoppedBusTimeOutOnceAndThenFailImmediatelyUntilItResumes) {
     auto mine = connectThroughProxy();
     ASSERT_FALSE(askBus(mine).failed());
     bus_.suspend();
@@ -125,7 +125,7 @@ TEST_F(BusProxyTest, AStoppedBusIsAnsweredForAndThenAtOnceUntilItGoesOn) {
     EXPECT_TRUE(connectThroughProxy().isConnected());
 }
 
-TEST_F(BusProxyTest, ABusThatWasStoppedBeforeBlocksNobodyAndIsFoundOnceItGoesOn) {
+TEST_F(BusProxyTest, ABusStoppedBeforeTheStartBlocksNobodyAndIsFoundOnceItResumes) {
     bus_.suspend();
     QElapsedTimer timer;
     timer.start();
@@ -149,7 +149,7 @@ TEST_F(BusProxyTest, AStoppedServiceBlocksNeitherTheCallerNorTheOthers) {
     EXPECT_FALSE(askBus(mine).failed());
 }
 
-TEST_F(BusProxyTest, WhoIsOnlyAskedWithoutWaitingHasItsTime) {
+TEST_F(BusProxyTest, AsynchronousServicesHaveNoTimeout) {
     auto mine = connectThroughProxy();
     Service notifications(bus_.connect(), "org.freedesktop.Notifications", "/org/freedesktop/Notifications");
     notifications.mute = true;
@@ -163,7 +163,7 @@ TEST_F(BusProxyTest, WhoIsOnlyAskedWithoutWaitingHasItsTime) {
     EXPECT_GE(timer.elapsed(), 2 * timeout.count());
 }
 
-TEST_F(BusProxyTest, ABusThatEndsIsGoneAndFoundWhenItIsBack) {
+TEST_F(BusProxyTest, ABusThatEndsIsDisconnectedAndFoundAfterARestart) {
     auto mine = connectThroughProxy();
     bus_.stop();
     EXPECT_TRUE(waitFor([&] { return !mine.isConnected(); }));
@@ -183,7 +183,7 @@ TEST_F(BusProxyTest, TheBusOfScreenReadersIsProxiedAsWell) {
     EXPECT_EQ(address.toStdString(), proxy_.proxiedAddress(bus_.address().toStdString()));
 }
 
-TEST_F(BusProxyTest, NoOtherProcessGetsIn) {
+TEST_F(BusProxyTest, OtherProcessesAreRejected) {
     ASSERT_TRUE(connectThroughProxy().isConnected());
     QProcess other;
     other.start("dbus-send",
@@ -212,7 +212,7 @@ TEST_F(BusProxyTest, AShortageOfDescriptorsIsWaitedOut) {
     EXPECT_FALSE(askBus(connectThroughProxy()).failed());
 }
 
-TEST_F(BusProxyTest, AnAddressThatIsNoneLeadsNowhere) {
+TEST_F(BusProxyTest, AnInvalidAddressFailsImmediately) {
     EXPECT_EQ(proxy_.proxiedAddress(""), "disabled:");
     EXPECT_EQ(proxy_.proxiedAddress("tcp:host=127.0.0.1,port=1"), "disabled:");
     EXPECT_FALSE(QDBusConnection::connectToBus("disabled:", "nowhere").isConnected());

@@ -228,7 +228,7 @@ TEST_F(DesktopEntriesTest, AUsersFileThatIsNoEntryDoesNotHideTheSharedEntry) {
     EXPECT_EQ(entries().info("editor", "C")->name, "Editor");
 }
 
-TEST_F(DesktopEntriesTest, FoldersThatLinkToOneAnotherAreReadOnce) {
+TEST_F(DesktopEntriesTest, CyclicallyLinkedFoldersAreReadOnce) {
     shared_.write("a/one.desktop", "[Desktop Entry]\n");
     shared_.write("b/two.desktop", "[Desktop Entry]\n");
     fs::create_directory_symlink(shared_.path() + "/b", shared_.path() + "/a/to-b");

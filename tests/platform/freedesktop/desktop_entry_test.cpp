@@ -66,7 +66,7 @@ TEST(DesktopEntryTest, WithoutSpanishTheNameIsThePlainOne) {
     EXPECT_EQ(nameIn("[Desktop Entry]\nName[est]=Failid\nName=Files\nName[de]=Dateien\n", "es_ES"), "Files");
 }
 
-TEST(DesktopEntryTest, WhatIsLeftOutIsEmpty) {
+TEST(DesktopEntryTest, MissingKeysAreEmpty) {
     const auto info = parseDesktopEntry("[Desktop Entry]\nType=Application\n", "es");
     ASSERT_TRUE(info);
     EXPECT_EQ(info->name, "");
@@ -74,14 +74,14 @@ TEST(DesktopEntryTest, WhatIsLeftOutIsEmpty) {
     EXPECT_THAT(info->categories, IsEmpty());
 }
 
-TEST(DesktopEntryTest, WhatIsNoEntryOrIsMarkedAsRemovedTellsNothing) {
+TEST(DesktopEntryTest, NoEntryOrAHiddenOneIsRejected) {
     EXPECT_EQ(parseDesktopEntry("", "es"), std::nullopt);
     EXPECT_EQ(parseDesktopEntry("Name=Files\n", "es"), std::nullopt);
     EXPECT_EQ(parseDesktopEntry("[Other]\nName=Files\n", "es"), std::nullopt);
     EXPECT_EQ(parseDesktopEntry("[Desktop Entry]\nName=Files\nHidden=true\n", "es"), std::nullopt);
 }
 
-TEST(DesktopEntryTest, BlanksAroundTheSignAndOtherLineEndsDoNotMatter) {
+TEST(DesktopEntryTest, SpacesAroundTheSignAndOtherLineBreaksAreAccepted) {
     const auto info = parseDesktopEntry(
         "[Desktop Entry]\r\nName = Files \r\n#Name[es]=no\r\nCategories\t=\tGame ;X\r\n", "");
     ASSERT_TRUE(info);
@@ -89,7 +89,7 @@ TEST(DesktopEntryTest, BlanksAroundTheSignAndOtherLineEndsDoNotMatter) {
     EXPECT_THAT(info->categories, ElementsAre("Game ", "X"));
 }
 
-TEST(DesktopEntryTest, EscapedCharactersAreRead) {
+TEST(DesktopEntryTest, EscapedCharactersAreParsed) {
     const auto info =
         parseDesktopEntry("[Desktop Entry]\nName=\\sA\\tB\\\\C\\\nIcon=C:\\\\x\nCategories=A\\;B;;C\n", "");
     ASSERT_TRUE(info);
@@ -115,7 +115,7 @@ struct DesktopEntriesInfoTest : testing::Test {
     }
 };
 
-TEST_F(DesktopEntriesInfoTest, TellsOfExactlyThisId) {
+TEST_F(DesktopEntriesInfoTest, ReturnsTheEntryOfExactlyThisId) {
     write(shared, "org.example.Files.desktop", files);
     EXPECT_EQ(nameOf("org.example.Files"), "Archivos");
     EXPECT_EQ(nameOf("org.example.files"), "nothing");
@@ -123,7 +123,7 @@ TEST_F(DesktopEntriesInfoTest, TellsOfExactlyThisId) {
     EXPECT_EQ(nameOf(""), "nothing");
 }
 
-TEST_F(DesktopEntriesInfoTest, AnEntryWithoutANameGoesByItsId) {
+TEST_F(DesktopEntriesInfoTest, AnEntryWithoutANameHasItsIdAsName) {
     write(shared, "tool.desktop", "[Desktop Entry]\nExec=tool\n");
     EXPECT_EQ(nameOf("tool"), "tool");
 }
@@ -145,7 +145,7 @@ TEST_F(DesktopEntriesInfoTest, ADashMayBeAStepIntoAFolder) {
     EXPECT_EQ(nameOf("kde-sub-other"), "nothing");
 }
 
-TEST_F(DesktopEntriesInfoTest, NoIdLeadsOutOfTheFolders) {
+TEST_F(DesktopEntriesInfoTest, NoIdEscapesTheFolders) {
     write(shared, "inner/seen.desktop", "[Desktop Entry]\nName=Seen\n");
     const DesktopEntries inner({shared.path() + "/inner"});
     write(shared, "outside.desktop", "[Desktop Entry]\nName=Outside\n");

@@ -100,7 +100,7 @@ TEST_F(DesktopNotificationsTest, TheServiceIsHandedTitleBodyIconAndSound) {
     EXPECT_EQ(arguments[7].toInt(), -1);
 }
 
-TEST_F(DesktopNotificationsTest, MarkupInTheBodyIsShownAsItStands) {
+TEST_F(DesktopNotificationsTest, MarkupInTheBodyIsEscaped) {
     Service service(bus_.connect(), Service::Manner::takes);
     DesktopNotifications notifications(session_, log_);
     notifications.deliver({"a < b", "<b>a & b</b>"}, [](const Status&) {});
@@ -109,7 +109,7 @@ TEST_F(DesktopNotificationsTest, MarkupInTheBodyIsShownAsItStands) {
     EXPECT_EQ(service.calls[0].arguments()[4].toString(), "&lt;b&gt;a &amp; b&lt;/b&gt;");
 }
 
-TEST_F(DesktopNotificationsTest, EachMessageIsOneOfItsOwn) {
+TEST_F(DesktopNotificationsTest, EachNotificationIsANewOne) {
     Service service(bus_.connect(), Service::Manner::takes);
     DesktopNotifications notifications(session_, log_);
     ASSERT_TRUE(deliver(notifications));
@@ -127,7 +127,7 @@ TEST_F(DesktopNotificationsTest, AnErrorOfTheServiceIsReported) {
     EXPECT_EQ(status->error().message, "org.freedesktop.DBus.Error.LimitsExceeded: full");
 }
 
-TEST_F(DesktopNotificationsTest, ASilentServiceIsReportedAfterTheTimeOut) {
+TEST_F(DesktopNotificationsTest, AnUnresponsiveServiceIsReportedAfterTheTimeout) {
     Service service(bus_.connect(), Service::Manner::keepsSilent);
     DesktopNotifications notifications(session_, log_, 200ms);
     QElapsedTimer timer;
@@ -206,7 +206,7 @@ TEST_F(DesktopNotificationsTest, NothingIsReportedAfterTheEnd) {
     EXPECT_FALSE(reported);
 }
 
-TEST_F(DesktopNotificationsTest, NobodyHasToBeAskedForTheRight) {
+TEST_F(DesktopNotificationsTest, NoPermissionIsNeeded) {
     DesktopNotifications notifications(session_, log_);
     std::optional<AuthorizationResult> answer;
     notifications.requestAuthorization([&](const AuthorizationResult& given) { answer = given; });
@@ -216,7 +216,7 @@ TEST_F(DesktopNotificationsTest, NobodyHasToBeAskedForTheRight) {
     EXPECT_FALSE(answer->error);
 }
 
-TEST_F(DesktopNotificationsTest, TheOlderServiceIsWhatIsGivenAsIt) {
+TEST_F(DesktopNotificationsTest, TheLegacyServiceIsTheGivenOne) {
     DesktopNotifications notifications(session_, log_);
     std::vector<UserNotification> shown;
     notifications.setLegacyService([&](const UserNotification& message) { shown.push_back(message); });
@@ -224,7 +224,7 @@ TEST_F(DesktopNotificationsTest, TheOlderServiceIsWhatIsGivenAsIt) {
     EXPECT_EQ(shown, std::vector{notification});
 }
 
-TEST_F(DesktopNotificationsTest, WithoutAnOlderServiceTheMessageIsLoggedAsLost) {
+TEST_F(DesktopNotificationsTest, WithoutALegacyServiceTheNotificationIsLoggedAsLost) {
     DesktopNotifications notifications(session_, log_);
     log_.expectWarning("no service to show a notification: 💣 Llevas 2 horas sentado");
     notifications.deliverLegacy(notification);

@@ -17,12 +17,12 @@ TEST(FolderHandlersTest, TheUsersChoiceIsReadInItsOrder) {
                 ElementsAre("pcmanfm"));
 }
 
-TEST(FolderHandlersTest, WhatIsRemovedOrOfAnotherGroupIsNone) {
+TEST(FolderHandlersTest, RemovedOnesAndOtherGroupsAreIgnored) {
     EXPECT_THAT(folderHandlers("[Removed Associations]\ninode/directory=code.desktop;\n"), IsEmpty());
     EXPECT_THAT(folderHandlers("inode/directory=code.desktop;\n"), IsEmpty());
 }
 
-TEST(FolderHandlersTest, OddTextIsNone) {
+TEST(FolderHandlersTest, MalformedTextIsIgnored) {
     EXPECT_THAT(folderHandlers(""), IsEmpty());
     EXPECT_THAT(folderHandlers("[Default Applications]\ninode/directory="), IsEmpty());
     EXPECT_THAT(folderHandlers("[Default Applications]\ninode/directory=;;firefox;\n"), IsEmpty());

@@ -51,33 +51,33 @@ protected:
     const std::string manager_ = "unix/here:" + folder_.path() + "/bus";
 };
 
-TEST_F(SessionProbesTest, ABusThatNamesItsWaysInAnswers) {
+TEST_F(SessionProbesTest, ABusThatListsItsMechanismsIsResponsive) {
     Listener bus(bus_, "REJECTED EXTERNAL\r\n");
     EXPECT_TRUE(isBusResponsive(bus_, 30s));
 }
 
-TEST_F(SessionProbesTest, ABusThatSaysNothingDoesNot) {
+TEST_F(SessionProbesTest, ASilentBusIsNot) {
     Listener bus(bus_);
     EXPECT_FALSE(isBusResponsive(bus_, 50ms));
 }
 
-TEST_F(SessionProbesTest, NobodyDoesNotAnswer) {
+TEST_F(SessionProbesTest, AMissingBusIsNot) {
     EXPECT_FALSE(isBusResponsive(bus_, 30s));
     EXPECT_FALSE(isBusResponsive("tcp:host=127.0.0.1,port=1", 30s));
 }
 
-TEST_F(SessionProbesTest, OnlySessionManagersThatAnswerAreKept) {
+TEST_F(SessionProbesTest, OnlyResponsiveSessionManagersAreKept) {
     Listener manager(bus_, std::string("\0\1\0\0\0\0\0\0", 8));
     EXPECT_EQ(responsiveSessionManagers("local/here:@/tmp/.ICE-unix/none-of-that-name," + manager_, 30s),
               manager_);
 }
 
-TEST_F(SessionProbesTest, OneThatSaysNothingIsNot) {
+TEST_F(SessionProbesTest, ASilentOneIsNot) {
     Listener manager(bus_);
     EXPECT_EQ(responsiveSessionManagers(manager_, 50ms), "");
 }
 
-TEST_F(SessionProbesTest, OneOnAnotherMachineIsNotAsked) {
+TEST_F(SessionProbesTest, ARemoteOneIsNotContacted) {
     EXPECT_EQ(responsiveSessionManagers("tcp/127.0.0.1:1", 30s), "");
     EXPECT_EQ(responsiveSessionManagers("nonsense,,", 30s), "");
 }

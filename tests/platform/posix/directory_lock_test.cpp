@@ -69,7 +69,7 @@ TEST_F(DirectoryLockTest, ADirectoryThatWasRemovedIsMadeAgainWithItsLock) {
     EXPECT_EQ(DirectoryLock(log_).take(data_), State::heldByAnother);
 }
 
-TEST_F(DirectoryLockTest, ALockInTheOldOnesPlaceThatNobodyHoldsIsTaken) {
+TEST_F(DirectoryLockTest, AnUnheldLockInPlaceOfTheOldOneIsTaken) {
     ASSERT_EQ(lock_.take(data_), State::held);
     fs::remove(data_ + "/lock");
     home_.write(".tidewatch/lock", "");
@@ -113,7 +113,7 @@ TEST_F(DirectoryLockTest, ALockThatIsALinkToNowhereLeavesTheDirectoryOurs) {
     EXPECT_THAT(log_.warnings(), IsEmpty());
 }
 
-TEST_F(DirectoryLockTest, WhatLiesBesideIsLookedAfterWhileTheLockIsHeld) {
+TEST_F(DirectoryLockTest, TheCompanionIsRestoredWhileTheLockIsHeld) {
     ASSERT_EQ(lock_.take(data_), State::held);
     int restored = 0;
     lock_.watchCompanion(data_ + "/socket", [&] {
@@ -128,7 +128,7 @@ TEST_F(DirectoryLockTest, WhatLiesBesideIsLookedAfterWhileTheLockIsHeld) {
     EXPECT_EQ(restored, 2);
 }
 
-TEST_F(DirectoryLockTest, ADirectoryAndFilesThatAreTooWideAreNarrowed) {
+TEST_F(DirectoryLockTest, PermissionsOfTheDirectoryAndItsFilesAreRestricted) {
     home_.write(".tidewatch/today.json", "{}");
     home_.write(".tidewatch/notes.txt", "");
     home_.write("elsewhere.json", "{}");
@@ -146,7 +146,7 @@ TEST_F(DirectoryLockTest, ADirectoryAndFilesThatAreTooWideAreNarrowed) {
     EXPECT_EQ(modeOf(home_.path() + "/elsewhere.json"), 0664u) << "a link's target is the user's own affair";
 }
 
-TEST_F(DirectoryLockTest, LeftoversOfKilledProcessesAreSweptAndNothingElse) {
+TEST_F(DirectoryLockTest, OnlyLeftoversOfKilledProcessesAreRemoved) {
     for (const auto* name : {"today.json.tmp", "apps.json", "apps.json.damaged-2026-01-15", "my.tmp"}) {
         home_.write(".tidewatch/" + std::string(name), "x");
     }
@@ -162,7 +162,7 @@ TEST_F(DirectoryLockTest, LeftoversOfKilledProcessesAreSweptAndNothingElse) {
                                                      "my.tmp", ".mine12", ".longer-name"));
 }
 
-TEST_F(DirectoryLockTest, UnderAnothersLockNothingIsSwept) {
+TEST_F(DirectoryLockTest, UnderAnothersLockNothingIsRemoved) {
     DirectoryLock other(log_);
     ASSERT_EQ(other.take(data_), State::held);
     home_.write(".tidewatch/today.json.tmp", "half");

@@ -79,7 +79,7 @@ TEST_F(DirectoryTreeTest, HiddenOnesAreSkippedWithAllBelowThem) {
     EXPECT_THAT(names(HiddenFiles::included), UnorderedElementsAre("a", ".b", ".c", ".c/d"));
 }
 
-TEST_F(DirectoryTreeTest, APassedDirectoryIsNotEntered) {
+TEST_F(DirectoryTreeTest, ASkippedDirectoryIsNotEntered) {
     directory.write("a/b", "");
     directory.write("c/d", "");
     std::vector<std::string> paths;
@@ -90,7 +90,7 @@ TEST_F(DirectoryTreeTest, APassedDirectoryIsNotEntered) {
     EXPECT_THAT(paths, UnorderedElementsAre(at("a"), at("c"), at("c/d")));
 }
 
-TEST_F(DirectoryTreeTest, NothingIsFoundAfterAStop) {
+TEST_F(DirectoryTreeTest, NothingIsVisitedAfterAStop) {
     directory.write("a/b", "");
     directory.write("c/d", "");
     int found = 0;
@@ -101,7 +101,7 @@ TEST_F(DirectoryTreeTest, NothingIsFoundAfterAStop) {
     EXPECT_EQ(found, 1);
 }
 
-TEST_F(DirectoryTreeTest, LinksAreFoundAndNotFollowed) {
+TEST_F(DirectoryTreeTest, LinksAreReportedButNotFollowed) {
     directory.write("a/b", "12345");
     fs::create_symlink("..", at("a/up"));
     fs::create_symlink("a/b", at("toFile"));
@@ -136,7 +136,7 @@ TEST_F(DirectoryTreeTest, NamesNeedNotBeUtf8) {
     EXPECT_THAT(names(), UnorderedElementsAre("\xff\xfe", "\xff\xfe/\xe9t\xe9"));
 }
 
-TEST_F(DirectoryTreeTest, ADirectoryWithoutRightsIsFoundAndItsInsideSkipped) {
+TEST_F(DirectoryTreeTest, AnUnreadableDirectoryIsReportedAndItsContentSkipped) {
     directory.write("a/x", "");
     directory.write("closed/y", "");
     directory.write("z/x", "");
@@ -177,7 +177,7 @@ TEST_F(DirectoryTreeTest, ADirectoryThatBecomesALinkMeanwhileIsNotEntered) {
     EXPECT_THAT(paths, UnorderedElementsAre(at("inside/a")));
 }
 
-TEST_F(DirectoryTreeTest, AStartThatIsNotThereIsAbsent) {
+TEST_F(DirectoryTreeTest, AMissingStartIsNotFound) {
     directory.write("file", "");
     const auto kind = [&](const std::string& path) {
         return files
@@ -208,7 +208,7 @@ TEST_F(DirectoryTreeTest, AHundredThousandFilesAreFound) {
 }
 
 // Deeper than a path can be long, and than there are descriptors.
-TEST_F(DirectoryTreeTest, ATreeWithoutABottomIsEnumeratedAsFarAsPathsReach) {
+TEST_F(DirectoryTreeTest, AnEndlessTreeIsEnumeratedUpToTheMaximumPathLength) {
     std::vector<FileDescriptor> parents;
     parents.emplace_back(::open(directory.path().c_str(), O_RDONLY | O_DIRECTORY));
     constexpr int depth = 700;

@@ -45,21 +45,21 @@ TEST_F(FileReadingTest, APieceIsShortOnlyWhereTheFileEnds) {
     EXPECT_EQ(reader.value()->read(piece).value(), 0u);
 }
 
-TEST_F(FileReadingTest, BeginsWhereItIsTold) {
+TEST_F(FileReadingTest, StartsAtTheOffset) {
     directory.write("log", "one two three");
     const auto reader = files.openForReading(log, 8);
     ASSERT_TRUE(reader);
     EXPECT_EQ(readOn(*reader.value(), 100), "three");
 }
 
-TEST_F(FileReadingTest, NothingLiesBehindTheEnd) {
+TEST_F(FileReadingTest, NothingIsReadBeyondTheEnd) {
     directory.write("log", "one");
     const auto reader = files.openForReading(log, 1'000);
     ASSERT_TRUE(reader);
     EXPECT_EQ(readOn(*reader.value(), 100), "");
 }
 
-TEST_F(FileReadingTest, WhatIsAppendedLaterIsGivenLater) {
+TEST_F(FileReadingTest, AppendedDataIsReadLater) {
     directory.write("log", "one");
     const auto reader = files.openForReading(log, 0);
     ASSERT_TRUE(reader);
@@ -78,7 +78,7 @@ TEST_F(FileReadingTest, AReplacedFileIsReadToItsEnd) {
     EXPECT_EQ(readOn(*reader.value(), 100), "two");
 }
 
-TEST_F(FileReadingTest, WhatIsNotThereIsAbsent) {
+TEST_F(FileReadingTest, AMissingFileIsNotFound) {
     directory.write("file", "");
     for (const auto* name : {"/none", "/none/below", "/file/below"}) {
         const auto path = directory.path() + name;
@@ -88,13 +88,13 @@ TEST_F(FileReadingTest, WhatIsNotThereIsAbsent) {
     }
 }
 
-TEST_F(FileReadingTest, ALinkThatLeadsNowhereIsAbsent) {
+TEST_F(FileReadingTest, ADanglingLinkIsNotFound) {
     std::filesystem::create_symlink("none", log);
     EXPECT_EQ(files.readFile(log).error().kind, FileErrorKind::notFound);
     EXPECT_EQ(files.inspect(log).error().kind, FileErrorKind::notFound);
 }
 
-TEST_F(FileReadingTest, WhatTheUserHasNoRightToIsForbidden) {
+TEST_F(FileReadingTest, WithoutPermissionItIsDenied) {
     directory.write("log", "one");
     directory.write("closed/log", "two");
     ::chmod(log.c_str(), 0);
@@ -105,7 +105,7 @@ TEST_F(FileReadingTest, WhatTheUserHasNoRightToIsForbidden) {
     EXPECT_EQ(files.inspect(directory.path() + "/closed/log").error().kind, FileErrorKind::permissionDenied);
 }
 
-TEST_F(FileReadingTest, WhatIsNoFileIsBroken) {
+TEST_F(FileReadingTest, NonRegularFilesAreUnreadable) {
     ::mkfifo(log.c_str(), 0600);
     for (const auto& path : {log, directory.path()}) {
         EXPECT_EQ(files.readFile(path).error().kind, FileErrorKind::unreadable) << path;
@@ -114,7 +114,7 @@ TEST_F(FileReadingTest, WhatIsNoFileIsBroken) {
     EXPECT_EQ(files.inspect(log).value().kind, FileKind::other);
 }
 
-TEST_F(FileReadingTest, LinksInACircleAreBroken) {
+TEST_F(FileReadingTest, CyclicLinksAreUnreadable) {
     std::filesystem::create_symlink("log", log);
     EXPECT_EQ(files.readFile(log).error().kind, FileErrorKind::unreadable);
 }

@@ -85,7 +85,7 @@ TEST_F(LockedSingleInstanceTest, ASecondStartIsAnsweredOnceThereAreDescriptorsAg
     EXPECT_TRUE(answered);
 }
 
-TEST_F(LockedSingleInstanceTest, WhoCouldNotListenTriesAgainAndSaysSoOnce) {
+TEST_F(LockedSingleInstanceTest, ListeningIsRetriedAndItsFailureLoggedOnce) {
     const auto place = directory_.path() + "/reopen.socket";
     directory_.write("reopen.socket/in-the-way", "");
     log_.expectWarning("a second start cannot be answered");

@@ -133,7 +133,7 @@ TEST_F(PosixFileSystemTest, AFileInTheDirectorysPlaceIsAnError) {
     EXPECT_THAT(status.error().message, AllOf(HasSubstr("make directory"), HasSubstr("/taken")));
 }
 
-TEST_F(PosixFileSystemTest, AFileIsToldFromTheOneThatReplacedIt) {
+TEST_F(PosixFileSystemTest, AFileIsDistinguishedFromItsReplacement) {
     write(file, "12345");
     const timespec times[] = {{0, 0}, {1'768'467'600, 123'456'789}};
     ASSERT_EQ(::utimensat(AT_FDCWD, file.c_str(), times, 0), 0);
@@ -176,7 +176,7 @@ TEST_F(PosixFileSystemTest, ReplacesAFileWhateverItHeld) {
     EXPECT_EQ(files.readFile(file).value(), "");
 }
 
-TEST_F(PosixFileSystemTest, TheFileAndThenItsDirectoryAreBroughtToTheDisk) {
+TEST_F(PosixFileSystemTest, TheFileAndThenItsDirectoryAreSynced) {
     synced.clear();
     ASSERT_TRUE(files.replaceAtomically(file, "{}"));
     EXPECT_EQ(synced, "fd");
@@ -193,7 +193,7 @@ TEST_F(PosixFileSystemTest, AReaderOfTheOldFileGoesOnReadingTheOldFile) {
     EXPECT_EQ(seen, "old");
 }
 
-TEST_F(PosixFileSystemTest, WhatAKilledWriterLeftIsReplaced) {
+TEST_F(PosixFileSystemTest, AKilledWritersLeftoverIsReplaced) {
     write(file + ".tmp", "half of a rec");
     ASSERT_TRUE(files.replaceAtomically(file, "{}"));
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
@@ -249,7 +249,7 @@ TEST_F(PosixFileSystemTest, AWriteReturnsWhatTheNewFileLooksLikeUntilSomebodyRep
     EXPECT_NE(written.value(), files.inspect(file).value()) << "of the same size, yet another file";
 }
 
-TEST_F(PosixFileSystemTest, AWriteThatBreaksOffKeepsTheOldFileAndLeavesNothingBeside) {
+TEST_F(PosixFileSystemTest, AnInterruptedWriteKeepsTheOldFileAndLeavesNoTemporaryOne) {
     ASSERT_TRUE(files.replaceAtomically(file, "old"));
     const auto status = [this] {
         const FileSizeLimit limit(4096);
@@ -398,7 +398,7 @@ TEST_F(PosixFileSystemTest, AnExportFollowsALink) {
     EXPECT_EQ(modeOf(directory.path() + "/elsewhere/real.csv"), 0644u);
 }
 
-TEST_F(PosixFileSystemTest, AnExportThatBreaksOffKeepsTheOldFileAndLeavesNothingBeside) {
+TEST_F(PosixFileSystemTest, AnInterruptedExportKeepsTheOldFileAndLeavesNoTemporaryOne) {
     write(file, "old");
     std::optional<ExportError> failure;
     {
@@ -412,7 +412,7 @@ TEST_F(PosixFileSystemTest, AnExportThatBreaksOffKeepsTheOldFileAndLeavesNothing
     EXPECT_THAT(names(), testing::ElementsAre("today.json"));
 }
 
-TEST_F(PosixFileSystemTest, WhyAnExportFailsIsTold) {
+TEST_F(PosixFileSystemTest, AFailedExportReportsWhy) {
     const auto kindAt = [&](const std::string& path) { return files.exportFile(path, "x").value().kind; };
     EXPECT_EQ(kindAt(directory.path() + "/none/x.csv"), ExportErrorKind::folderMissing);
     EXPECT_EQ(kindAt(directory.path()), ExportErrorKind::notAFile);
@@ -421,7 +421,7 @@ TEST_F(PosixFileSystemTest, WhyAnExportFailsIsTold) {
     EXPECT_THAT(names(), testing::IsEmpty());
 }
 
-TEST_F(PosixFileSystemTest, ANameOfTheGreatestLengthCanBeExported) {
+TEST_F(PosixFileSystemTest, ANameOfMaximumLengthCanBeExported) {
     const auto longest = directory.path() + "/" + std::string(255, 'x');
     EXPECT_FALSE(files.exportFile(longest, "new"));
     EXPECT_EQ(files.readFile(longest).value(), "new");
@@ -435,7 +435,7 @@ TEST_F(PosixFileSystemTest, PathsNeedNotBeUtf8) {
     EXPECT_THAT(names(), testing::ElementsAre("caf\xE9"));
 }
 
-TEST_F(PosixFileSystemTest, WhatIsNoFileCannotBeRead) {
+TEST_F(PosixFileSystemTest, NonRegularFilesCannotBeRead) {
     EXPECT_THAT(files.readFile(file).error().message, HasSubstr("No such file or directory"));
     EXPECT_THAT(files.readFile(directory.path()).error().message, HasSubstr("not a regular file"));
     const auto pipe = directory.path() + "/pipe";

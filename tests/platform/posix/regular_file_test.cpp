@@ -116,7 +116,7 @@ TEST_F(FolderWalkTest, EveryFileAndFolderIsMetOnce) {
     EXPECT_THAT(visited, UnorderedElementsAre("one", "a/two", "a/b/three"));
 }
 
-TEST_F(FolderWalkTest, TwoFoldersThatLinkToOneAnotherAreEnteredOnce) {
+TEST_F(FolderWalkTest, TwoCyclicallyLinkedFoldersAreEnteredOnce) {
     directory.write("a/one", "");
     directory.write("b/two", "");
     fs::create_directory_symlink("../b", directory.path() + "/a/b");

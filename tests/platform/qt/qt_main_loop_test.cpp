@@ -121,7 +121,7 @@ TEST_F(QtMainLoopTest, ATimerMayDestroyItselfAndThoseBesideIt) {
     EXPECT_EQ(order, "a");
 }
 
-TEST_F(QtMainLoopTest, ABlockedThreadsFiringsAreNotCaughtUp) {
+TEST_F(QtMainLoopTest, ABlockedThreadsFiringsAreDropped) {
     int fired = 0;
     const auto timer = loop_.repeat(20ms, TimerMode::common, [&] { ++fired; });
     QThread::msleep(200);

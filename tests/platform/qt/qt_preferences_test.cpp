@@ -29,7 +29,7 @@ protected:
     std::unique_ptr<QtPreferences> preferences_;
 };
 
-TEST_F(QtPreferencesTest, AnAbsentKeyIsToldFromAStoredZero) {
+TEST_F(QtPreferencesTest, AMissingKeyIsDistinguishedFromAStoredZero) {
     EXPECT_FALSE(preferences().contains("dayStartHour"));
     EXPECT_EQ(preferences().integer("dayStartHour"), 0);
     preferences().setInteger("dayStartHour", 0);

@@ -36,7 +36,7 @@ protected:
     PrivateXServer server_;
 };
 
-TEST_F(X11WindowSystemTest, AFrameThatWasToldIsKnown) {
+TEST_F(X11WindowSystemTest, AReportedFrameIsKnown) {
     announceFrames();
     X11WindowSystem windowSystem;
     const auto window = server_.openWindow("Statistics");
@@ -62,7 +62,7 @@ TEST_F(X11WindowSystemTest, AWindowManagerThatHasStoppedBlocksNobody) {
     EXPECT_LT(quickest, 60);
 }
 
-TEST_F(X11WindowSystemTest, WhoWatchesAWindowIsLetGoWithIt) {
+TEST_F(X11WindowSystemTest, ListenersOfAWindowAreReleasedWithIt) {
     X11WindowSystem windowSystem;
     std::vector<std::weak_ptr<int>> watchers;
     std::vector<Connection> connections;

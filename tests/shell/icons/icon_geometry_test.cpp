@@ -88,7 +88,7 @@ bool isOpaque(const QColor& colour) {
     return colour.alpha() > 127;
 }
 
-TEST(MenubarIconGeometry, IsTheToldFigure) {
+TEST(MenubarIconGeometry, IsTheSpecifiedFigure) {
     constexpr double w = 17;
     constexpr double h = 15;
     const Point corner{0.16 * w, 0.10 * h};
@@ -110,7 +110,7 @@ TEST(AppIconGeometry, IsARoundedSquareOfThatCorner) {
     EXPECT_EQ(wrongPixels(appIcon(640), 160, roundedRectangle({0, 0}, 160, 160, 36), isOpaque), 0);
 }
 
-TEST(AppIconGeometry, BodyAndBarHaveTheToldPlaces) {
+TEST(AppIconGeometry, BodyAndBarHaveTheSpecifiedPositions) {
     const auto fromTop = [](double y) { return 160 - y; };
     const Point corner{34, fromTop(134)};
     const Point centre{34 + 92 / 2.0, corner.y + 58 / 2.0};

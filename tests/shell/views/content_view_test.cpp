@@ -104,7 +104,7 @@ TEST_F(ContentViewTest, AnotherSecondMovesNoDigitThatStays) {
     EXPECT_GT(changed.left(), line.left() + line.width() * 0.8);
 }
 
-TEST_F(ContentViewTest, AThemeSwitchRedressesTheSameView) {
+TEST_F(ContentViewTest, AThemeSwitchUpdatesTheSameView) {
     show(1);
     theme_.switchTo("editorial");
     EXPECT_EQ(digits().color(), toQColor(Color::hex6(0x0A0A0A)));

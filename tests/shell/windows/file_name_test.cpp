@@ -29,12 +29,12 @@ TEST(WritableFileName, BytesAreCountedAndNoCharacterIsCut) {
     EXPECT_EQ(writableFileName(families + ".csv"), families.substr(0, 250) + ".csv");
 }
 
-TEST(WritableFileName, WhatIsNoExtensionIsCutToo) {
+TEST(WritableFileName, AnOverlongExtensionIsCutToo) {
     EXPECT_EQ(writableFileName("a." + std::string(300, 'x')), "a." + std::string(253, 'x'));
     EXPECT_EQ(writableFileName(std::string(300, 'x')), std::string(255, 'x'));
 }
 
-TEST(WritableFileName, TheByteThatEndsANameForTheKernelIsLeftOut) {
+TEST(WritableFileName, ZeroBytesAreRemoved) {
     EXPECT_EQ(writableFileName(std::string("a\0b.csv", 7)), "ab.csv");
 }
 

@@ -99,7 +99,7 @@ TEST_F(QtSurfacesTest, ViewsHaveNoNetwork) {
     EXPECT_EQ(listener.visitors(), 0);
 }
 
-TEST_F(QtSurfacesTest, AHintIsWordsWhateverTheyLookLike) {
+TEST_F(QtSurfacesTest, AHintIsPlainText) {
     surfaces_.showHint("<b>hola</b> <img src='file:///nowhere'>");
     QLabel* hint = nullptr;
     for (auto* widget : QApplication::topLevelWidgets()) {

@@ -39,7 +39,7 @@ struct BreakBombViewTest : testing::Test, BreakScene {
     }
 };
 
-TEST_F(BreakBombViewTest, CoversTheWindowWhileAnAlertStands) {
+TEST_F(BreakBombViewTest, CoversTheWindowWhileAnAlertIsActive) {
     EXPECT_FALSE(isUp());
     sitUntilAlert();
     EXPECT_TRUE(isUp());
@@ -61,7 +61,7 @@ TEST_F(BreakBombViewTest, ShowsThePresentersTexts) {
     EXPECT_EQ(text("dismiss"), "Listo · ya me paré");
 }
 
-TEST_F(BreakBombViewTest, NothingBelowTakesAClickOrTheWheel) {
+TEST_F(BreakBombViewTest, NothingBelowReceivesAClickOrTheWheel) {
     const auto below = placeOf(the("below0")).center().toPoint();
     QTest::mouseClick(&window_, Qt::LeftButton, Qt::NoModifier, below);
     EXPECT_EQ(count("clicks"), 1);
@@ -77,7 +77,7 @@ TEST_F(BreakBombViewTest, NothingBelowTakesAClickOrTheWheel) {
     EXPECT_TRUE(isUp());
 }
 
-TEST_F(BreakBombViewTest, NothingBelowTakesAKey) {
+TEST_F(BreakBombViewTest, NothingBelowReceivesAKey) {
     press(Qt::Key_X);
     press(Qt::Key_2, Qt::ControlModifier);
     const int keysBefore = count("keys");
@@ -127,7 +127,7 @@ TEST_F(BreakBombViewTest, AnAlertThatStandsWhenTheWindowOpensHasTheFocusToo) {
     EXPECT_FALSE(isUp());
 }
 
-TEST_F(BreakBombViewTest, AWindowMayGoWhileAnAlertStands) {
+TEST_F(BreakBombViewTest, AWindowMayCloseDuringAnAlert) {
     sitUntilAlert();
     for (int i = 0; i < 3; ++i) {
         showWindow();

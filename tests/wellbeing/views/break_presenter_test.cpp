@@ -47,7 +47,7 @@ constexpr std::array exercises{
           "Tu cuello te va a dar gracias en 10 años."},
 };
 
-TEST_F(BreakPresenterTest, WaitsWithoutAnAlert) {
+TEST_F(BreakPresenterTest, IsInactiveWithoutAnAlert) {
     BreakWorld world;
     EXPECT_FALSE(world.presenter_.alertActive());
     EXPECT_EQ(world.presenter_.sittingText(), "0m 00s sentado continuo");
@@ -93,7 +93,7 @@ TEST_F(BreakPresenterTest, DismissingEndsTheAlertAndTheSitting) {
     EXPECT_EQ(world.presenter_.sittingText(), "0m 00s sentado continuo");
 }
 
-TEST_F(BreakPresenterTest, AnAlertThatStandsAlreadyIsShown) {
+TEST_F(BreakPresenterTest, AnActiveAlertIsShown) {
     BreakWorld world;
     world.sitUntilAlert(11);
     const BreakPresenter late(world.reminder_);
