@@ -1,11 +1,11 @@
 # Fetches the typefaces: cmake -D NPM=<program or nothing> -D FOLDER=<where to> -D WORK=<scratch> -P fetch_fonts.cmake
-# Never fails: what cannot be had is left out, with a word about it.
+# Never fails: what cannot be fetched is omitted with a message.
 
 set(PACKAGES
     @expo-google-fonts/fraunces@0.4.1
     @expo-google-fonts/ibm-plex-mono@0.4.1)
 
-# Package, file in it, name here, SHA-256. One row a cut that is in use; each costs memory while the program runs.
+# Package, file in it, target name, SHA-256. One row per weight in use; each costs memory at run time.
 set(FILES
     "fraunces|400Regular/Fraunces_400Regular.ttf|Fraunces-Regular.ttf|9cede435056e96eb39ac587d57cc9509484d7fa18fbb0532f149f183af13b14d"
     "fraunces|500Medium/Fraunces_500Medium.ttf|Fraunces-Medium.ttf|e88255a4ef9763c2ece20de3cd3ee241065f18a19a791d4d5c0289a4fbda1a0e"

@@ -1,8 +1,8 @@
 # tidewatch_fonts(<program>)
 #
 # Puts the folder "Fonts" with the brand's typefaces beside the program, and into the package. They are fetched
-# once into the build tree, in the cuts that are in use, through npm where that is on the machine; where it is
-# not, or the network is not, the folder is empty and text uses packaged fallbacks.
+# once into the build tree, in the weights in use, through npm if it is installed; without it, or without a network,
+# the folder is empty and text uses packaged fallbacks.
 function(tidewatch_fonts program)
     set(folder ${CMAKE_BINARY_DIR}/resources/Fonts)
     if(NOT TARGET tidewatch_fonts)

@@ -12,9 +12,9 @@ endfunction()
 
 # tidewatch_test(<name> [THREADS] SOURCES <file>... [APART <file>...] [KNOWS <target>...])
 #
-# One test program on GoogleTest, registered case by case, with locale, time zone and home pinned. THREADS says
-# that its tests use more than one thread: only those are built under the thread sanitizer, which finds nothing in
-# others. APART are sources that are never compiled together with others, for they use the same names in their own way.
+# A GoogleTest program, registered case by case, with locale, time zone and home fixed. THREADS marks tests that use
+# more than one thread: only those are built under the thread sanitizer. APART lists sources that are excluded from
+# unity builds because their names clash with others'.
 function(tidewatch_test name)
     cmake_parse_arguments(ARG "THREADS" "" "SOURCES;APART;KNOWS" ${ARGN})
     if(TIDEWATCH_SANITIZE MATCHES thread AND NOT ARG_THREADS)
@@ -25,17 +25,17 @@ function(tidewatch_test name)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
     tidewatch_unity(${name})
     set_source_files_properties(${ARG_APART} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
-    # What is under test is built as it ships; the tests around it need not be fast, only soon built. The checks
-    # left out below cost a third of a test's build and find next to nothing that the others do not.
+    # The code under test is built as shipped; the tests themselves need not be fast, but should build quickly. The
+    # checks disabled below cost a third of a test's build time and find hardly anything.
     target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
-    # Compiled together, a name of one test may hide that of another, which is of no concern to either.
+    # In a unity build a name of one test may shadow that of another, which is harmless.
     set_target_properties(${name} PROPERTIES TIDEWATCH_MAY_SHADOW ${TIDEWATCH_UNITY})
     if(TIDEWATCH_SANITIZE MATCHES undefined)
         target_compile_options(${name} PRIVATE -fno-sanitize=null,alignment,vptr)
     endif()
-    # Each test process starts through `env`: a list of variables does not survive the way through discovery.
+    # Each test process starts through `env`: test discovery does not preserve a list of variables.
     set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
         "${CMAKE_COMMAND};-E;env;LC_ALL=C.UTF-8;TZ=UTC;HOME=${CMAKE_BINARY_DIR}/test-home;QT_QPA_PLATFORM=offscreen")
-    # Neither limit is there to judge anything: it ends what hangs, on however slow a machine.
+    # Neither timeout checks performance: they end tests that hang, even on a very slow machine.
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 600 PROPERTIES TIMEOUT 1800)
 endfunction()

@@ -12,14 +12,14 @@ endif()
 
 add_library(tidewatch_options INTERFACE)
 target_include_directories(tidewatch_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
-# Our own signals have a member `emit`, which Qt would otherwise define away.
+# Our own signals have a member `emit`, which Qt would otherwise define as a macro.
 target_compile_definitions(tidewatch_options INTERFACE QT_NO_KEYWORDS)
 target_compile_options(tidewatch_options INTERFACE
     -Wall -Wextra -Wpedantic -Wnon-virtual-dtor -Woverloaded-virtual
     -Wimplicit-fallthrough -Wcast-align -Wconversion -Wsign-conversion
     $<$<NOT:$<BOOL:$<TARGET_PROPERTY:TIDEWATCH_MAY_SHADOW>>>:-Wshadow>)
-# Once it optimises, g++ 12 sees overlapping copies in std::string's operator+ where none can be, and the inside of
-# an empty std::optional read where it is not.
+# With optimisation g++ 12 falsely warns of overlapping copies in std::string's operator+, and of reads from an empty
+# std::optional.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(tidewatch_options INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
 endif()
@@ -33,8 +33,8 @@ endif()
 
 # tidewatch_unity(<target>...)
 #
-# Compiles the target's sources a batch at a time where TIDEWATCH_UNITY is on: most of a compiler's work here is
-# reading headers, once a batch instead of once a file. Daily work goes without, so that a change costs one file.
+# Makes the target a unity build if TIDEWATCH_UNITY is on: most of the compile time is spent on headers, once per batch
+# instead of once per file. Off for daily work, so that a change recompiles one file.
 function(tidewatch_unity)
     if(TIDEWATCH_UNITY)
         foreach(target ${ARGN})

@@ -2,11 +2,11 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Gui Qml Quick)
 
 # tidewatch_qml_module(<room> <uri> SOURCES <file>... [VIEWS <file.qml>...] [IMPORTS <uri>...] [KNOWS <target>...])
 #
-# A room with a QML module of that uri: its types come from the headers among SOURCES, its views from VIEWS and
-# are compiled ahead of time. Both may lie in sub-folders; to QML the module is one folder, so that its views see one
-# another without an import. IMPORTS names the modules that its types build on. Gives two targets: the static
-# library `tidewatch_<room>`, for code that uses the types, and `tidewatch_<room>_module`, for programs whose
-# views import the module; those need no file beside them.
+# A room with a QML module of that uri: its types are declared in the headers among SOURCES; its VIEWS are compiled
+# ahead of time. Both may be in sub-folders; to QML the module is one folder, so that its views need no import of one
+# another. IMPORTS names the modules that its types depend on. Creates two targets: the static library
+# `tidewatch_<room>`, for code that uses the types, and `tidewatch_<room>_module`, for programs whose views import
+# the module; the module is linked in.
 function(tidewatch_qml_module room uri)
     cmake_parse_arguments(ARG "" "" "SOURCES;VIEWS;IMPORTS;KNOWS" ${ARGN})
     set(target tidewatch_${room})
@@ -32,7 +32,7 @@ function(tidewatch_qml_module room uri)
     _tidewatch_find_registered_headers(${target} ${ARG_SOURCES})
     _tidewatch_part_compiled_views(${target})
     tidewatch_unity(${target})
-    # Whoever links the types alone is not to get the module with them.
+    # Targets that link only the types must not get the module.
     set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_qmltyperegistrations.cpp
         PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 
@@ -40,7 +40,7 @@ function(tidewatch_qml_module room uri)
     target_link_libraries(${target}_module INTERFACE ${target} ${target}plugin)
 endfunction()
 
-# The registration of the types, which the toolkit writes, includes each header by its bare name.
+# The generated type registration includes each header by its bare name.
 function(_tidewatch_find_registered_headers target)
     foreach(source ${ARGN})
         get_filename_component(folder ${source} DIRECTORY)
@@ -48,7 +48,7 @@ function(_tidewatch_find_registered_headers target)
     endforeach()
 endfunction()
 
-# What the toolkit's compiler of views writes does not keep to our warnings, and is compiled on its own.
+# The generated code of compiled views triggers our warnings, so it is compiled separately.
 function(_tidewatch_part_compiled_views target)
     get_target_property(sources ${target} SOURCES)
     set(compiled ${sources})

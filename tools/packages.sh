@@ -1,9 +1,8 @@
 # shellcheck shell=bash
-# Reads cmake/packages.txt and puts on the machine what is missing of it. To be sourced; expects `root` to
-# name the project's folder.
+# Installs the missing packages of cmake/packages.txt. To be sourced; expects the project's folder in `root`.
 : "${root:?}"
 
-# packages_of SECTION... : the names in these sections, one a line.
+# packages_of SECTION... : the names in these sections, one per line.
 packages_of() {
     local section
     for section in "$@"; do
@@ -15,7 +14,7 @@ packages_of() {
     done
 }
 
-# missing_packages SECTION... : those that are not installed, one a line.
+# missing_packages SECTION... : those that are not installed, one per line.
 missing_packages() {
     local names
     names=$(packages_of "$@") || return 1
@@ -25,7 +24,7 @@ missing_packages() {
             awk '$1 ~ /^.i/ { print $2 }' | sort -u)
 }
 
-# as_root COMMAND... : runs it as root, asking for that only now.
+# as_root COMMAND... : runs it as root, asking for the password only now.
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
@@ -39,7 +38,7 @@ as_root() {
     fi
 }
 
-# ensure_packages SECTION... : installs what is missing; touches nothing and asks nobody if nothing is.
+# ensure_packages SECTION... : installs missing packages; does nothing if there are none.
 ensure_packages() {
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
         echo "Not a Debian system: what cmake/packages.txt lists is taken to be there." >&2

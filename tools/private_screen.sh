@@ -1,12 +1,12 @@
 # shellcheck shell=bash
-# A desktop on a screen that nobody sees: X server, session bus, window manager, tray and notification daemon,
-# for as long as the sourcing script lives. Each is its own session, so that Ctrl-C in the terminal reaches the
-# script alone, which then ends the program before what the program stands on.
+# A virtual desktop: X server, session bus, window manager, tray and notification daemon, for the lifetime of the
+# sourcing script. Each runs in its own session, so that Ctrl-C in the terminal reaches only the script, which then
+# ends the program before these services.
 
 screen_pids=()   # in the order of their starts
 screen_dir=      # sockets and logs
 
-# begin_service NAME COMMAND... : starts it in the background, its words in a log.
+# begin_service NAME COMMAND... : starts it in the background, logging its output.
 begin_service() {
     local name=$1
     shift
@@ -14,7 +14,7 @@ begin_service() {
     screen_pids+=($!)
 }
 
-# wait_until SECONDS COMMAND... : until the command succeeds.
+# wait_until SECONDS COMMAND... : waits until the command succeeds.
 wait_until() {
     local deadline=$((SECONDS + $1))
     shift
@@ -48,7 +48,7 @@ start_private_screen() {
     begin_service dunst dunst
 }
 
-# end_process PID SECONDS : asks it to end and waits, then makes it.
+# end_process PID SECONDS : terminates it, waits, then kills it.
 end_process() {
     kill -TERM "$1" 2>/dev/null || return 0
     wait_until "$2" process_is_gone "$1" || kill -KILL "$1" 2>/dev/null
@@ -56,7 +56,7 @@ end_process() {
 
 process_is_gone() { ! kill -0 "$1" 2>/dev/null; }
 
-# end_private_screen : the last started goes first.
+# end_private_screen : ends the services in reverse order.
 end_private_screen() {
     local i
     for ((i = ${#screen_pids[@]} - 1; i >= 0; i--)); do
