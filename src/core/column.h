@@ -20,8 +20,8 @@ public:
     [[nodiscard]] T operator[](std::size_t index) const {
         return (*chunks_[index / chunkSize])[index % chunkSize];
     }
-    /// The values from `begin` on, but before `end`, that lie side by side; at least one if `begin` < `end`.
-    /// Valid until the column changes.
+    /// The contiguous values from `begin` on, ending before `end`; at least one if `begin` < `end`.
+    /// Valid until the column is modified.
     [[nodiscard]] std::span<const T> run(std::size_t begin, std::size_t end) const {
         if (begin >= end) return {};
         const auto place = begin % chunkSize;

@@ -7,8 +7,8 @@ class ProcessMemory {
 public:
     virtual ~ProcessMemory() = default;
 
-    /// Returns to the system the heap that was freed and is kept for later use. Takes some milliseconds: for the
-    /// moment after the start, or after something large has gone for good.
+    /// Returns freed heap memory to the system. Takes some milliseconds: for use after start-up, or after
+    /// something large has been destroyed for good.
     virtual void releaseUnused() = 0;
 };
 
