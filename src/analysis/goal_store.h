@@ -4,7 +4,7 @@
 
 #include "analysis/goal_settings.h"
 #include "base/signal.h"
-#include "core/record_file.h"
+#include "core/kept_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -28,13 +28,16 @@ public:
     /// Writes the file. A failure is silent and leaves memory as it is.
     void save();
 
+    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    void restoreMissingOn(JobQueue& disk) { file_.restoreOn(disk); }
+
     [[nodiscard]] const std::string& filePath() const { return file_.path(); }
 
     /// Announced after a change of the settings.
     Signal<> changed;
 
 private:
-    RecordFile file_;
+    KeptFile file_;
     GoalSettings settings_;
 };
 

@@ -43,9 +43,11 @@ Services::Services(const platform::Platform& platform)
           .days = counting.days,
           .goals = goals.store,
       }),
+      smallFiles(projects.store, classification.categories, goals.store),
       disk(platform.queues.makeQueue("record")),
       engine(platform.clock, platform.mainLoop, counting.settings, counting.idleMonitor, counting.keys,
-             counting.stores(), *disk, {&wellbeing.gameGate, &wellbeing.breakReminder, &projects.booking}),
+             counting.stores(), *disk,
+             {&wellbeing.gameGate, &wellbeing.breakReminder, &projects.booking, &smallFiles}),
       theme(themes, counting.settings, broadcaster) {}
 
 }  // namespace tidewatch

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "analysis/goal_tracking.h"
+#include "app/small_files.h"
 #include "base/serial_queue.h"
 #include "classification/classification.h"
 #include "core/broadcaster.h"
@@ -31,6 +32,7 @@ struct Services final {
     ProjectTracking projects;
     GoalTracking goals;
     Wellbeing wellbeing;
+    SmallFiles smallFiles;
     /// Writes the stores; it ends before any of them.
     std::unique_ptr<JobQueue> disk;
     TimerEngine engine;

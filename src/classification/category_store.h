@@ -7,7 +7,7 @@
 #include "classification/category_overrides.h"
 #include "classification/registered_category.h"
 #include "classification/tier.h"
-#include "core/record_file.h"
+#include "core/kept_file.h"
 #include "platform/api/applications.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
@@ -45,13 +45,19 @@ public:
     /// it does nothing without news.
     void flushRegistered() { registered_.flush(); }
 
+    /// Lets `disk` write both files again that have gone missing. This object must outlive `disk`.
+    void restoreMissingOn(JobQueue& disk) {
+        file_.restoreOn(disk);
+        registered_.restoreMissingOn(disk);
+    }
+
     [[nodiscard]] const std::string& dataFilePath() const { return file_.path(); }
 
 private:
     void flush();
 
     mutable RegisteredCategories registered_;  // remembers what it is asked for
-    RecordFile file_;
+    KeptFile file_;
     CategoryOverrides overrides_;
 };
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/tagged_string.h"
-#include "core/record_file.h"
+#include "core/kept_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -33,8 +33,11 @@ public:
     /// next application that is remembered tries again.
     void flush();
 
+    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    void restoreMissingOn(JobQueue& disk) { file_.restoreOn(disk); }
+
 private:
-    RecordFile file_;
+    KeptFile file_;
     std::map<AppId, Words> words_;
     bool changed_ = false;
 };

@@ -36,6 +36,9 @@ public:
     /// Writes the file if an application was met that it does not have.
     void flush() { registrations_.flush(); }
 
+    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    void restoreMissingOn(JobQueue& disk) { registrations_.restoreMissingOn(disk); }
+
 private:
     struct Answer {
         std::optional<Category> category;

@@ -34,6 +34,11 @@ bool RecordFile::isAsWritten() {
     return info && info.value() == *written_;
 }
 
+bool RecordFile::isMissing() const {
+    const auto info = files_.inspect(path_);
+    return !info && info.error().kind == platform::FileErrorKind::notFound;
+}
+
 platform::RecordLock RecordFile::ensureLock() {
     const auto lock = files_.ensureRecordLock(directory_);
     if (lock == platform::RecordLock::heldByAnother) unread_ = Unread::foreign;

@@ -42,11 +42,14 @@ public:
     /// Whether the last write() succeeded and its file is still there, neither replaced nor changed since.
     [[nodiscard]] bool isAsWritten();
 
+    /// Whether nothing has the file's name.
+    [[nodiscard]] bool isMissing() const;
+
     [[nodiscard]] const std::string& directoryPath() const { return directory_; }
     [[nodiscard]] const std::string& path() const { return path_; }
 
 private:
-    // What the file may lock that this object has not read.
+    // What the file may hold that this object has not read.
     enum class Unread { none, damaged, foreign };
 
     [[nodiscard]] platform::RecordLock ensureLock();

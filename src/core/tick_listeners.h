@@ -45,11 +45,22 @@ public:
     virtual void flushOn(JobQueue& disk) = 0;
 };
 
+/// Looks after the files of the record that are not counters.
+class SmallFilesListener {
+public:
+    virtual ~SmallFilesListener() = default;
+
+    /// The counters have been handed to `disk` to be written; those of these files that have gone missing
+    /// follow.
+    virtual void restoreMissingOn(JobQueue& disk) = 0;
+};
+
 /// Who else lives by the tick. Null stands for nobody; those given must outlive the engine.
 struct TickListeners {
     GameGateListener* gameGate = nullptr;
     BreakListener* breakReminder = nullptr;
     ProjectTimeListener* projectTime = nullptr;
+    SmallFilesListener* smallFiles = nullptr;
 };
 
 }  // namespace tidewatch

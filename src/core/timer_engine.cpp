@@ -135,6 +135,7 @@ void TimerEngine::flushStores() {
     stores_.hours.flushOn(disk_);
     stores_.minutes.flushOn(disk_);
     if (listeners_.projectTime) listeners_.projectTime->flushOn(disk_);
+    if (listeners_.smallFiles) listeners_.smallFiles->restoreMissingOn(disk_);
 }
 
 }  // namespace tidewatch

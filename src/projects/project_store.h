@@ -8,7 +8,7 @@
 #include "base/signal.h"
 #include "base/uuid.h"
 #include "core/broadcaster.h"
-#include "core/record_file.h"
+#include "core/kept_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/randomness.h"
@@ -66,6 +66,9 @@ public:
     /// more.
     void deleteProject(const Uuid& id);
 
+    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    void restoreMissingOn(JobQueue& disk) { file_.restoreOn(disk); }
+
     [[nodiscard]] const std::string& dataFilePath() const { return file_.path(); }
 
     Signal<> changed;
@@ -79,7 +82,7 @@ private:
 
     platform::Randomness& randomness_;
     const Broadcaster& broadcaster_;
-    RecordFile file_;
+    KeptFile file_;
     ProjectList list_;
 };
 

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -254,12 +255,61 @@ TEST_F(TheIdleProgram, WritesNothingForAnHour) {
     EXPECT_THAT(written(), testing::IsEmpty());
 }
 
-TEST_F(TheIdleProgram, BringsTheCountersBackIfTheirFolderIsRemoved) {
-    const auto before = file("today.json");
+/// All files of the record with something in each.
+class TheRemovedFolder : public TheIdleProgram {
+public:
+    TheRemovedFolder() {
+        machine_.applications.registerApplication(AppId("org.example.Draw"),
+                                                  {.name = "Draw", .icon = "", .categories = {"Graphics"}});
+        auto& classification = services().classification;
+        classification.categories.setCategory(Category::design, AppId("org.example.Editor"));
+        static_cast<void>(classification.categories.category(AppId("org.example.Draw")));
+        auto goals = services().goals.store.settings();
+        goals.dailyHours = 5;
+        services().goals.store.setSettings(goals);
+        services().goals.store.save();
+        pass(1s);
+        for (const auto& name : allFiles) before_[name] = file(name);
+        for (const auto& name : smallFiles_) before_[name] = file(name);
+        countWritesFromHere();
+        machine_.files.removeDirectory("/home/user/.tidewatch");
+    }
+
+protected:
+    [[nodiscard]] std::vector<std::string> everyFile() const {
+        auto files = allFiles;
+        files.insert(files.end(), smallFiles_.begin(), smallFiles_.end());
+        return files;
+    }
+    [[nodiscard]] std::map<std::string, std::string> onDisk() const {
+        std::map<std::string, std::string> files;
+        for (const auto& name : everyFile()) files[name] = file(name);
+        return files;
+    }
+
+    const std::vector<std::string> smallFiles_{"projects.json", "categories.json", "registered.json",
+                                               "goals.json"};
+    std::map<std::string, std::string> before_;
+};
+
+TEST_F(TheRemovedFolder, ComesBackWithEveryFileAtTheThirtiethTick) {
+    pass(30s);
+    EXPECT_THAT(written(), ElementsAreArray(everyFile()));
+    EXPECT_EQ(onDisk(), before_);
+}
+
+TEST_F(TheRemovedFolder, ComesBackWithEveryFileAtTheEnd) {
+    delegate().applicationWillTerminate();
+    EXPECT_THAT(written(), ElementsAreArray(everyFile()));
+    EXPECT_EQ(onDisk(), before_);
+}
+
+TEST_F(TheIdleProgram, BringsBackNoFileThatNeverWas) {
     machine_.files.removeDirectory("/home/user/.tidewatch");
     pass(30s);
-    EXPECT_THAT(written(), ElementsAreArray(allFiles));
-    EXPECT_EQ(file("today.json"), before);
+    auto files = allFiles;
+    files.push_back("projects.json");
+    EXPECT_THAT(written(), ElementsAreArray(files));
 }
 
 TEST_F(TheIdleProgram, WritesWhatIsCountedOnceTheUserIsBack) {

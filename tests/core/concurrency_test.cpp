@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "core/kept_file.h"
 #include "platform/fake/fake_time_zone.h"
 #include "tests/support/core_fixture.h"
 
@@ -181,6 +182,19 @@ TEST_F(StallTest, ReadersAndBookingsDoNotWaitEither) {
     fixture->apps.incrementApp(AppId("firefox"), today);
     EXPECT_EQ(fixture->daily.seconds(today), Seconds(30));
     EXPECT_EQ(fixture->minutes.snapshot().keyCount(), 1u);
+}
+
+TEST_F(ConcurrencyTest, AFileIsRestoredWhileItIsWrittenAndNoOlderTextStaysLast) {
+    SerialQueue queue([](JobQueue::Job) {});
+    KeptFile file(world.files, world.log, "notes.json");
+    static_cast<void>(file.read([](std::string text) { return std::optional(std::move(text)); }));
+    for (int i = 0; i <= rounds; ++i) {
+        world.files.removeDirectory("/home/user/.tidewatch");
+        file.restoreOn(queue);
+        file.write(std::to_string(i));
+    }
+    queue.finish();
+    EXPECT_EQ(world.files.content("/home/user/.tidewatch/notes.json"), std::to_string(rounds));
 }
 
 TEST_F(ConcurrencyTest, FlushesOfTheQueueAndOfOthersNeverPutAnOlderStateLast) {

@@ -39,7 +39,7 @@ struct Listeners final : GameGateListener, BreakListener, ProjectTimeListener {
     }
     void bookSecond(const DayKey& day) override { calls.push_back("project " + day.text()); }
 
-    TickListeners all() { return {this, this, this}; }
+    TickListeners all() { return {this, this, this, nullptr}; }
 };
 
 struct TimerEngineTest : testing::Test {
@@ -425,7 +425,7 @@ TEST_F(TimerEngineTest, IdleTicksCountForTheCadenceAndWriteThoughNothingChanged)
     EXPECT_EQ(onDisk(world.todayJson), "{\n  \"2026-01-15\" : 0\n}");
 }
 
-TEST_F(TimerEngineTest, ThePeriodicFlushReachesTheProjectsButNotTheGameGate) {
+TEST_F(TimerEngineTest, ThePeriodicFlushReachesTheProjectsAndTheSmallFilesButNotTheGameGate) {
     struct Gate final : GameGateListener {
         int flushes = 0;
         bool playingNow() const override { return false; }
@@ -437,12 +437,20 @@ TEST_F(TimerEngineTest, ThePeriodicFlushReachesTheProjectsButNotTheGameGate) {
         void bookSecond(const DayKey&) override {}
         void flushOn(JobQueue&) override { ++flushes; }
     } projects;
-    auto& engine = start({&gate, nullptr, &projects});
-    tick(30);
+    struct SmallFiles final : SmallFilesListener {
+        int restores = 0;
+        void restoreMissingOn(JobQueue&) override { ++restores; }
+    } smallFiles;
+    auto& engine = start({&gate, nullptr, &projects, &smallFiles});
+    tick(29);
+    EXPECT_EQ(smallFiles.restores, 0);
+    tick(1);
     EXPECT_EQ(projects.flushes, 1);
+    EXPECT_EQ(smallFiles.restores, 1);
     EXPECT_EQ(gate.flushes, 0);
     engine.stop();
     EXPECT_EQ(projects.flushes, 2);
+    EXPECT_EQ(smallFiles.restores, 2);
     EXPECT_EQ(gate.flushes, 1);
 }
 

@@ -58,6 +58,32 @@ class WhileRunning(unittest.TestCase):
             self.assertEqual(world.start_program(wait_for_clock=False).wait(20), 0)
             world.stop_program(first)
 
+    def test_a_directory_that_was_removed_comes_back_with_projects_overrides_and_goals(self):
+        project = "8E7C1C1E-8E0C-4D7C-9B0B-0A3E5A1F2B3C"
+        small = {
+            "projects.json": {"activeProjectID": project, "projects": [
+                {"archived": False, "colorHex": "#7BD88F", "id": project, "name": "Corto de verano"},
+            ]},
+            "categories.json": {"appOverrides": {"xterm": "Documentos y escritura"}, "tierOverrides": []},
+            "goals.json": {"dailyHours": 5.5, "dailyProductivity": 0.7, "weeklyHours": 30, "monthlyHours": 120,
+                           "notificationsEnabled": False},
+            "registered.json": {"org.example.Draw": ["Graphics"]},
+        }
+        with World("files-small", tray=False) as world:
+            for name, content in small.items():
+                world.home.write(name, json.dumps(content))
+            first = world.start_program()
+            shutil.rmtree(world.home.data)
+            world.stop_program(first)
+            self.assertEqual({name: world.home.read(name) for name in small}, small)
+            self.assertEqual({mode(path) for path in world.home.data.iterdir()}, {0o600})
+
+            second = world.start_program()
+            shutil.rmtree(world.home.data)
+            wait_until(lambda: all((world.home.data / name).exists() for name in small), "the files")
+            self.assertEqual({name: world.home.read(name) for name in small}, small)
+            world.stop_program(second)
+
     def test_whoever_took_the_directory_keeps_it_until_it_ends_and_nothing_is_lost(self):
         expected = [TAKEN, "the other instance is gone", "is of another instance; it is kept as"]
         with World("files-taken", tray=False, expected_warnings=expected) as world:

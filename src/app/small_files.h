@@ -1,0 +1,30 @@
+#pragma once
+
+#include "analysis/goal_store.h"
+#include "classification/category_store.h"
+#include "core/tick_listeners.h"
+#include "projects/project_store.h"
+
+namespace tidewatch {
+
+/// The files that are written at each change, and between changes with the counters if they have gone
+/// missing. Main thread only.
+class SmallFiles final : public SmallFilesListener {
+public:
+    /// All must outlive it.
+    SmallFiles(ProjectStore& projects, CategoryStore& categories, GoalStore& goals)
+        : projects_(projects), categories_(categories), goals_(goals) {}
+
+    void restoreMissingOn(JobQueue& disk) override {
+        projects_.restoreMissingOn(disk);
+        categories_.restoreMissingOn(disk);
+        goals_.restoreMissingOn(disk);
+    }
+
+private:
+    ProjectStore& projects_;
+    CategoryStore& categories_;
+    GoalStore& goals_;
+};
+
+}  // namespace tidewatch
