@@ -224,6 +224,15 @@ TEST_F(ProjectBookingTest, EachActiveSecondGoesToTheProjectOfThatMoment) {
     EXPECT_EQ(times.totalSeconds(std::vector{today}, two), Seconds(2));
 }
 
+TEST_F(ProjectBookingTest, AResetOfTheDayLeavesTheProjectsTime) {
+    const auto one = startProject("Uno");
+    tick(3);
+    fixture.engine.resetToday();
+    tick(1);
+    EXPECT_EQ(fixture.engine.todaySeconds(), Seconds(1));
+    EXPECT_EQ(times.totalSeconds(std::vector{today}, one), Seconds(4));
+}
+
 TEST_F(ProjectBookingTest, IdleSecondsGoToNoProject) {
     startProject("Uno");
     world.inputActivity.set(1000);

@@ -46,6 +46,22 @@ TEST(SymbolTable, GlyphsStandInTheMiddleOfTheirSquare) {
     }
 }
 
+// A frame with nothing in it would look like a check box that nobody has ticked.
+TEST(SymbolTable, TheSymbolOfAnApplicationHasMoreThanItsFrame) {
+    const auto shape = *symbolShape("app");
+    const auto bounds = shape.boundingRect();
+    const auto hasInk = [&](double across, double down) {
+        return shape.contains(
+            QPointF(bounds.left() + across * bounds.width(), bounds.top() + down * bounds.height()));
+    };
+    int inkInTheMiddle = 0;
+    for (int i = 0; i < 100; ++i) inkInTheMiddle += hasInk(0.5, i / 100.0) ? 1 : 0;
+    int inkOfASide = 0;
+    for (int i = 0; i < 100; ++i) inkOfASide += hasInk(i / 100.0, 0.7) ? 1 : 0;
+    EXPECT_GT(inkOfASide, 0);
+    EXPECT_GT(inkInTheMiddle, 3 * inkOfASide / 2) << "from above, there is more than the two lines of a frame";
+}
+
 TEST(SymbolTable, TheSymbolsThatTheWindowNamesAreThere) {
     const auto names = symbolNames();
     for (const QString name : {"chevron.left",
