@@ -48,7 +48,7 @@ TEST(SymbolTable, GlyphsStandInTheMiddleOfTheirSquare) {
 
 // A frame with nothing in it would look like a check box that nobody has ticked.
 TEST(SymbolTable, TheSymbolOfAnApplicationHasMoreThanItsFrame) {
-    const auto shape = *symbolShape("app");
+    const auto shape = *symbolShape(u"app");
     const auto bounds = shape.boundingRect();
     const auto hasInk = [&](double across, double down) {
         return shape.contains(

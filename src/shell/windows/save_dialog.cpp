@@ -16,11 +16,13 @@
 #include <QPushButton>
 #include <QTreeView>
 #include <QWindow>
+#include <memory>
 #include <utility>
 
 #include "shell/windows/elided_text.h"
 #include "shell/windows/file_name.h"
 #include "shell/windows/menu_style.h"
+#include "shell/windows/safe_file_icons.h"
 #include "ui/texts/qt_text.h"
 
 namespace tidewatch {
@@ -171,7 +173,12 @@ private:
 QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder, const DashboardStyle& style,
                                std::function<void(const QString& path)> accepted) {
     const auto type = fileType(request.kind);
+    keepUnsafeIconsFromDialogs();
     auto* dialog = new SaveDialog(nullptr, text(request.title), folder, type.filter);
+    // Destroyed after the dialog's parts, of which one asks for pictures on a thread of its own.
+    const auto icons = std::make_shared<SafeFileIcons>();
+    dialog->setIconProvider(icons.get());
+    QObject::connect(dialog, &QObject::destroyed, [icons] {});
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);

@@ -1,11 +1,16 @@
 #include "shell/windows/save_dialog.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QIcon>
+#include <QImage>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -14,6 +19,7 @@
 #include <QTimer>
 
 #include "shell/themes/theme_registry.h"
+#include "shell/windows/safe_file_icons.h"
 #include "tests/support/temporary_directory.h"
 
 namespace tidewatch {
@@ -205,6 +211,64 @@ TEST_F(SaveDialogTest, AFileThatIsThereIsReplacedOnlyIfTheUserSaysSo) {
     answerNextQuestion(QMessageBox::Yes);
     press(QDialogButtonBox::Save);
     EXPECT_EQ(answers_.size(), 1U);
+}
+
+/// An icon theme that inherits from another, both in the folder of the test.
+struct IconThemeDialogTest : SaveDialogTest {
+    IconThemeDialogTest() {
+        theme("child", "Inherits=parent");
+        theme("parent", "Comment=x");
+        QIcon::setThemeSearchPaths({QString::fromStdString(folder_.path() + "/icons")});
+        QIcon::setThemeName("child");
+        QFile(QString::fromStdString(folder_.path() + "/a.csv")).open(QIODevice::WriteOnly);
+    }
+    ~IconThemeDialogTest() override {
+        QIcon::setThemeSearchPaths(pathsBefore_);
+        QIcon::setFallbackSearchPaths(fallbacksBefore_);
+        QIcon::setThemeName(themeBefore_);
+    }
+    void theme(const std::string& name, const std::string& key) const {
+        const auto place = QString::fromStdString(folder_.path() + "/icons/" + name);
+        QDir().mkpath(place + "/16x16/any");
+        QFile index(place + "/index.theme");
+        EXPECT_TRUE(index.open(QIODevice::WriteOnly));
+        index.write(
+            ("[Icon Theme]\nName=x\n" + key + "\nDirectories=16x16/any\n[16x16/any]\nSize=16\n").c_str());
+    }
+    [[nodiscard]] std::string inParent(const std::string& name) const {
+        return folder_.path() + "/icons/parent/16x16/any/" + name + ".png";
+    }
+    [[nodiscard]] QFileInfo aFile() const {
+        return QFileInfo(QString::fromStdString(folder_.path() + "/a.csv"));
+    }
+
+    const QStringList pathsBefore_ = QIcon::themeSearchPaths();
+    const QStringList fallbacksBefore_ = QIcon::fallbackSearchPaths();
+    const QString themeBefore_ = QIcon::themeName();
+};
+
+TEST_F(IconThemeDialogTest, ANamedPipeInAParentThemeIsNoPictureOfAFile) {
+    QImage picture(16, 16, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(QString::fromStdString(inParent("text-csv"))));
+    EXPECT_TRUE(SafeFileIcons().isSafeFor(aFile()));
+    ASSERT_EQ(::unlink(inParent("text-csv").c_str()), 0);
+    ASSERT_EQ(::mkfifo(inParent("text-csv").c_str(), 0600), 0);
+    EXPECT_FALSE(SafeFileIcons().isSafeFor(aFile()));
+    present(csv_);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(dialog_));
+    press(QDialogButtonBox::Cancel);
+    EXPECT_TRUE(isGone());
+}
+
+TEST_F(IconThemeDialogTest, ANamedPipeAmongThePicturesOfTheDialogItselfTakesTheThemeAway) {
+    ASSERT_EQ(::mkfifo(inParent("folder-new").c_str(), 0600), 0);
+    ASSERT_EQ(::mkfifo(inParent("go-previous").c_str(), 0600), 0);
+    present(csv_);
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(dialog_));
+    EXPECT_FALSE(QIcon::hasThemeIcon("folder-new"));
+    press(QDialogButtonBox::Cancel);
+    EXPECT_TRUE(isGone());
 }
 
 TEST_F(SaveDialogTest, IsReadableInEveryTheme) {
