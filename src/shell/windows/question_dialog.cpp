@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QStringList>
+#include <QTextBoundaryFinder>
 #include <QVBoxLayout>
 #include <limits>
 
@@ -22,16 +24,50 @@ namespace {
 constexpr int textWidth = 320;
 constexpr int margin = 24;
 
+constexpr int maxLines = 24;
+
+/// The whole text on lines of `textWidth`, broken wherever a line is full, behind a slash if there is one. Of
+/// more than `maxLines` lines the middle is left out.
+QString broken(const QString& text, const QFontMetricsF& metrics) {
+    const auto rest = metrics.elidedText(text, Qt::ElideMiddle, double{textWidth} * (maxLines - 1));
+    QStringList lines;
+    QString line;
+    QTextBoundaryFinder ends(QTextBoundaryFinder::Grapheme, rest);
+    for (qsizetype at = 0; at < rest.size();) {
+        const auto end = ends.toNextBoundary();
+        const auto character = rest.mid(at, end - at);
+        if (metrics.horizontalAdvance(line + character) > textWidth && !line.isEmpty()) {
+            const auto behindSlash = line.lastIndexOf(u'/') + 1;
+            const auto kept = behindSlash > line.size() / 2 ? behindSlash : line.size();
+            lines += line.left(kept);
+            line.remove(0, kept);
+        }
+        line += character;
+        at = end;
+    }
+    return (lines << line).join(u'\n');
+}
+
 /// The text on lines of `textWidth`: its name on the line on which it begins, and no word wider than a line.
+/// What stands behind a line end is shown whole.
 QString fitted(const TextWithName& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     const auto before = tidewatch::text(text.before);
     const auto after = tidewatch::text(text.after);
     const double free = textWidth - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after);
     if (!text.name.empty()) return before + elidedLine(text.name, font, free) + after;
-    auto words = (before + after).split(u' ');
+    auto paragraphs = (before + after).split(u'\n');
+    auto words = paragraphs.front().split(u' ');
     for (auto& word : words) word = metrics.elidedText(word, Qt::ElideMiddle, textWidth);
-    return words.join(u' ');
+    paragraphs.front() = words.join(u' ');
+    for (qsizetype i = 1; i < paragraphs.size(); ++i) paragraphs[i] = broken(paragraphs[i], metrics);
+    return paragraphs.join(u'\n');
+}
+
+/// What is read aloud of a text: a name as it is shown, and a path without the line ends that are put into
+/// it.
+QString spoken(const TextWithName& text, const QLabel& shown) {
+    return text.name.empty() ? tidewatch::text(text.whole()) : shown.text();
 }
 
 }  // namespace
@@ -46,7 +82,7 @@ QuestionDialog::QuestionDialog(const TextWithName& title, const TextWithName& te
     rows_->setSpacing(12);
     rows_->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(addText("title", title)->text());
-    setAccessibleDescription(addText("text", text)->text());
+    setAccessibleDescription(spoken(text, *addText("text", text)));
 }
 
 QLabel* QuestionDialog::addText(const char* name, const TextWithName& text) {
@@ -57,6 +93,7 @@ QLabel* QuestionDialog::addText(const char* name, const TextWithName& text) {
     label->setFixedWidth(textWidth);
     label->ensurePolished();
     label->setText(fitted(text, label->font()));
+    if (const auto whole = spoken(text, *label); whole != label->text()) label->setAccessibleName(whole);
     rows_->addWidget(label);
     return label;
 }

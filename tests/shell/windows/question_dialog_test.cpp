@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -119,6 +120,32 @@ TEST_F(QuestionDialogTest, AWordThatIsWiderThanTheDialogIsCutInItsMiddle) {
     EXPECT_TRUE(label("text").text().startsWith("/home/user/"));
     EXPECT_TRUE(label("text").text().endsWith(" No space left on device"));
     EXPECT_LT(label("text").text().size(), 120);
+}
+
+TEST_F(QuestionDialogTest, APathOnLinesOfItsOwnIsShownWholeHoweverLongItIs) {
+    const QString words = "El archivo está aquí:";
+    for (const auto& path :
+         {QString("/home/user/.tidewatch/today.json"), "/home/" + QString(250, 'W') + "/today.json",
+          "/home/" + QString("una carpeta con un nombre largo/").repeated(12) + "today.json",
+          "/home/" + QString("\u00e1").repeated(200)}) {
+        make({"No se pudo mostrar"}, {(words + "\n" + path).toStdString()});
+        auto lines = label("text").text().split(u'\n');
+        EXPECT_EQ(lines.takeFirst(), words);
+        EXPECT_EQ(lines.join(""), path);
+        const QFontMetricsF metrics(label("text").font());
+        for (const auto& line : lines) EXPECT_LE(metrics.horizontalAdvance(line), label("text").width());
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(&label("text"))->text(QAccessible::Name),
+                  words + "\n" + path);
+        EXPECT_EQ(dialog_->accessibleDescription(), words + "\n" + path);
+        EXPECT_GT(dialog_->sizeHint().height(), metrics.height() * static_cast<double>(1 + lines.size()));
+        delete dialog_;
+    }
+}
+
+TEST_F(QuestionDialogTest, APathAsLongAsTheKernelTakesLeavesTheDialogOnTheScreen) {
+    make({"No se pudo mostrar"}, {"Está aquí:\n/" + std::string(4094, 'x') + "z"});
+    EXPECT_TRUE(label("text").text().endsWith("z"));
+    EXPECT_LT(dialog_->sizeHint().height(), 620);
 }
 
 TEST_F(QuestionDialogTest, TheFieldHoldsTheWholeOfAnyName) {
