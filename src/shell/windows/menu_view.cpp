@@ -8,6 +8,7 @@
 
 #include "shell/windows/elided_text.h"
 #include "shell/windows/menu_style.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 
@@ -21,9 +22,10 @@ QKeySequence shortcut(char keyEquivalent) {
 /// The widest title that a menu has room for, in pixels.
 constexpr double titleWidth = 320;
 
-/// A title as the menu wants it: an ampersand that is meant is written twice.
+/// A title as the menu wants it: there is something to see of it, and an ampersand that is meant is written
+/// twice.
 QString rowTitle(const std::string& text, const QFont& font) {
-    return elidedLine(text, font, titleWidth).replace('&', "&&");
+    return elidedLine(visibleName(text), font, titleWidth).replace('&', "&&");
 }
 
 /// A round dot of one colour, with a check mark on it where the row is checked: the icon takes the place that

@@ -27,9 +27,13 @@ bool isSeen(QChar letter) {
 
 }  // namespace
 
-QString nameText(std::string_view utf8) {
+std::string_view visibleName(std::string_view utf8) {
+    return std::ranges::any_of(text(charactersWithin(maxNameSize, utf8)), isSeen) ? utf8 : "Sin nombre";
+}
+
+QString nameText(std::string_view given) {
+    const auto utf8 = visibleName(given);
     const auto read = charactersWithin(maxNameSize, utf8);
-    if (std::ranges::none_of(text(read), isSeen)) return "Sin nombre";
     const auto kept = firstCharacters(maxNameCharacters, read);
     auto name = text(kept);
     std::ranges::replace_if(name, breaksLine, QChar(' '));

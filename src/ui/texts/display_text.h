@@ -13,6 +13,9 @@ namespace tidewatch {
 /// nothing to see is "Sin nombre". Costs no more for a longer one.
 [[nodiscard]] QString nameText(std::string_view utf8);
 
+/// The name itself, or "Sin nombre" where it has nothing to see. Costs no more for a longer one.
+[[nodiscard]] std::string_view visibleName(std::string_view utf8);
+
 /// "45s", "12m" or "2h 5m".
 [[nodiscard]] QString timeText(Seconds seconds);
 

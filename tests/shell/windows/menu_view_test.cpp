@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "shell/themes/theme_registry.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {
@@ -115,10 +116,20 @@ TEST_F(MenuViewTest, ARowWithoutATitleIsARow) {
     open({{.title = "", .swatch = RgbColor{0x7B, 0xD8, 0x8F}, .action = [&] { ++chosen; }},
           {.title = "", .children = {{.title = "Activar", .action = nothing()}}}});
     EXPECT_FALSE(menu_->actions()[0]->isSeparator());
+    EXPECT_EQ(menu_->actions()[0]->text(), "Sin nombre");
+    EXPECT_EQ(menu_->actions()[1]->text(), "Sin nombre");
     EXPECT_GT(menu_->actionGeometry(menu_->actions()[0]).height(), 15);
     EXPECT_NE(menu_->actions()[1]->menu(), nullptr);
     menu_->actions()[0]->trigger();
     EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(MenuViewTest, ATitleWithNothingToSeeSaysTheSameAsTheTabs) {
+    for (const std::string title : {"", "  ", "\u200b\u200e", "\n"}) {
+        open({{.title = title, .action = nothing()}});
+        EXPECT_EQ(menu_->actions()[0]->text(), nameText(title)) << title;
+        EXPECT_EQ(menu_->actions()[0]->text(), "Sin nombre") << title;
+    }
 }
 
 TEST_F(MenuViewTest, ATitleOf50000LettersOrWithLineBreaksIsOneLineThatTheScreenHasRoomFor) {
