@@ -132,7 +132,8 @@ ProcessEnvironment::ProcessEnvironment() {
     }
     impl_->sessionBus = impl_->busProxy.proxiedAddress(busAddress());
     qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(impl_->sessionBus));
-    // A responsive one is left to the toolkit, which bypasses the session bus and the proxy.
+    // One that answers is left to the toolkit, which connects to it without a proxy: given an address here, this
+    // version of it would tell whoever reads the screen of no window at all.
     if (const auto address = accessibilityAddress(server);
         !address.empty() && !isBusResponsive(address, sessionTimeout)) {
         qputenv("AT_SPI_BUS_ADDRESS", QByteArray::fromStdString(impl_->busProxy.proxiedAddress(address)));
