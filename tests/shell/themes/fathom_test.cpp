@@ -74,6 +74,13 @@ TEST(OchrePalette, AliasesTheTierColoursButForTheGrayOfWhatHasNoTier) {
     EXPECT_EQ(ochre_palette::other.at(1.1), DashboardStyle::tierOther);
 }
 
+// The one that a project whose colour cannot be read has, too.
+TEST(SystemColors, TheGreenIsOneOnBothGrounds) {
+    for (const auto ground : {Appearance::light, Appearance::dark}) {
+        EXPECT_EQ(systemColor(SystemColor::green, ground), Color::hex6(0x34C759));
+    }
+}
+
 TEST(SystemColors, TheGrayIsTheSameOnBothGrounds) {
     EXPECT_EQ(systemColor(SystemColor::gray, Appearance::light),
               systemColor(SystemColor::gray, Appearance::dark));
