@@ -17,9 +17,8 @@
 
 namespace tidewatch {
 
-/// All that works without a screen, a bundle a feature, built once, in the order in which they need each
-/// other. For the composition root alone, which hands each part to those that use it: nothing else takes the
-/// whole. Main thread only.
+/// All services that need no screen, one bundle per feature, in dependency order. For the composition root
+/// only, which passes each part to its users: nothing else takes the whole. Main thread only.
 struct Services final {
     /// `platform` must outlive this object.
     explicit Services(const platform::Platform& platform);
@@ -33,7 +32,7 @@ struct Services final {
     GoalTracking goals;
     Wellbeing wellbeing;
     SmallFiles smallFiles;
-    /// Writes the stores; it ends before any of them.
+    /// Writes the stores; destroyed before any of them.
     std::unique_ptr<JobQueue> disk;
     TimerEngine engine;
     ThemeRegistry themes;

@@ -7,8 +7,8 @@
 
 namespace tidewatch {
 
-/// The files that are written at each change, and between changes with the counters if they have gone
-/// missing. Main thread only.
+/// The files that are written at each change and, if they go missing, together with the counters. Main thread
+/// only.
 class SmallFiles final : public SmallFilesListener {
 public:
     /// All must outlive it.

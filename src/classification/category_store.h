@@ -14,18 +14,17 @@
 
 namespace tidewatch {
 
-/// Says what an application is and what that counts as, and keeps the user's changes to the tables
-/// ("categories.json"). Main thread only.
+/// The category and tier of applications, and the user's changes to them ("categories.json"). Main thread
+/// only.
 ///
-/// Nothing is announced on a change: whoever computes asks anew, and figures of past days change with it.
+/// Changes are not signalled: figures are recomputed on demand, those of past days included.
 class CategoryStore final {
 public:
-    /// Reads the file; one that is missing or cannot be read to the last value is no overrides at all.
-    /// All three must outlive it.
+    /// Reads the file; a missing or invalid one yields no overrides. All three must outlive it.
     CategoryStore(platform::FileSystem& files, platform::Log& log, platform::Applications& applications);
 
-    /// The user's choice; else what the built-in table says; else what the application registered with the
-    /// desktop when it was first met; else Category::uncategorized.
+    /// The user's choice, else the built-in table's, else the one registered with the desktop when the
+    /// application was first seen, else Category::uncategorized.
     [[nodiscard]] Category category(const AppId& app) const;
 
     /// The user's choice, else the category's own tier.
@@ -34,18 +33,17 @@ public:
     /// The tier of its category; an application has none of its own.
     [[nodiscard]] Tier tier(const AppId& app) const { return tier(category(app)); }
 
-    /// Each changes the record in memory and writes the file at once. On failure the change stands in memory
-    /// and the log tells.
+    /// Each changes the overrides in memory and writes the file at once. A failure is logged, and the change
+    /// is kept in memory.
     void setCategory(Category category, const AppId& app);
     void clearCategoryOverride(const AppId& app);
     void setTier(Tier tier, Category category);
     void clearTierOverride(Category category);
 
-    /// Brings to the disk what applications registered that were met for the first time. To be called often:
-    /// it does nothing without news.
+    /// Writes the registrations of newly seen applications, if any. Should be called often.
     void flushRegistered() { registered_.flush(); }
 
-    /// Lets `disk` write both files again that have gone missing. This object must outlive `disk`.
+    /// Rewrites missing files of the two on `disk`. This object must outlive `disk`.
     void restoreMissingOn(JobQueue& disk) {
         file_.restoreOn(disk);
         registered_.restoreMissingOn(disk);
@@ -56,7 +54,7 @@ public:
 private:
     void flush();
 
-    mutable RegisteredCategories registered_;  // remembers what it is asked for
+    mutable RegisteredCategories registered_;  // caches lookups
     KeptFile file_;
     CategoryOverrides overrides_;
 };

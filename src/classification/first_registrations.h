@@ -12,28 +12,28 @@
 
 namespace tidewatch {
 
-/// The categories of the desktop menu standard that each application registered when it was first met
-/// ("registered.json"). What it registered is kept, and not what that counts as: a better table of ours
-/// reaches applications that are long known. Main thread only.
+/// The desktop menu categories that each application had registered when it was first seen
+/// ("registered.json"). Stores the registration rather than our category, so that an improved table applies
+/// to known applications. Main thread only.
 class FirstRegistrations final {
 public:
     using Words = std::vector<std::string>;
 
-    /// Reads the file; one that is missing or cannot be read to the last value is empty, and is set aside
-    /// before the first write. Both must outlive it.
+    /// Reads the file; a missing or invalid one is treated as empty, and set aside before the first write.
+    /// Both must outlive it.
     FirstRegistrations(platform::FileSystem& files, platform::Log& log);
 
-    /// Null for an application not remembered. Valid until the next call of remember().
+    /// Null for an unknown application. Valid until the next call of remember().
     [[nodiscard]] const Words* find(const AppId& app) const;
 
-    /// In memory; flush() brings it to the disk.
+    /// In memory; flush() writes it.
     void remember(const AppId& app, Words words);
 
-    /// Writes the file if something was remembered since it was last tried. On failure the log tells, and the
-    /// next application that is remembered tries again.
+    /// Writes the file if an application was added since the last attempt. A failure is logged, and retried
+    /// with the next application added.
     void flush();
 
-    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    /// Rewrites the file on `disk` if it is missing. This object must outlive `disk`.
     void restoreMissingOn(JobQueue& disk) { file_.restoreOn(disk); }
 
 private:

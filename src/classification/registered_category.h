@@ -15,14 +15,14 @@
 
 namespace tidewatch {
 
-/// The category of an application that registers these categories of the desktop menu standard, main and
-/// additional ones, in any order. Nothing if none of them says what kind of application it is.
+/// Maps the desktop menu categories of an application, in any order, to ours. Returns nullopt if none of them
+/// is specific enough.
 [[nodiscard]] std::optional<Category> categoryOfRegistered(std::span<const std::string> registered);
 
-/// What the desktop says of applications that the built-in table does not name. What an application
-/// registered when it was first met holds for good ("registered.json"): time that was booked to it must not
-/// count as something else because its package was removed or updated since. One that was unknown is asked
-/// for again once the desktop may have it. Main thread only.
+/// The categories of applications that are not in the built-in table. The registration at the time an
+/// application was first seen applies for good ("registered.json"): booked time must not be reclassified
+/// because its package was removed or updated. Unknown applications are looked up again when the registry has
+/// changed. Main thread only.
 class RegisteredCategories final {
 public:
     /// Reads the file. All three must outlive it.
@@ -30,19 +30,19 @@ public:
                          platform::Applications& applications)
         : applications_(applications), registrations_(files, log) {}
 
-    /// Nothing for an application that is not registered, or that registers nothing of use.
+    /// Returns nullopt for an application without a usable registration.
     [[nodiscard]] std::optional<Category> category(const AppId& app);
 
-    /// Writes the file if an application was met that it does not have.
+    /// Writes the file if new applications were seen.
     void flush() { registrations_.flush(); }
 
-    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    /// Rewrites the file on `disk` if it is missing. This object must outlive `disk`.
     void restoreMissingOn(JobQueue& disk) { registrations_.restoreMissingOn(disk); }
 
 private:
     struct Answer {
         std::optional<Category> category;
-        std::uint64_t revision = 0;  ///< of the registry that was asked
+        std::uint64_t revision = 0;  ///< of the registry at the lookup
     };
 
     [[nodiscard]] std::optional<Category> lookUp(const AppId& app);

@@ -13,9 +13,8 @@
 
 namespace tidewatch {
 
-/// A small file of the record that is written at each change, which may be far away: it keeps the text that
-/// the file is to hold, so that a file that goes missing can be written again before that. Safe from any
-/// thread.
+/// A small file of the record that is only written on changes: keeps its content in memory, so that a file
+/// that goes missing can be rewritten. Thread-safe.
 class KeptFile final {
 public:
     /// As with RecordFile.
@@ -34,12 +33,12 @@ public:
         });
     }
 
-    /// As with RecordFile::write(), after a write that is under way.
+    /// As with RecordFile::write(), after any write in progress.
     bool write(std::string content);
 
-    /// Lets `queue` write the file again if it is missing: with the text that was last read or given to
-    /// write(). Without one, the file was never there and is not made. Failures as with write(). This object
-    /// must outlive the queue.
+    /// Rewrites the file on `queue` if it is missing, with the content last read or written. Without such
+    /// content the file never existed and is not created. Failures as with write(). This object must outlive
+    /// the queue.
     void restoreOn(JobQueue& queue);
 
     [[nodiscard]] const std::string& path() const { return file_.path(); }

@@ -10,21 +10,20 @@
 
 namespace tidewatch {
 
-/// One file of the record in the data directory: read once, then written whole, again and again.
+/// One file of the record in the data directory: read once, then rewritten as a whole.
 ///
-/// Nothing that was not read is ever written over. A file that was there and could not be read, or was of
-/// another shape, is set aside before the first write, under its name with ".damaged-" and the day behind,
-/// and so, with ".other-", is what another process wrote while it had the directory; a line in the log says
-/// so. Not safe from several threads; any one will do.
+/// Data that was not read is never overwritten. A file that could not be read or parsed is set aside before
+/// the first write, with the suffix ".damaged-" and the day; so is, with ".other-", what another process
+/// wrote while it held the directory. Both are logged. Not thread-safe, but may be used on any thread.
 class RecordFile final {
 public:
-    /// `failure` stands in the log before the reason why a write failed; without it such a failure is silent.
-    /// `files` and `log` must outlive it.
+    /// `failure` is logged, followed by the reason, if a write fails; if empty, failures are silent. `files`
+    /// and `log` must outlive it.
     RecordFile(platform::FileSystem& files, platform::Log& log, std::string_view name,
                std::string_view failure = {});
 
-    /// Makes the data directory, reads the file, and gives what `parse` makes of its text: an optional, which
-    /// is empty for a text of another shape. A missing or unreadable file gives an empty one too. Silent.
+    /// Creates the data directory, reads the file and returns `parse(text)`, an optional that is empty for
+    /// invalid text. Also empty for a missing or unreadable file. Silent.
     template <class Parse>
     [[nodiscard]] auto read(Parse&& parse) {
         auto text = readText();
@@ -34,22 +33,21 @@ public:
         return content;
     }
 
-    /// Whether `content` is on the disk now. If not, the log tells why and the file holds what it held
-    /// before.
+    /// Returns whether `content` was written to disk. On failure logs, and the file is unchanged.
     bool write(const platform::ContentWriter& content);
     bool write(std::string_view content);
 
-    /// Whether the last write() succeeded and its file is still there, neither replaced nor changed since.
+    /// Whether the last write() succeeded and the file has not been removed, replaced or modified since.
     [[nodiscard]] bool isAsWritten();
 
-    /// Whether nothing has the file's name.
+    /// Whether the file does not exist.
     [[nodiscard]] bool isMissing() const;
 
     [[nodiscard]] const std::string& directoryPath() const { return directory_; }
     [[nodiscard]] const std::string& path() const { return path_; }
 
 private:
-    // What the file may hold that this object has not read.
+    // What the file may contain that has not been read.
     enum class Unread { none, damaged, foreign };
 
     [[nodiscard]] platform::RecordLock ensureLock();

@@ -6,29 +6,29 @@
 
 namespace tidewatch {
 
-/// Told of each second of work; says whether it is being spent in one of the built-in games.
+/// Counts each second of work, and tells whether a built-in game is being played.
 class GameGateListener {
 public:
     virtual ~GameGateListener() = default;
 
     [[nodiscard]] virtual bool playingNow() const = 0;
 
-    /// One second was worked, a played one included.
+    /// Called for each second of work, including those played.
     virtual void tickWorkSecond() = 0;
 
-    /// The engine stops: what is not yet stored is to be stored now.
+    /// Called when the engine stops: unsaved state must be persisted.
     virtual void flush() = 0;
 };
 
-/// Told of presence and absence, second by second.
+/// Called each second with the user's presence or absence.
 class BreakListener {
 public:
     virtual ~BreakListener() = default;
 
-    /// The user is away; called every idle second, not only on the first.
+    /// Called for every idle second, not only the first.
     virtual void userWentIdle() = 0;
 
-    /// One second was worked; `totalToday` includes it.
+    /// Called for each second of work; `totalToday` includes it.
     virtual void tickActiveSecond(Seconds totalToday) = 0;
 };
 
@@ -37,25 +37,24 @@ class ProjectTimeListener {
 public:
     virtual ~ProjectTimeListener() = default;
 
-    /// One second was worked on `day`. Books the application in front to the active project; without an
-    /// active project it does nothing.
+    /// Called for each second of work on `day`. Books it to the active project and the frontmost application;
+    /// no effect without an active project.
     virtual void bookSecond(const DayKey& day) = 0;
 
-    /// The engine's stores have been handed to `disk` to be written; what is booked here follows.
+    /// Called after the engine's stores were queued on `disk`; queues this listener's.
     virtual void flushOn(JobQueue& disk) = 0;
 };
 
-/// Looks after the files of the record that are not counters.
+/// Maintains the files of the record that are not counters.
 class SmallFilesListener {
 public:
     virtual ~SmallFilesListener() = default;
 
-    /// The counters have been handed to `disk` to be written; those of these files that have gone missing
-    /// follow.
+    /// Called after the counters were queued on `disk`; queues missing files.
     virtual void restoreMissingOn(JobQueue& disk) = 0;
 };
 
-/// Who else lives by the tick. Null stands for nobody; those given must outlive the engine.
+/// The tick's listeners. May be null; otherwise they must outlive the engine.
 struct TickListeners {
     GameGateListener* gameGate = nullptr;
     BreakListener* breakReminder = nullptr;

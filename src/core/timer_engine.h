@@ -18,7 +18,7 @@
 
 namespace tidewatch {
 
-/// The counters that each second of work is booked to, in this order.
+/// The stores that each second of work is booked to, in this order.
 struct CounterStores {
     DailyStore& daily;
     AppUsageStore& apps;
@@ -29,42 +29,41 @@ struct CounterStores {
 /// Decides once a second whether the user is at the machine and, if so, books exactly one second to every
 /// counter. Main thread only.
 ///
-/// A tick books one second at most, whatever time has passed; ticks that do not happen (a sleeping machine,
-/// a blocked thread) are never made good. Every 30th tick, idle ones counted, hands the stores as they are
-/// then to a queue that writes them, so that a crash costs 29 seconds at most, and what was just being
-/// written. No tick waits for the disk.
+/// A tick books at most one second, however much time has passed; missed ticks (a sleeping machine, a blocked
+/// thread) are not caught up. Every 30th tick, idle ones included, queues snapshots of the stores for
+/// writing, so that a crash loses at most 29 seconds and what was being written. No tick waits for the disk.
 class TimerEngine final {
 public:
     enum class Status { active, idle };
 
-    /// Takes up the total that the daily store holds for the present day. Does not start ticking.
-    /// `disk` is the queue that writes. All that is given, null listeners apart, must outlive the engine.
+    /// Loads the current day's total from the daily store. Does not start ticking. `disk` is the queue for
+    /// writing. All arguments, except null listeners, must outlive the engine.
     TimerEngine(const platform::Clock& clock, platform::MainLoop& mainLoop, const Settings& settings,
                 const IdleMonitor& idleMonitor, const ClockKeys& keys, CounterStores stores, JobQueue& disk,
                 TickListeners listeners);
     TimerEngine(const TimerEngine&) = delete;
     TimerEngine& operator=(const TimerEngine&) = delete;
 
-    /// Ticks every second from now on, also while a menu is open. Nothing happens if it ticks already.
+    /// Starts ticking every second, even while a menu is open. No effect if already started.
     void start();
 
-    /// Ends the ticking and writes the day and all stores to the disk; returns when they are there.
+    /// Stops ticking and writes the day and all stores to disk synchronously.
     void stop();
 
-    /// Puts the clock of the day and the session back to 0, on the disk too when it returns. The counters of
-    /// applications and projects keep what they have.
+    /// Resets the day and the session to 0, and writes the day to disk synchronously. The counters of
+    /// applications and projects are unchanged.
     void resetToday();
 
-    /// The present session: seconds booked since the user last came back, since the day changed or since
-    /// the start, whichever came last. Keeps its value while the user is away.
+    /// The current session: seconds booked since the user last returned, the day changed or the engine
+    /// started, whichever was last. Keeps its value while the user is away.
     [[nodiscard]] Seconds liveSeconds() const { return liveSeconds_; }
 
-    /// Seconds booked to the present day.
+    /// Seconds booked to the current day.
     [[nodiscard]] Seconds todaySeconds() const { return todaySeconds_; }
 
     [[nodiscard]] Status status() const { return status_; }
 
-    /// Announced after a tick or a reset that changed one of the three values above, at its end.
+    /// Emitted at the end of a tick or a reset that changed one of the three values above.
     Signal<> changed;
 
 private:
@@ -94,7 +93,7 @@ private:
     DayKey currentDay_;
     bool wasIdle_ = false;
     int ticksSinceFlush_ = 0;
-    // Lets a tick that was posted find out that the engine is gone.
+    // Lets a posted tick detect that the engine has been destroyed.
     const std::shared_ptr<TimerEngine*> alive_;
 };
 

@@ -17,56 +17,52 @@
 
 namespace tidewatch {
 
-/// The user's projects and which of them is being worked on ("projects.json"). Main thread only.
+/// The user's projects and the active one ("projects.json"). Main thread only.
 ///
-/// Each change writes the file at once, then announces itself through `changed`, then to all windows as
-/// ProjectsChanged. If the file cannot be written the log tells, and the change stands in memory.
+/// Each change writes the file at once, then emits `changed`, then broadcasts ProjectsChanged. A failed write
+/// is logged, and the change is kept in memory.
 class ProjectStore final {
 public:
-    /// Reads the file; one that is missing or cannot be read to the last value is no projects at all.
-    /// All four must outlive it.
+    /// Reads the file; a missing or invalid one yields no projects. All four must outlive it.
     ProjectStore(platform::FileSystem& files, platform::Log& log, platform::Randomness& randomness,
                  const Broadcaster& broadcaster);
 
-    /// In the order of creation.
+    /// In creation order.
     [[nodiscard]] const std::vector<Project>& projects() const { return list_.projects; }
 
-    /// Need not be the id of a project.
+    /// May not be the id of an existing project.
     [[nodiscard]] std::optional<Uuid> activeProjectId() const { return list_.activeId; }
 
-    /// Nothing if no project is active or the active id is in the list no more.
+    /// Returns nullopt if no project is active or the active id does not exist.
     [[nodiscard]] std::optional<Project> activeProject() const;
 
     [[nodiscard]] std::optional<Project> project(const Uuid& id) const;
 
-    /// Those that are not archived, in the order of creation.
+    /// Projects that are not archived, in creation order.
     [[nodiscard]] std::vector<Project> activeProjects() const;
     [[nodiscard]] std::vector<Project> archivedProjects() const;
 
-    /// Appends a project with the next free colour; it does not become the active one. `name` is taken as it
-    /// is.
+    /// Appends a project with the next free colour, without activating it. `name` is not validated.
     Project addProject(std::string_view name);
 
-    /// `id` may be any; nothing stands for no project.
+    /// `id` is not validated; nullopt for no project.
     void setActive(std::optional<Uuid> id);
 
-    /// Nothing happens if there is no such project or if nothing remains of the name without the white space
-    /// around it.
+    /// No effect if there is no such project or if the trimmed name is empty.
     void renameProject(const Uuid& id, std::string_view newName);
 
-    /// `hex` is kept as it is. Nothing happens if there is no such project.
+    /// `hex` is not validated. No effect if there is no such project.
     void setColor(std::string_view hex, const Uuid& id);
 
     enum class Archived { no, yes };
 
-    /// An active project that is archived is active no more. Nothing happens if there is no such project.
+    /// Archiving the active project deactivates it. No effect if there is no such project.
     void setArchived(Archived archived, const Uuid& id);
 
-    /// Removes it from the list; the seconds booked to it stay where they are. An active one is active no
-    /// more.
+    /// Removes it from the list; its booked seconds are kept. Deleting the active project deactivates it.
     void deleteProject(const Uuid& id);
 
-    /// Lets `disk` write the file again if it has gone missing. This object must outlive `disk`.
+    /// Rewrites the file on `disk` if it is missing. This object must outlive `disk`.
     void restoreMissingOn(JobQueue& disk) { file_.restoreOn(disk); }
 
     [[nodiscard]] const std::string& dataFilePath() const { return file_.path(); }

@@ -12,7 +12,7 @@
 
 namespace tidewatch {
 
-/// The switch that lets a tier into the table.
+/// A filter switch of a tier.
 class TierSwitch final {
     Q_GADGET
     QML_VALUE_TYPE(tierSwitch)
@@ -62,7 +62,7 @@ public:
     bool operator==(const AppDetails&) const = default;
 };
 
-/// The table of the day's applications, with its filters. Main thread only.
+/// The table of the day's applications, with filters. Main thread only.
 class DetailsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
@@ -77,7 +77,7 @@ class DetailsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_PROPERTY(QString hint READ hint CONSTANT FINAL)
 
 public:
-    /// Opens the menu that reclassifies an application, at a point of the desktop.
+    /// Opens the menu to reclassify an application at a desktop position.
     using OpenMenu = std::function<void(const AppId& app, QPointF at)>;
 
     /// `model` must outlive it.
@@ -93,9 +93,9 @@ public:
     [[nodiscard]] QString emptyText() const { return "Sin actividad para los filtros seleccionados."; }
     [[nodiscard]] QString hint() const { return "Tip: right-click una fila para reclasificar."; }
 
-    /// The id of one of tiers(); another changes nothing.
+    /// The id of one of tiers(); others have no effect.
     Q_INVOKABLE void toggleTier(const QString& id);
-    /// `id` of a row; `at` in points of the desktop.
+    /// `id` of a row; `at` in desktop points.
     Q_INVOKABLE void openMenu(const QString& id, QPointF at);
 
 Q_SIGNALS:

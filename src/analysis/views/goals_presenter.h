@@ -14,7 +14,7 @@
 
 namespace tidewatch {
 
-/// How far one goal is reached.
+/// The progress of one goal.
 class GoalRow final {
     Q_GADGET
     QML_VALUE_TYPE(goalRow)
@@ -38,7 +38,7 @@ public:
     bool operator==(const GoalRow&) const = default;
 };
 
-/// One goal that can be set in steps.
+/// A goal with its stepper.
 class GoalStepper final {
     Q_GADGET
     QML_VALUE_TYPE(goalStepper)
@@ -66,7 +66,7 @@ public:
     bool operator==(const GoalStepper&) const = default;
 };
 
-/// Stars, progress, and what the goals are. Main thread only.
+/// Stars, progress, and the goals' settings. Main thread only.
 class GoalsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
@@ -94,8 +94,7 @@ public:
         GoalStore& goals;
     };
 
-    /// All that is given must outlive it; `exportReport` asks for a place and writes the month's report
-    /// there.
+    /// All references must outlive it; `exportReport` asks for a path and writes the monthly report there.
     GoalsPresenter(DashboardModel& model, const Sources& sources, std::function<void()> exportReport);
 
     [[nodiscard]] QString rewardTitle() const { return "RECOMPENSA DE HOY"; }
@@ -114,7 +113,8 @@ public:
     [[nodiscard]] bool notificationsEnabled() const { return sources_.goals.settings().notificationsEnabled; }
     [[nodiscard]] QString reportTitle() const { return "Generar reporte PDF del mes…"; }
 
-    /// One step of the stepper with this id, saved at once; within its range. An unknown id changes nothing.
+    /// Changes the goal with this id by one step, clamped to its range and saved at once. An unknown id has
+    /// no effect.
     Q_INVOKABLE void increase(const QString& id);
     Q_INVOKABLE void decrease(const QString& id);
     Q_INVOKABLE void setNotificationsEnabled(bool enabled);

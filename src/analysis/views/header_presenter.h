@@ -8,7 +8,7 @@
 
 namespace tidewatch {
 
-/// The head of the statistics window: which day is on show. Main thread only.
+/// The header of the statistics window with the selected day. Main thread only.
 class HeaderPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -16,7 +16,7 @@ class HeaderPresenter final : public QObject {
     Q_PROPERTY(QString brand READ brand CONSTANT FINAL)
     Q_PROPERTY(QString tagline READ tagline CONSTANT FINAL)
     Q_PROPERTY(QString date READ date NOTIFY dateChanged FINAL)
-    /// Whether there is a day after the one on show.
+    /// Whether there is a day after the selected one.
     Q_PROPERTY(bool canGoForward READ canGoForward NOTIFY dateChanged FINAL)
 
 public:

@@ -12,8 +12,7 @@
 
 namespace tidewatch {
 
-/// The look back over a range of days, computed anew every eight seconds while it is on show. Main thread
-/// only.
+/// The insights of a range of days, recomputed every eight seconds while visible. Main thread only.
 class InsightsPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,7 +26,7 @@ class InsightsPresenter final : public QObject {
     Q_PROPERTY(QString sessionDay READ sessionDay NOTIFY sessionChanged FINAL)
     Q_PROPERTY(QString sessionTimes READ sessionTimes NOTIFY sessionChanged FINAL)
     Q_PROPERTY(QString noSession READ noSession CONSTANT FINAL)
-    /// All of the card as a sentence.
+    /// The card's accessible text.
     Q_PROPERTY(QString sessionAccessibleText READ sessionAccessibleText NOTIFY sessionChanged FINAL)
     Q_PROPERTY(tidewatch::RowListModel* tiles READ tiles CONSTANT FINAL)
 
@@ -50,10 +49,10 @@ public:
     [[nodiscard]] QString sessionAccessibleText() const;
     [[nodiscard]] RowListModel* tiles() { return &tiles_; }
 
-    /// An index that is none of ranges() changes nothing.
+    /// An index outside ranges() has no effect.
     Q_INVOKABLE void selectRange(int index);
 
-    /// Whether it is on show; false at first.
+    /// Initially not visible.
     void setVisible(bool visible);
 
 Q_SIGNALS:

@@ -44,28 +44,28 @@ private:
     RowList<AppRow> apps_;
 };
 
-/// The day at a glance. Main thread only.
+/// The overview of the day. Main thread only.
 class OverviewPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
     Q_PROPERTY(QString scoreTitle READ scoreTitle CONSTANT FINAL)
     Q_PROPERTY(QString score READ score NOTIFY scoreChanged FINAL)
-    /// How much of the ring is filled, 0 to 1.
+    /// The filled part of the ring, 0 to 1.
     Q_PROPERTY(double scoreFraction READ scoreFraction NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QColor scoreColor READ scoreColor NOTIFY scoreChanged FINAL)
     /// Empty if there is nothing to compare with.
     Q_PROPERTY(QString comparison READ comparison NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QColor comparisonColor READ comparisonColor NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QString total READ total NOTIFY scoreChanged FINAL)
-    /// Score, total and comparison as a sentence.
+    /// Score, total and comparison as accessible text.
     Q_PROPERTY(QString scoreAccessibleText READ scoreAccessibleText NOTIFY scoreChanged FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* productive READ productive CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* neutral READ neutral CONSTANT FINAL)
     Q_PROPERTY(tidewatch::TierColumnPresenter* distracting READ distracting CONSTANT FINAL)
     Q_PROPERTY(QString hoursTitle READ hoursTitle CONSTANT FINAL)
     Q_PROPERTY(tidewatch::RowListModel* hours READ hours CONSTANT FINAL)
-    /// The chart as a sentence.
+    /// The chart's accessible text.
     Q_PROPERTY(QString hoursAccessibleText READ hoursAccessibleText NOTIFY hoursChanged FINAL)
 
 public:

@@ -12,7 +12,7 @@
 
 namespace tidewatch {
 
-/// The day's time of one project.
+/// One project's time of the day.
 class ProjectSheet final {
     Q_GADGET
     QML_VALUE_TYPE(projectSheet)
@@ -30,7 +30,7 @@ class ProjectSheet final {
 public:
     QString id;
     QString title;
-    bool tagged = false;  ///< false for what was booked to no project
+    bool tagged = false;  ///< false for untagged time
     QColor color;
     QString note;
     QString time;
@@ -42,7 +42,7 @@ public:
     bool operator==(const ProjectSheet&) const = default;
 };
 
-/// Where the day's time went by project. Main thread only.
+/// The day's time by project. Main thread only.
 class ProjectsPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,7 @@
 
 namespace tidewatch {
 
-/// Ten minutes of an hour.
+/// A ten-minute cell of an hour.
 class BucketCell final {
     Q_GADGET
     QML_VALUE_TYPE(bucketCell)
@@ -22,14 +22,14 @@ class BucketCell final {
 
 public:
     bool filled = false;
-    double height = 0;  ///< of the bar, in points; beyond the cell where its ten minutes came twice
+    double height = 0;  ///< of the bar, in points; may exceed the cell if the clock was set back
     QColor color;
-    QString accessibleText;  ///< "9:10am, 9m, Productivo"; nothing while it is not filled
+    QString accessibleText;  ///< "9:10am, 9m, Productivo"; empty if not filled
 
     bool operator==(const BucketCell&) const = default;
 };
 
-/// A time with its name.
+/// A labelled duration.
 class NamedTime final {
     Q_GADGET
     QML_VALUE_TYPE(namedTime)
@@ -40,7 +40,7 @@ class NamedTime final {
 public:
     QString name;
     QString time;
-    QColor color;  ///< transparent for what has no tier of its own
+    QColor color;  ///< transparent without a tier
 
     bool operator==(const NamedTime&) const = default;
 };
@@ -69,7 +69,7 @@ public:
     bool operator==(const HourSheet&) const = default;
 };
 
-/// The day hour by hour. Main thread only.
+/// The hours of the day. Main thread only.
 class TimesheetPresenter final : public tidewatch::DashboardTabPresenter {
     Q_OBJECT
     QML_ELEMENT

@@ -16,8 +16,8 @@
 
 namespace tidewatch {
 
-/// What the floating clock shows, ready to be shown. Main thread only. Follows the engine and the theme, and
-/// announces only what has changed, so that an ordinary second costs two texts.
+/// The display values of the floating clock. Main thread only. Follows the engine and the theme, and notifies
+/// only of changes, so that an ordinary second updates two texts.
 class ClockPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -57,10 +57,10 @@ class ClockPresenter final : public QObject {
     Q_PROPERTY(tidewatch::WallClock* wallClock READ wallClock CONSTANT FINAL)
 
 public:
-    /// The day's stars, from 0 on; asked at every change of the engine.
+    /// The day's stars, 0 or more; queried at every change of the engine.
     using StarsToday = std::function<int()>;
 
-    /// All that is given must outlive this object.
+    /// All references must outlive this object.
     ClockPresenter(TimerEngine& engine, ThemeController& theme, const platform::Clock& clock,
                    StarsToday starsToday);
 
@@ -101,10 +101,10 @@ public:
     [[nodiscard]] bool onScreen() const { return onScreen_; }
     [[nodiscard]] WallClock* wallClock() { return &wallClock_; }
 
-    /// Whether the desktop may show through the panel; true at first.
+    /// Whether the desktop may show through the panel; initially true.
     void setTranslucent(bool translucent);
 
-    /// Whether anything of the panel can be seen, so that it is worth moving; false at first.
+    /// Whether any of the panel is visible, so that it should be animated; initially false.
     void setOnScreen(bool onScreen);
 
 Q_SIGNALS:

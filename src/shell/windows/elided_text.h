@@ -6,8 +6,7 @@
 
 namespace tidewatch {
 
-/// A text from outside, UTF-8, as one line that is at most `width` pixels wide in `font`; what is too long
-/// ends in an ellipsis.
+/// External UTF-8 text as one line, elided to `width` pixels in `font`.
 [[nodiscard]] QString elidedLine(std::string_view text, const QFont& font, double width);
 
 }  // namespace tidewatch

@@ -5,8 +5,8 @@
 
 namespace tidewatch {
 
-/// `name`, UTF-8 without a folder, as a file can have it: at most 255 bytes, shortened before its extension
-/// by whole characters, and without the byte 0. Any other name is given back as it is.
+/// Makes a UTF-8 file name valid: at most 255 bytes, shortened before its extension by whole characters, and
+/// without zero bytes. Valid names are returned unchanged.
 [[nodiscard]] std::string writableFileName(std::string_view name);
 
 }  // namespace tidewatch

@@ -7,13 +7,13 @@
 
 namespace tidewatch {
 
-/// The style sheet of menus in the colours of a theme.
+/// The style sheet of menus in a theme's colours.
 [[nodiscard]] QString menuStyleSheet(const DashboardStyle& style);
 
-/// The style sheet of the bubble that tells something beside the clock.
+/// The style sheet of the hint beside the clock.
 [[nodiscard]] QString hintStyleSheet(const DashboardStyle& style);
 
-/// The colours of dialogs that the toolkit makes.
+/// The palette of the toolkit's own dialogs.
 [[nodiscard]] QPalette dialogPalette(const DashboardStyle& style);
 
 /// The style sheet of dialogs.

@@ -7,11 +7,11 @@
 
 namespace tidewatch {
 
-/// A menu made of rows, in the colours of the active theme. While it is open, or a menu within it, the
-/// control key and the key equivalent of one of its own rows choose that row.
+/// A menu of rows, in the active theme's colours. While it or a submenu is open, Ctrl and the key equivalent
+/// of one of its own rows trigger that row.
 class MenuView final : public QMenu {
 public:
-    /// Deletes itself when it is closed.
+    /// Deletes itself when closed.
     MenuView(const MenuRows& rows, const DashboardStyle& style);
 
 protected:

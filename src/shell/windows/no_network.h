@@ -4,8 +4,8 @@
 
 namespace tidewatch {
 
-/// The network as views have it: every request fails at once, and none of them opens a socket. For whatever a
-/// view may be brought to ask for; nothing of ours asks for anything. May be used from any thread.
+/// Network access for QML: every request fails immediately without opening a socket. Our views make no
+/// requests; this guards against injected ones. Thread-safe.
 class NoNetwork final : public QQmlNetworkAccessManagerFactory {
 public:
     [[nodiscard]] QNetworkAccessManager* create(QObject* parent) override;

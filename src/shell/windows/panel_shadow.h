@@ -4,15 +4,15 @@
 
 namespace tidewatch {
 
-/// The soft shadow that a rounded panel casts around itself.
+/// The soft shadow around a rounded panel.
 class PanelShadow final : public QQuickPaintedItem {
 public:
-    /// How far the shadow reaches beyond the panel, in points.
+    /// The extent of the shadow beyond the panel, in points.
     static constexpr double reach = 18;
 
     explicit PanelShadow(QQuickItem* parent);
 
-    /// Of the panel that the shadow belongs to, in points.
+    /// The panel's corner radius, in points.
     void setCornerRadius(double radius);
 
     void paint(QPainter* painter) override;

@@ -66,7 +66,7 @@ QString fitted(const TextWithName& text, const QFont& font) {
 
 /// What is read aloud of a text: a name as it is shown, and a path without the line ends that are put into
 /// it.
-QString spoken(const TextWithName& text, const QLabel& shown) {
+QString accessibleText(const TextWithName& text, const QLabel& shown) {
     return text.name.empty() ? tidewatch::text(text.whole()) : shown.text();
 }
 
@@ -82,7 +82,7 @@ QuestionDialog::QuestionDialog(const TextWithName& title, const TextWithName& te
     rows_->setSpacing(12);
     rows_->setSizeConstraint(QLayout::SetFixedSize);
     setWindowTitle(addText("title", title)->text());
-    setAccessibleDescription(spoken(text, *addText("text", text)));
+    setAccessibleDescription(accessibleText(text, *addText("text", text)));
 }
 
 QLabel* QuestionDialog::addText(const char* name, const TextWithName& text) {
@@ -93,7 +93,8 @@ QLabel* QuestionDialog::addText(const char* name, const TextWithName& text) {
     label->setFixedWidth(textWidth);
     label->ensurePolished();
     label->setText(fitted(text, label->font()));
-    if (const auto whole = spoken(text, *label); whole != label->text()) label->setAccessibleName(whole);
+    if (const auto whole = accessibleText(text, *label); whole != label->text())
+        label->setAccessibleName(whole);
     rows_->addWidget(label);
     return label;
 }

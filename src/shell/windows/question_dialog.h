@@ -11,9 +11,9 @@ class QVBoxLayout;
 
 namespace tidewatch {
 
-/// A small question in the colours of the active theme: a title, a text, perhaps a field, the button that
-/// acts and perhaps one that does not. A name in its title or text takes one line, cut where it is longer.
-/// Deletes itself when it is answered.
+/// A small dialog in the active theme's colours: a title, a text, optionally a field, an accept button and
+/// optionally a cancel button. A name in its title or text is elided to one line. Deletes itself when
+/// answered.
 class QuestionDialog final : public QDialog {
 public:
     QuestionDialog(const TextWithName& title, const TextWithName& text, const DashboardStyle& style);
@@ -23,10 +23,10 @@ public:
 
     enum class Cancel { absent, offered };
 
-    /// The first button acts; the return key chooses it. To be called last.
+    /// Adds the accept button, the default, and optionally the cancel button. Must be called last.
     void addButtons(const QString& accept, Cancel cancel);
 
-    /// Shows it in the middle of the screen that has the mouse, above the others.
+    /// Shows it centred on the screen with the mouse, above other windows.
     void present();
 
 private:

@@ -10,10 +10,10 @@ class QFileDialog;
 
 namespace tidewatch {
 
-/// Asks where a file is to be written, starting in `folder`; `accepted` gets the absolute path. Returns at
-/// once. The dialog is the desktop's own where it offers one, else the toolkit's in the colours of the theme.
-/// It deletes itself when it is answered. The proposed name is shortened to what a file can be called; what
-/// then stands in the field is the file's name, whatever letters it has, with the extension of the kind.
+/// Asks for the path of a file to write, starting in `folder`; `accepted` gets the absolute path.
+/// Asynchronous. Uses the desktop's dialog if available, else the toolkit's in the theme's colours. Deletes
+/// itself when answered. The proposed name is shortened to a valid file name; the field's text is taken
+/// literally as the file's name, with the extension of the kind.
 QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder, const DashboardStyle& style,
                                std::function<void(const QString& path)> accepted);
 

@@ -16,19 +16,19 @@
 
 namespace tidewatch {
 
-/// The statistics window on the toolkit: an ordinary window of the desktop, whose view lives only as long as
-/// it is on show. What the view shows must live elsewhere.
+/// The statistics window on the toolkit: a normal window whose view only exists while it is shown. The view's
+/// models must live elsewhere.
 class QuickStatisticsWindow final : public StatisticsWindow {
 public:
-    /// What the window asks of the view that it shows.
+    /// The view shown in the window.
     struct Content {
-        /// At each opening; fills the window. Without a view there is no window.
+        /// Called at each opening; the view fills the window. Without a view there is no window.
         std::function<std::unique_ptr<QQuickItem>()> makeView;
         std::function<void()> disappeared;    ///< the window was closed
         std::function<void()> viewDestroyed;  ///< some time after that
     };
 
-    /// What the window works with; all of it must outlive this object.
+    /// All of it must outlive this object.
     struct Dependencies {
         platform::WindowSystem& windowSystem;
         const platform::Screens& screens;
@@ -48,7 +48,7 @@ private:
     class Frame;
 
     void applyTheme();
-    /// Where the window belongs, without its frame.
+    /// The window's geometry, without its frame.
     [[nodiscard]] QRect placement();
     void destroyRetired();
 
@@ -56,8 +56,8 @@ private:
     Content content_;
     Connection themeChanges_;
     std::unique_ptr<Frame> window_;
-    std::optional<platform::FrameMargins> margins_;  ///< of the window at its own size, once known
-    /// Closed, often by its own view, which must have returned from that before it goes.
+    std::optional<platform::FrameMargins> margins_;  ///< of the window at its normal size, once known
+    /// A closed window, kept until its own view, which may have closed it, has returned.
     std::unique_ptr<Frame> retired_;
     QObject retirement_;
 };

@@ -4,10 +4,10 @@
 
 namespace tidewatch {
 
-/// The toolkit's own words, in Spanish: what its dialogs say. The names of keys stay as keyboards have them.
+/// The toolkit's Spanish translations, for its dialogs. Key names are not translated.
 class ToolkitTranslator final : public QTranslator {
 public:
-    /// False if they are not on the machine; the words are English then.
+    /// False if they are not installed; then texts are English.
     [[nodiscard]] bool load();
 
     [[nodiscard]] QString translate(const char* context, const char* sourceText, const char* disambiguation,

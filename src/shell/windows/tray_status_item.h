@@ -11,8 +11,7 @@
 
 namespace tidewatch {
 
-/// The status item as an icon in the desktop's tray, with the figure drawn into it. Made again when a tray
-/// appears.
+/// The status item as a tray icon, with the figure drawn into it. Recreated when a tray appears.
 class TrayStatusItem final : public StatusItem {
 public:
     /// `theme` must outlive this object.
@@ -26,7 +25,7 @@ public:
     void popUpMenu(const MenuRows& rows) override;
 
 private:
-    /// Whether a tray has appeared since the last look; looks now and then only.
+    /// Whether a tray has appeared since the last check; checks only occasionally.
     [[nodiscard]] bool lookForTray();
     void makeIcon();
     void drawIcon();

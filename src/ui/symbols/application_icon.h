@@ -5,11 +5,11 @@
 
 namespace tidewatch {
 
-/// The picture of an application: a name of the desktop's icon theme or the absolute path of a file. Null if
-/// there is none, or nothing that can be drawn.
+/// The icon of an application: a name in the desktop's icon theme or the absolute path of a file. Null if
+/// there is none, or it cannot be drawn.
 ///
-/// There is none, either, where the toolkit might open something on the way that is no picture: it would wait
-/// for ever for a named pipe, or draw from a device without an end. Looks at the disk each time.
+/// Also null if the toolkit might open a file that is no regular picture: it would block on a named pipe, or
+/// read an endless device. Checks the disk on each call.
 [[nodiscard]] QIcon applicationIcon(const QString& name);
 
 }  // namespace tidewatch

@@ -6,21 +6,20 @@
 
 namespace tidewatch {
 
-/// Whether the toolkit can open the picture without harm: a regular file of some megabytes at most, be it at
-/// the end of a link, that refers to no other file; and so are those beside it that it takes on a denser
-/// screen ("name@2x.png").
+/// Whether a picture is safe to open: a regular file of at most some megabytes, following links, that refers
+/// to no other file, and likewise its high-density variants ("name@2x.png").
 [[nodiscard]] bool pictureCanBeOpened(const QFileInfo& picture);
 
-/// What the toolkit may open when it looks for an icon by name: pictures in the folders of its theme, of the
-/// themes that this one inherits from and of those that it falls back to, and the files that tell it of
-/// these. It opens whatever has the right name, and would wait for ever for a named pipe. As it stands on the
-/// disk when the object is made, and as it is when asked.
+/// The files that the toolkit may open when it looks up an icon by name: pictures in the folders of its
+/// theme, of inherited and of fallback themes, and these themes' index files. It opens anything with the
+/// right name, and would block on a named pipe. Themes are read at construction, files are checked on each
+/// call.
 class IconThemeFiles final {
 public:
     IconThemeFiles();
 
-    /// Whether all that may be opened for an icon of this name can be. A longer name stands for shorter ones,
-    /// too: the toolkit cuts it at its dashes until there is such an icon.
+    /// Whether all files for an icon name are safe to open, including those for shorter names: the toolkit
+    /// removes dash-separated suffixes until it finds an icon.
     [[nodiscard]] bool canBeOpened(const QString& name) const;
 
 private:
@@ -30,7 +29,7 @@ private:
     void addParents(QString names);
 
     QStringList themes_;
-    QStringList folders_;  // where pictures may be, each with a slash at its end
+    QStringList folders_;  // where pictures may be, each with a trailing slash
     bool canBeRead_ = true;
 };
 

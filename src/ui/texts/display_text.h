@@ -8,24 +8,23 @@
 
 namespace tidewatch {
 
-/// A name that others gave, which may be anything, as one line that can be seen: what would break it becomes
-/// a blank, of more than 200 user-perceived characters the first are left and an ellipsis, and a name with
-/// nothing to see is "Sin nombre". Costs no more for a longer one.
+/// An external name as one visible line: line breaks and control characters become spaces, names of more than
+/// 200 characters are elided, and an invisible name is "Sin nombre". Constant time for long names.
 [[nodiscard]] QString nameText(std::string_view utf8);
 
-/// The name itself, or "Sin nombre" where it has nothing to see. Costs no more for a longer one.
+/// The name itself, or "Sin nombre" if it is invisible. Constant time for long names.
 [[nodiscard]] std::string_view visibleName(std::string_view utf8);
 
 /// "45s", "12m" or "2h 5m".
 [[nodiscard]] QString timeText(Seconds seconds);
 
-/// "37%": what `part` is of `whole`, in whole per cent; "0%" of nothing.
+/// "37%": `part` of `whole` as a whole percentage; "0%" if `whole` is 0.
 [[nodiscard]] QString shareText(Seconds part, Seconds whole);
 
-/// What `part` is of `whole`, 0 to 1; 0 of nothing.
+/// `part` / `whole`; 0 if `whole` is 0.
 [[nodiscard]] double share(Seconds part, Seconds whole);
 
-/// "84%": a fraction in whole per cent, halves away from zero.
+/// "84%": a fraction as a whole percentage, halves away from zero.
 [[nodiscard]] QString percentText(double fraction);
 
 }  // namespace tidewatch
