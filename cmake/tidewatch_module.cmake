@@ -8,6 +8,7 @@ function(tidewatch_module room)
     target_link_libraries(tidewatch_${room} PUBLIC ${ARG_KNOWS} PRIVATE tidewatch_options)
     target_include_directories(tidewatch_${room} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     tidewatch_unity(tidewatch_${room})
+    set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS tidewatch_${room})
 endfunction()
 
 # tidewatch_test(<name> [THREADS] SOURCES <file>... [APART <file>...] [KNOWS <target>...])

@@ -32,6 +32,7 @@ function(tidewatch_qml_module room uri)
     _tidewatch_find_registered_headers(${target} ${ARG_SOURCES})
     _tidewatch_part_compiled_views(${target})
     tidewatch_unity(${target})
+    set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS ${target})
     # Targets that link only the types must not get the module.
     set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_qmltyperegistrations.cpp
         PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)

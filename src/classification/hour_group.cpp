@@ -84,6 +84,7 @@ private:
         std::map<Category, Seconds> byCategory;
         for (const auto& [app, seconds] : byApp) byCategory[categories_.category(app)] += seconds;
         std::vector<TopCategory> top;
+        top.reserve(byCategory.size());
         for (const auto& [category, seconds] : byCategory) {
             top.push_back({category, seconds, categories_.tier(category)});
         }
