@@ -11,14 +11,18 @@ function(tidewatch_module room)
     set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS tidewatch_${room})
 endfunction()
 
-# tidewatch_test(<name> [THREADS] SOURCES <file>... [APART <file>...] [KNOWS <target>...])
+# tidewatch_test(<name> [THREADS] [NOT_SANITIZED] SOURCES <file>... [APART <file>...] [KNOWS <target>...])
 #
 # A GoogleTest program, registered case by case, with locale, time zone and home fixed. THREADS marks tests that use
-# more than one thread: only those are built under the thread sanitizer. APART lists sources that are excluded from
+# more than one thread: only those are built under the thread sanitizer. NOT_SANITIZED marks tests that the sanitizers'
+# presets do not build, mostly because they need Qt: only those are built in the preset release. APART lists sources that are excluded from
 # unity builds because their names clash with others'.
 function(tidewatch_test name)
-    cmake_parse_arguments(ARG "THREADS" "" "SOURCES;APART;KNOWS" ${ARGN})
+    cmake_parse_arguments(ARG "THREADS;NOT_SANITIZED" "" "SOURCES;APART;KNOWS" ${ARGN})
     if(TIDEWATCH_SANITIZE MATCHES thread AND NOT ARG_THREADS)
+        return()
+    endif()
+    if(NOT TIDEWATCH_SANITIZABLE_TESTS AND NOT ARG_NOT_SANITIZED)
         return()
     endif()
     add_executable(${name} ${ARG_SOURCES} ${ARG_APART})
