@@ -134,7 +134,7 @@ TEST_F(ProjectTimeStoreTest, EveryTruncationIsReadAsNoDataAndReplaced) {
     }
 }
 
-TEST_F(ProjectTimeStoreTest, WhatHasNotThreeLevelsIsReadAsNoData) {
+TEST_F(ProjectTimeStoreTest, WithoutThreeLevelsItReadsAsNoData) {
     for (const auto* text : {"[]", "null", R"({"2026-01-12":5})", R"({"2026-01-12":{"a":5}})",
                              R"({"2026-01-12":{"a":{"b":{"c":5}}}})", R"({"2026-01-12":{"a":{"b":"5"}}})"}) {
         world.files.put(world.projectTimeJson, text);

@@ -74,7 +74,7 @@ TEST_F(MenuViewTest, DrawsACheckMarkOnTheCheckedRowAndOnNoOther) {
     EXPECT_TRUE(markIn(1));
 }
 
-TEST_F(MenuViewTest, TellsTheKeyEquivalentBesideTheTitle) {
+TEST_F(MenuViewTest, ShowsTheKeyEquivalentBesideTheTitle) {
     open({{.title = "Salir", .keyEquivalent = 'q', .action = nothing()},
           {.title = "Otra", .action = nothing()}});
     EXPECT_EQ(drawn(0).text, "Salir\tCtrl+Q");
@@ -104,7 +104,7 @@ TEST_F(MenuViewTest, AKeyEquivalentWorksFromAMenuWithinAMenu) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return menu_.isNull(); }));
 }
 
-TEST_F(MenuViewTest, ARowThatOnlyTellsSomethingCannotBeChosen) {
+TEST_F(MenuViewTest, AnInformationalRowCannotBeChosen) {
     open({{.title = "Hoy: 00:00:00"}, MenuRow::separator(), {.title = "Salir", .action = nothing()}});
     EXPECT_FALSE(menu_->actions()[0]->isEnabled());
     EXPECT_TRUE(menu_->actions()[1]->isSeparator());
@@ -144,7 +144,7 @@ TEST_F(MenuViewTest, ATitleOf50000LettersOrWithLineBreaksIsOneLineThatTheScreenH
     for (auto* action : menu_->actions()) EXPECT_EQ(menu_->actionGeometry(action).height(), height);
 }
 
-TEST_F(MenuViewTest, AnAmpersandIsALetter) {
+TEST_F(MenuViewTest, AnAmpersandIsEscaped) {
     open({{.title = "Luz & Sombra", .action = nothing()}});
     EXPECT_EQ(drawn(0).text, "Luz && Sombra");
 }
