@@ -7,7 +7,10 @@
 #include "platform/api/platform.h"
 #include "shell/app_delegate.h"
 #include "shell/export_commands.h"
+#include "shell/floating_clock.h"
 #include "shell/project_commands.h"
+#include "shell/record_writer.h"
+#include "shell/status_bar.h"
 #include "shell/status_commands.h"
 #include "shell/status_menu.h"
 #include "shell/status_title.h"
@@ -15,7 +18,7 @@
 
 namespace tidewatch {
 
-/// Wires the delegate, the commands, the status item's title and its menu. Main thread only.
+/// Wires the clock, the status item and its menu, the delegate and the commands. Main thread only.
 class Program final {
 public:
     /// The surfaces of the program; all of it must outlive the program.
@@ -41,6 +44,9 @@ private:
     Services& services_;
     ExportCommands exports_;
     ProjectCommands projectCommands_;
+    RecordWriter record_;
+    StatusBar statusBar_;
+    FloatingClock clock_;
     AppDelegate delegate_;
     StatusCommands commands_;
     MenuGroups menu_;

@@ -1,59 +1,42 @@
 #include "shell/floating_panel.h"
 
-#include <algorithm>
-#include <cmath>
+#include <utility>
 
 namespace tidewatch {
 
-FloatingPanel::FloatingPanel(PanelWindow& window, Settings& settings, const platform::Screens& screens,
-                             const Broadcaster& broadcaster)
-    : window_(window), settings_(settings), broadcaster_(broadcaster) {
+FloatingPanel::FloatingPanel(FloatingWindow& window, const platform::Screens& screens, Owner owner)
+    : window_(window), owner_(std::move(owner)) {
     place(screens);
+    window_.setGestures({
+        .mouseDown = [this](platform::Point position) { mouseDown(position); },
+        .mouseDragged = [this](platform::Point position) { mouseDragged(position); },
+        .mouseUp = [this](platform::Point position) { mouseUp(position); },
+        .menuRequested = owner_.menuRequested,
+    });
 }
 
 void FloatingPanel::place(const platform::Screens& screens) {
-    if (const auto stored = settings_.windowOrigin()) {
-        const auto all = screens.all();
-        const bool onScreen = std::any_of(all.begin(), all.end(), [&](const platform::Screen& screen) {
-            return screen.frame.contains(*stored);
-        });
-        if (onScreen) {
-            window_.setOrigin(*stored);
-            return;
-        }
-    }
-    if (const auto main = screens.main()) {
-        const auto& visible = main->visibleFrame;
-        window_.setOrigin(
-            {visible.x + visible.width - window_.panelSize().width - margin, visible.y + margin});
-    }
+    auto origin = placeOnScreen(owner_.place, screens);
+    if (!origin) origin = owner_.defaultPlace(window_.panelSize());
+    if (origin) window_.setOrigin(*origin);
 }
 
 void FloatingPanel::resize(PanelSize size) {
     window_.resize(size);
-    settings_.setWindowOrigin(window_.origin());
+    owner_.place.save(window_.origin());
 }
 
 void FloatingPanel::mouseDown(platform::Point position) {
-    mouseDownLocation_ = position;
-    originAtMouseDown_ = window_.origin();
-    dragging_ = false;
+    drag_.press(position, window_.origin());
 }
 
 void FloatingPanel::mouseDragged(platform::Point position) {
-    dragging_ = dragging_ || travel(position) >= dragDistance;
-    if (!dragging_) return;
-    window_.setOrigin({originAtMouseDown_.x + position.x - mouseDownLocation_.x,
-                       originAtMouseDown_.y + position.y - mouseDownLocation_.y});
+    if (const auto origin = drag_.move(position)) window_.setOrigin(*origin);
 }
 
 void FloatingPanel::mouseUp(platform::Point position) {
-    settings_.setWindowOrigin(window_.origin());
-    if (travel(position) < dragDistance) broadcaster_.post(FloatingPanelClicked{});
-}
-
-double FloatingPanel::travel(platform::Point position) const {
-    return std::hypot(position.x - mouseDownLocation_.x, position.y - mouseDownLocation_.y);
+    owner_.place.save(window_.origin());
+    if (drag_.isClick(position)) owner_.clicked();
 }
 
 }  // namespace tidewatch

@@ -1,25 +1,33 @@
 #pragma once
 
-#include "core/broadcaster.h"
-#include "core/settings.h"
+#include <functional>
+#include <optional>
+
 #include "platform/api/screens.h"
-#include "shell/surfaces.h"
+#include "shell/floating_window.h"
+#include "shell/pointer_drag.h"
+#include "shell/window_place.h"
 
 namespace tidewatch {
 
-/// Where the floating clock stands and what the mouse does to it. Main thread only.
+/// Where a floating window stands and what the mouse does to it, whatever it shows. Main thread only.
 class FloatingPanel final {
 public:
     /// The travel between mouse-down and mouse-up, in points, from which on a click is a drag.
     static constexpr double dragDistance = 5;
 
-    /// The distance from the edges of the screen at which a panel without a stored place is put.
-    static constexpr double margin = 24;
+    /// What differs from one floating window to the next.
+    struct Owner {
+        StoredPlace place;
+        /// Where it stands without a stored place on a screen; nullopt for where the window is already.
+        std::function<std::optional<platform::Point>(PanelSize)> defaultPlace;
+        std::function<void()> clicked;
+        std::function<void()> menuRequested;  ///< may be empty
+    };
 
-    /// Places the window: at the stored origin if that lies on a screen, else in the top right corner of the
-    /// main screen. All arguments must outlive this object.
-    FloatingPanel(PanelWindow& window, Settings& settings, const platform::Screens& screens,
-                  const Broadcaster& broadcaster);
+    /// Places the window and takes its gestures. `window` must outlive this object; `screens` is asked here
+    /// only.
+    FloatingPanel(FloatingWindow& window, const platform::Screens& screens, Owner owner);
 
     void orderFrontRegardless() { window_.orderFrontRegardless(); }
     void orderOut() { window_.orderOut(); }
@@ -28,22 +36,17 @@ public:
     /// Keeps the top left corner where it is, and stores it.
     void resize(PanelSize size);
 
-    /// Positions are desktop points. The window follows the mouse from `dragDistance` on; every mouse-up
-    /// stores the place, and one that ends a click posts FloatingPanelClicked.
-    void mouseDown(platform::Point position);
-    void mouseDragged(platform::Point position);
-    void mouseUp(platform::Point position);
-
 private:
     void place(const platform::Screens& screens);
-    [[nodiscard]] double travel(platform::Point position) const;
+    void mouseDown(platform::Point position);
+    /// The window follows the mouse from `dragDistance` on.
+    void mouseDragged(platform::Point position);
+    /// Stores the place, whether it ends a drag or a click.
+    void mouseUp(platform::Point position);
 
-    PanelWindow& window_;
-    Settings& settings_;
-    const Broadcaster& broadcaster_;
-    platform::Point mouseDownLocation_;
-    platform::Point originAtMouseDown_;
-    bool dragging_ = false;
+    FloatingWindow& window_;
+    Owner owner_;
+    PointerDrag drag_{dragDistance};
 };
 
 }  // namespace tidewatch

@@ -5,39 +5,12 @@
 #include <string>
 
 #include "platform/api/screens.h"
+#include "shell/floating_window.h"
 #include "shell/menu_row.h"
 #include "shell/status_title.h"
 #include "shell/themes/theme.h"
 
 namespace tidewatch {
-
-/// The floating clock's window: borderless, above all others, on every workspace, never with the focus.
-/// Shows today's time by itself. Positions are desktop points of the top left corner.
-class PanelWindow {
-public:
-    virtual ~PanelWindow() = default;
-
-    [[nodiscard]] virtual PanelSize panelSize() const = 0;
-    [[nodiscard]] virtual platform::Point origin() const = 0;
-    virtual void setOrigin(platform::Point origin) = 0;
-
-    /// Changes the size about the top left corner, in a short movement if the window is on screen.
-    virtual void resize(PanelSize size) = 0;
-
-    /// Puts it on the screen above the others without activating it.
-    virtual void orderFrontRegardless() = 0;
-    virtual void orderOut() = 0;
-    [[nodiscard]] virtual bool isVisible() const = 0;
-
-    /// What the mouse does to the window; positions are desktop points.
-    struct Gestures {
-        std::function<void(platform::Point)> mouseDown;
-        std::function<void(platform::Point)> mouseDragged;
-        std::function<void(platform::Point)> mouseUp;
-        std::function<void()> menuRequested;
-    };
-    virtual void setGestures(Gestures gestures) = 0;
-};
 
 /// The item in the desktop's tray.
 class StatusItem {
@@ -141,7 +114,8 @@ public:
 
     /// Makes the program's own fonts known; before any other surface.
     virtual void registerFonts() = 0;
-    [[nodiscard]] virtual std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) = 0;
+    /// The floating clock's window, above the others; shows today's time.
+    [[nodiscard]] virtual std::unique_ptr<FloatingWindow> makeClockWindow(PanelSize size) = 0;
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
     [[nodiscard]] virtual Dialogs& dialogs() = 0;
 

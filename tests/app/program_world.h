@@ -16,9 +16,9 @@ namespace tidewatch {
 /// What happened on the fake screen, in order, one word or two a thing.
 using ScreenLog = std::vector<std::string>;
 
-class FakePanelWindow final : public PanelWindow {
+class FakeFloatingWindow final : public FloatingWindow {
 public:
-    FakePanelWindow(PanelSize size, ScreenLog& log) : size_(size), log_(log) {}
+    FakeFloatingWindow(PanelSize size, ScreenLog& log) : size_(size), log_(log) {}
 
     [[nodiscard]] PanelSize panelSize() const override { return size_; }
     [[nodiscard]] platform::Point origin() const override { return origin_; }
@@ -100,9 +100,9 @@ private:
 class FakeSurfaces final : public Surfaces, private Dialogs {
 public:
     void registerFonts() override { log_.push_back("fonts"); }
-    [[nodiscard]] std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) override {
+    [[nodiscard]] std::unique_ptr<FloatingWindow> makeClockWindow(PanelSize size) override {
         log_.push_back("panel");
-        auto window = std::make_unique<FakePanelWindow>(size, log_);
+        auto window = std::make_unique<FakeFloatingWindow>(size, log_);
         panel_ = window.get();
         return window;
     }
@@ -116,7 +116,7 @@ public:
     void popUpMenu(const MenuRows& rows, platform::Point) override { poppedUp_ = rows; }
     void showHint(const std::string& text) override { hints_.push_back(text); }
 
-    [[nodiscard]] FakePanelWindow& panel() { return *panel_; }
+    [[nodiscard]] FakeFloatingWindow& panel() { return *panel_; }
     [[nodiscard]] FakeStatusItem& statusItem() { return *statusItem_; }
     [[nodiscard]] const ScreenLog& log() const { return log_; }
     [[nodiscard]] const std::vector<std::string>& hints() const { return hints_; }
@@ -153,7 +153,7 @@ private:
     }
 
     ScreenLog log_;
-    FakePanelWindow* panel_ = nullptr;
+    FakeFloatingWindow* panel_ = nullptr;
     FakeStatusItem* statusItem_ = nullptr;
     MenuRows poppedUp_;
     std::vector<std::string> hints_;

@@ -11,21 +11,32 @@ namespace {
 
 using platform::Point;
 
+/// The clock's window: what the fake surfaces make, with the settings as its place.
 class FloatingPanelTest : public testing::Test {
 protected:
     FloatingPanel& panel() {
-        if (!panel_) panel_ = std::make_unique<FloatingPanel>(window_, settings_, screens_, broadcaster_);
+        if (!panel_) panel_ = std::make_unique<FloatingPanel>(window_, screens_, owner());
         return *panel_;
     }
+
+    FloatingPanel::Owner owner() {
+        return {.place = {.load = [this] { return settings_.windowOrigin(); },
+                          .save = [this](Point origin) { settings_.setWindowOrigin(origin); }},
+                .defaultPlace = [this](PanelSize size) { return topRightCorner(screens_, size, 24); },
+                .clicked = [this] { ++clicks_; },
+                .menuRequested = nullptr};
+    }
+
+    void mouseDown(Point position) { window_.gestures().mouseDown(position); }
+    void mouseDragged(Point position) { window_.gestures().mouseDragged(position); }
+    void mouseUp(Point position) { window_.gestures().mouseUp(position); }
 
     platform::MemoryPreferences preferences_;
     Settings settings_{preferences_};
     platform::FakeScreens screens_;
-    Broadcaster broadcaster_;
     int clicks_ = 0;
-    Connection counting_ = broadcaster_.observe<FloatingPanelClicked>([this](const auto&) { ++clicks_; });
     ScreenLog log_;
-    FakePanelWindow window_{{220, 124}, log_};
+    FakeFloatingWindow window_{{220, 124}, log_};
     std::unique_ptr<FloatingPanel> panel_;
 };
 
@@ -46,8 +57,8 @@ TEST_F(FloatingPanelTest, AStoredOriginOutsideAllScreensPlacesItInTheCornerAndTh
     panel();
     EXPECT_EQ(window_.origin(), (Point{1676, 54}));
     EXPECT_EQ(settings_.windowOrigin(), (Point{3000, 500}));
-    panel().mouseDown({1700, 60});
-    panel().mouseUp({1700, 60});
+    mouseDown({1700, 60});
+    mouseUp({1700, 60});
     EXPECT_EQ(settings_.windowOrigin(), (Point{1676, 54}));
 }
 
@@ -58,40 +69,45 @@ TEST_F(FloatingPanelTest, WithoutAScreenItStaysWhereItIs) {
 }
 
 TEST_F(FloatingPanelTest, ATravelOf4Point9IsAClick) {
-    panel().mouseDown({100, 100});
-    panel().mouseDragged({104.9, 100});
-    panel().mouseUp({104.9, 100});
+    panel();
+    mouseDown({100, 100});
+    mouseDragged({104.9, 100});
+    mouseUp({104.9, 100});
     EXPECT_EQ(clicks_, 1);
     EXPECT_EQ(window_.origin(), (Point{1676, 54}));
 }
 
 TEST_F(FloatingPanelTest, ATravelOf5IsADrag) {
-    panel().mouseDown({100, 100});
-    panel().mouseDragged({100, 105});
-    panel().mouseUp({100, 105});
+    panel();
+    mouseDown({100, 100});
+    mouseDragged({100, 105});
+    mouseUp({100, 105});
     EXPECT_EQ(clicks_, 0);
     EXPECT_EQ(window_.origin(), (Point{1676, 59}));
 }
 
 TEST_F(FloatingPanelTest, AClickStoresTheOriginToo) {
-    panel().mouseDown({100, 100});
-    panel().mouseUp({100, 100});
+    panel();
+    mouseDown({100, 100});
+    mouseUp({100, 100});
     EXPECT_EQ(settings_.windowOrigin(), (Point{1676, 54}));
 }
 
 TEST_F(FloatingPanelTest, ADragMovesTheWindowWithTheMouseAndStoresThePlace) {
-    panel().mouseDown({100, 100});
-    panel().mouseDragged({60, 130});
-    panel().mouseDragged({20, 160});
-    panel().mouseUp({20, 160});
+    panel();
+    mouseDown({100, 100});
+    mouseDragged({60, 130});
+    mouseDragged({20, 160});
+    mouseUp({20, 160});
     EXPECT_EQ(window_.origin(), (Point{1676 - 80, 54 + 60}));
     EXPECT_EQ(settings_.windowOrigin(), window_.origin());
 }
 
 TEST_F(FloatingPanelTest, GrowingKeepsTheTopLeftCornerAndStoresIt) {
-    panel().mouseDown({100, 100});
-    panel().mouseDragged({0, 200});
-    panel().mouseUp({0, 200});
+    panel();
+    mouseDown({100, 100});
+    mouseDragged({0, 200});
+    mouseUp({0, 200});
     const auto before = window_.origin();
     panel().resize({330, 186});
     EXPECT_EQ(window_.panelSize(), (PanelSize{330, 186}));

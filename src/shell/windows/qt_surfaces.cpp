@@ -38,11 +38,12 @@ void QtSurfaces::registerFonts() {
     tidewatch::registerFonts();
 }
 
-std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
+std::unique_ptr<FloatingWindow> QtSurfaces::makeClockWindow(PanelSize size) {
     auto view = makeView("ContentView", dependencies_.clock);
     // Without it the clock is blank, and time is counted all the same.
     if (!view) view = std::make_unique<QQuickItem>();
-    QuickPanelWindow::Content content{
+    QuickFloatingWindow::Content content{
+        .title = "Tidewatch",
         .item = std::move(view),
         .cornerRadius =
             [this](PanelSize panel) {
@@ -52,8 +53,9 @@ std::unique_ptr<PanelWindow> QtSurfaces::makePanelWindow(PanelSize size) {
         .setTranslucent = [this](bool translucent) { dependencies_.clock.setTranslucent(translucent); },
         .setOnScreen = [this](bool onScreen) { dependencies_.clock.setOnScreen(onScreen); },
     };
-    auto window = std::make_unique<QuickPanelWindow>(dependencies_.windowSystem, std::move(content), size);
-    panel_ = window.get();
+    auto window = std::make_unique<QuickFloatingWindow>(dependencies_.windowSystem, WindowLayer::above,
+                                                        std::move(content), size);
+    clockWindow_ = window.get();
     return window;
 }
 
@@ -100,9 +102,9 @@ void QtSurfaces::showHint(const std::string& hint) {
     label->setFixedWidth(hintWidth);
     label->setStyleSheet(hintStyleSheet(dependencies_.theme.active().dashboard));
     label->adjustSize();
-    if (panel_ && panel_->screen() != nullptr) {
-        const auto free = panel_->screen()->availableGeometry();
-        const auto below = panel_->geometry().bottomLeft() + QPoint(0, hintGap);
+    if (clockWindow_ && clockWindow_->screen() != nullptr) {
+        const auto free = clockWindow_->screen()->availableGeometry();
+        const auto below = clockWindow_->geometry().bottomLeft() + QPoint(0, hintGap);
         label->move(std::clamp(below.x(), free.left(), std::max(free.left(), free.right() - label->width())),
                     std::min(below.y(), free.bottom() - label->height()));
     }

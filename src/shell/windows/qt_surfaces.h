@@ -14,7 +14,7 @@
 #include "shell/themes/theme_controller.h"
 #include "shell/views/clock_presenter.h"
 #include "shell/windows/no_network.h"
-#include "shell/windows/quick_panel_window.h"
+#include "shell/windows/quick_floating_window.h"
 
 namespace tidewatch {
 
@@ -34,7 +34,7 @@ public:
     ~QtSurfaces() override;
 
     void registerFonts() override;
-    [[nodiscard]] std::unique_ptr<PanelWindow> makePanelWindow(PanelSize size) override;
+    [[nodiscard]] std::unique_ptr<FloatingWindow> makeClockWindow(PanelSize size) override;
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
     [[nodiscard]] Dialogs& dialogs() override { return *this; }
     void popUpMenu(const MenuRows& rows, platform::Point at) override;
@@ -58,7 +58,7 @@ private:
     const Dependencies dependencies_;
     NoNetwork noNetwork_;
     QQmlEngine engine_;
-    QPointer<QuickPanelWindow> panel_;
+    QPointer<QuickFloatingWindow> clockWindow_;
     QPointer<QMenu> menu_;
     QString saveFolder_;  ///< where the user last had a file written; empty before
 };

@@ -64,7 +64,7 @@ TEST_F(QtSurfacesTest, AViewThatCannotBeMadeIsALineInTheLogAndNoView) {
 
 TEST_F(QtSurfacesTest, AClockWhoseViewCannotBeMadeIsABlankWindow) {
     machine_.log.expectWarning("Tidewatch: failed to make the view ContentView: ");
-    const auto window = surfaces_.makePanelWindow({220, 124});
+    const auto window = surfaces_.makeClockWindow({220, 124});
     window->orderFrontRegardless();
     EXPECT_TRUE(window->isVisible());
     window->resize({110, 62});

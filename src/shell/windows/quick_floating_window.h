@@ -2,22 +2,25 @@
 
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QString>
 #include <QVariantAnimation>
 #include <functional>
 #include <memory>
 
 #include "platform/api/window_system.h"
-#include "shell/surfaces.h"
-#include "shell/windows/panel_shadow.h"
+#include "shell/floating_window.h"
+#include "shell/windows/window_outline.h"
 
 namespace tidewatch {
 
-/// The floating clock's window on the toolkit. With a compositor it has a margin around the panel that holds
-/// the shadow and lets clicks through; without one it is cut to the panel's rounded shape.
-class QuickPanelWindow final : public QQuickWindow, public PanelWindow {
+/// A floating window on the toolkit: the layer, the mouse, the size, and whether anything of it can be seen.
+/// What lies around its panel is WindowOutline's. What a control of the content takes of the mouse is the
+/// control's.
+class QuickFloatingWindow final : public QQuickWindow, public FloatingWindow {
 public:
     /// What the window asks of the view that it shows.
     struct Content {
+        QString title;                                  ///< of the window; shown nowhere, but tools list it
         std::unique_ptr<QQuickItem> item;               ///< fills the panel
         std::function<double(PanelSize)> cornerRadius;  ///< in points, of a panel of that size
         std::function<void(bool)> setTranslucent;       ///< whether its background may let things through
@@ -25,8 +28,9 @@ public:
     };
 
     /// `windowSystem` must outlive this object.
-    QuickPanelWindow(platform::WindowSystem& windowSystem, Content content, PanelSize size);
-    ~QuickPanelWindow() override;
+    QuickFloatingWindow(platform::WindowSystem& windowSystem, WindowLayer layer, Content content,
+                        PanelSize size);
+    ~QuickFloatingWindow() override;
 
     [[nodiscard]] PanelSize panelSize() const override;
     [[nodiscard]] platform::Point origin() const override;
@@ -38,25 +42,25 @@ public:
     void setGestures(Gestures gestures) override;
 
 protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void mousePressed(const QMouseEvent& event);
+    void mouseMoved(const QMouseEvent& event);
+    void mouseReleased(const QMouseEvent& event);
     void adaptToCompositor();
     void layOut(platform::Point origin);
-    void cutToShape(double radius);
     void updateOnScreen();
 
     platform::WindowSystem& windowSystem_;
     Content content_;
     Gestures gestures_;
     PanelSize panel_;
-    double margin_ = 0;  ///< of the window around the panel
-    PanelShadow shadow_;
+    WindowOutline outline_;
     QVariantAnimation growth_;
+    bool takenByContent_ = false;  ///< the press that is going on
     bool covered_ = false;
     Connection compositing_;
     Connection covering_;

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "core/broadcaster.h"
+#include "core/settings.h"
+#include "platform/api/screens.h"
+#include "shell/floating_panel.h"
+#include "shell/surfaces.h"
+#include "shell/themes/theme_controller.h"
+
+namespace tidewatch {
+
+/// The clock on the desktop: a floating window above the others, as large as theme and settings say. A click
+/// on it posts FloatingPanelClicked. Main thread only.
+class FloatingClock final {
+public:
+    /// The distance from the edges of the screen at which a clock without a stored place is put.
+    static constexpr double margin = 24;
+
+    /// All of it must outlive the clock.
+    struct Dependencies {
+        Settings& settings;
+        const Broadcaster& broadcaster;
+        const platform::Screens& screens;
+        const ThemeController& theme;
+        Surfaces& surfaces;
+        /// Opens the program's menu, asked for on the clock.
+        std::function<void()> openMenu;
+    };
+
+    explicit FloatingClock(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
+
+    /// Makes the window, once and before anything else here, and shows it unless the settings hide it.
+    void begin();
+
+    /// Theme or settings may want another size.
+    void applySize();
+
+    /// Shows or hides it, persistently.
+    void toggleVisible();
+
+private:
+    [[nodiscard]] FloatingPanel::Owner owner();
+    [[nodiscard]] PanelSize size() const;
+
+    const Dependencies dependencies_;
+    std::unique_ptr<FloatingWindow> window_;
+    std::unique_ptr<FloatingPanel> panel_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,179 @@
+#include "shell/windows/quick_floating_window.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tidewatch {
+
+namespace {
+
+constexpr int growthMilliseconds = 200;
+
+platform::Point globalPosition(const QMouseEvent& event) {
+    return {event.globalPosition().x(), event.globalPosition().y()};
+}
+
+/// A tool lies above ordinary windows by its kind, also where the state for that is ignored, so a window that
+/// is to lie below is an ordinary one.
+Qt::WindowFlags flagsOf(WindowLayer layer) {
+    const Qt::WindowFlags kind = layer == WindowLayer::above ? Qt::Tool | Qt::WindowStaysOnTopHint
+                                                             : Qt::Window | Qt::WindowStaysOnBottomHint;
+    return kind | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
+}
+
+/// `size`, made smaller in its proportions where no screen is large enough to show it: pixels that nobody
+/// sees cost memory all the same.
+PanelSize withinScreens(const PanelSize& size) {
+    QSizeF most;
+    for (const auto* screen : QGuiApplication::screens()) most = most.expandedTo(screen->size());
+    if (most.isEmpty()) return size;
+    if (!std::isfinite(size.width) || !std::isfinite(size.height)) return {most.width(), most.height()};
+    const double factor = std::min({1.0, most.width() / size.width, most.height() / size.height});
+    return {size.width * factor, size.height * factor};
+}
+
+}  // namespace
+
+QuickFloatingWindow::QuickFloatingWindow(platform::WindowSystem& windowSystem, WindowLayer layer,
+                                         Content content, PanelSize size)
+    : windowSystem_(windowSystem),
+      content_(std::move(content)),
+      panel_(withinScreens(size)),
+      outline_(*this, windowSystem) {
+    setTitle(content_.title);
+    setFlags(flagsOf(layer));
+    setColor(Qt::transparent);
+    content_.item->setParentItem(contentItem());
+    growth_.setDuration(growthMilliseconds);
+    growth_.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&growth_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+        const auto current = value.toSizeF();
+        panel_ = {current.width(), current.height()};
+        layOut(origin());
+    });
+    create();
+    compositing_ = windowSystem_.onCompositingChanged([this] { adaptToCompositor(); });
+    covering_ = windowSystem_.onOcclusionChanged(winId(), [this](bool covered) {
+        covered_ = covered;
+        updateOnScreen();
+    });
+    adaptToCompositor();
+}
+
+QuickFloatingWindow::~QuickFloatingWindow() = default;
+
+PanelSize QuickFloatingWindow::panelSize() const {
+    return panel_;
+}
+
+platform::Point QuickFloatingWindow::origin() const {
+    return {x() + outline_.margin(), y() + outline_.margin()};
+}
+
+void QuickFloatingWindow::setOrigin(platform::Point origin) {
+    setPosition(qRound(origin.x - outline_.margin()), qRound(origin.y - outline_.margin()));
+}
+
+void QuickFloatingWindow::resize(PanelSize wanted) {
+    const auto size = withinScreens(wanted);
+    growth_.stop();
+    if (!isVisible()) {
+        panel_ = size;
+        layOut(origin());
+        return;
+    }
+    growth_.setStartValue(QSizeF(panel_.width, panel_.height));
+    growth_.setEndValue(QSizeF(size.width, size.height));
+    growth_.start();
+}
+
+void QuickFloatingWindow::orderFrontRegardless() {
+    // A window manager forgets its hints when a window goes.
+    if (!isVisible()) windowSystem_.prepareFloating(winId());
+    show();
+    raise();
+    updateOnScreen();
+}
+
+void QuickFloatingWindow::orderOut() {
+    hide();
+    updateOnScreen();
+}
+
+bool QuickFloatingWindow::isVisible() const {
+    return QQuickWindow::isVisible();
+}
+
+void QuickFloatingWindow::setGestures(Gestures gestures) {
+    gestures_ = std::move(gestures);
+}
+
+bool QuickFloatingWindow::event(QEvent* event) {
+    // The content first: only then is known whether one of its controls has taken the press.
+    const bool handled = QQuickWindow::event(event);
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            mousePressed(*static_cast<QMouseEvent*>(event));
+            break;
+        case QEvent::MouseMove:
+            mouseMoved(*static_cast<QMouseEvent*>(event));
+            break;
+        case QEvent::MouseButtonRelease:
+            mouseReleased(*static_cast<QMouseEvent*>(event));
+            break;
+        default:
+            break;
+    }
+    return handled;
+}
+
+void QuickFloatingWindow::mousePressed(const QMouseEvent& event) {
+    takenByContent_ = event.exclusivePointGrabber() != nullptr;
+    if (takenByContent_) return;
+    if (event.button() == Qt::LeftButton && gestures_.mouseDown) gestures_.mouseDown(globalPosition(event));
+    if (event.button() == Qt::RightButton && gestures_.menuRequested) gestures_.menuRequested();
+}
+
+void QuickFloatingWindow::mouseMoved(const QMouseEvent& event) {
+    if (!takenByContent_ && event.buttons().testFlag(Qt::LeftButton) && gestures_.mouseDragged) {
+        gestures_.mouseDragged(globalPosition(event));
+    }
+}
+
+void QuickFloatingWindow::mouseReleased(const QMouseEvent& event) {
+    if (!takenByContent_ && event.button() == Qt::LeftButton && gestures_.mouseUp) {
+        gestures_.mouseUp(globalPosition(event));
+    }
+}
+
+void QuickFloatingWindow::exposeEvent(QExposeEvent* event) {
+    QQuickWindow::exposeEvent(event);
+    updateOnScreen();
+}
+
+void QuickFloatingWindow::closeEvent(QCloseEvent* event) {
+    // Only the program's own menus hide it; a window manager that asks to close it is not obeyed.
+    event->ignore();
+}
+
+void QuickFloatingWindow::adaptToCompositor() {
+    const auto place = origin();
+    const bool compositing = windowSystem_.isCompositing();
+    outline_.setCompositing(compositing);
+    content_.setTranslucent(compositing);
+    layOut(place);
+}
+
+void QuickFloatingWindow::layOut(platform::Point origin) {
+    outline_.layOut(*content_.item, origin, panel_, content_.cornerRadius(panel_));
+}
+
+void QuickFloatingWindow::updateOnScreen() {
+    content_.setOnScreen(isExposed() && !covered_);
+}
+
+}  // namespace tidewatch
