@@ -15,9 +15,8 @@
 
 namespace tidewatch {
 
-/// The application's root object: starts what is on the screen in its order, installs every long-lived
-/// observer and timer, and decides when the record reaches the disk outside the tick's own cadence. Main
-/// thread only.
+/// The application's root object: brings up what is on the screen, installs all long-lived observers and
+/// timers, and decides when the record is flushed outside the tick's own schedule. Main thread only.
 class AppDelegate final {
 public:
     /// All of it must outlive the delegate.

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/desktop/statistics_sources.h"
+#include "app/desktop/statistics.h"
 #include "app/program_world.h"
 
 namespace tidewatch {
@@ -151,7 +151,8 @@ const std::vector<Occasion> occasions{
     {.name = "TheReloadOfTheStatistics",
      .happens =
          [](MidnightWorld& world) {
-             StatsPresenter presenter(statisticsSources(world.platform(), world.services()), {});
+             Statistics statistics(world.platform(), world.services(), {});
+             auto& presenter = statistics.presenter();
              world.services().broadcaster.post(DashboardWillShow());
              presenter.disappear();
          },

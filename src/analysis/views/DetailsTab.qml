@@ -6,7 +6,7 @@ import Tidewatch.Analysis
 import Tidewatch.Ui
 
 /*! The day's applications as a table that can be filtered and reclassified. */
-ScrollPane {
+TabPane {
     id: root
 
     required property DetailsPresenter presenter

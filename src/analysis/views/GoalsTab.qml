@@ -6,7 +6,7 @@ import Tidewatch.Analysis
 import Tidewatch.Ui
 
 /*! Stars, progress, and the goals themselves. */
-ScrollPane {
+TabPane {
     id: root
 
     required property GoalsPresenter presenter

@@ -4,11 +4,10 @@ import Tidewatch.Analysis
 import Tidewatch.Ui
 
 /*! The day at a glance. */
-ScrollPane {
+TabPane {
     id: root
 
-    required property OverviewPresenter presenter
-    required property InsightsPresenter insights
+    required property OverviewPage presenter
 
     ColumnLayout {
         width: parent.width
@@ -23,36 +22,36 @@ ScrollPane {
                 Layout.fillHeight: true
                 Layout.fillWidth: true
                 Layout.preferredWidth: 5
-                presenter: root.presenter
+                presenter: root.presenter.overview
             }
             TierColumn {
                 Layout.fillHeight: true
                 Layout.fillWidth: true
                 Layout.preferredWidth: 5
-                presenter: root.presenter.productive
+                presenter: root.presenter.overview.productive
             }
             TierColumn {
                 Layout.fillHeight: true
                 Layout.fillWidth: true
                 Layout.preferredWidth: 5
-                presenter: root.presenter.neutral
+                presenter: root.presenter.overview.neutral
             }
             TierColumn {
                 Layout.fillHeight: true
                 Layout.fillWidth: true
                 Layout.preferredWidth: 5
-                presenter: root.presenter.distracting
+                presenter: root.presenter.overview.distracting
             }
         }
         HourlyBars {
             Layout.fillWidth: true
             Layout.preferredHeight: 220
-            presenter: root.presenter
+            presenter: root.presenter.overview
         }
         InsightsSection {
             Layout.fillWidth: true
             Layout.topMargin: Style.metrics.spacing
-            presenter: root.insights
+            presenter: root.presenter.insights
         }
     }
 }

@@ -6,7 +6,7 @@ import Tidewatch.Analysis
 import Tidewatch.Ui
 
 /*! Where the day's time went by project. */
-ScrollPane {
+TabPane {
     id: root
 
     required property ProjectsPresenter presenter

@@ -6,7 +6,7 @@ import Tidewatch.Analysis
 import Tidewatch.Ui
 
 /*! The day hour by hour. */
-ScrollPane {
+TabPane {
     id: root
 
     required property TimesheetPresenter presenter

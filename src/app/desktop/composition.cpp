@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "app/desktop/statistics_sources.h"
 #include "shell/reclassify_menu.h"
 
 namespace tidewatch {
@@ -51,18 +50,18 @@ QuickStatisticsWindow::Content DesktopComposition::statisticsContent() {
     return {
         .makeView =
             [this] {
-                if (!stats_) stats_ = makeStats();
-                return surfaces_.makeView("StatsView", *stats_);
+                if (!shown_) shown_ = makeStatistics();
+                return surfaces_.makeView("StatsView", shown_->presenter());
             },
-        .disappeared = [this] { stats_->disappear(); },
+        .disappeared = [this] { shown_->presenter().disappear(); },
         .viewDestroyed = [this] { surfaces_.clearViewCache(); },
     };
 }
 
-std::unique_ptr<StatsPresenter> DesktopComposition::makeStats() {
-    return std::make_unique<StatsPresenter>(
-        statisticsSources(platform_, services_),
-        StatsPresenter::Commands{
+std::unique_ptr<Statistics> DesktopComposition::makeStatistics() {
+    return std::make_unique<Statistics>(
+        platform_, services_,
+        Dashboard::Commands{
             .exportReport = [this] { program_.exports().exportReport(); },
             .reclassify =
                 [this](DashboardModel& model, const AppId& app, QPointF at) {

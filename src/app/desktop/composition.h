@@ -4,12 +4,12 @@
 #include <memory>
 
 #include "analysis/report/pdf_report.h"
+#include "app/desktop/statistics.h"
 #include "app/program.h"
 #include "app/services.h"
 #include "platform/api/platform.h"
 #include "shell/app_delegate.h"
 #include "shell/views/clock_presenter.h"
-#include "shell/views/stats_presenter.h"
 #include "shell/windows/qt_surfaces.h"
 #include "shell/windows/statistics_window.h"
 
@@ -25,14 +25,14 @@ public:
 
 private:
     [[nodiscard]] QuickStatisticsWindow::Content statisticsContent();
-    [[nodiscard]] std::unique_ptr<StatsPresenter> makeStats();
+    [[nodiscard]] std::unique_ptr<Statistics> makeStatistics();
 
     const platform::Platform& platform_;
     Services services_;
     ClockPresenter clock_;
     QtSurfaces surfaces_;
     PdfReport report_;
-    std::unique_ptr<StatsPresenter> stats_;  ///< created when the statistics window is first shown
+    std::unique_ptr<Statistics> shown_;  ///< created when the statistics window is first shown
     QuickStatisticsWindow statistics_;
     Program program_;
 };

@@ -3,65 +3,62 @@
 #include <algorithm>
 #include <utility>
 
-#include "ui/texts/display_text.h"
+#include "ui/models/tab_presenter.h"
 
 namespace tidewatch {
 
-StatsPresenter::StatsPresenter(const Sources& sources, Commands commands)
-    : counters_(sources.counters),
-      commands_(std::move(commands)),
-      model_({.clock = sources.clock,
-              .mainLoop = sources.mainLoop,
-              .days = sources.counters.daily,
-              .apps = sources.counters.apps,
-              .hours = sources.counters.hours,
-              .minutes = sources.counters.minutes,
-              .keys = sources.keys,
-              .categories = sources.categories,
-              .scorer = sources.scorer,
-              .projects = sources.projects,
-              .projectTime = sources.projectTime,
-              .appInfo = sources.appInfo}),
-      engine_(sources.clock, sources.counters.daily, sources.counters.hours, sources.counters.minutes,
-              sources.categories),
-      wallClock_(sources.clock),
-      header_(model_, engine_),
-      overview_(model_),
-      insights_(engine_, sources.mainLoop),
-      goals_(model_, {.evaluator = sources.goalEvaluator, .rewards = sources.rewards, .goals = sources.goals},
-             commands_.exportReport),
-      details_(model_, [this](const AppId& app, QPointF at) { commands_.reclassify(model_, app, at); }),
-      timesheet_(model_),
-      projects_(model_, sources.projects, sources.counters.daily),
-      breakAlert_(sources.breakReminder),
-      rows_({{DashboardTab::overview, &overview_},
-             {DashboardTab::goals, &goals_},
-             {DashboardTab::details, &details_},
-             {DashboardTab::timesheet, &timesheet_},
-             {DashboardTab::projects, &projects_}}),
-      willShow_(sources.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
+namespace {
+
+void setVisible(const Pane& pane, bool visible) {
+    if (auto* presenter = qobject_cast<TabPresenter*>(pane.presenter)) presenter->setVisible(visible);
+}
+
+}  // namespace
+
+StatsPresenter::StatsPresenter(Content content)
+    : counters_(content.counters),
+      dashboard_(content.dashboard),
+      tabs_(std::move(content.tabs)),
+      besideTabs_(std::move(content.besideTabs)),
+      wallClock_(content.clock),
+      breakAlert_(content.breakReminder),
+      willShow_(content.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
+
+QList<Pane> StatsPresenter::panes() {
+    QList<Pane> row{
+        {.id = "tabs", .title = "", .view = viewUrl("Tidewatch.Shell", "TabsPane"), .presenter = this}};
+    for (const auto& pane : besideTabs_) row.append(pane);
+    return row;
+}
 
 QStringList StatsPresenter::tabs() const {
-    QStringList labels;
-    for (const auto& row : rows_) labels.append(text(rawValue(row.tab)));
-    return labels;
+    QStringList titles;
+    for (const auto& tab : tabs_) titles.append(tab.title);
+    return titles;
 }
 
 int StatsPresenter::tabIndex() const {
-    const auto shown = [this](const TabRow& row) { return row.tab == model_.tab(); };
-    return static_cast<int>(std::find_if(rows_.begin(), rows_.end(), shown) - rows_.begin());
+    const auto selected =
+        std::find_if(tabs_.begin(), tabs_.end(),
+                     [id = dashboard_.selectedTab()](const Pane& tab) { return tab.id == id; });
+    return static_cast<int>(selected - tabs_.begin());
+}
+
+Pane StatsPresenter::tabOnShow() const {
+    const auto index = static_cast<std::size_t>(tabIndex());
+    return index < tabs_.size() ? tabs_[index] : Pane();
 }
 
 void StatsPresenter::selectTab(int index) {
-    if (index < 0 || index >= static_cast<int>(rows_.size()) || index == tabIndex()) return;
-    model_.setTab(rows_[static_cast<std::size_t>(index)].tab);
+    if (index < 0 || index >= static_cast<int>(tabs_.size()) || index == tabIndex()) return;
+    dashboard_.selectTab(tabs_[static_cast<std::size_t>(index)].id);
     updateVisibleTab();
     Q_EMIT tabChanged();
 }
 
 void StatsPresenter::disappear() {
     appeared_ = false;
-    model_.stopLiveRefresh();
+    dashboard_.model().stopLiveRefresh();
     updateVisibleTab();
 }
 
@@ -70,15 +67,16 @@ void StatsPresenter::reloadAll() {
     counters_.apps.flush();
     counters_.hours.flush();
     counters_.minutes.flush();
-    model_.reload();
-    model_.startLiveRefresh();
+    dashboard_.model().reload();
+    dashboard_.model().startLiveRefresh();
     appeared_ = true;
     updateVisibleTab();
 }
 
 void StatsPresenter::updateVisibleTab() {
-    for (const auto& row : rows_) row.presenter->setVisible(appeared_ && row.tab == model_.tab());
-    insights_.setVisible(overview_.isVisible());
+    const auto selected = dashboard_.selectedTab();
+    for (const auto& tab : tabs_) setVisible(tab, appeared_ && tab.id == selected);
+    for (const auto& pane : besideTabs_) setVisible(pane, appeared_);
 }
 
 }  // namespace tidewatch

@@ -39,7 +39,7 @@ struct DayFromFiveTest : testing::Test, StatsWorld {
         presenter_.selectTab(timesheetTab);
         appear();
         std::vector<std::string> texts;
-        for (const auto& row : rows<HourSheet>(presenter_.timesheet()->hours())) {
+        for (const auto& row : rows<HourSheet>(dashboard_.timesheet()->hours())) {
             texts.push_back(row.hour.toStdString());
         }
         return texts;
@@ -90,9 +90,9 @@ TEST_F(DayFromFiveTest, TheBarsRunFromFiveToFour) {
     work(at(2026y / 1 / 15, 22h + 10min), 300s);
     work(at(2026y / 1 / 16, 2h + 30min), 600s);
     machine_.clock.setNow(at(2026y / 1 / 15, 23h));
-    presenter_.header()->today();
+    dashboard_.header()->today();
     appear();
-    const auto bars = rows<HourBar>(presenter_.overview()->hours());
+    const auto bars = rows<HourBar>(dashboard_.overview()->hours());
     std::vector<std::string> labels;
     for (const auto& bar : bars) labels.push_back(bar.label.toStdString());
     EXPECT_THAT(labels,
@@ -101,7 +101,7 @@ TEST_F(DayFromFiveTest, TheBarsRunFromFiveToFour) {
     EXPECT_DOUBLE_EQ(bars[17].height, 0.5);
     EXPECT_DOUBLE_EQ(bars[21].height, 1);
     EXPECT_DOUBLE_EQ(bars[2].height, 0.04);
-    EXPECT_EQ(presenter_.overview()->hoursAccessibleText(), "Actividad por hora: 10 pm 5m, 2 am 10m.");
+    EXPECT_EQ(dashboard_.overview()->hoursAccessibleText(), "Actividad por hora: 10 pm 5m, 2 am 10m.");
 }
 
 TEST_F(DayFromFiveTest, TheTimesheetPutsTheNightAfterTheEvening) {
@@ -111,9 +111,9 @@ TEST_F(DayFromFiveTest, TheTimesheetPutsTheNightAfterTheEvening) {
     work(at(2026y / 1 / 16, 15min), 3s);
     work(at(2026y / 1 / 16, 4h + 59min), 3s);
     machine_.clock.setNow(at(2026y / 1 / 15, 12h));
-    presenter_.header()->today();
+    dashboard_.header()->today();
     EXPECT_THAT(hoursOfTheSheet(), ElementsAre("5:00am", "12:00pm", "11:00pm", "12:00am", "4:00am"));
-    const auto midnight = rows<HourSheet>(presenter_.timesheet()->hours())[3];
+    const auto midnight = rows<HourSheet>(dashboard_.timesheet()->hours())[3];
     std::vector<std::string> filled;
     for (const auto& cell : midnight.buckets) filled.push_back(cell.filled ? "x" : "-");
     EXPECT_THAT(filled, ElementsAre("-", "x", "-", "-", "-", "-"));
@@ -124,7 +124,7 @@ TEST_F(DayFromFiveTest, ThePeakHourIsTheOneOnTheClock) {
     work(at(2026y / 1 / 16, 2h + 30min), 100s);
     work(at(2026y / 1 / 16, 9h), 60s);
     appear();
-    const auto peak = rows<StatTile>(presenter_.insights()->tiles())[0];
+    const auto peak = rows<StatTile>(dashboard_.insights()->tiles())[0];
     EXPECT_EQ(peak.value, "2 am");
     EXPECT_EQ(peak.subtitle, "prom. 6 am") << "of two days, at two and at nine";
 }
@@ -134,45 +134,45 @@ TEST_F(DayFromFiveTest, ThePeakHourIsTheOneOnTheClock) {
 TEST_F(DayFromFiveTest, ASessionOfTheNightStandsUnderTheDateOfItsDay) {
     work(at(2026y / 1 / 16, 1h), 1200s);
     appear();
-    EXPECT_EQ(presenter_.insights()->sessionLength(), "20m");
-    EXPECT_EQ(presenter_.insights()->sessionDay(), "jue 15 ene");
-    EXPECT_EQ(presenter_.insights()->sessionTimes(), "1:00 am – 1:20 am");
+    EXPECT_EQ(dashboard_.insights()->sessionLength(), "20m");
+    EXPECT_EQ(dashboard_.insights()->sessionDay(), "jue 15 ene");
+    EXPECT_EQ(dashboard_.insights()->sessionTimes(), "1:00 am – 1:20 am");
 }
 
 TEST_F(DayFromFiveTest, WorkAcrossMidnightIsTwoSessions) {
     work(at(2026y / 1 / 15, 23h + 30min), 3000s);
     appear();
-    EXPECT_EQ(presenter_.insights()->sessionLength(), "30m");
-    EXPECT_EQ(presenter_.insights()->sessionTimes(), "11:30 pm – 12:00 am");
+    EXPECT_EQ(dashboard_.insights()->sessionLength(), "30m");
+    EXPECT_EQ(dashboard_.insights()->sessionTimes(), "11:30 pm – 12:00 am");
 }
 
 TEST_F(DayFromFiveTest, WorkAcrossTheStartOfTheDayIsTwoSessions) {
     work(at(2026y / 1 / 15, 4h + 40min), 3000s);
     appear();
-    EXPECT_EQ(presenter_.insights()->sessionLength(), "30m");
-    EXPECT_EQ(presenter_.insights()->sessionDay(), "jue 15 ene");
-    EXPECT_EQ(presenter_.insights()->sessionTimes(), "5:00 am – 5:30 am");
+    EXPECT_EQ(dashboard_.insights()->sessionLength(), "30m");
+    EXPECT_EQ(dashboard_.insights()->sessionDay(), "jue 15 ene");
+    EXPECT_EQ(dashboard_.insights()->sessionTimes(), "5:00 am – 5:30 am");
 }
 
 TEST_F(DayFromFiveTest, WithTheDayFromMidnightBothAreOneSession) {
     services_.counting.settings.setDayStartHour(0);
     work(at(2026y / 1 / 15, 23h + 30min), 3000s);
     appear();
-    EXPECT_EQ(presenter_.insights()->sessionLength(), "50m");
-    EXPECT_EQ(presenter_.insights()->sessionDay(), "jue 15 ene");
-    EXPECT_EQ(presenter_.insights()->sessionTimes(), "11:30 pm – 12:20 am");
+    EXPECT_EQ(dashboard_.insights()->sessionLength(), "50m");
+    EXPECT_EQ(dashboard_.insights()->sessionDay(), "jue 15 ene");
+    EXPECT_EQ(dashboard_.insights()->sessionTimes(), "11:30 pm – 12:20 am");
 }
 
 TEST_F(DayFromFiveTest, AtTwoInTheNightTheWindowShowsTheCalendarsDayAndTheStatusTheUsers) {
     work(at(2026y / 1 / 15, 22h), 100s);
     machine_.clock.setNow(at(2026y / 1 / 16, 2h));
-    presenter_.header()->today();
+    dashboard_.header()->today();
     appear();
-    EXPECT_EQ(presenter_.header()->date(), "vie 16 ene");
-    EXPECT_EQ(presenter_.overview()->total(), "0s");
+    EXPECT_EQ(dashboard_.header()->date(), "vie 16 ene");
+    EXPECT_EQ(dashboard_.overview()->total(), "0s");
     EXPECT_EQ(services_.counting.days.today(), thursday);
-    presenter_.header()->previousDay();
-    EXPECT_EQ(presenter_.overview()->total(), "1m");
+    dashboard_.header()->previousDay();
+    EXPECT_EQ(dashboard_.overview()->total(), "1m");
 }
 
 }  // namespace

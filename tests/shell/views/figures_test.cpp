@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "app/desktop/statistics_sources.h"
+#include "app/desktop/statistics.h"
 #include "shell/views/stats_scene.h"
 
 namespace tidewatch {
@@ -33,16 +33,16 @@ struct FiguresTest : testing::Test, StatsWorld {
         if (seconds.distracting > 0) book("supertuxkart", day, 9, 10, seconds.distracting);
     }
 
-    [[nodiscard]] std::string comparison() { return presenter_.overview()->comparison().toStdString(); }
+    [[nodiscard]] std::string comparison() { return dashboard_.overview()->comparison().toStdString(); }
     [[nodiscard]] std::string color() {
-        return presenter_.overview()->comparisonColor().name().toStdString();
+        return dashboard_.overview()->comparisonColor().name().toStdString();
     }
 
     [[nodiscard]] std::vector<std::string> sharesOfDetails() {
         presenter_.selectTab(detailsTab);
         appear();
         std::vector<std::string> shares;
-        for (const auto& row : rowsOf<AppDetails>(presenter_.details()->rows())) {
+        for (const auto& row : rowsOf<AppDetails>(dashboard_.details()->rows())) {
             shares.push_back(row.share.toStdString());
         }
         return shares;
@@ -92,7 +92,7 @@ TEST_F(FiguresTest, AComparisonWithYesterdayIsRoundedToTheEvenPointAndColouredBy
     for (const auto& row : comparisons) {
         SCOPED_TRACE(row.figure);
         machine_.clock.advance(hours(24 * 30));
-        presenter_.header()->today();
+        dashboard_.header()->today();
         bookScore(daysAgo(1), row.before);
         bookScore(today(), row.today);
         appear();
@@ -105,7 +105,7 @@ TEST_F(FiguresTest, AComparisonWithTheMeanOfTheWeekIsRoundedAndColouredAlike) {
     for (const auto& row : comparisons) {
         SCOPED_TRACE(row.figure);
         machine_.clock.advance(hours(24 * 30));
-        presenter_.header()->today();
+        dashboard_.header()->today();
         bookScore(daysAgo(2), row.before);
         bookScore(daysAgo(7), row.before);
         bookScore(daysAgo(8), {1, 1000});
@@ -122,7 +122,7 @@ TEST_F(FiguresTest, AYesterdayThatScoredNothingIsComparedWithAllTheSame) {
     for (const auto& [productive, figure] : {std::pair(5, "+0%"), {15, "+2%"}, {25, "+2%"}, {145, "+14%"}}) {
         SCOPED_TRACE(productive);
         machine_.clock.advance(hours(24 * 30));
-        presenter_.header()->today();
+        dashboard_.header()->today();
         bookScore(daysAgo(1), {0, 1000});
         bookScore(today(), {productive, 1000 - productive});
         appear();
@@ -160,7 +160,7 @@ TEST_F(FiguresTest, ADayOfThePastIsComparedWithTheDayBeforeIt) {
     bookScore(today(), {1000, 0});
     appear();
     EXPECT_EQ(comparison(), "+62% vs ayer");
-    presenter_.header()->previousDay();
+    dashboard_.header()->previousDay();
     EXPECT_EQ(comparison(), "-12% vs ayer");
     EXPECT_EQ(color(), red);
 }
@@ -189,10 +189,10 @@ TEST_F(FiguresTest, ADayThatIsOneApplicationIsAHundredPerCent) {
 TEST_F(FiguresTest, ApplicationsWithoutASecondHaveNoShareOfADayWithoutOne) {
     machine_.files.put(machine_.appsJson, R"({"2026-01-15":{"code":0}})");
     Services nextStart(machine_.platform);
-    StatsPresenter presenter(statisticsSources(machine_.platform, nextStart), {});
-    presenter.selectTab(detailsTab);
+    Statistics statistics(machine_.platform, nextStart, {});
+    statistics.presenter().selectTab(detailsTab);
     nextStart.broadcaster.post(DashboardWillShow());
-    const auto rows = rowsOf<AppDetails>(presenter.details()->rows());
+    const auto rows = rowsOf<AppDetails>(statistics.dashboard().details()->rows());
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0].share, "0%");
     EXPECT_EQ(rows[0].fraction, 0);
@@ -206,7 +206,7 @@ struct ProjectFiguresTest : FiguresTest {
         services_.counting.days.set(Seconds(totalDay), today());
         presenter_.selectTab(projectsTab);
         appear();
-        for (const auto& sheet : rowsOf<ProjectSheet>(presenter_.projects()->rows())) {
+        for (const auto& sheet : rowsOf<ProjectSheet>(dashboard_.projects()->rows())) {
             if (sheet.id.toStdString() == project.text()) return sheet;
         }
         return {};
@@ -239,7 +239,7 @@ TEST_F(ProjectFiguresTest, TheLeastShareIsShownAsNone) {
 TEST_F(FiguresTest, TheScoreItselfIsRoundedUpwardAtHalves) {
     bookScore(today(), {625, 375});
     appear();
-    EXPECT_EQ(presenter_.overview()->score(), "63%");
+    EXPECT_EQ(dashboard_.overview()->score(), "63%");
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ struct InsightsTextTest : testing::Test, StatsWorld {
     /// "value / subtitle" of a tile as it is now.
     [[nodiscard]] std::string shown(Tile tile) {
         const auto row =
-            presenter_.insights()->tiles()->index(tile).data(RowListModel::rowRole).value<StatTile>();
+            dashboard_.insights()->tiles()->index(tile).data(RowListModel::rowRole).value<StatTile>();
         return (row.value + " / " + row.subtitle).toStdString();
     }
     void day(const char* key, std::int64_t seconds) {
@@ -29,7 +29,7 @@ struct InsightsTextTest : testing::Test, StatsWorld {
     }
     void insightsOverAll() {
         appear();
-        presenter_.insights()->selectRange(wholeRecord);
+        dashboard_.insights()->selectRange(wholeRecord);
     }
 };
 
@@ -72,7 +72,7 @@ TEST_F(InsightsTextTest, APeakOfLessThanAMinuteHasNoAverage) {
     insightsOverAll();
     EXPECT_EQ(shown(peak), "9 am / hora más activa");
     hour("2026-01-15 09", "code", 1);
-    presenter_.insights()->selectRange(0);
+    dashboard_.insights()->selectRange(0);
     EXPECT_EQ(shown(peak), "9 am / prom. 9 am");
 }
 
@@ -82,7 +82,7 @@ TEST_F(InsightsTextTest, AnAverageBetweenTwoHoursIsTheLater) {
     insightsOverAll();
     EXPECT_EQ(shown(peak), "11 pm / prom. 11 pm");
     hour("2026-01-13 00", "code", 70);
-    presenter_.insights()->selectRange(0);
+    dashboard_.insights()->selectRange(0);
     EXPECT_EQ(shown(peak), "12 am / prom. 3 pm");
 }
 
@@ -98,21 +98,21 @@ TEST_F(InsightsTextTest, TheRangesSayHowFarTheyReach) {
     day("2020-01-01", 100);
     appear();
     EXPECT_EQ(shown(total), "0s / últimos 7 días");
-    presenter_.insights()->selectRange(1);
+    dashboard_.insights()->selectRange(1);
     EXPECT_EQ(shown(total), "0s / últimos 30 días");
-    presenter_.insights()->selectRange(wholeRecord);
+    dashboard_.insights()->selectRange(wholeRecord);
     EXPECT_EQ(shown(total), "1m / desde mié 1 ene");
 }
 
 struct GoalMarkTest : InsightsTextTest {
     [[nodiscard]] GoalRow goal(int row) {
-        return presenter_.goals()->progress()->index(row).data(RowListModel::rowRole).value<GoalRow>();
+        return dashboard_.goals()->progress()->index(row).data(RowListModel::rowRole).value<GoalRow>();
     }
 };
 
 TEST_F(GoalMarkTest, EveryPercentageThatCanBeSetIsReachedByExactlyItself) {
     presenter_.selectTab(goalsTab);
-    for (int step = 0; step < 20; ++step) presenter_.goals()->decrease("dailyProductivity");
+    for (int step = 0; step < 20; ++step) dashboard_.goals()->decrease("dailyProductivity");
     for (int percent = 30; percent <= 100; percent += 5) {
         SCOPED_TRACE(percent);
         machine_.clock.advance(std::chrono::hours(24));
@@ -125,13 +125,13 @@ TEST_F(GoalMarkTest, EveryPercentageThatCanBeSetIsReachedByExactlyItself) {
         book("supertuxkart", today(), 9, 20, 1);
         appear();
         EXPECT_EQ(goal(1).mark, "");
-        presenter_.goals()->increase("dailyProductivity");
+        dashboard_.goals()->increase("dailyProductivity");
     }
 }
 
 TEST_F(GoalMarkTest, EveryNumberOfHoursThatCanBeSetIsReachedByExactlyItsSeconds) {
     presenter_.selectTab(goalsTab);
-    for (int step = 0; step < 20; ++step) presenter_.goals()->decrease("dailyHours");
+    for (int step = 0; step < 20; ++step) dashboard_.goals()->decrease("dailyHours");
     for (int halfHours = 2; halfHours <= 32; ++halfHours) {
         SCOPED_TRACE(halfHours);
         services_.counting.days.set(Seconds(halfHours * 1800 - 1), today());
@@ -140,7 +140,7 @@ TEST_F(GoalMarkTest, EveryNumberOfHoursThatCanBeSetIsReachedByExactlyItsSeconds)
         services_.counting.days.set(Seconds(halfHours * 1800), today());
         appear();
         EXPECT_EQ(goal(0).mark, "✓");
-        presenter_.goals()->increase("dailyHours");
+        dashboard_.goals()->increase("dailyHours");
     }
 }
 

@@ -17,7 +17,7 @@ const Instant justBefore = sys_days(2026y / 1 / 15) + 23h + 59min + 55s;
 struct MidnightTest : testing::Test, StatsWorld {
     MidnightTest() {
         machine_.clock.setNow(justBefore);
-        presenter_.header()->today();
+        dashboard_.header()->today();
         appear();
     }
 
@@ -27,9 +27,9 @@ struct MidnightTest : testing::Test, StatsWorld {
     [[nodiscard]] std::string head() {
         return header_.date().toStdString() + (header_.canGoForward() ? " >" : " |");
     }
-    [[nodiscard]] std::string total() { return presenter_.overview()->total().toStdString(); }
+    [[nodiscard]] std::string total() { return dashboard_.overview()->total().toStdString(); }
 
-    HeaderPresenter& header_ = *presenter_.header();
+    HeaderPresenter& header_ = *dashboard_.header();
 };
 
 TEST_F(MidnightTest, BeforeItThereIsNoDayAfterTheOneOnShow) {

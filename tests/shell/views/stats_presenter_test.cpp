@@ -35,7 +35,7 @@ struct StatsPresenterTest : testing::Test, StatsWorld {
         if (distracting > 0) book("supertuxkart", day, 9, 10, distracting);
     }
 
-    [[nodiscard]] std::string comparison() { return presenter_.overview()->comparison().toStdString(); }
+    [[nodiscard]] std::string comparison() { return dashboard_.overview()->comparison().toStdString(); }
 };
 
 void expectGolden(const QObject* presenter, const QString& name) {
@@ -47,61 +47,61 @@ void expectGolden(const QObject* presenter, const QString& name) {
 TEST_F(StatsPresenterTest, OverviewOfAFullDay) {
     bookBelievableWork();
     showTab(overviewTab);
-    expectGolden(presenter_.overview(), "overview-full.json");
+    expectGolden(dashboard_.overview(), "overview-full.json");
 }
 
 TEST_F(StatsPresenterTest, OverviewWithoutData) {
     showTab(overviewTab);
-    expectGolden(presenter_.overview(), "overview-empty.json");
+    expectGolden(dashboard_.overview(), "overview-empty.json");
 }
 
 TEST_F(StatsPresenterTest, OverviewOfOneApplication) {
     book("code", today(), 9, 0, 90);
     showTab(overviewTab);
-    expectGolden(presenter_.overview(), "overview-one.json");
+    expectGolden(dashboard_.overview(), "overview-one.json");
 }
 
 TEST_F(StatsPresenterTest, InsightsOfAllThreeRanges) {
     bookBelievableWork();
     showTab(overviewTab);
     for (int range = 0; range < 3; ++range) {
-        presenter_.insights()->selectRange(range);
-        expectGolden(presenter_.insights(), QString("insights-%1.json").arg(range));
+        dashboard_.insights()->selectRange(range);
+        expectGolden(dashboard_.insights(), QString("insights-%1.json").arg(range));
     }
 }
 
 TEST_F(StatsPresenterTest, InsightsWithoutData) {
     showTab(overviewTab);
-    expectGolden(presenter_.insights(), "insights-empty.json");
+    expectGolden(dashboard_.insights(), "insights-empty.json");
 }
 
 TEST_F(StatsPresenterTest, GoalsOfAFullDay) {
     bookBelievableWork();
     showTab(goalsTab);
-    expectGolden(presenter_.goals(), "goals-full.json");
+    expectGolden(dashboard_.goals(), "goals-full.json");
 }
 
 TEST_F(StatsPresenterTest, GoalsWithoutData) {
     showTab(goalsTab);
-    expectGolden(presenter_.goals(), "goals-empty.json");
+    expectGolden(dashboard_.goals(), "goals-empty.json");
 }
 
 TEST_F(StatsPresenterTest, DetailsOfAFullDay) {
     bookBelievableWork();
     showTab(detailsTab);
-    expectGolden(presenter_.details(), "details-full.json");
+    expectGolden(dashboard_.details(), "details-full.json");
 }
 
 TEST_F(StatsPresenterTest, TimesheetOfAFullDay) {
     bookBelievableWork();
     showTab(timesheetTab);
-    expectGolden(presenter_.timesheet(), "timesheet-full.json");
+    expectGolden(dashboard_.timesheet(), "timesheet-full.json");
 }
 
 TEST_F(StatsPresenterTest, ProjectsOfAFullDay) {
     bookBelievableWork();
     showTab(projectsTab);
-    expectGolden(presenter_.projects(), "projects-full.json");
+    expectGolden(dashboard_.projects(), "projects-full.json");
 }
 
 // The comparison line.
@@ -118,7 +118,7 @@ TEST_F(StatsPresenterTest, YesterdayIsComparedWithFirst) {
     bookScore(today(), 75, 25);
     showTab(overviewTab);
     EXPECT_EQ(comparison(), "+25% vs ayer");
-    EXPECT_EQ(presenter_.overview()->comparisonColor().name(), "#7bd88f");
+    EXPECT_EQ(dashboard_.overview()->comparisonColor().name(), "#7bd88f");
 }
 
 TEST_F(StatsPresenterTest, ALowerScoreHasItsOwnMinusSignInTheDistractingColour) {
@@ -126,7 +126,7 @@ TEST_F(StatsPresenterTest, ALowerScoreHasItsOwnMinusSignInTheDistractingColour) 
     bookScore(today(), 50, 50);
     showTab(overviewTab);
     EXPECT_EQ(comparison(), "-25% vs ayer");
-    EXPECT_EQ(presenter_.overview()->comparisonColor().name(), "#d15757");
+    EXPECT_EQ(dashboard_.overview()->comparisonColor().name(), "#d15757");
 }
 
 TEST_F(StatsPresenterTest, WithoutYesterdayTheMeanOfTheWeekIsComparedWith) {
@@ -148,7 +148,7 @@ TEST_F(StatsPresenterTest, ADeltaOfZeroPrintsAPlusSignInTheProductiveColour) {
     bookScore(today(), 60, 40);
     showTab(overviewTab);
     EXPECT_EQ(comparison(), "+0% vs ayer");
-    EXPECT_EQ(presenter_.overview()->comparisonColor().name(), "#7bd88f");
+    EXPECT_EQ(dashboard_.overview()->comparisonColor().name(), "#7bd88f");
 }
 
 // The hours.
@@ -162,15 +162,15 @@ TEST_F(StatsPresenterTest, AQuietDaysBarsStayLow) {
     book("code", today(), 10, 0, 30);
     book("code", today(), 11, 0, 40);
     showTab(overviewTab);
-    EXPECT_DOUBLE_EQ(heightOf(presenter_.overview(), 9), 0.04);
-    EXPECT_DOUBLE_EQ(heightOf(presenter_.overview(), 10), 0.05);
-    EXPECT_NEAR(heightOf(presenter_.overview(), 11), 40.0 / 600, 1e-9);
+    EXPECT_DOUBLE_EQ(heightOf(dashboard_.overview(), 9), 0.04);
+    EXPECT_DOUBLE_EQ(heightOf(dashboard_.overview(), 10), 0.05);
+    EXPECT_NEAR(heightOf(dashboard_.overview(), 11), 40.0 / 600, 1e-9);
 }
 
 TEST_F(StatsPresenterTest, HoursAreLabelledTwelveAtMidnightAndAtNoon) {
     showTab(overviewTab);
     const auto label = [&](int hour) {
-        return presenter_.overview()->hours()->index(hour).data(RowListModel::rowRole).value<HourBar>().label;
+        return dashboard_.overview()->hours()->index(hour).data(RowListModel::rowRole).value<HourBar>().label;
     };
     EXPECT_EQ(label(0), "12a");
     EXPECT_EQ(label(11), "11a");
@@ -185,16 +185,16 @@ TEST_F(StatsPresenterTest, ASessionAcrossMidnightIsOneSession) {
     for (int minute : {40, 50}) book("code", yesterday, 23, minute, 600);
     for (int minute : {0, 10}) book("code", today(), 0, minute, 600);
     showTab(overviewTab);
-    EXPECT_EQ(presenter_.insights()->sessionLength(), "40m");
-    EXPECT_EQ(presenter_.insights()->sessionDay(), "mié 14 ene");
-    EXPECT_EQ(presenter_.insights()->sessionTimes(), "11:40 pm – 12:20 am");
+    EXPECT_EQ(dashboard_.insights()->sessionLength(), "40m");
+    EXPECT_EQ(dashboard_.insights()->sessionDay(), "mié 14 ene");
+    EXPECT_EQ(dashboard_.insights()->sessionTimes(), "11:40 pm – 12:20 am");
 }
 
 TEST_F(StatsPresenterTest, ConstancyIsMeasuredAgainstTheDaysBetweenFirstAndLast) {
     book("code", daysAgo(1), 9, 0, 60);
     book("code", today(), 9, 0, 60);
     showTab(overviewTab);
-    const auto tile = presenter_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<StatTile>();
+    const auto tile = dashboard_.insights()->tiles()->index(5).data(RowListModel::rowRole).value<StatTile>();
     EXPECT_EQ(tile.value, "2/2");
 }
 
@@ -202,25 +202,25 @@ TEST_F(StatsPresenterTest, TheLookBackIsRenewedEveryEightSecondsWhileItIsOnShow)
     showTab(overviewTab);
     book("code", today(), 9, 0, 600);
     machine_.mainLoop.runFor(seconds(7));
-    EXPECT_FALSE(presenter_.insights()->hasSession());
+    EXPECT_FALSE(dashboard_.insights()->hasSession());
     machine_.mainLoop.runFor(seconds(1));
-    EXPECT_TRUE(presenter_.insights()->hasSession());
+    EXPECT_TRUE(dashboard_.insights()->hasSession());
     presenter_.selectTab(goalsTab);
     book("code", today(), 9, 10, 600);
     machine_.mainLoop.runFor(seconds(16));
-    EXPECT_EQ(presenter_.insights()->sessionLength(), "10m");
+    EXPECT_EQ(dashboard_.insights()->sessionLength(), "10m");
 }
 
 // Goals.
 
 TEST_F(StatsPresenterTest, EachStepIsWithinItsRangeAndSavedAtOnce) {
     showTab(goalsTab);
-    presenter_.goals()->increase("dailyHours");
+    dashboard_.goals()->increase("dailyHours");
     EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 6.5);
     EXPECT_TRUE(machine_.files.readFile(services_.goals.store.filePath()).ok());
-    for (int step = 0; step < 40; ++step) presenter_.goals()->increase("dailyHours");
+    for (int step = 0; step < 40; ++step) dashboard_.goals()->increase("dailyHours");
     EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 16);
-    for (int step = 0; step < 40; ++step) presenter_.goals()->decrease("dailyHours");
+    for (int step = 0; step < 40; ++step) dashboard_.goals()->decrease("dailyHours");
     EXPECT_DOUBLE_EQ(services_.goals.store.settings().dailyHours, 1);
 }
 
@@ -240,25 +240,25 @@ TEST_F(StatsPresenterTest, TheRangesAndStepsOfAllGoals) {
                               StepRange{"monthlyHours", &GoalSettings::monthlyHours, 20, 320, 5}}) {
         SCOPED_TRACE(range.id);
         const double before = services_.goals.store.settings().*range.goal;
-        presenter_.goals()->decrease(range.id);
+        dashboard_.goals()->decrease(range.id);
         EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, before - range.step);
-        for (int step = 0; step < 100; ++step) presenter_.goals()->increase(range.id);
+        for (int step = 0; step < 100; ++step) dashboard_.goals()->increase(range.id);
         EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.max);
-        for (int step = 0; step < 100; ++step) presenter_.goals()->decrease(range.id);
+        for (int step = 0; step < 100; ++step) dashboard_.goals()->decrease(range.id);
         EXPECT_DOUBLE_EQ(services_.goals.store.settings().*range.goal, range.min);
     }
 }
 
 TEST_F(StatsPresenterTest, TheSwitchOfTheNotificationsIsSavedAtOnce) {
     showTab(goalsTab);
-    presenter_.goals()->setNotificationsEnabled(false);
+    dashboard_.goals()->setNotificationsEnabled(false);
     EXPECT_FALSE(services_.goals.store.settings().notificationsEnabled);
     EXPECT_NE(machine_.files.readFile(services_.goals.store.filePath()).value().find("false"),
               std::string::npos);
 }
 
 TEST_F(StatsPresenterTest, TheReportIsAskedForByItsButton) {
-    presenter_.goals()->exportReport();
+    dashboard_.goals()->exportReport();
     EXPECT_EQ(reportsAsked_, 1);
 }
 
@@ -267,11 +267,11 @@ TEST_F(StatsPresenterTest, TheReportIsAskedForByItsButton) {
 TEST_F(StatsPresenterTest, WithAllChipsOffTheTableIsEmpty) {
     bookBelievableWork();
     showTab(detailsTab);
-    EXPECT_FALSE(presenter_.details()->isEmpty());
+    EXPECT_FALSE(dashboard_.details()->isEmpty());
     for (const auto* tier : {"productivo", "neutral", "distrayendo", "sincategorizar"})
-        presenter_.details()->toggleTier(tier);
-    EXPECT_TRUE(presenter_.details()->isEmpty());
-    EXPECT_EQ(presenter_.details()->emptyText(), "Sin actividad para los filtros seleccionados.");
+        dashboard_.details()->toggleTier(tier);
+    EXPECT_TRUE(dashboard_.details()->isEmpty());
+    EXPECT_EQ(dashboard_.details()->emptyText(), "Sin actividad para los filtros seleccionados.");
 }
 
 TEST_F(StatsPresenterTest, TheSearchFindsByNameIdentifierAndCategory) {
@@ -279,13 +279,13 @@ TEST_F(StatsPresenterTest, TheSearchFindsByNameIdentifierAndCategory) {
     showTab(detailsTab);
     for (const auto& [query, count] :
          {std::pair("  VISUAL studio ", 1), std::pair("org.", 6), std::pair("desarrollo", 2)}) {
-        presenter_.details()->setSearchText(query);
-        EXPECT_EQ(presenter_.details()->rows()->rowCount(), count) << query;
+        dashboard_.details()->setSearchText(query);
+        EXPECT_EQ(dashboard_.details()->rows()->rowCount(), count) << query;
     }
 }
 
 TEST_F(StatsPresenterTest, ARowAsksForItsMenu) {
-    presenter_.details()->openMenu("code", {10, 20});
+    dashboard_.details()->openMenu("code", {10, 20});
     EXPECT_EQ(menusAsked_, std::vector<std::string>{"code"});
 }
 
@@ -294,10 +294,10 @@ TEST_F(StatsPresenterTest, AReclassificationReachesEveryTabAtTheReloadAfterIt) {
     showTab(overviewTab);
     services_.classification.categories.setCategory(Category::games, AppId("code"));
     appear();
-    EXPECT_NE(presenter_.overview()->score(), "96%");
-    EXPECT_EQ(presenter_.overview()->distracting()->apps()->rowCount(), 3);
+    EXPECT_NE(dashboard_.overview()->score(), "96%");
+    EXPECT_EQ(dashboard_.overview()->distracting()->apps()->rowCount(), 3);
     presenter_.selectTab(detailsTab);
-    EXPECT_EQ(presenter_.details()->rows()->index(0).data(RowListModel::rowRole).value<AppDetails>().tier,
+    EXPECT_EQ(dashboard_.details()->rows()->index(0).data(RowListModel::rowRole).value<AppDetails>().tier,
               "Distrayendo");
 }
 
@@ -306,16 +306,16 @@ TEST_F(StatsPresenterTest, AReclassificationReachesEveryTabAtTheReloadAfterIt) {
 TEST_F(StatsPresenterTest, WithoutAnyProjectTheTabSaysHowToMakeOne) {
     book("code", today(), 9, 0, 600);
     showTab(projectsTab);
-    EXPECT_TRUE(presenter_.projects()->isEmpty());
-    EXPECT_EQ(presenter_.projects()->emptyTitle(), "Sin proyectos todavía");
-    EXPECT_EQ(presenter_.projects()->emptyText(), "Créa uno desde el menú ⏰ → Proyecto → Nuevo proyecto…");
+    EXPECT_TRUE(dashboard_.projects()->isEmpty());
+    EXPECT_EQ(dashboard_.projects()->emptyTitle(), "Sin proyectos todavía");
+    EXPECT_EQ(dashboard_.projects()->emptyText(), "Créa uno desde el menú ⏰ → Proyecto → Nuevo proyecto…");
 }
 
 TEST_F(StatsPresenterTest, WithProjectsButNoRowsTheTabSaysThatNothingIsTaggedYet) {
     services_.projects.store.addProject("Web");
     showTab(projectsTab);
-    EXPECT_EQ(presenter_.projects()->emptyTitle(), "Aún no etiquetas tiempo a ningún proyecto en este día.");
-    EXPECT_EQ(presenter_.projects()->emptyText(), "");
+    EXPECT_EQ(dashboard_.projects()->emptyTitle(), "Aún no etiquetas tiempo a ningún proyecto en este día.");
+    EXPECT_EQ(dashboard_.projects()->emptyText(), "");
 }
 
 // The window.
@@ -324,7 +324,7 @@ TEST_F(StatsPresenterTest, ShowingWritesFourFilesAndReloads) {
     book("code", today(), 9, 0, 600);
     bookProject(services_.projects.store.addProject("Web").id, "code", today(), 10);
     appear();
-    EXPECT_EQ(presenter_.overview()->productive()->time(), "10m");
+    EXPECT_EQ(dashboard_.overview()->productive()->time(), "10m");
     for (const auto& file :
          {machine_.todayJson, machine_.appsJson, machine_.hoursJson, machine_.minutesJson}) {
         EXPECT_TRUE(machine_.files.readFile(file).ok()) << file;
@@ -336,24 +336,24 @@ TEST_F(StatsPresenterTest, TodayIsRefreshedEveryTwoSecondsUntilTheWindowCloses) 
     appear();
     book("code", today(), 9, 0, 60);
     machine_.mainLoop.runFor(seconds(2));
-    EXPECT_EQ(presenter_.overview()->productive()->time(), "1m");
+    EXPECT_EQ(dashboard_.overview()->productive()->time(), "1m");
     presenter_.disappear();
     book("code", today(), 9, 0, 60);
     machine_.mainLoop.runFor(seconds(10));
-    EXPECT_EQ(presenter_.overview()->productive()->time(), "1m");
+    EXPECT_EQ(dashboard_.overview()->productive()->time(), "1m");
 }
 
 TEST_F(StatsPresenterTest, APastDayStandsStill) {
     appear();
-    presenter_.header()->previousDay();
+    dashboard_.header()->previousDay();
     book("code", daysAgo(1), 9, 0, 60);
     machine_.mainLoop.runFor(seconds(10));
-    EXPECT_EQ(presenter_.overview()->productive()->time(), "0s");
+    EXPECT_EQ(dashboard_.overview()->productive()->time(), "0s");
 }
 
 TEST_F(StatsPresenterTest, TheHeadStepsThroughTheDaysButNotIntoTheFuture) {
     appear();
-    auto& header = *presenter_.header();
+    auto& header = *dashboard_.header();
     EXPECT_EQ(header.date(), "jue 15 ene");
     EXPECT_FALSE(header.canGoForward());
     header.nextDay();
@@ -371,7 +371,7 @@ TEST_F(StatsPresenterTest, TheHeadStepsThroughTheDaysButNotIntoTheFuture) {
 TEST_F(StatsPresenterTest, TheHeadLetsForwardWhenMidnightPassesWithTheWindowOpen) {
     machine_.clock.advance(hours(15) - seconds(3));
     appear();
-    auto& header = *presenter_.header();
+    auto& header = *dashboard_.header();
     const QSignalSpy changed(&header, &HeaderPresenter::dateChanged);
     machine_.mainLoop.runFor(seconds(2));
     EXPECT_FALSE(header.canGoForward());
@@ -387,7 +387,7 @@ TEST_F(StatsPresenterTest, TheHeadLetsForwardWhenMidnightPassesWithTheWindowOpen
 
 TEST_F(StatsPresenterTest, TheHeadKeepsFromTomorrowWhenTheClockIsSetBackToTheDayOnShow) {
     appear();
-    auto& header = *presenter_.header();
+    auto& header = *dashboard_.header();
     header.previousDay();
     EXPECT_TRUE(header.canGoForward());
     machine_.clock.setNow(machine_.clock.now() - hours(24));
@@ -401,8 +401,8 @@ TEST_F(StatsPresenterTest, TheHeadIsRightAgainWhenTheWindowComesUpAfterMidnight)
     presenter_.disappear();
     machine_.clock.advance(hours(24));
     appear();
-    EXPECT_EQ(presenter_.header()->date(), "jue 15 ene");
-    EXPECT_TRUE(presenter_.header()->canGoForward());
+    EXPECT_EQ(dashboard_.header()->date(), "jue 15 ene");
+    EXPECT_TRUE(dashboard_.header()->canGoForward());
 }
 
 TEST_F(StatsPresenterTest, ABarGrowsBeyondTheCellWhereTenMinutesHoldMore) {
@@ -411,7 +411,7 @@ TEST_F(StatsPresenterTest, ABarGrowsBeyondTheCellWhereTenMinutesHoldMore) {
     book("code", today(), 9, 20, 1);
     showTab(timesheetTab);
     const auto hour =
-        presenter_.timesheet()->hours()->index(0).data(RowListModel::rowRole).value<HourSheet>();
+        dashboard_.timesheet()->hours()->index(0).data(RowListModel::rowRole).value<HourSheet>();
     EXPECT_DOUBLE_EQ(hour.buckets.at(0).height, 40);
     EXPECT_DOUBLE_EQ(hour.buckets.at(1).height, 20);
     EXPECT_DOUBLE_EQ(hour.buckets.at(2).height, 2);
@@ -423,7 +423,7 @@ TEST_F(StatsPresenterTest, AProjectWithoutANameIsARowThatCanBeRead) {
     bookProject(services_.projects.store.addProject("").id, "code", today(), 60);
     services_.counting.days.set(Seconds(60), today());
     showTab(projectsTab);
-    const auto project = test::probe(*presenter_.projects())["rows"].toArray().at(0).toObject();
+    const auto project = test::probe(*dashboard_.projects())["rows"].toArray().at(0).toObject();
     EXPECT_EQ(project["title"].toString(), "Sin nombre");
     EXPECT_TRUE(project["tagged"].toBool());
     EXPECT_EQ(project["accessibleText"].toString(), "Sin nombre, 1m, 100%");
@@ -436,10 +436,10 @@ TEST_F(StatsPresenterTest, ALongNameOfManyLinesIsOneShortLineInEveryTab) {
     book("endless", today(), 9, 0, 60);
     bookProject(services_.projects.store.addProject(name).id, "endless", today(), 60);
     for (const auto& [tab, presenter] :
-         std::initializer_list<std::pair<int, QObject*>>{{overviewTab, presenter_.overview()->productive()},
-                                                         {detailsTab, presenter_.details()},
-                                                         {timesheetTab, presenter_.timesheet()},
-                                                         {projectsTab, presenter_.projects()}}) {
+         std::initializer_list<std::pair<int, QObject*>>{{overviewTab, dashboard_.overview()->productive()},
+                                                         {detailsTab, dashboard_.details()},
+                                                         {timesheetTab, dashboard_.timesheet()},
+                                                         {projectsTab, dashboard_.projects()}}) {
         showTab(tab);
         const auto all = QJsonDocument(test::probe(*presenter)).toJson();
         EXPECT_TRUE(all.contains(shown.toUtf8())) << tab;
@@ -459,7 +459,7 @@ TEST_F(StatsPresenterTest, ARefreshChangesOnlyTheRowsThatDiffer) {
     book("code", today(), 9, 0, 120);
     book("firefox", today(), 9, 0, 60);
     showTab(detailsTab);
-    auto* rows = presenter_.details()->rows();
+    auto* rows = dashboard_.details()->rows();
     QSignalSpy changed(rows, &QAbstractItemModel::dataChanged);
     QSignalSpy reset(rows, &QAbstractItemModel::modelReset);
     QSignalSpy inserted(rows, &QAbstractItemModel::rowsInserted);

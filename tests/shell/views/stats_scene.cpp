@@ -7,7 +7,6 @@
 #include <chrono>
 #include <random>
 
-#include "app/desktop/statistics_sources.h"
 #include "base/calendar_day.h"
 #include "ui/style/style.h"
 
@@ -37,10 +36,10 @@ constexpr std::array knownApps = {
 }  // namespace
 
 StatsWorld::StatsWorld()
-    : presenter_(statisticsSources(machine_.platform, services_),
-                 {.exportReport = [this] { ++reportsAsked_; },
-                  .reclassify = [this](DashboardModel&, const AppId& app,
-                                       QPointF) { menusAsked_.push_back(app.text()); }}) {
+    : statistics_(machine_.platform, services_,
+                  {.exportReport = [this] { ++reportsAsked_; },
+                   .reclassify = [this](DashboardModel&, const AppId& app,
+                                        QPointF) { menusAsked_.push_back(app.text()); }}) {
     registerApplications();
 }
 

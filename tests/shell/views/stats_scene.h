@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "app/desktop/statistics.h"
 #include "app/services.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
@@ -42,7 +43,9 @@ public:
     ThemeController& theme_ = services_.theme;
     int reportsAsked_ = 0;
     std::vector<std::string> menusAsked_;  ///< the applications whose menus were asked for
-    StatsPresenter presenter_;
+    Statistics statistics_;
+    StatsPresenter& presenter_ = statistics_.presenter();
+    Dashboard& dashboard_ = statistics_.dashboard();
 
 private:
     void registerApplications();

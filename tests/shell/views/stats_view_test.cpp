@@ -190,10 +190,10 @@ TEST_F(StatsViewTest, TheRangeIsPicked) {
     auto* scroll = item("session");
     ASSERT_NE(scroll, nullptr);
     const auto week = textOf("sessionDay");
-    presenter_.insights()->selectRange(2);
+    dashboard_.insights()->selectRange(2);
     settle();
     EXPECT_EQ(item("ranges")->property("currentIndex").toInt(), 2);
-    EXPECT_EQ(textOf("sessionDay"), presenter_.insights()->sessionDay());
+    EXPECT_EQ(textOf("sessionDay"), dashboard_.insights()->sessionDay());
     EXPECT_FALSE(week.isEmpty());
 }
 
@@ -221,17 +221,17 @@ TEST_F(StatsViewTest, TheSwitchAndTheReportButtonWork) {
 
 TEST_F(StatsViewTest, ChipsAndSearchFilterTheTable) {
     showTab(detailsTab);
-    const int all = presenter_.details()->rows()->rowCount();
+    const int all = dashboard_.details()->rows()->rowCount();
     click("productivo");
-    EXPECT_LT(presenter_.details()->rows()->rowCount(), all);
+    EXPECT_LT(dashboard_.details()->rows()->rowCount(), all);
     click("productivo");
-    EXPECT_EQ(presenter_.details()->rows()->rowCount(), all);
+    EXPECT_EQ(dashboard_.details()->rows()->rowCount(), all);
     click("search");
     for (const auto letter : QString("firef")) QTest::keyClick(&window_, letter.toLatin1());
     settle();
-    EXPECT_EQ(presenter_.details()->rows()->rowCount(), 1);
+    EXPECT_EQ(dashboard_.details()->rows()->rowCount(), 1);
     key(Qt::Key_Escape);
-    EXPECT_EQ(presenter_.details()->rows()->rowCount(), all);
+    EXPECT_EQ(dashboard_.details()->rows()->rowCount(), all);
 }
 
 TEST_F(StatsViewTest, TheRightButtonAndTheKeyboardAskForARowsMenu) {
@@ -323,11 +323,11 @@ TEST_F(StatsViewTest, TheComparisonOfAPastDayIsLegibleInAThemeThatIsPutOnLater) 
     settle();
     click("previousDay");
     const auto dark = colorOf("comparison");
-    EXPECT_EQ(dark, legible(presenter_.overview()->comparisonColor()));
+    EXPECT_EQ(dark, legible(dashboard_.overview()->comparisonColor()));
     theme_.switchTo("editorial");
     settle();
     EXPECT_NE(colorOf("comparison"), dark);
-    EXPECT_EQ(colorOf("comparison"), legible(presenter_.overview()->comparisonColor()));
+    EXPECT_EQ(colorOf("comparison"), legible(dashboard_.overview()->comparisonColor()));
 }
 
 TEST_F(StatsViewTest, ABreakAlertIsLegibleInAThemeThatIsPutOnWhileItStands) {
@@ -480,7 +480,7 @@ TEST_F(StatsViewTest, TheRowsOfATierAreReadInTheOrderOfTheScreenAfterAChangeOfDa
             return std::is_sorted(places.begin(), places.end());
         };
         EXPECT_TRUE(QTest::qWaitFor(standInOrder, 30000)) << way;
-        const auto* rows = presenter_.overview()->productive()->apps();
+        const auto* rows = dashboard_.overview()->productive()->apps();
         QStringList shown;
         for (int row = 0; row < rows->rowCount(); ++row) {
             shown.append(rows->index(row).data(RowListModel::rowRole).value<AppRow>().accessibleText);
@@ -501,7 +501,7 @@ TEST_F(StatsViewTest, ChartsAreSentences) {
             names.append(accessible->text(QAccessible::Name));
         }
     }
-    EXPECT_TRUE(names.contains(presenter_.overview()->hoursAccessibleText()));
+    EXPECT_TRUE(names.contains(dashboard_.overview()->hoursAccessibleText()));
     EXPECT_TRUE(names.contains("PRODUCTIVIDAD: 96%, 4h 10m, -2% vs ayer")) << qPrintable(names.join("\n"));
 }
 

@@ -1,0 +1,50 @@
+#include "app/desktop/statistics.h"
+
+#include <utility>
+
+namespace tidewatch {
+
+Statistics::Statistics(const platform::Platform& platform, Services& services, Dashboard::Commands commands)
+    : dashboard_(
+          {
+              .model =
+                  {
+                      .clock = platform.clock,
+                      .mainLoop = platform.mainLoop,
+                      .days = services.counting.days,
+                      .apps = services.counting.apps,
+                      .hours = services.counting.hours,
+                      .minutes = services.counting.minutes,
+                      .keys = services.counting.keys,
+                      .categories = services.classification.categories,
+                      .scorer = services.classification.scorer,
+                      .projects = services.projects.store,
+                      .projectTime = services.projects.times,
+                      .appInfo = services.classification.appInfo,
+                  },
+              .goals = services.goals.store,
+              .goalEvaluator = services.goals.evaluator,
+              .rewards = services.goals.rewards,
+          },
+          std::move(commands)),
+      presenter_({
+          .clock = platform.clock,
+          .broadcaster = services.broadcaster,
+          .counters = services.counting.stores(),
+          .breakReminder = services.wellbeing.breakReminder,
+          .dashboard = dashboard_,
+          .tabs = tabs(),
+          .besideTabs = besideTabs(),
+      }) {}
+
+std::vector<Pane> Statistics::tabs() {
+    std::vector<Pane> all;
+    for (const auto& room : {dashboard_.tabs()}) all.insert(all.end(), room.begin(), room.end());
+    return all;
+}
+
+std::vector<Pane> Statistics::besideTabs() {
+    return {};
+}
+
+}  // namespace tidewatch

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <vector>
+
+#include "analysis/views/dashboard.h"
+#include "app/services.h"
+#include "platform/api/platform.h"
+#include "shell/views/stats_presenter.h"
+#include "ui/models/pane.h"
+
+namespace tidewatch {
+
+/// What the statistics window shows, put together: a line for each room that has tabs, or a pane beside them.
+/// Main thread only.
+class Statistics final {
+public:
+    /// `platform` and `services` must outlive this object.
+    Statistics(const platform::Platform& platform, Services& services, Dashboard::Commands commands);
+
+    [[nodiscard]] StatsPresenter& presenter() { return presenter_; }
+    [[nodiscard]] Dashboard& dashboard() { return dashboard_; }
+
+private:
+    [[nodiscard]] std::vector<Pane> tabs();
+    [[nodiscard]] static std::vector<Pane> besideTabs();
+
+    Dashboard dashboard_;
+    StatsPresenter presenter_;
+};
+
+}  // namespace tidewatch

@@ -1,0 +1,52 @@
+import QtQuick
+import QtQuick.Layouts
+import Tidewatch.Analysis
+import Tidewatch.Shell
+import Tidewatch.Ui
+
+/*! The head of the statistics window, its tabs, and the one on show. */
+Item {
+    id: root
+
+    required property string title
+    required property StatsPresenter presenter
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        height: line.y
+        color: Style.palette.ground
+    }
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        HeaderBar {
+            Layout.fillWidth: true
+            Layout.leftMargin: 28
+            Layout.rightMargin: 28
+            Layout.topMargin: 20
+            presenter: root.presenter.header
+        }
+        TabBar {
+            objectName: "tabs"
+            Layout.leftMargin: 28
+            Layout.topMargin: 8
+            labels: root.presenter.tabs
+            currentIndex: root.presenter.tabIndex
+            onActivated: index => root.presenter.selectTab(index)
+        }
+        Rectangle {
+            id: line
+
+            Layout.fillWidth: true
+            Layout.preferredHeight: 1
+            color: Style.palette.stroke
+        }
+        PaneView {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            pane: root.presenter.tabOnShow
+        }
+    }
+}
