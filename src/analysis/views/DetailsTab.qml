@@ -90,25 +90,13 @@ TabPane {
                     Layout.preferredHeight: 1
                     color: Style.palette.stroke
                 }
-                Repeater {
-                    id: rows
-
+                LazyColumn {
+                    objectName: "rows"
+                    Layout.fillWidth: true
+                    rowHeight: 40
                     model: root.presenter.rows
                     delegate: DetailsRow {
-                        id: line
-
-                        required property int index
-
-                        function focusRow(row: int) {
-                            const item = rows.itemAt(row);
-                            if (item !== null)
-                                item.forceActiveFocus(Qt.TabFocusReason);
-                        }
-
                         objectName: row.id
-                        Layout.fillWidth: true
-                        Keys.onUpPressed: focusRow(index - 1)
-                        Keys.onDownPressed: focusRow(index + 1)
                         onMenuRequested: at => root.presenter.openMenu(row.id, at)
                     }
                 }

@@ -45,7 +45,6 @@ Card {
             Layout.fillHeight: true
             visible: !root.presenter.isEmpty
 
-            // Not the toolkit's list view: after a change its rows are read in the order in which they were made.
             Flickable {
                 id: list
 
@@ -66,20 +65,16 @@ Card {
                 Accessible.role: Accessible.List
                 Accessible.name: root.presenter.title
 
-                Column {
+                LazyColumn {
                     id: rows
 
                     width: list.width
+                    rowHeight: list.rowHeight
+                    model: root.presenter.apps
+                    delegate: AppLine {
+                        required property appRow row
 
-                    Repeater {
-                        model: root.presenter.apps
-                        delegate: AppLine {
-                            required property appRow row
-
-                            width: list.width
-                            height: list.rowHeight
-                            app: row
-                        }
+                        app: row
                     }
                 }
 

@@ -3,6 +3,7 @@
 #include <qqmlregistration.h>
 #include <QAbstractListModel>
 #include <QHash>
+#include <QSet>
 #include <QVariant>
 #include <algorithm>
 #include <iterator>
@@ -54,8 +55,10 @@ private:
     }
 
     void removeAllBut(const std::vector<Row>& target) {
+        QSet<decltype(Row::id)> kept;
+        for (const auto& row : target) kept.insert(row.id);
         for (auto place = rows_.size(); place-- > 0;) {
-            if (std::any_of(target.begin(), target.end(), withId(rows_[place]))) continue;
+            if (kept.contains(rows_[place].id)) continue;
             beginRemoveRows({}, static_cast<int>(place), static_cast<int>(place));
             rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(place));
             endRemoveRows();

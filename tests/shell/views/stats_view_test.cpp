@@ -3,7 +3,10 @@
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QTest>
+#include <algorithm>
+#include <chrono>
 
+#include "base/calendar_day.h"
 #include "shell/views/stats_scene.h"
 #include "ui/style/contrast.h"
 #include "ui/style/style.h"
@@ -72,6 +75,15 @@ struct StatsViewTest : testing::Test, StatsScene {
             if (found->inherits("QQuickText") && found->property("text").toString() == words) return found;
         }
         return nullptr;
+    }
+
+    /// How many visible items are of that type of view.
+    [[nodiscard]] std::ptrdiff_t itemsOf(const QString& type) const {
+        QList<QQuickItem*> shown;
+        collect(*view_, shown);
+        return std::count_if(shown.begin(), shown.end(), [&](const QQuickItem* found) {
+            return QString(found->metaObject()->className()).startsWith(type + "_");
+        });
     }
 
     /// Every visible item below `root`, with everything around it visible too.
@@ -282,6 +294,44 @@ TEST_F(StatsViewTest, ABreakAlertLiesOverAllAndLetsNothingThroughButItsButton) {
     EXPECT_FALSE(presenter_.breakAlert()->alertActive());
     key(Qt::Key_3, Qt::ControlModifier);
     EXPECT_EQ(presenter_.tabIndex(), detailsTab);
+}
+
+// A day of very many applications.
+
+TEST_F(StatsViewTest, AThousandApplicationsMakeFewRowsAndTheLastIsReachedAndReadsRight) {
+    const auto day =
+        toDayKey(std::chrono::floor<std::chrono::days>(machine_.clock.now()) - std::chrono::days(60));
+    for (int app = 0; app < 1000; ++app) {
+        const auto id = "app" + std::to_string(app);
+        machine_.applications.registerApplication(AppId(id), {id, "", {"IDE"}});
+        book(id.c_str(), day, 9, 0, 1 + (app < 999 ? 1 : 0));
+    }
+    for (int back = 0; back < 60; ++back) dashboard_.header()->previousDay();
+    showTab(detailsTab, {820, 560});
+    static_cast<void>(picture());
+    ASSERT_EQ(dashboard_.details()->rows()->rowCount(), 1000);
+    EXPECT_GT(itemsOf("DetailsRow"), 5);
+    EXPECT_LT(itemsOf("DetailsRow"), 60);
+    item("search")->forceActiveFocus(Qt::TabFocusReason);
+    key(Qt::Key_Tab);
+    key(Qt::Key_End);
+    static_cast<void>(picture());
+    EXPECT_LT(itemsOf("DetailsRow"), 60);
+    auto* last = item("app999");
+    ASSERT_NE(last, nullptr);
+    EXPECT_EQ(last->findChild<QQuickItem*>("time")->property("text"), "1s");
+    const auto* accessible = QAccessible::queryAccessibleInterface(last);
+    ASSERT_NE(accessible, nullptr);
+    EXPECT_TRUE(accessible->text(QAccessible::Name).startsWith("app999, "));
+    const auto place = last->mapRectToScene({0, 0, last->width(), last->height()});
+    EXPECT_LT(place.bottom(), 560);
+    EXPECT_GT(place.top(), 100);
+    presenter_.selectTab(0);
+    settle();
+    static_cast<void>(picture());
+    EXPECT_EQ(dashboard_.overview()->productive()->apps()->rowCount(), 1000);
+    EXPECT_GT(itemsOf("AppLine"), 5);
+    EXPECT_LT(itemsOf("AppLine"), 60);
 }
 
 // Refreshing.
