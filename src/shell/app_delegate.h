@@ -15,8 +15,8 @@
 
 namespace tidewatch {
 
-/// The application's root object: brings up what is on the screen, installs all long-lived observers and
-/// timers, and decides when the record is flushed outside the tick's own schedule. Main thread only.
+/// The application's root object: creates the surfaces, installs all long-lived observers and timers, and
+/// decides when the record is flushed outside the tick's own schedule. Main thread only.
 class AppDelegate final {
 public:
     /// All of it must outlive the delegate.

@@ -13,11 +13,11 @@
 
 namespace tidewatch {
 
-/// The clock on the desktop: a floating window above the others, as large as theme and settings say. A click
-/// on it posts FloatingPanelClicked. Main thread only.
+/// The clock on the desktop: a floating window above the others, sized by theme and settings. A click on it
+/// posts FloatingPanelClicked. Main thread only.
 class FloatingClock final {
 public:
-    /// The distance from the edges of the screen at which a clock without a stored place is put.
+    /// The distance from the screen's edges of a clock without a stored position.
     static constexpr double margin = 24;
 
     /// All of it must outlive the clock.
@@ -27,16 +27,17 @@ public:
         const platform::Screens& screens;
         const ThemeController& theme;
         Surfaces& surfaces;
-        /// Opens the program's menu, asked for on the clock.
+        /// Opens the program's menu, when requested on the clock.
         std::function<void()> openMenu;
     };
 
     explicit FloatingClock(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 
-    /// Makes the window, once and before anything else here, and shows it unless the settings hide it.
+    /// Creates the window, and shows it unless hidden in the settings. Must be called once, before anything
+    /// else.
     void begin();
 
-    /// Theme or settings may want another size.
+    /// Applies a size changed by theme or settings.
     void applySize();
 
     /// Shows or hides it, persistently.

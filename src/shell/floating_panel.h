@@ -10,30 +10,30 @@
 
 namespace tidewatch {
 
-/// Where a floating window stands and what the mouse does to it, whatever it shows. Main thread only.
+/// The position and mouse handling of a floating window, whatever its content. Main thread only.
 class FloatingPanel final {
 public:
-    /// The travel between mouse-down and mouse-up, in points, from which on a click is a drag.
+    /// The minimum travel between mouse-down and mouse-up, in points, that makes a click a drag.
     static constexpr double dragDistance = 5;
 
-    /// What differs from one floating window to the next.
+    /// What differs between floating windows.
     struct Owner {
         StoredPlace place;
-        /// Where it stands without a stored place on a screen; nullopt for where the window is already.
+        /// The position without a stored one on a screen; nullopt to keep the window's current position.
         std::function<std::optional<platform::Point>(PanelSize)> defaultPlace;
         std::function<void()> clicked;
         std::function<void()> menuRequested;  ///< may be empty
     };
 
-    /// Places the window and takes its gestures. `window` must outlive this object; `screens` is asked here
-    /// only.
+    /// Positions the window and handles its gestures. `window` must outlive this object; `screens` is only
+    /// used here.
     FloatingPanel(FloatingWindow& window, const platform::Screens& screens, Owner owner);
 
     void orderFrontRegardless() { window_.orderFrontRegardless(); }
     void orderOut() { window_.orderOut(); }
     [[nodiscard]] bool isVisible() const { return window_.isVisible(); }
 
-    /// Keeps the top left corner where it is, and stores it.
+    /// Keeps the top left corner in place, and stores it.
     void resize(PanelSize size);
 
 private:
@@ -41,7 +41,7 @@ private:
     void mouseDown(platform::Point position);
     /// The window follows the mouse from `dragDistance` on.
     void mouseDragged(platform::Point position);
-    /// Stores the place, whether it ends a drag or a click.
+    /// Stores the position, after a drag as well as a click.
     void mouseUp(platform::Point position);
 
     FloatingWindow& window_;

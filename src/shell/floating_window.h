@@ -7,11 +7,12 @@
 
 namespace tidewatch {
 
-/// Where a floating window lies: above all other windows, or below them on the desktop.
+/// The layer of a floating window: above all other windows, or below them on the desktop.
 enum class WindowLayer { above, below };
 
-/// A borderless window in its layer, on every workspace, in no taskbar, never with the focus. Updates what it
-/// shows by itself. Positions are desktop points of the panel's top left corner, whatever lies around it.
+/// A borderless window in its layer, on every workspace, not in the taskbar, never focused. Updates its
+/// content by itself. Positions are desktop points of the panel's top left corner, excluding any margin
+/// around it.
 class FloatingWindow {
 public:
     virtual ~FloatingWindow() = default;
@@ -20,16 +21,15 @@ public:
     [[nodiscard]] virtual platform::Point origin() const = 0;
     virtual void setOrigin(platform::Point origin) = 0;
 
-    /// Changes the size about the top left corner, in a short movement if the window is on screen.
+    /// Resizes, keeping the top left corner; animated if the window is visible.
     virtual void resize(PanelSize size) = 0;
 
-    /// Puts it on the screen, before the others of its layer, without activating it.
+    /// Shows it in front of its layer, without activating it.
     virtual void orderFrontRegardless() = 0;
     virtual void orderOut() = 0;
     [[nodiscard]] virtual bool isVisible() const = 0;
 
-    /// What the mouse does to the window where no control of its content takes it; positions are desktop
-    /// points.
+    /// Mouse events not handled by the window's content; positions are desktop points.
     struct Gestures {
         std::function<void(platform::Point)> mouseDown;
         std::function<void(platform::Point)> mouseDragged;

@@ -6,20 +6,19 @@
 
 namespace tidewatch {
 
-/// Tells a click from a drag, from a mouse-down to the mouse-up after it. Positions are desktop points.
+/// Distinguishes a click from a drag between mouse-down and mouse-up. Positions are desktop points.
 class PointerDrag final {
 public:
-    /// `threshold` is the travel, in points, from which on a click is a drag.
+    /// `threshold` is the minimum travel of a drag, in points.
     explicit PointerDrag(double threshold) : threshold_(threshold) {}
 
-    /// `origin` is where the window stands that may be dragged.
+    /// `origin` is the position of the window to be dragged.
     void press(platform::Point pointer, platform::Point origin);
 
-    /// Where the window belongs now; nullopt as long as it may still be a click. Once it is a drag it stays
-    /// one.
+    /// The window's new position; nullopt while it may still be a click. Once a drag it stays a drag.
     [[nodiscard]] std::optional<platform::Point> move(platform::Point pointer);
 
-    /// Whether a mouse-up there ends a click.
+    /// Whether a mouse-up at this position ends a click.
     [[nodiscard]] bool isClick(platform::Point pointer) const;
 
 private:

@@ -6,25 +6,24 @@
 
 namespace tidewatch {
 
-/// Brings the record to the disk at the moments that are not the tick's own. Main thread only.
+/// Flushes the record outside the tick's own schedule. Main thread only.
 class RecordWriter final {
 public:
-    /// All that is given must outlive this object.
+    /// All references must outlive this object.
     RecordWriter(const TimerEngine& engine, CounterStores counters, ProjectTimeStore& projectTime,
                  CategoryStore& categories)
         : engine_(engine), counters_(counters), projectTime_(projectTime), categories_(categories) {}
 
-    /// Sets the day's total in memory under the day that the clock shows.
+    /// Stores the day's total in memory under the current day.
     void setDayUnderCurrentKey();
 
-    /// The days, applications and hours, which is what is read by whoever asks the program to come to the
-    /// front.
+    /// Flushes days, applications and hours, as before showing the statistics on a reopen request.
     void flushForReopening();
 
-    /// Everything that is counted.
+    /// Flushes all counters.
     void flushAll();
 
-    /// What applications were found to be since the last time.
+    /// Flushes newly registered categories of applications.
     void flushCategories() { categories_.flushRegistered(); }
 
 private:

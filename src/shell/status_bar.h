@@ -17,7 +17,7 @@ public:
     /// All of it must outlive the status bar.
     struct Dependencies {
         Surfaces& surfaces;
-        /// Their older way leads over the status item.
+        /// Their legacy service is the status item.
         platform::UserNotifications& notifications;
         /// The status item's current title.
         std::function<StatusTitle()> title;
@@ -27,13 +27,13 @@ public:
 
     explicit StatusBar(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 
-    /// Makes the item, once and before anything else here. `clicked` is told of each click on it.
+    /// Creates the item. Must be called once, before anything else. `clicked` is called for each click.
     void begin(std::function<void(StatusItem::Click)> clicked);
 
     void refreshTitle();
     void openMenu();
 
-    /// To be called once a second: says once that there is no tray, if none has appeared for a while.
+    /// Must be called once a second: warns once if no tray has appeared for a while.
     void secondPassed();
 
 private:

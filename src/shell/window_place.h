@@ -8,19 +8,19 @@
 
 namespace tidewatch {
 
-/// Where a floating window stood last, as its owner keeps it under a key of that window's own.
+/// Loads and stores the last position of a floating window, under its own key.
 struct StoredPlace {
     /// nullopt if none was stored.
     std::function<std::optional<platform::Point>()> load;
     std::function<void(platform::Point)> save;
 };
 
-/// The stored place; nullopt if there is none or no screen shows it any more.
+/// The stored position; nullopt if there is none or it is not on any screen.
 [[nodiscard]] std::optional<platform::Point> placeOnScreen(const StoredPlace& stored,
                                                            const platform::Screens& screens);
 
-/// Where a window of `size` stands in the top right corner of the main screen, `margin` points from what
-/// panels leave free; nullopt without a screen.
+/// The position of a window of `size` in the top right corner of the main screen's visible frame, with this
+/// margin in points; nullopt without a screen.
 [[nodiscard]] std::optional<platform::Point> topRightCorner(const platform::Screens& screens, PanelSize size,
                                                             double margin);
 

@@ -13,7 +13,7 @@
 
 namespace tidewatch {
 
-/// What happened on the fake screen, in order, one word or two a thing.
+/// The events on the fake screen, in order, one or two words each.
 using ScreenLog = std::vector<std::string>;
 
 class FakeFloatingWindow final : public FloatingWindow {
@@ -89,7 +89,7 @@ public:
     void close() override { visible_ = false; }
     [[nodiscard]] bool isVisible() const override { return visible_; }
 
-    /// How often it was shown, whether it was visible before or not.
+    /// How often it was shown, even if already visible.
     [[nodiscard]] int showings() const { return showings_; }
 
 private:
@@ -167,20 +167,20 @@ private:
     std::function<void(std::string)> placed_;
 };
 
-/// The whole program but for the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.
+/// The whole program without the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front.
 class ProgramWorld : public testing::Test {
 protected:
     ProgramWorld();
 
-    /// The menu as it opens now.
+    /// The current menu.
     [[nodiscard]] MenuRows menu();
-    /// Carries out the command of the first row of this title, submenus included; false if there is none.
+    /// Triggers the first row with this title, including submenus; false if there is none.
     bool choose(const std::string& title);
 
     /// Builds the program and lets it launch.
     void launch();
 
-    /// What the program is built on; it must outlive the program.
+    /// The program's services, which must outlive it.
     [[nodiscard]] virtual const platform::Platform& platform() { return machine_.platform; }
     void runFor(std::chrono::milliseconds duration) { machine_.mainLoop.runFor(duration); }
     [[nodiscard]] static bool chooseIn(const MenuRows& rows, const std::string& title);
@@ -190,7 +190,7 @@ protected:
     FakeSurfaces surfaces_;
     FakeStatisticsWindow statistics_;
     bool reportsSucceed_ = false;
-    std::vector<std::string> reports_;  ///< where the report of the month was to be written
+    std::vector<std::string> reports_;  ///< the requested paths of monthly reports
     bool terminated_ = false;
 
     struct Run;

@@ -19,11 +19,11 @@
 
 namespace tidewatch {
 
-/// What the statistics window shows of the record, and its state: which tab, which day, which filters. Main
+/// The tabs of the record in the statistics window, and their state: selected tab, day and filters. Main
 /// thread only.
 class Dashboard final {
 public:
-    /// What is shown; all of it must outlive the dashboard.
+    /// All of it must outlive the dashboard.
     struct Sources {
         DashboardModel::Sources model;
         GoalStore& goals;
@@ -31,21 +31,21 @@ public:
         const RewardEngine& rewards;
     };
 
-    /// What the views lead to elsewhere.
+    /// Commands implemented elsewhere.
     struct Commands {
         std::function<void()> exportReport;
-        /// Opens the menu that reclassifies an application, at a point of the desktop.
+        /// Opens the menu to reclassify an application at a desktop position.
         std::function<void(DashboardModel& model, const AppId& app, QPointF at)> reclassify;
     };
 
     Dashboard(const Sources& from, Commands commands);
 
-    /// Its tabs, in their order; an id is the raw value of a DashboardTab.
+    /// Its tabs in display order; their ids are raw values of DashboardTab.
     [[nodiscard]] std::vector<Pane> tabs();
 
-    /// The id of the tab that is selected; it may be one of another room.
+    /// The id of the selected tab; it may belong to another room.
     [[nodiscard]] QString selectedTab() const;
-    /// An id that DashboardTab does not know changes nothing.
+    /// An id unknown to DashboardTab has no effect.
     void selectTab(const QString& id);
 
     [[nodiscard]] DashboardModel& model() { return model_; }

@@ -8,7 +8,7 @@
 
 namespace tidewatch {
 
-/// The first tab: the day at a glance, and the look back below it. Main thread only.
+/// The first tab: the overview of the day, and the insights below it. Main thread only.
 class OverviewPage final : public TabPresenter {
     Q_OBJECT
     QML_ELEMENT

@@ -10,7 +10,7 @@
 
 namespace tidewatch {
 
-/// What the statistics window shows, put together: a line for each room that has tabs, or a pane beside them.
+/// Assembles the content of the statistics window: one line per room that has tabs or a pane beside them.
 /// Main thread only.
 class Statistics final {
 public:

@@ -18,18 +18,18 @@
 
 namespace tidewatch {
 
-/// The statistics window as a whole: the panes that stand in its row, the tabs in the first of them, and
-/// which one is on show. It outlives the window's views. Each time the window is about to be shown it brings
-/// the files and the figures up to date. Main thread only.
+/// The whole statistics window: its row of panes, the tabs in the first of them, and the current tab.
+/// Outlives the window's views. Each time the window is about to be shown it flushes the record and reloads
+/// the figures. Main thread only.
 class StatsPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Given by the composition of the program")
-    /// What stands side by side, from the left: the tabs, and what the rooms add.
+    /// The panes from left to right: the tabs, and those added by rooms.
     Q_PROPERTY(QList<tidewatch::Pane> panes READ panes CONSTANT FINAL)
     /// The titles of the tabs.
     Q_PROPERTY(QList<QString> tabs READ tabs CONSTANT FINAL)
-    /// The place of the tab on show among tabs().
+    /// The index of the current tab in tabs().
     Q_PROPERTY(int tabIndex READ tabIndex NOTIFY tabChanged FINAL)
     Q_PROPERTY(tidewatch::Pane tabOnShow READ tabOnShow NOTIFY tabChanged FINAL)
     Q_PROPERTY(tidewatch::HeaderPresenter* header READ header CONSTANT FINAL)
@@ -37,16 +37,16 @@ class StatsPresenter final : public QObject {
     Q_PROPERTY(tidewatch::WallClock* wallClock READ wallClock CONSTANT FINAL)
 
 public:
-    /// What the window shows; all of it must outlive the presenter.
+    /// All of it must outlive the presenter.
     struct Content {
         const platform::Clock& clock;
         Broadcaster& broadcaster;
         CounterStores counters;
         BreakReminder& breakReminder;
         Dashboard& dashboard;
-        /// In their order; at least one.
+        /// In display order; at least one.
         std::vector<Pane> tabs;
-        /// What stands beside the tabs.
+        /// The panes beside the tabs.
         std::vector<Pane> besideTabs;
     };
 
@@ -60,10 +60,10 @@ public:
     [[nodiscard]] BreakPresenter* breakAlert() { return &breakAlert_; }
     [[nodiscard]] WallClock* wallClock() { return &wallClock_; }
 
-    /// A place that is none of tabs() changes nothing.
+    /// An index outside tabs() has no effect.
     Q_INVOKABLE void selectTab(int index);
 
-    /// The window was closed: nothing is refreshed any more.
+    /// The window was closed: stops refreshing.
     void disappear();
 
 Q_SIGNALS:

@@ -18,10 +18,10 @@
 
 namespace tidewatch {
 
-/// The surfaces on the toolkit, with the one QML engine of the program. Main thread only.
+/// The surfaces on the toolkit, with the program's only QML engine. Main thread only.
 class QtSurfaces final : public Surfaces, private Dialogs {
 public:
-    /// What the surfaces work with; all of it must outlive them and what they make.
+    /// All of it must outlive the surfaces and what they create.
     struct Dependencies {
         platform::Log& log;
         platform::WindowSystem& windowSystem;
@@ -40,11 +40,11 @@ public:
     void popUpMenu(const MenuRows& rows, platform::Point at) override;
     void showHint(const std::string& text) override;
 
-    /// Makes a view of the module of the shell anew; `presenter` must outlive it. A view that cannot be made
-    /// is a fault of the program that no user can mend: a line in the log, and nothing.
+    /// Creates a view of the shell's module; `presenter` must outlive it. Returns null, with a log message,
+    /// if the view cannot be created, which is a bug.
     [[nodiscard]] std::unique_ptr<QQuickItem> makeView(const QByteArray& name, QObject& presenter);
 
-    /// Frees what is kept for views that may never be made again.
+    /// Frees cached data of views that may never be created again.
     void clearViewCache();
 
 private:
@@ -60,7 +60,7 @@ private:
     QQmlEngine engine_;
     QPointer<QuickFloatingWindow> clockWindow_;
     QPointer<QMenu> menu_;
-    QString saveFolder_;  ///< where the user last had a file written; empty before
+    QString saveFolder_;  ///< the folder last used for saving; empty before
 };
 
 }  // namespace tidewatch

@@ -13,18 +13,17 @@
 
 namespace tidewatch {
 
-/// A floating window on the toolkit: the layer, the mouse, the size, and whether anything of it can be seen.
-/// What lies around its panel is WindowOutline's. What a control of the content takes of the mouse is the
-/// control's.
+/// A floating window on the toolkit: its layer, mouse events, size and visibility. WindowOutline handles the
+/// area around its panel. Mouse events handled by a control of the content are not reported.
 class QuickFloatingWindow final : public QQuickWindow, public FloatingWindow {
 public:
-    /// What the window asks of the view that it shows.
+    /// The view shown in the window.
     struct Content {
-        QString title;                                  ///< of the window; shown nowhere, but tools list it
-        std::unique_ptr<QQuickItem> item;               ///< fills the panel
+        QString title;                     ///< the window's title; not displayed, but listed by tools
+        std::unique_ptr<QQuickItem> item;  ///< fills the panel
         std::function<double(PanelSize)> cornerRadius;  ///< in points, of a panel of that size
-        std::function<void(bool)> setTranslucent;       ///< whether its background may let things through
-        std::function<void(bool)> setOnScreen;          ///< whether anything of it can be seen
+        std::function<void(bool)> setTranslucent;       ///< whether its background may be translucent
+        std::function<void(bool)> setOnScreen;          ///< whether any of it is visible
     };
 
     /// `windowSystem` must outlive this object.
@@ -60,7 +59,7 @@ private:
     PanelSize panel_;
     WindowOutline outline_;
     QVariantAnimation growth_;
-    bool takenByContent_ = false;  ///< the press that is going on
+    bool takenByContent_ = false;  ///< the current press
     bool covered_ = false;
     Connection compositing_;
     Connection covering_;

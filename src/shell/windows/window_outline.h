@@ -9,9 +9,8 @@
 
 namespace tidewatch {
 
-/// What a floating window has around its panel. With a compositor that is a margin that holds the shadow and
-/// lets clicks through; without one, where transparent pixels would be black, the window is cut to the
-/// panel's rounded shape.
+/// The area around a floating window's panel. With a compositor it is a click-through margin with the shadow;
+/// without one, where transparent pixels would be black, the window is shaped like the rounded panel.
 class WindowOutline final {
 public:
     /// `window` and `windowSystem` must outlive this object.
@@ -20,11 +19,10 @@ public:
     /// How far the window reaches beyond the panel on each side, in points.
     [[nodiscard]] double margin() const { return margin_; }
 
-    /// Holds from the next layOut() on.
+    /// Takes effect with the next layOut().
     void setCompositing(bool compositing);
 
-    /// Brings window, panel and shadow to their places; `origin` is the panel's top left corner in desktop
-    /// points.
+    /// Positions window, panel and shadow; `origin` is the panel's top left corner in desktop points.
     void layOut(QQuickItem& panel, platform::Point origin, PanelSize size, double cornerRadius);
 
 private:

@@ -11,13 +11,12 @@
 
 namespace tidewatch {
 
-/// A list of rows of one height that makes only those in view, and some around them: a thousand rows cost
-/// what twenty do. It is as high as all rows together and scrolls with whatever it lies in; in view is what
-/// no ancestor clips. The rows are its children in their order, so that the tabulator and screen readers go
-/// through them as they stand, which is what the toolkit's own list view does not keep. The arrow keys go
-/// from the row with the focus to the next one.
+/// A virtualised list of rows of equal height: creates delegates only for visible rows and some around them.
+/// It is as high as all rows together and scrolls with its ancestors; rows not clipped by an ancestor are
+/// visible. The rows are its children in order, so that the Tab key and screen readers traverse them in
+/// order, unlike with the toolkit's list view. The arrow keys move the focus between rows.
 ///
-/// The delegate is an item with a property "row"; it is used again for other rows, so it must follow that
+/// The delegate is an item with a property "row"; it is reused for other rows, so it must be bound to that
 /// property.
 class LazyColumn : public QQuickItem {
     Q_OBJECT
@@ -28,7 +27,8 @@ class LazyColumn : public QQuickItem {
     Q_PROPERTY(double rowHeight READ rowHeight WRITE setRowHeight NOTIFY rowHeightChanged FINAL)
 
 public:
-    /// How many rows are kept on either side of those in view: what the keyboard and a reader come to next.
+    /// How many rows are created on either side of the visible ones, for keyboard navigation and screen
+    /// readers.
     static constexpr int spareRows = 8;
 
     explicit LazyColumn(QQuickItem* parent = nullptr);
@@ -40,7 +40,7 @@ public:
     [[nodiscard]] double rowHeight() const { return rowHeight_; }
     void setRowHeight(double height);
 
-    /// How many delegates there are at this moment, those in wait for another row included.
+    /// The number of existing delegates, including spare ones.
     [[nodiscard]] int delegateCount() const { return static_cast<int>(rows_.size() + spare_.size()); }
 
 Q_SIGNALS:
@@ -56,7 +56,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    /// Indexes from `first` on, without `end`.
+    /// Indices from `first` on, excluding `end`.
     struct Range {
         int first;
         int end;
@@ -70,8 +70,7 @@ private:
     void rowsChanged(int first, int last);
     void startAnew();
 
-    /// Makes what is in view in a while, once for all changes until then; a window that is not painted gets
-    /// it too.
+    /// Updates the visible rows later, once for all changes until then, even in a window that is not painted.
     void scheduleUpdate();
     void updateRows();
 

@@ -8,9 +8,8 @@
 
 namespace tidewatch {
 
-/// The place where a pane is on show: makes the view of the one that it is given, as large as itself, and
-/// lets go of the one before. Not the toolkit's loader, which is a focus scope, and would keep the focus of a
-/// view that is gone.
+/// Shows a pane: creates its view, as large as itself, and destroys the previous one. Not the toolkit's
+/// Loader, which is a focus scope and would keep the focus of a destroyed view.
 class PaneView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +20,7 @@ public:
     ~PaneView() override;
 
     [[nodiscard]] Pane pane() const { return pane_; }
-    /// A view that cannot be made is a warning of the engine, and nothing on show.
+    /// A view that cannot be created is an engine warning, and nothing is shown.
     void setPane(const Pane& pane);
 
 Q_SIGNALS:

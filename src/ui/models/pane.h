@@ -7,9 +7,9 @@
 
 namespace tidewatch {
 
-/// A part of a window, as its room gives it: a tab, or what stands beside others in a row. A PaneView makes
-/// its view when it comes on show, from the properties `title` and `presenter`; until then a pane costs
-/// nothing. A presenter that is a TabPresenter follows its model only meanwhile.
+/// A part of a window provided by a room: a tab, or a pane in a row. A PaneView creates its view, with the
+/// properties `title` and `presenter`, when it is shown; until then a pane costs nothing. A presenter that is
+/// a TabPresenter follows its model only while shown.
 class Pane final {
     Q_GADGET
     QML_VALUE_TYPE(pane)
@@ -20,16 +20,16 @@ class Pane final {
     Q_PROPERTY(double width MEMBER width FINAL)
 
 public:
-    QString id;     ///< its own among those that it stands with
+    QString id;     ///< unique among its siblings
     QString title;  ///< for the tab bar and for assistive technology
     QUrl view;
     QObject* presenter = nullptr;
-    double width = 0;  ///< in a row, in points; 0 for what the others leave
+    double width = 0;  ///< in a row, in points; 0 for the remaining width
 
     bool operator==(const Pane&) const = default;
 };
 
-/// Where the view `name` of the module `uri` ("Tidewatch.Analysis") lies.
+/// The URL of the view `name` of the module `uri` ("Tidewatch.Analysis").
 [[nodiscard]] inline QUrl viewUrl(QString uri, const QString& name) {
     return QUrl("qrc:/qt-project.org/imports/" + uri.replace('.', '/') + '/' + name + ".qml");
 }

@@ -18,13 +18,13 @@
 
 namespace tidewatch {
 
-/// What the statistics window stands on, on a fake machine; nothing is booked at first.
+/// The statistics window's models on a fake machine; initially nothing is booked.
 class StatsWorld {
 public:
     StatsWorld();
 
-    /// Books `seconds` to an application as a tick would, in all four stores, in the ten minutes of the clock
-    /// that begin at `hour` and `minute`.
+    /// Books `seconds` to an application like a tick, in all four stores, in the ten minutes of local time
+    /// that start at `hour` and `minute`.
     void book(const char* app, const DayKey& day, int hour, int minute, std::int64_t seconds);
     /// The same in the project's time.
     void bookProject(const Uuid& project, const char* app, const DayKey& day, std::int64_t seconds);
@@ -33,7 +33,7 @@ public:
     /// afternoon.
     void bookBelievableWork();
 
-    /// The window is about to be shown.
+    /// Announces that the window is about to be shown.
     void appear() { services_.broadcaster.post(DashboardWillShow()); }
 
     [[nodiscard]] DayKey today() const { return services_.counting.days.today(); }
@@ -53,16 +53,16 @@ private:
     void bookToday();
 };
 
-/// The window's view on such a world, in a window of the software scene graph.
+/// The window's view on such a world, in a software-rendered window.
 class StatsScene : public StatsWorld {
 public:
     StatsScene();
     virtual ~StatsScene();
 
-    /// Makes the view anew in a window of that size, in points.
+    /// Recreates the view in a window of this size, in points.
     void show(QSize size = {1360, 1000});
 
-    /// The item of the view of this name; nothing if there is none.
+    /// The view's item with this objectName, or null.
     [[nodiscard]] QQuickItem* item(const QString& name) const;
 
     [[nodiscard]] QImage picture();
