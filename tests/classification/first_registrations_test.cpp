@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <optional>
+#include <utility>
 #include <string>
 
 #include "classification/registered_category.h"
@@ -33,10 +34,9 @@ constexpr auto bothOnDisk =
 
 struct FirstRegistrationsTest : testing::Test {
     test::FakeWorld world;
-    std::optional<CategoryStore> store{open()};
+    std::optional<CategoryStore> store{std::in_place, world.files, world.log, world.applications};
 
-    CategoryStore open() { return CategoryStore(world.files, world.log, world.applications); }
-    void restart() { store.emplace(open()); }
+    void restart() { store.emplace(world.files, world.log, world.applications); }
     void install(const AppId& app, std::vector<std::string> categories) {
         world.applications.registerApplication(app, {"Name", "", std::move(categories)});
     }
