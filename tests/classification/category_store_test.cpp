@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "tests/support/classification_fixture.h"
 
@@ -31,10 +32,9 @@ constexpr auto bothKinds =
 
 struct CategoryStoreTest : testing::Test {
     test::FakeWorld world;
-    std::optional<CategoryStore> store{open()};
+    std::optional<CategoryStore> store{std::in_place, world.files, world.log, world.applications};
 
-    CategoryStore open() { return CategoryStore(world.files, world.log, world.applications); }
-    void restart() { store.emplace(open()); }
+    void restart() { store.emplace(world.files, world.log, world.applications); }
     void restartWith(std::string_view text) {
         world.files.put(world.categoriesJson, text);
         restart();

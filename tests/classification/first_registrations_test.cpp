@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 
 #include <optional>
-#include <utility>
 #include <string>
+#include <utility>
 
 #include "classification/registered_category.h"
 #include "tests/support/classification_fixture.h"
