@@ -27,8 +27,9 @@ constexpr std::size_t maxListLength = 1024 * 1024;  // bytes
 
 }  // namespace
 
-XdgDesktop::XdgDesktop(SessionBus& bus, const Applications& applications, QProcessEnvironment inherited)
-    : bus_(bus), applications_(applications), inherited_(std::move(inherited)) {}
+XdgDesktop::XdgDesktop(SessionBus& bus, const Applications& applications,
+                       const QProcessEnvironment& inherited)
+    : bus_(bus), applications_(applications), inherited_(inherited) {}
 
 std::string XdgDesktop::documentsDirectory() const {
     // The toolkit would block on a named pipe in place of the user-dirs file.

@@ -14,7 +14,7 @@ class XdgDesktop final : public Desktop {
 public:
     /// `bus` and `applications` must outlive this object; `inherited` is the environment for programs that it
     /// starts.
-    XdgDesktop(SessionBus& bus, const Applications& applications, QProcessEnvironment inherited);
+    XdgDesktop(SessionBus& bus, const Applications& applications, const QProcessEnvironment& inherited);
 
     [[nodiscard]] std::string documentsDirectory() const override;
 

@@ -9,7 +9,7 @@ namespace {
 
 class QtZone final : public TimeZone {
 public:
-    explicit QtZone(QTimeZone zone) : zone_(std::move(zone)) {}
+    explicit QtZone(const QTimeZone& zone) : zone_(zone) {}
 
     [[nodiscard]] std::chrono::seconds utcOffset(Instant instant) const override {
         const auto time = QDateTime::fromMSecsSinceEpoch(instant.time_since_epoch().count(), Qt::UTC);
@@ -31,8 +31,8 @@ std::chrono::nanoseconds QtClock::monotonic() const {
 }
 
 std::shared_ptr<const TimeZone> QtClock::timeZone() const {
-    auto zone = QTimeZone::systemTimeZone();
-    return std::make_shared<QtZone>(zone.isValid() ? std::move(zone) : QTimeZone::utc());
+    const auto zone = QTimeZone::systemTimeZone();
+    return std::make_shared<QtZone>(zone.isValid() ? zone : QTimeZone::utc());
 }
 
 }  // namespace tidewatch::platform

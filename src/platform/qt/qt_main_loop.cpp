@@ -89,7 +89,7 @@ std::unique_ptr<RepeatingTimer> QtMainLoop::repeat(std::chrono::milliseconds int
 std::shared_ptr<QtMainLoop::TimerGroup> QtMainLoop::group(std::chrono::milliseconds interval) {
     std::erase_if(groups_, [](const auto& group) { return group.expired(); });
     for (const auto& each : groups_) {
-        const auto group = each.lock();
+        auto group = each.lock();
         if (group->interval() == interval && group->isYoung()) return group;
     }
     auto made = std::make_shared<TimerGroup>(interval);

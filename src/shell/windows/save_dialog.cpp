@@ -142,7 +142,8 @@ protected:
         const auto path = withExtension(place);
         if (QFileInfo::exists(path) && !mayReplace(path)) return;
         Q_EMIT fileSelected(path);
-        QDialog::accept();
+        // The base class reads the name in its own way.
+        QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
     }
 
 private:

@@ -39,7 +39,7 @@ QFont::Weight toQtWeight(FontWeight weight) {
 /// The family of the role, then its fallbacks, best first.
 QStringList families(FontRole role) {
     const QStringList monospaced = {"DejaVu Sans Mono", "Liberation Mono", "Noto Sans Mono", "monospace"};
-    const QStringList serif = {"P052", "DejaVu Serif", "Liberation Serif", "Noto Serif", "serif"};
+    QStringList serif = {"P052", "DejaVu Serif", "Liberation Serif", "Noto Serif", "serif"};
     switch (role) {
         case FontRole::serif:
             return QStringList{text(fathom::serifFamily)} + serif;

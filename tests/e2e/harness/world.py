@@ -5,6 +5,7 @@ import re
 import shutil
 import signal
 import socket
+import subprocess
 import tempfile
 import time
 from pathlib import Path
@@ -15,7 +16,7 @@ from harness.local_time import ZONE
 from harness.moments import Moment
 from harness.processes import Process
 from harness.screen import Screen
-from harness.waiting import wait_until
+from harness.waiting import TimeOut, wait_until
 
 WIDTH, HEIGHT = 1280, 800
 BACKGROUND = (0x2F, 0x48, 0x58)
@@ -217,7 +218,11 @@ class World:
         self._processes.append(process)
         self.programs.append(process)
         if wait_for_clock:
-            wait_until(self.clock, "the clock on the screen")
+            try:
+                wait_until(self.clock, "the clock on the screen")
+            except TimeOut:
+                self._keep_states_of({"program": process, "window-manager": self.window_manager})
+                raise
             process.began = Moment(process.started, time.monotonic())
         return process
 
@@ -264,6 +269,17 @@ class World:
         picture = self.screen.grab(area)
         picture.save(self.folder / f"{name}.png")
         return picture
+
+    def _keep_states_of(self, processes):
+        """Keeps what the windows are and what these processes wait for, for whoever looks into a failure."""
+        tree = subprocess.run(["xwininfo", "-root", "-tree"], env=self.env, capture_output=True, text=True, timeout=60)
+        (self.folder / "windows.txt").write_text(tree.stdout + tree.stderr, encoding="utf-8")
+        for name, process in processes.items():
+            if not process.is_running():
+                continue
+            state = Path(f"/proc/{process.pid}")
+            parts = [f"{part}: {(state / part).read_text(errors='replace')}\n" for part in ("wchan", "syscall", "status")]
+            (self.folder / f"{name}-state.txt").write_text("".join(parts), encoding="utf-8")
 
     def _keep_last_picture(self):
         if self._screen and self.server.is_running():
