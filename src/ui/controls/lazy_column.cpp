@@ -20,7 +20,8 @@ constexpr std::size_t mostSpare = 16;
 
 LazyColumn::LazyColumn(QQuickItem* parent) : QQuickItem(parent) {}
 
-void LazyColumn::setModel(RowListModel* model) {
+void LazyColumn::setModel(const QVariant& value) {
+    auto* const model = qobject_cast<RowListModel*>(value.value<QObject*>());
     if (model == model_) return;
     if (model_ != nullptr) model_->disconnect(this);
     model_ = model;

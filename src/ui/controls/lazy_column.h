@@ -3,6 +3,7 @@
 #include <qqmlregistration.h>
 #include <QQmlComponent>
 #include <QQuickItem>
+#include <QVariant>
 #include <map>
 #include <optional>
 #include <vector>
@@ -21,7 +22,8 @@ namespace tidewatch {
 class LazyColumn : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(tidewatch::RowListModel* model READ model WRITE setModel NOTIFY modelChanged FINAL)
+    /// A RowListModel; anything else is no rows. A variant, as with the toolkit's own views.
+    Q_PROPERTY(QVariant model READ model WRITE setModel NOTIFY modelChanged FINAL)
     Q_PROPERTY(QQmlComponent* delegate READ delegate WRITE setDelegate NOTIFY delegateChanged FINAL)
     /// In points.
     Q_PROPERTY(double rowHeight READ rowHeight WRITE setRowHeight NOTIFY rowHeightChanged FINAL)
@@ -33,8 +35,8 @@ public:
 
     explicit LazyColumn(QQuickItem* parent = nullptr);
 
-    [[nodiscard]] RowListModel* model() const { return model_; }
-    void setModel(RowListModel* model);
+    [[nodiscard]] QVariant model() const { return QVariant::fromValue(model_); }
+    void setModel(const QVariant& model);
     [[nodiscard]] QQmlComponent* delegate() const { return delegate_; }
     void setDelegate(QQmlComponent* delegate);
     [[nodiscard]] double rowHeight() const { return rowHeight_; }
