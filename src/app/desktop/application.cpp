@@ -65,7 +65,7 @@ int Application::run(const platform::Platform& platform) {
     platform.singleInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
     platform.termination.onSessionEnding([&] { delegate.flushAllStores(); });
     platform.termination.onDisplayLost([&] { delegate.applicationWillTerminate(); });
-    // Most of what the start ran never runs again.
+    // Much of what the start allocated is free by now.
     QTimer::singleShot(settlingTime, &toolkit_, [&] { platform.memory.releaseUnused(); });
     const int code = QApplication::exec();
     delegate.applicationWillTerminate();
