@@ -87,7 +87,7 @@ CounterRecord::Leaf CounterRecord::makeLeaf(Path path) {
         const auto place = search(level, siblings, valid.text());
         if (!place.found) {
             insert(level, place.index, valid.text());
-            if (level > 0) levels_[level - 1].firstChildren.changeFrom(parent + 1, [](Index& i) { ++i; });
+            if (level > 0) levels_[level - 1].firstChildren.addFrom(parent + 1, 1);
         }
         if (level == lastLevel()) return {place.index, !place.found};
         parent = place.index;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace tidewatch {
@@ -55,14 +57,71 @@ TEST(ColumnTest, InsertsAnywhereLikeASequence) {
     EXPECT_EQ(column.back(), plain.back());
 }
 
-TEST(ColumnTest, ChangesAllFromAPlaceOn) {
+TEST(ColumnTest, AddsToAllFromAPlaceOn) {
     for (const std::size_t from : {0u, 2047u, 2048u, 5000u, 8999u, 9000u}) {
         auto plain = counting(severalChunks);
         auto column = columnOf(plain);
         for (auto i = from; i < plain.size(); ++i) plain[i] += 3;
-        column.changeFrom(from, [](std::uint32_t& value) { value += 3; });
+        column.addFrom(from, 3);
         ASSERT_EQ(valuesOf(column), plain) << from;
     }
+}
+
+TEST(ColumnTest, ReadsRunsThatTogetherAreTheRange) {
+    const auto plain = counting(severalChunks);
+    const auto column = columnOf(plain);
+    for (const auto& [begin, end] :
+         {std::pair{0u, 9000u}, {2047u, 2049u}, {100u, 104u}, {8999u, 9000u}, {7u, 7u}}) {
+        Plain values;
+        Column<std::uint32_t>::Buffer buffer;
+        for (std::size_t next = begin; next < end;) {
+            const auto run = column.read(next, end, buffer);
+            ASSERT_FALSE(run.empty());
+            values.insert(values.end(), run.begin(), run.end());
+            next += run.size();
+        }
+        EXPECT_EQ(values, Plain(plain.begin() + begin, plain.begin() + end));
+    }
+}
+
+// Every order of small and large integers makes chunks of another width or base.
+TEST(ColumnTest, KeepsIntegersOfAnySizeInAnyOrder) {
+    constexpr auto least = std::numeric_limits<std::int64_t>::min();
+    constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
+    const std::vector<std::int64_t> sizes = {0,    -1,         1, 255,   256,      65'535, 65'536,
+                                             -300, 4294967295, 7, least, greatest, 1000,   least + 1};
+    for (const auto first : sizes) {
+        for (const auto second : sizes) {
+            for (const auto third : sizes) {
+                Column<std::int64_t> column;
+                column.append(first);
+                column.append(second);
+                column.insert(1, third);
+                ASSERT_EQ(column[0], first);
+                ASSERT_EQ(column[1], third) << first << ' ' << second;
+                ASSERT_EQ(column[2], second) << first << ' ' << third;
+                column.set(0, second);
+                column.set(2, first);
+                ASSERT_EQ(column[0], second) << first << ' ' << third;
+                ASSERT_EQ(column[1], third) << first << ' ' << second;
+                ASSERT_EQ(column[2], first) << second << ' ' << third;
+            }
+        }
+    }
+}
+
+TEST(ColumnTest, KeepsADescendingSequence) {
+    Plain plain;
+    for (std::uint32_t i = 0; i < 5000; ++i) plain.push_back(100'000 - 20 * i);
+    EXPECT_EQ(valuesOf(columnOf(plain)), plain);
+}
+
+TEST(ColumnTest, AddsToWhatWasCountedFromItsFirstValue) {
+    auto column = columnOf({500, 501, 700});
+    column.addFrom(0, 50);
+    column.set(1, 3);
+    column.append(100'000);
+    EXPECT_EQ(valuesOf(column), (Plain{550, 3, 750, 100'000}));
 }
 
 TEST(ColumnTest, ACopyStaysAsItWasWhateverTheOriginalDoes) {
@@ -73,9 +132,15 @@ TEST(ColumnTest, ACopyStaysAsItWasWhateverTheOriginalDoes) {
     column.set(5000, 9);
     column.insert(4000, 9);
     column.append(9);
-    column.changeFrom(0, [](std::uint32_t& value) { value = 0; });
+    column.addFrom(0, 4);
     EXPECT_EQ(valuesOf(copy), plain);
-    EXPECT_EQ(valuesOf(column), Plain(severalChunks + 2));
+    auto changed = plain;
+    changed[0] = 9;
+    changed[5000] = 9;
+    changed.insert(changed.begin() + 4000, 9);
+    changed.push_back(9);
+    for (auto& value : changed) value += 4;
+    EXPECT_EQ(valuesOf(column), changed);
 }
 
 TEST(ColumnTest, TheOriginalStaysAsItWasWhateverACopyDoes) {
