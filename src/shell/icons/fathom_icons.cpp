@@ -1,10 +1,10 @@
 #include "shell/icons/fathom_icons.h"
 
-#include <QPainter>
 #include <cmath>
 #include <numbers>
 
 #include "shell/icons/clapper_drawing.h"
+#include "shell/icons/painted_image.h"
 #include "shell/themes/fathom.h"
 
 namespace tidewatch::fathom {
@@ -51,12 +51,6 @@ ClapperMetrics appIconMetrics() {
     };
 }
 
-QImage clear(int width, int height) {
-    QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    return image;
-}
-
 }  // namespace
 
 QPainterPath menubarIconShape() {
@@ -65,33 +59,30 @@ QPainterPath menubarIconShape() {
 }
 
 QImage menubarIcon(double scale, const QColor& tint) {
-    auto image = clear(static_cast<int>(std::ceil(menubarIconWidth * scale)),
+    const QSize pixels(static_cast<int>(std::ceil(menubarIconWidth * scale)),
                        static_cast<int>(std::ceil(menubarIconHeight * scale)));
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(scale, scale);
-    painter.fillPath(menubarIconShape(), tint);
-    return image;
+    return paintedImage(pixels, [&](QPainter& painter) {
+        painter.scale(scale, scale);
+        painter.fillPath(menubarIconShape(), tint);
+    });
 }
 
 QImage appIcon(int pixels) {
-    auto image = clear(pixels, pixels);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(0, pixels);
-    painter.scale(pixels / appIconUnits, -pixels / appIconUnits);
-    QLinearGradient ground(0, appIconUnits, appIconUnits, 0);
-    ground.setColorAt(0, QColor(0x2E, 0x2E, 0x2C));
-    ground.setColorAt(1, colour(ink));
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(ground);
-    painter.drawRoundedRect(QRectF(0, 0, appIconUnits, appIconUnits), 36, 36);
-    const auto drawing = drawClapper(appIconMetrics());
-    painter.fillPath(drawing.slate, colour(paper));
-    painter.fillPath(drawing.bar, colour(paper));
-    painter.fillPath(drawing.hands, colour(green));
-    painter.fillPath(drawing.dot, colour(green));
-    return image;
+    return paintedImage({pixels, pixels}, [&](QPainter& painter) {
+        painter.translate(0, pixels);
+        painter.scale(pixels / appIconUnits, -pixels / appIconUnits);
+        QLinearGradient ground(0, appIconUnits, appIconUnits, 0);
+        ground.setColorAt(0, QColor(0x2E, 0x2E, 0x2C));
+        ground.setColorAt(1, colour(ink));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(QRectF(0, 0, appIconUnits, appIconUnits), 36, 36);
+        const auto drawing = drawClapper(appIconMetrics());
+        painter.fillPath(drawing.slate, colour(paper));
+        painter.fillPath(drawing.bar, colour(paper));
+        painter.fillPath(drawing.hands, colour(green));
+        painter.fillPath(drawing.dot, colour(green));
+    });
 }
 
 }  // namespace tidewatch::fathom

@@ -1,10 +1,10 @@
 #include "shell/icons/status_image.h"
 
 #include <QFont>
-#include <QPainter>
 #include <QPainterPath>
 
 #include "shell/icons/fathom_icons.h"
+#include "shell/icons/painted_image.h"
 #include "shell/themes/fathom.h"
 #include "ui/texts/qt_text.h"
 
@@ -60,23 +60,21 @@ void fillWithHalo(QPainter& painter, const QPainterPath& path, const QColor& fil
 }  // namespace
 
 QImage statusImage(int pixels, const StatusTitle& title) {
-    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double unit = pixels / 22.0;
-    const double iconScale = unit * 12.5 / fathom::menubarIconHeight;
-    const double iconLeft = (pixels - fathom::menubarIconWidth * iconScale) / 2;
-    const auto place = QTransform::fromScale(iconScale, iconScale) * QTransform::fromTranslate(iconLeft, 0);
-    fillWithHalo(painter, place.map(fathom::menubarIconShape()), iconTint, unit);
-    const double capHeight = unit * 7.6;
-    auto figure = title.mood == StatusTitle::Mood::none
-                      ? dashPath(capHeight)
-                      : textPath(text(title.figure), capHeight, pixels - 1.0);
-    const auto bounds = figure.boundingRect();
-    figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 1.2);
-    fillWithHalo(painter, figure, moodColour(title.mood), unit);
-    return image;
+    return paintedImage({pixels, pixels}, [&](QPainter& painter) {
+        const double unit = pixels / 22.0;
+        const double iconScale = unit * 12.5 / fathom::menubarIconHeight;
+        const double iconLeft = (pixels - fathom::menubarIconWidth * iconScale) / 2;
+        const auto place =
+            QTransform::fromScale(iconScale, iconScale) * QTransform::fromTranslate(iconLeft, 0);
+        fillWithHalo(painter, place.map(fathom::menubarIconShape()), iconTint, unit);
+        const double capHeight = unit * 7.6;
+        auto figure = title.mood == StatusTitle::Mood::none
+                          ? dashPath(capHeight)
+                          : textPath(text(title.figure), capHeight, pixels - 1.0);
+        const auto bounds = figure.boundingRect();
+        figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 1.2);
+        fillWithHalo(painter, figure, moodColour(title.mood), unit);
+    });
 }
 
 }  // namespace tidewatch
