@@ -1,6 +1,5 @@
 #include "ui/texts/tabular_layout.h"
 
-#include <QFontMetricsF>
 #include <algorithm>
 #include <cmath>
 
@@ -20,24 +19,16 @@ bool isDigit(QChar character) {
     return character >= u'0' && character <= u'9';
 }
 
-double widestDigit(const QFontMetricsF& metrics) {
-    double widest = 0;
-    for (char16_t digit = u'0'; digit <= u'9'; ++digit) {
-        widest = std::max(widest, metrics.horizontalAdvance(QChar(digit)));
-    }
-    return widest;
-}
-
 class LineBuilder final {
 public:
-    LineBuilder(const QFont& font, const TabularOptions& options, Colons colons, Cells cells, double shrink)
-        : metrics_(font),
+    LineBuilder(ShapedFont& font, const TabularOptions& options, Colons colons, Cells cells, double shrink)
+        : font_(font),
           options_(options),
           colons_(colons),
           cells_(cells),
           pixel_(options.screenPixel / shrink),
-          spacing_(font.letterSpacing()) {
-        const double widest = widestDigit(metrics_);
+          spacing_(font.font().letterSpacing()) {
+        const double widest = font_.widestDigit();
         if (widest < minWholeCell * pixel_) cells_ = Cells::exact;
         digitCell_ = cell(widest);
         line_.shrink = shrink;
@@ -58,7 +49,7 @@ private:
         } else if (options_.digits == Digits::monospaced && isDigit(character)) {
             addCell(character, digitCell_);
         } else if (colons_ == Colons::close && character == u':') {
-            addCell(character, cell(metrics_.horizontalAdvance(character) * closeColon));
+            addCell(character, cell(font_.advance(character) * closeColon));
         } else {
             run_ += character;
         }
@@ -66,14 +57,14 @@ private:
 
     void addCell(QChar character, double width) {
         endRun();
-        line_.runs.push_back({QString(character), x_ + (width - metrics_.horizontalAdvance(character)) / 2});
+        line_.runs.push_back({QString(character), x_ + (width - font_.advance(character)) / 2});
         x_ += width;
     }
 
     void endRun() {
         if (run_.isEmpty()) return;
         line_.runs.push_back({run_, x_});
-        x_ += metrics_.horizontalAdvance(run_);
+        x_ += font_.advance(run_);
         run_.clear();
     }
 
@@ -84,7 +75,7 @@ private:
                std::max(1.0, cells_ == Cells::nearestPixel ? std::round(pixels) : std::floor(pixels));
     }
 
-    QFontMetricsF metrics_;
+    ShapedFont& font_;
     TabularOptions options_;
     Colons colons_;
     Cells cells_;
@@ -98,7 +89,7 @@ private:
 
 }  // namespace
 
-TabularLine layOutTabular(const QString& text, const QFont& font, const TabularOptions& options) {
+TabularLine layOutTabular(const QString& text, ShapedFont& font, const TabularOptions& options) {
     const double maximum = options.maximumWidth > 0 ? options.maximumWidth : HUGE_VAL;
     const auto build = [&](Colons colons, Cells cells, double shrink = 1) {
         return LineBuilder(font, options, colons, cells, shrink).build(text);

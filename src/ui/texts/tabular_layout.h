@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QFont>
 #include <QString>
 #include <vector>
 
 #include "shell/themes/font_spec.h"
+#include "ui/texts/shaped_font.h"
 
 namespace tidewatch {
 
@@ -34,7 +34,6 @@ struct TabularOptions {
 /// Lays out one line. With monospaced digits every digit is centred in a cell as wide as the widest digit, so
 /// that a running clock does not jitter; cells are whole screen pixels, so that a digit looks the same in
 /// each of them. A line that is too wide first narrows its colons, then is scaled down.
-[[nodiscard]] TabularLine layOutTabular(const QString& text, const QFont& font,
-                                        const TabularOptions& options);
+[[nodiscard]] TabularLine layOutTabular(const QString& text, ShapedFont& font, const TabularOptions& options);
 
 }  // namespace tidewatch

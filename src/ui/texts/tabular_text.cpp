@@ -1,6 +1,5 @@
 #include "ui/texts/tabular_text.h"
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QQuickWindow>
 #include <algorithm>
@@ -33,8 +32,8 @@ void TabularText::setText(const QString& text) {
 }
 
 void TabularText::setFont(const QFont& font) {
-    if (font == font_) return;
-    font_ = font;
+    if (font == font_.font()) return;
+    font_ = ShapedFont(font);
     relayout();
     Q_EMIT layoutChanged();
 }
@@ -103,7 +102,7 @@ void TabularText::relayout() {
     options.screenPixel = screenPixel() / unit_;
     line_ = layOutTabular(text_, font_, options);
     const double scale = unit_ * line_.shrink;
-    const QFontMetricsF metrics(font_);
+    const auto& metrics = font_.metrics();
     // Room on both sides for letters that overhang their advance width.
     const double overhang =
         text_.isEmpty()
@@ -125,16 +124,15 @@ void TabularText::paint(QPainter* painter) {
     const double pixel = screenPixel();
     // On a tie round up: text looks centred slightly above its middle.
     const auto onPixel = [pixel](double length) { return std::floor(length / pixel + 0.4) * pixel; };
-    const QFontMetricsF metrics(font_);
+    const auto& metrics = font_.metrics();
     painter->translate(onPixel((width() - line_.width * scale) / 2), onPixel(metrics.ascent() * scale));
     painter->scale(scale, scale);
-    painter->setFont(font_);
     if (shade_.alpha() > 0) drawShade(*painter);
     drawLetters(*painter, color_);
     if (metrics.ascent() * scale / pixel < faintSize) drawLetters(*painter, color_);
 }
 
-void TabularText::drawShade(QPainter& painter) const {
+void TabularText::drawShade(QPainter& painter) {
     QColor layer = shade_;
     layer.setAlphaF(shade_.alphaF() / static_cast<float>(shadeDrops.size()));
     for (const double drop : shadeDrops) {
@@ -144,9 +142,9 @@ void TabularText::drawShade(QPainter& painter) const {
     }
 }
 
-void TabularText::drawLetters(QPainter& painter, const QColor& color) const {
+void TabularText::drawLetters(QPainter& painter, const QColor& color) {
     painter.setPen(color);
-    for (const auto& run : line_.runs) painter.drawText(QPointF(run.x, 0), run.text);
+    for (const auto& run : line_.runs) font_.draw(painter, {run.x, 0}, run.text);
 }
 
 }  // namespace tidewatch

@@ -31,7 +31,7 @@ public:
 
     [[nodiscard]] QString text() const { return text_; }
     void setText(const QString& text);
-    [[nodiscard]] QFont font() const { return font_; }
+    [[nodiscard]] QFont font() const { return font_.font(); }
     void setFont(const QFont& font);
     [[nodiscard]] QColor color() const { return color_; }
     void setColor(const QColor& color);
@@ -60,12 +60,12 @@ protected:
 
 private:
     void relayout();
-    void drawShade(QPainter& painter) const;
-    void drawLetters(QPainter& painter, const QColor& color) const;
+    void drawShade(QPainter& painter);
+    void drawLetters(QPainter& painter, const QColor& color);
     [[nodiscard]] double screenPixel() const;
 
     QString text_;
-    QFont font_;
+    ShapedFont font_;
     QColor color_ = Qt::black;
     QColor shade_ = Qt::transparent;
     TabularOptions options_;
