@@ -68,14 +68,14 @@ using Days = std::map<std::string_view, DayOfHours>;
 
 class HourReader final {
 public:
-    HourReader(const UsageSnapshot& hours, const CategoryStore& categories) : hours_(hours) {
+    HourReader(const UsageSnapshot& hours, const CategoryStore& categories) : hours_(hours), apps_(hours) {
         tiers_.reserve(hours.appCount());
         for (std::uint32_t app = 0; app < hours.appCount(); ++app) {
             tiers_.push_back(indexOf(categories.tier(AppId(std::string(hours.app(app))))));
         }
     }
 
-    Days read(std::string_view cutoffKey, std::array<Seconds, hoursPerDay>& histogram) const {
+    Days read(std::string_view cutoffKey, std::array<Seconds, hoursPerDay>& histogram) {
         Days days;
         auto today = days.end();
         for (UsageSnapshot::Index i = 0; i < hours_.keyCount(); ++i) {
@@ -94,13 +94,14 @@ public:
     }
 
 private:
-    [[nodiscard]] TierSeconds byTier(UsageSnapshot::Index hour) const {
+    [[nodiscard]] TierSeconds byTier(UsageSnapshot::Index hour) {
         TierSeconds seconds{};
-        hours_.forEachApp(hour, [&](std::uint32_t app, Seconds ofApp) { seconds[tiers_[app]] += ofApp; });
+        apps_.forEachApp(hour, [&](std::uint32_t app, Seconds ofApp) { seconds[tiers_[app]] += ofApp; });
         return seconds;
     }
 
     const UsageSnapshot& hours_;
+    UsageSnapshot::Reader apps_;
     std::vector<std::size_t> tiers_;  // of each application, looked up once
 };
 

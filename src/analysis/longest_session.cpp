@@ -72,13 +72,14 @@ bool isBefore(std::string_view key, std::string_view cutoffKey) {
 std::vector<BusyBucket> busyBuckets(const UsageSnapshot& minutes, std::string_view cutoffKey,
                                     const platform::TimeZone& zone) {
     BucketKeyReader reader(zone);
+    UsageSnapshot::Reader apps(minutes);
     std::vector<BusyBucket> buckets;
     buckets.reserve(minutes.keyCount());
     for (UsageSnapshot::Index i = 0; i < minutes.keyCount(); ++i) {
         const auto key = minutes.key(i);
         if (isBefore(key, cutoffKey)) continue;
         Seconds total;
-        minutes.forEachApp(i, [&](std::uint32_t, Seconds seconds) { total += seconds; });
+        apps.forEachApp(i, [&](std::uint32_t, Seconds seconds) { total += seconds; });
         if (total < minBusy) continue;
         if (const auto start = reader.instantOf(key)) buckets.push_back({*start, total});
     }

@@ -1,24 +1,23 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
-#include <span>
 #include <vector>
 
 #include "base/copy_on_write.h"
 #include "core/packed_chunk.h"
+#include "core/plain_chunk.h"
 
 namespace tidewatch {
 
 /// A long sequence of integers that rarely change, stored in copy-on-write chunks: copying costs one pointer
-/// per chunk, a change afterwards copies one chunk. Each chunk is as narrow as its values allow. Not
-/// thread-safe; copies may be used on other threads.
-template <class T>
-class Column final {
+/// per chunk, a change afterwards copies one chunk. Not thread-safe; copies may be used on other threads.
+template <class Chunk>
+class ChunkedColumn final {
+    using T = typename Chunk::Value;
+
 public:
-    /// Takes the values of one run.
-    using Buffer = std::array<T, PackedChunk<T>::capacity>;
+    static constexpr std::size_t chunkSize = Chunk::capacity;
 
     [[nodiscard]] std::size_t size() const { return size_; }
 
@@ -27,21 +26,18 @@ public:
     }
     [[nodiscard]] T back() const { return (*this)[size_ - 1]; }
 
-    /// The values from `begin` on that lie together before `end`, copied into `buffer`; at least one if
-    /// `begin` < `end`.
-    [[nodiscard]] std::span<const T> read(std::size_t begin, std::size_t end, Buffer& buffer) const {
-        if (begin >= end) return {};
-        const auto place = begin % chunkSize;
-        const auto run = std::span(buffer).first(std::min(end - begin, chunkSize - place));
-        chunks_[begin / chunkSize]->read(place, run);
-        return run;
+    /// Copies the elements from `chunk` * chunkSize on into `target`, as many as there are or fit. For packed
+    /// columns, which take longer element by element.
+    void readChunk(std::size_t chunk, std::array<T, chunkSize>& target) const {
+        chunks_[chunk]->read(target);
     }
 
     void set(std::size_t index, T value) { chunks_[index / chunkSize].edit().set(index % chunkSize, value); }
 
     void append(T value) {
         if (size_ % chunkSize == 0) chunks_.emplace_back();
-        chunks_.back().edit().insert(size_++ % chunkSize, value);
+        chunks_.back().edit().append(value);
+        ++size_;
     }
 
     /// Linear in the number of elements after `index`.
@@ -72,10 +68,16 @@ public:
     }
 
 private:
-    static constexpr std::size_t chunkSize = PackedChunk<T>::capacity;
-
-    std::vector<CopyOnWrite<PackedChunk<T>>> chunks_;
+    std::vector<CopyOnWrite<Chunk>> chunks_;
     std::size_t size_ = 0;
 };
+
+/// A column that is looked up element by element.
+template <class T>
+using Column = ChunkedColumn<PlainChunk<T>>;
+
+/// A column of a fraction of the size, for small numbers that are read chunk by chunk.
+template <class T>
+using PackedColumn = ChunkedColumn<PackedChunk<T>>;
 
 }  // namespace tidewatch

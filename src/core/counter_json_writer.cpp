@@ -8,6 +8,7 @@
 
 #include "core/counter_json.h"
 #include "core/json_writer.h"
+#include "core/leaf_reader.h"
 
 namespace tidewatch {
 namespace {
@@ -90,7 +91,7 @@ private:
 
 class Writer final {
 public:
-    explicit Writer(const CounterRecord& record) : record_(record) {
+    explicit Writer(const CounterRecord& record) : record_(record), leaves_(record) {
         for (std::size_t level = 0; level < record.depth(); ++level) {
             indents_.push_back(std::string("\n").append(2 * (level + 1), ' '));
             memberStarts_.emplace_back();
@@ -101,7 +102,7 @@ public:
         }
     }
 
-    void write(platform::ByteSink& sink) const {
+    void write(platform::ByteSink& sink) {
         PieceBuffer buffer(sink);
         writeObject(buffer, 0, record_.top());
         buffer.flush();
@@ -114,7 +115,7 @@ private:
         return result + '"';
     }
 
-    void writeObject(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) const {
+    void writeObject(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) {
         buffer.character('{');
         if (members.size() == 0) {
             buffer.character('\n');
@@ -127,7 +128,7 @@ private:
         buffer.character('}');
     }
 
-    void writeKeys(PieceBuffer& buffer, CounterRecord::Range keys) const {
+    void writeKeys(PieceBuffer& buffer, CounterRecord::Range keys) {
         for (auto node = keys.begin; node < keys.end && buffer.isOpen(); ++node) {
             if (node != keys.begin) buffer.character(',');
             buffer.text(indents_[0]);
@@ -151,14 +152,14 @@ private:
         }
     }
 
-    void writeNames(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) const {
+    void writeNames(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) {
         const auto& starts = memberStarts_[level];
         bool isFirst = true;
         const auto separate = [&] {
             if (!std::exchange(isFirst, false)) buffer.character(',');
         };
         if (level + 1 == record_.depth()) {
-            record_.forEachLeaf(members, [&](std::uint32_t name, Seconds seconds) {
+            leaves_.forEach(members, [&](std::uint32_t name, Seconds seconds) {
                 separate();
                 buffer.counter(starts[name], seconds.count());
             });
@@ -172,6 +173,7 @@ private:
     }
 
     const CounterRecord& record_;
+    LeafReader leaves_;
     std::vector<std::string> indents_;                   // a level: from the end of a line to the quote
     std::vector<std::vector<PaddedText>> memberStarts_;  // a level and a name
 };

@@ -33,12 +33,14 @@ std::optional<CounterRecord::Index> CounterRecord::find(std::size_t level, Range
 }
 
 void CounterRecord::appendBranch(std::size_t level, std::string_view text) {
-    append(level, text);
-    levels_[level].firstChildren.append(size(level + 1));
+    auto& [texts, firstChildren] = inner_[level];
+    texts.append(idInOrder(level, text));
+    firstChildren.append(size(level + 1));
+    lastAppended_[level + 1].reset();
 }
 
 void CounterRecord::appendLeaf(std::string_view text, Seconds seconds) {
-    append(lastLevel(), text);
+    leafTexts_.append(idInOrder(lastLevel(), text));
     counters_.append(seconds.count());
 }
 
@@ -87,7 +89,7 @@ CounterRecord::Leaf CounterRecord::makeLeaf(Path path) {
         const auto place = search(level, siblings, valid.text());
         if (!place.found) {
             insert(level, place.index, valid.text());
-            if (level > 0) levels_[level - 1].firstChildren.addFrom(parent + 1, 1);
+            if (level > 0) inner_[level - 1].firstChildren.addFrom(parent + 1, 1);
         }
         if (level == lastLevel()) return {place.index, !place.found};
         parent = place.index;
@@ -96,23 +98,23 @@ CounterRecord::Leaf CounterRecord::makeLeaf(Path path) {
 }
 
 void CounterRecord::insert(std::size_t level, Index index, std::string_view text) {
-    auto& [texts, firstChildren] = levels_[level];
-    const bool atEnd = index == texts.size();
-    texts.insert(index, storeText(level, text));
+    const auto id = storeText(level, text);
     if (level == lastLevel()) {
+        leafTexts_.insert(index, id);
         counters_.insert(index, 0);
     } else {
-        firstChildren.insert(index, atEnd ? size(level + 1) : firstChildren[index]);
+        auto& [texts, firstChildren] = inner_[level];
+        firstChildren.insert(index, index == texts.size() ? size(level + 1) : firstChildren[index]);
+        texts.insert(index, id);
     }
 }
 
-void CounterRecord::append(std::size_t level, std::string_view newText) {
-    const auto id = storeText(level, newText);
-    const auto textOf = [&](std::uint32_t kept) { return level == 0 ? keys_[kept] : names_[kept]; };
-    const auto firstSibling = level == 0 ? 0 : levels_[level - 1].firstChildren.back();
-    auto& texts = levels_[level].texts;
-    if (texts.size() > firstSibling && textOf(texts.back()) >= textOf(id)) inOrder_ = false;
-    texts.append(id);
+std::uint32_t CounterRecord::idInOrder(std::size_t level, std::string_view text) {
+    const auto id = storeText(level, text);
+    auto& last = lastAppended_[level];
+    if (last && textOf(level, *last) >= textOf(level, id)) inOrder_ = false;
+    last = id;
+    return id;
 }
 
 std::uint32_t CounterRecord::storeText(std::size_t level, std::string_view text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -42,9 +43,9 @@ public:
     };
 
     /// `depth` is the length of every path, 1 to 3.
-    explicit CounterRecord(std::size_t depth) : levels_(depth) {}
+    explicit CounterRecord(std::size_t depth) : inner_(depth - 1) {}
 
-    [[nodiscard]] std::size_t depth() const { return levels_.size(); }
+    [[nodiscard]] std::size_t depth() const { return inner_.size() + 1; }
 
     /// The counter at `path`, 0 if there is none; creates no node.
     [[nodiscard]] Seconds seconds(Path path) const;
@@ -60,7 +61,7 @@ public:
 
     /// The children of a branch, which are on `level` + 1.
     [[nodiscard]] Range children(std::size_t level, Index branch) const {
-        const auto& first = levels_[level].firstChildren;
+        const auto& first = inner_[level].firstChildren;
         return {first[branch], branch + 1 < first.size() ? first[branch + 1] : size(level + 1)};
     }
 
@@ -68,32 +69,25 @@ public:
 
     /// Valid until the record is modified.
     [[nodiscard]] std::string_view text(std::size_t level, Index node) const {
-        const auto id = levels_[level].texts[node];
-        return level == 0 ? keys_[id] : names_[id];
+        return textOf(level, textId(level, node));
     }
 
     /// The id of the node's interned text, 0 to nameCount() - 1; not for the first level.
-    [[nodiscard]] std::uint32_t nameId(std::size_t level, Index node) const {
-        return levels_[level].texts[node];
-    }
+    [[nodiscard]] std::uint32_t nameId(std::size_t level, Index node) const { return textId(level, node); }
     [[nodiscard]] std::string_view name(std::uint32_t nameId) const { return names_[nameId]; }
     [[nodiscard]] std::uint32_t nameCount() const { return names_.size(); }
 
     /// The counter of a node of the last level.
     [[nodiscard]] Seconds seconds(Index leaf) const { return Seconds(counters_[leaf]); }
 
-    /// Calls `visit(std::uint32_t nameId, Seconds seconds)` for each node of a range on the last level. Much
-    /// faster than looking them up one by one.
-    template <class Visitor>
-    void forEachLeaf(Range leaves, Visitor&& visit) const {
-        Column<std::uint32_t>::Buffer textBuffer;
-        Column<std::int64_t>::Buffer counterBuffer;
-        for (std::size_t next = leaves.begin; next < leaves.end;) {
-            const auto texts = levels_.back().texts.read(next, leaves.end, textBuffer);
-            const auto counters = counters_.read(next, leaves.end, counterBuffer);
-            for (std::size_t i = 0; i < texts.size(); ++i) visit(texts[i], Seconds(counters[i]));
-            next += texts.size();
-        }
+    /// The leaves are stored in chunks of this size: leaf i is number i % leafChunkSize of one.
+    static constexpr std::size_t leafChunkSize = 2048;
+
+    /// Copies the name ids and counters of a chunk of leaves; see LeafReader.
+    void readLeaves(std::size_t chunk, std::array<std::uint32_t, leafChunkSize>& nameIds,
+                    std::array<std::int64_t, leafChunkSize>& counters) const {
+        leafTexts_.readChunk(chunk, nameIds);
+        counters_.readChunk(chunk, counters);
     }
 
     /// For loading a record node by node in document order: appends a node on `level` under the last node of
@@ -105,18 +99,25 @@ public:
     void finishLoading();
 
 private:
-    struct Level {
-        Column<std::uint32_t> texts;  // indices into keys_ on the first level, into names_ below
-        Column<Index> firstChildren;  // empty on the last level
+    // Texts are indices into keys_ on the first level, into names_ below.
+    struct InnerLevel {
+        Column<std::uint32_t> texts;
+        Column<Index> firstChildren;
     };
     struct Place {
         Index index;
         bool found;
     };
 
-    [[nodiscard]] std::size_t lastLevel() const { return levels_.size() - 1; }
+    [[nodiscard]] std::size_t lastLevel() const { return inner_.size(); }
     [[nodiscard]] Index size(std::size_t level) const {
-        return static_cast<Index>(levels_[level].texts.size());
+        return static_cast<Index>(level == lastLevel() ? leafTexts_.size() : inner_[level].texts.size());
+    }
+    [[nodiscard]] std::uint32_t textId(std::size_t level, Index node) const {
+        return level == lastLevel() ? leafTexts_[node] : inner_[level].texts[node];
+    }
+    [[nodiscard]] std::string_view textOf(std::size_t level, std::uint32_t id) const {
+        return level == 0 ? keys_[id] : names_[id];
     }
     [[nodiscard]] Place search(std::size_t level, Range siblings, std::string_view text) const;
     [[nodiscard]] std::optional<Index> findLeaf(Path path) const;
@@ -127,14 +128,17 @@ private:
 
     Leaf makeLeaf(Path path);
     void insert(std::size_t level, Index index, std::string_view text);
-    void append(std::size_t level, std::string_view text);
+    std::uint32_t idInOrder(std::size_t level, std::string_view text);
     std::uint32_t storeText(std::size_t level, std::string_view text);
     void copyInOrder(std::size_t level, Range siblings, CounterRecord& target) const;
 
-    std::vector<Level> levels_;
-    Column<std::int64_t> counters_;
+    std::vector<InnerLevel> inner_;
+    PackedColumn<std::uint32_t> leafTexts_;
+    PackedColumn<std::int64_t> counters_;
     StringPool keys_;
     StringInterner names_;
+    // While loading: the text that was last appended on a level under the current parent.
+    std::array<std::optional<std::uint32_t>, 3> lastAppended_;
     bool inOrder_ = true;
 };
 

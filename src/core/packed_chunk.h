@@ -1,132 +1,130 @@
 #pragma once
 
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <limits>
 #include <span>
 #include <type_traits>
-#include <utility>
-#include <variant>
 #include <vector>
 
 namespace tidewatch {
 
 /// Up to `capacity` integers, each stored in the one, two, four or eight bytes that the widest of them needs.
 ///
-/// What is stored is the difference to a base, so that indices that ascend are as narrow as small counters.
-/// The base is the first value, or 0 once a smaller one came. Not thread-safe.
+/// What is stored is the difference to a base, so that ascending indices are as narrow as small counters. The
+/// base is the first value, or 0 once a smaller one came. Not thread-safe.
 template <class T>
 class PackedChunk final {
+    using Unsigned = std::make_unsigned_t<T>;
+
 public:
+    using Value = T;
+
     static constexpr std::size_t capacity = 2048;
 
-    [[nodiscard]] std::size_t size() const {
-        return std::visit([](const auto& cells) { return cells.size(); }, cells_);
-    }
-    [[nodiscard]] bool isFull() const { return size() == capacity; }
+    [[nodiscard]] bool isFull() const { return size_ == capacity; }
 
     [[nodiscard]] T operator[](std::size_t index) const {
-        return std::visit([&](const auto& cells) { return valueOf(cells[index]); }, cells_);
+        Unsigned word;
+        std::memcpy(&word, cells_.data() + (index << shift_), sizeof word);
+        return static_cast<T>(static_cast<Unsigned>(base_) + (word & mask_));
     }
 
-    /// Copies the values from `begin` on into `target`, as many as fit.
-    void read(std::size_t begin, std::span<T> target) const {
-        std::visit(
-            [&](const auto& cells) {
-                const auto* const first = cells.data() + begin;
-                for (std::size_t i = 0; i < target.size(); ++i) target[i] = valueOf(first[i]);
-            },
-            cells_);
+    /// Copies all values to the beginning of `target`.
+    void read(std::span<T, capacity> target) const {
+        switch (shift_) {
+            case 0:
+                return copyTo<std::uint8_t>(target);
+            case 1:
+                return copyTo<std::uint16_t>(target);
+            case 2:
+                return copyTo<std::uint32_t>(target);
+            default:
+                return copyTo<std::uint64_t>(target);
+        }
     }
 
     void set(std::size_t index, T value) {
         makeRoomFor(value);
-        std::visit([&](auto& cells) { store(cells[index], value); }, cells_);
+        store(index, value);
+    }
+
+    /// Only while not full.
+    void append(T value) {
+        if (size_ == 0) base_ = value;
+        makeRoomFor(value);
+        store(size_++, value);
     }
 
     /// Only while not full.
     void insert(std::size_t index, T value) {
-        if (size() == 0) base_ = value;
         makeRoomFor(value);
-        std::visit(
-            [&](auto& cells) {
-                // A chunk fills up: growing by doubling would end above its capacity.
-                if (cells.size() == cells.capacity()) cells.reserve(capacity);
-                store(*cells.insert(cells.begin() + static_cast<std::ptrdiff_t>(index), 0), value);
-            },
-            cells_);
+        auto* const cell = cells_.data() + (index << shift_);
+        std::memmove(cell + (std::size_t{1} << shift_), cell, (size_++ - index) << shift_);
+        store(index, value);
     }
 
-    void removeLast() {
-        std::visit([](auto& cells) { cells.pop_back(); }, cells_);
-    }
+    void removeLast() { --size_; }
 
     /// Adds to each value; none may overflow.
     void addToAll(T amount) { base_ += amount; }
 
 private:
-    using Unsigned = std::make_unsigned_t<T>;
-    template <class Cell>
-    using Cells = std::vector<Cell>;
+    // A cell is read and written as part of the word that it is the beginning of.
+    static_assert(std::endian::native == std::endian::little);
 
-    template <class Cell>
-    [[nodiscard]] T valueOf(Cell cell) const {
-        return static_cast<T>(
-            static_cast<Unsigned>(static_cast<Unsigned>(base_) + static_cast<Unsigned>(cell)));
+    static std::vector<std::byte> cellsOf(unsigned shift) {
+        return std::vector<std::byte>((capacity << shift) + sizeof(Unsigned));
     }
 
     [[nodiscard]] Unsigned difference(T value) const {
-        return static_cast<Unsigned>(static_cast<Unsigned>(value) - static_cast<Unsigned>(base_));
+        return static_cast<Unsigned>(value) - static_cast<Unsigned>(base_);
     }
 
     template <class Cell>
-    void store(Cell& cell, T value) const {
-        cell = static_cast<Cell>(difference(value));
+    void copyTo(std::span<T, capacity> target) const {
+        for (std::size_t index = 0; index < size_; ++index) {
+            Cell cell;
+            std::memcpy(&cell, cells_.data() + index * sizeof cell, sizeof cell);
+            target[index] = static_cast<T>(static_cast<Unsigned>(base_) + static_cast<Unsigned>(cell));
+        }
+    }
+
+    void store(std::size_t index, T value) {
+        auto* const cell = cells_.data() + (index << shift_);
+        Unsigned word;
+        std::memcpy(&word, cell, sizeof word);
+        word = (word & ~mask_) | difference(value);
+        std::memcpy(cell, &word, sizeof word);
     }
 
     void makeRoomFor(T value) {
-        if (value < base_ && base_ != 0) rebuild();
-        while (!fits(difference(value))) widen();
+        if (difference(value) > mask_) [[unlikely]]
+            rebuildFor(value);
     }
 
-    [[nodiscard]] bool fits(Unsigned difference) const {
-        return std::visit(
-            [&]<class Cell>(const Cells<Cell>&) { return difference == static_cast<Cell>(difference); },
-            cells_);
-    }
-
-    void widen() {
-        if (cells_.index() == 0) {
-            copyTo<std::uint16_t>();
-        } else if (cells_.index() == 1) {
-            copyTo<std::uint32_t>();
-        } else {
-            copyTo<std::uint64_t>();
+    void rebuildFor(T value) {
+        const PackedChunk old = *this;
+        if (value < base_) base_ = 0;
+        for (std::size_t index = 0; index <= size_; ++index) {
+            const T stored = index < size_ ? old[index] : value;
+            while (difference(stored) > mask_) {
+                ++shift_;
+                mask_ = std::numeric_limits<Unsigned>::max() >>
+                        (8 * (sizeof(Unsigned) - (std::size_t{1} << shift_)));
+            }
         }
-    }
-
-    template <class Cell>
-    void copyTo() {
-        Cells<Cell> wider;
-        wider.reserve(capacity);
-        std::visit([&](const auto& cells) { wider.assign(cells.begin(), cells.end()); }, cells_);
-        cells_ = std::move(wider);
-    }
-
-    // Stores all values anew, as they are instead of counted from the first.
-    void rebuild() {
-        std::vector<T> values(size());
-        read(0, values);
-        cells_ = Cells<std::uint8_t>();
-        base_ = 0;
-        for (const T value : values) {
-            makeRoomFor(value);
-            std::visit([&](auto& cells) { store(cells.emplace_back(), value); }, cells_);
-        }
+        cells_ = cellsOf(shift_);
+        for (std::size_t index = 0; index < size_; ++index) store(index, old[index]);
     }
 
     T base_ = 0;
-    std::variant<Cells<std::uint8_t>, Cells<std::uint16_t>, Cells<std::uint32_t>, Cells<std::uint64_t>>
-        cells_;
+    Unsigned mask_ = std::numeric_limits<std::uint8_t>::max();  // the greatest difference that fits
+    std::uint32_t size_ = 0;
+    unsigned shift_ = 0;  // a cell has 2^shift_ bytes
+    std::vector<std::byte> cells_ = cellsOf(0);
 };
 
 }  // namespace tidewatch

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "base/copy_on_write.h"
-#include "core/packed_chunk.h"
 
 namespace tidewatch {
 
@@ -19,8 +18,11 @@ public:
         if (size_ % textsInBlock == 0) blocks_.emplace_back();
         auto& block = blocks_.back().edit();
         block.bytes.append(text);
-        block.ends.insert(block.ends.size(), static_cast<std::uint32_t>(block.bytes.size()));
-        if (block.ends.isFull()) block.bytes.shrink_to_fit();
+        block.ends.push_back(static_cast<std::uint32_t>(block.bytes.size()));
+        if (block.ends.size() == textsInBlock) {
+            block.bytes.shrink_to_fit();
+            block.ends.shrink_to_fit();
+        }
         return size_++;
     }
 
@@ -33,11 +35,11 @@ public:
     }
 
 private:
-    static constexpr std::uint32_t textsInBlock = PackedChunk<std::uint32_t>::capacity;
+    static constexpr std::uint32_t textsInBlock = 1024;
 
     struct Block {
         std::string bytes;
-        PackedChunk<std::uint32_t> ends;
+        std::vector<std::uint32_t> ends;
     };
 
     std::vector<CopyOnWrite<Block>> blocks_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/counter_record.h"
+#include "core/leaf_reader.h"
 
 namespace tidewatch {
 
@@ -26,11 +27,21 @@ public:
     [[nodiscard]] std::uint32_t appCount() const { return record_.nameCount(); }
     [[nodiscard]] std::string_view app(std::uint32_t app) const { return record_.name(app); }
 
-    /// Calls `visit(std::uint32_t app, Seconds seconds)` for each application of a key.
-    template <class Visitor>
-    void forEachApp(Index key, Visitor&& visit) const {
-        record_.forEachLeaf(record_.children(0, key), std::forward<Visitor>(visit));
-    }
+    /// Reads key after key. The snapshot must outlive it.
+    class Reader final {
+    public:
+        explicit Reader(const UsageSnapshot& snapshot) : record_(snapshot.record_), leaves_(record_) {}
+
+        /// Calls `visit(std::uint32_t app, Seconds seconds)` for each application of a key.
+        template <class Visitor>
+        void forEachApp(Index key, Visitor&& visit) {
+            leaves_.forEach(record_.children(0, key), std::forward<Visitor>(visit));
+        }
+
+    private:
+        const CounterRecord& record_;
+        LeafReader leaves_;
+    };
 
 private:
     CounterRecord record_;

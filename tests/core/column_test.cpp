@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <limits>
 #include <utility>
@@ -14,13 +16,15 @@ using Plain = std::vector<std::uint32_t>;
 
 constexpr std::size_t severalChunks = 9000;
 
-Column<std::uint32_t> columnOf(const Plain& values) {
-    Column<std::uint32_t> column;
+template <class C>
+C columnOf(const Plain& values) {
+    C column;
     for (const auto value : values) column.append(value);
     return column;
 }
 
-Plain valuesOf(const Column<std::uint32_t>& column) {
+template <class C>
+Plain valuesOf(const C& column) {
     Plain values;
     for (std::size_t i = 0; i < column.size(); ++i) values.push_back(column[i]);
     return values;
@@ -32,16 +36,21 @@ Plain counting(std::size_t size) {
     return values;
 }
 
-TEST(ColumnTest, KeepsWhatIsAppended) {
+template <class C>
+class ColumnTest : public testing::Test {};
+using Kinds = testing::Types<Column<std::uint32_t>, PackedColumn<std::uint32_t>>;
+TYPED_TEST_SUITE(ColumnTest, Kinds, );
+
+TYPED_TEST(ColumnTest, KeepsWhatIsAppended) {
     for (const std::size_t size :
          {std::size_t{0}, std::size_t{1}, std::size_t{2048}, std::size_t{2049}, severalChunks}) {
-        ASSERT_EQ(valuesOf(columnOf(counting(size))), counting(size));
+        ASSERT_EQ(valuesOf(columnOf<TypeParam>(counting(size))), counting(size));
     }
 }
 
-TEST(ColumnTest, InsertsAnywhereLikeASequence) {
+TYPED_TEST(ColumnTest, InsertsAnywhereLikeASequence) {
     auto plain = counting(severalChunks);
-    auto column = columnOf(plain);
+    auto column = columnOf<TypeParam>(plain);
     for (const std::size_t place : {0u, 1u, 2047u, 2048u, 2049u, 8000u, 9006u, 9007u}) {
         plain.insert(plain.begin() + static_cast<std::ptrdiff_t>(place), 77);
         column.insert(place, 77);
@@ -57,35 +66,33 @@ TEST(ColumnTest, InsertsAnywhereLikeASequence) {
     EXPECT_EQ(column.back(), plain.back());
 }
 
-TEST(ColumnTest, AddsToAllFromAPlaceOn) {
+TYPED_TEST(ColumnTest, AddsToAllFromAPlaceOn) {
     for (const std::size_t from : {0u, 2047u, 2048u, 5000u, 8999u, 9000u}) {
         auto plain = counting(severalChunks);
-        auto column = columnOf(plain);
+        auto column = columnOf<TypeParam>(plain);
         for (auto i = from; i < plain.size(); ++i) plain[i] += 3;
         column.addFrom(from, 3);
         ASSERT_EQ(valuesOf(column), plain) << from;
     }
 }
 
-TEST(ColumnTest, ReadsRunsThatTogetherAreTheRange) {
-    const auto plain = counting(severalChunks);
-    const auto column = columnOf(plain);
-    for (const auto& [begin, end] :
-         {std::pair{0u, 9000u}, {2047u, 2049u}, {100u, 104u}, {8999u, 9000u}, {7u, 7u}}) {
-        Plain values;
-        Column<std::uint32_t>::Buffer buffer;
-        for (std::size_t next = begin; next < end;) {
-            const auto run = column.read(next, end, buffer);
-            ASSERT_FALSE(run.empty());
-            values.insert(values.end(), run.begin(), run.end());
-            next += run.size();
-        }
-        EXPECT_EQ(values, Plain(plain.begin() + begin, plain.begin() + end));
+TEST(PackedColumnTest, ItsChunksTogetherAreItsElements) {
+    auto plain = counting(severalChunks);
+    plain[5000] = 1'000'000;
+    PackedColumn<std::uint32_t> column;
+    for (const auto value : plain) column.append(value);
+    Plain values;
+    for (std::size_t chunk = 0; values.size() < plain.size(); ++chunk) {
+        std::array<std::uint32_t, PackedColumn<std::uint32_t>::chunkSize> buffer;
+        column.readChunk(chunk, buffer);
+        const auto size = std::min(buffer.size(), plain.size() - values.size());
+        values.insert(values.end(), buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(size));
     }
+    EXPECT_EQ(values, plain);
 }
 
 // Every order of small and large integers makes chunks of another width or base.
-TEST(ColumnTest, KeepsIntegersOfAnySizeInAnyOrder) {
+TEST(PackedColumnTest, KeepsIntegersOfAnySizeInAnyOrder) {
     constexpr auto least = std::numeric_limits<std::int64_t>::min();
     constexpr auto greatest = std::numeric_limits<std::int64_t>::max();
     const std::vector<std::int64_t> sizes = {0,    -1,         1, 255,   256,      65'535, 65'536,
@@ -93,7 +100,7 @@ TEST(ColumnTest, KeepsIntegersOfAnySizeInAnyOrder) {
     for (const auto first : sizes) {
         for (const auto second : sizes) {
             for (const auto third : sizes) {
-                Column<std::int64_t> column;
+                PackedColumn<std::int64_t> column;
                 column.append(first);
                 column.append(second);
                 column.insert(1, third);
@@ -110,23 +117,23 @@ TEST(ColumnTest, KeepsIntegersOfAnySizeInAnyOrder) {
     }
 }
 
-TEST(ColumnTest, KeepsADescendingSequence) {
+TYPED_TEST(ColumnTest, KeepsADescendingSequence) {
     Plain plain;
     for (std::uint32_t i = 0; i < 5000; ++i) plain.push_back(100'000 - 20 * i);
-    EXPECT_EQ(valuesOf(columnOf(plain)), plain);
+    EXPECT_EQ(valuesOf(columnOf<TypeParam>(plain)), plain);
 }
 
-TEST(ColumnTest, AddsToWhatWasCountedFromItsFirstValue) {
-    auto column = columnOf({500, 501, 700});
+TYPED_TEST(ColumnTest, AddsToWhatWasCountedFromItsFirstValue) {
+    auto column = columnOf<TypeParam>({500, 501, 700});
     column.addFrom(0, 50);
     column.set(1, 3);
     column.append(100'000);
     EXPECT_EQ(valuesOf(column), (Plain{550, 3, 750, 100'000}));
 }
 
-TEST(ColumnTest, ACopyStaysAsItWasWhateverTheOriginalDoes) {
+TYPED_TEST(ColumnTest, ACopyStaysAsItWasWhateverTheOriginalDoes) {
     const auto plain = counting(severalChunks);
-    auto column = columnOf(plain);
+    auto column = columnOf<TypeParam>(plain);
     const auto copy = column;
     column.set(0, 9);
     column.set(5000, 9);
@@ -143,9 +150,9 @@ TEST(ColumnTest, ACopyStaysAsItWasWhateverTheOriginalDoes) {
     EXPECT_EQ(valuesOf(column), changed);
 }
 
-TEST(ColumnTest, TheOriginalStaysAsItWasWhateverACopyDoes) {
+TYPED_TEST(ColumnTest, TheOriginalStaysAsItWasWhateverACopyDoes) {
     const auto plain = counting(severalChunks);
-    const auto column = columnOf(plain);
+    const auto column = columnOf<TypeParam>(plain);
     auto copy = column;
     copy.append(9);
     copy.set(8999, 9);

@@ -68,7 +68,8 @@ TEST_F(ConcurrencyTest, BucketsAreBookedReadCopiedAndFlushedFromSeveralThreads) 
             const auto snapshot = store.snapshot();
             Seconds now;
             for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
-                snapshot.forEachApp(key, [&](std::uint32_t, Seconds seconds) { now += seconds; });
+                UsageSnapshot::Reader(snapshot).forEachApp(
+                    key, [&](std::uint32_t, Seconds seconds) { now += seconds; });
             }
             EXPECT_GE(now, last);
             last = now;

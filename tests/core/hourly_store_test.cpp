@@ -96,7 +96,7 @@ TEST_F(HourlyStoreTest, ASnapshotHoldsEverythingInOrderAndStandsStill) {
 
     std::vector<std::string> seen;
     for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
-        snapshot.forEachApp(key, [&](std::uint32_t app, Seconds seconds) {
+        UsageSnapshot::Reader(snapshot).forEachApp(key, [&](std::uint32_t app, Seconds seconds) {
             ASSERT_LT(app, snapshot.appCount());
             seen.push_back(std::string(snapshot.key(key)) + " " + std::string(snapshot.app(app)) + " " +
                            std::to_string(seconds.count()));

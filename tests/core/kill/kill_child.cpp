@@ -47,7 +47,8 @@ constexpr int ticksBetweenFlushes = 30;
 Seconds sumOf(const UsageSnapshot& snapshot) {
     Seconds sum;
     for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
-        snapshot.forEachApp(key, [&](std::uint32_t, Seconds seconds) { sum += seconds; });
+        UsageSnapshot::Reader(snapshot).forEachApp(key,
+                                                   [&](std::uint32_t, Seconds seconds) { sum += seconds; });
     }
     return sum;
 }
