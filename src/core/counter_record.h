@@ -20,7 +20,7 @@ namespace tidewatch {
 ///
 /// Siblings are in bytewise order. All nodes of a level are stored in one flat sequence, each branch with the
 /// index of its first child; the strings of the first level (days, hours, buckets) are stored once each,
-/// those below (applications, projects) recur and are interned. Ten years of ten-minute buckets take about 5
+/// those below (applications, projects) recur and are interned. Ten years of ten-minute buckets take about 6
 /// MB.
 ///
 /// Lookup is logarithmic in the number of siblings, and constant for the last one, which is the usual case

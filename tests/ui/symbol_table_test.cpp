@@ -59,8 +59,7 @@ TEST(SymbolTable, TheSymbolOfAnApplicationHasMoreThanItsFrame) {
     int inkOfASide = 0;
     for (int i = 0; i < 100; ++i) inkOfASide += hasInk(i / 100.0, 0.7) ? 1 : 0;
     EXPECT_GT(inkOfASide, 0);
-    EXPECT_GT(inkInTheMiddle, 3 * inkOfASide / 2)
-        << "from above, there is more than the two lines of a frame";
+    EXPECT_GT(inkInTheMiddle, 3 * inkOfASide / 2) << "from above, there is more than the two lines of a frame";
 }
 
 TEST(SymbolTable, TheSymbolsThatTheWindowNamesAreThere) {
