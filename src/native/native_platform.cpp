@@ -1,5 +1,7 @@
 #include "native/native_platform.h"
 
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QStandardPaths>
 
@@ -24,6 +26,7 @@
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_screens.h"
 #include "platform/x11/x11_active_application.h"
+#include "platform/x11/x11_clipboard_guard.h"
 #include "platform/x11/x11_input_activity.h"
 #include "platform/x11/x11_window_system.h"
 
@@ -64,6 +67,7 @@ struct NativePlatform::Impl {
     XdgDesktop desktop{sessionBus, applications, environment.inherited()};
     QtScreens screens;
     X11WindowSystem windowSystem;
+    X11ClipboardGuard clipboardGuard{::getpid()};
     AutostartLoginItem loginItem{files, configDirectory(),
                                  QCoreApplication::applicationFilePath().toStdString()};
     LockedSingleInstance singleInstance{recordLock, log};

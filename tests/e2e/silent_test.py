@@ -8,8 +8,11 @@ import time
 import unittest
 from pathlib import Path
 
+from harness.hands import MIDDLE
+from harness.moments import Lapse
 from harness.services import TrayOnTheBus
 from harness.silent_bus import SilentBus
+from harness.statistics_window import DETAILS, StatisticsWindow
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
@@ -129,6 +132,25 @@ class Silent(unittest.TestCase):
                 self.assert_counts_and_ends(world, program)
             finally:
                 world.window_manager.send(signal.SIGCONT)
+
+    def test_an_application_that_hangs_and_owns_the_clipboard(self):
+        with World("silent-clipboard", accessibility=True) as world:
+            world.home.write_settings(sizeScale=0.5, windowOriginX=20, windowOriginY=20)
+            program = world.start_program()
+            window = StatisticsWindow(world, program)
+            window.open()
+            window.select(DETAILS)
+            window.click("text", "buscar")
+            world.screen.hold_selection("CLIPBOARD")
+            world.screen.hold_selection("PRIMARY")
+            # Each of them would wait for the owner for ten seconds.
+            time.sleep(1.2)
+            world.hands.key("ctrl+v")
+            time.sleep(1.2)
+            window.click("text", "buscar", MIDDLE)
+            time.sleep(1.2)
+            ended = world.stop_program(program)
+            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
 
     def test_a_session_manager_and_an_input_method_that_say_nothing(self):
         with World("silent-others") as world:

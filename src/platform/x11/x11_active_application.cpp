@@ -1,7 +1,6 @@
 #include "platform/x11/x11_active_application.h"
 
 #include <unistd.h>
-#include <xcb/res.h>
 
 #include <QSocketNotifier>
 #include <utility>
@@ -25,8 +24,7 @@ X11ActiveApplication::X11ActiveApplication(const X11Connection& connection, Desk
       entries_(entries),
       own_(std::move(own)),
       activeWindowAtom_(connection.atom("_NET_ACTIVE_WINDOW")),
-      applicationIdAtom_(connection.atom("_GTK_APPLICATION_ID")),
-      canAskForProcess_(connection.hasExtension(&xcb_res_id)) {
+      applicationIdAtom_(connection.atom("_GTK_APPLICATION_ID")) {
     if (!connection_.alive()) return;
     setWatched(connection_.root(), itsProperties);
     notifier_ =
@@ -91,7 +89,7 @@ void X11ActiveApplication::setWatched(xcb_window_t window, std::uint32_t events)
 }
 
 std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
-    const auto owner = process(window);
+    const auto owner = connection_.processOf(window);
     if (owner == getpid()) return own_;
     if (const auto ids = connection_.texts(window, applicationIdAtom_);
         !ids.empty() && !ids.front().empty()) {
@@ -109,24 +107,6 @@ std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
     if (stale_) return std::nullopt;
     const auto& name = windowClass.empty() ? instance : windowClass;
     return name.empty() ? std::nullopt : std::optional(AppId(name));
-}
-
-std::optional<pid_t> X11ActiveApplication::process(xcb_window_t window) const {
-    if (!canAskForProcess_) return std::nullopt;
-    // The server knows the client's process id; the window's own property may hold one that is only valid
-    // inside a sandbox.
-    const xcb_res_client_id_spec_t spec{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-    const auto cookie = xcb_res_query_client_ids(connection_.get(), 1, &spec);
-    const XcbReply<xcb_res_query_client_ids_reply_t> reply(
-        xcb_res_query_client_ids_reply(connection_.get(), cookie, nullptr));
-    if (!reply) return std::nullopt;
-    for (auto ids = xcb_res_query_client_ids_ids_iterator(reply.get()); ids.rem > 0;
-         xcb_res_client_id_value_next(&ids)) {
-        if (xcb_res_client_id_value_value_length(ids.data) > 0) {
-            return static_cast<pid_t>(*xcb_res_client_id_value_value(ids.data));
-        }
-    }
-    return std::nullopt;
 }
 
 }  // namespace tidewatch::platform

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <sys/types.h>
-
 #include <memory>
 #include <optional>
 #include <string>
@@ -36,14 +34,12 @@ private:
     void refresh();
     void setWatched(xcb_window_t window, std::uint32_t events);
     [[nodiscard]] std::optional<AppId> identify(xcb_window_t window);
-    [[nodiscard]] std::optional<pid_t> process(xcb_window_t window) const;
 
     const X11Connection& connection_;
     DesktopEntries& entries_;
     AppId own_;
     xcb_atom_t activeWindowAtom_;
     xcb_atom_t applicationIdAtom_;
-    bool canAskForProcess_;
     xcb_window_t window_ = XCB_WINDOW_NONE;
     std::optional<AppId> application_;
     bool stale_ = true;

@@ -1,5 +1,7 @@
 #include "platform/x11/x11_connection.h"
 
+#include <xcb/res.h>
+
 namespace tidewatch::platform {
 
 namespace {
@@ -58,6 +60,24 @@ std::vector<std::string> X11Connection::texts(xcb_window_t window, xcb_atom_t na
         rest.remove_prefix(end + 1);
     }
     return texts;
+}
+
+std::optional<pid_t> X11Connection::processOf(xcb_window_t window) const {
+    if (!hasExtension(&xcb_res_id)) return std::nullopt;
+    // The server knows the client's process id; the window's own property may hold one that is only valid
+    // inside a sandbox.
+    const xcb_res_client_id_spec_t spec{window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+    const auto cookie = xcb_res_query_client_ids(get(), 1, &spec);
+    const XcbReply<xcb_res_query_client_ids_reply_t> reply(
+        xcb_res_query_client_ids_reply(get(), cookie, nullptr));
+    if (!reply) return std::nullopt;
+    for (auto ids = xcb_res_query_client_ids_ids_iterator(reply.get()); ids.rem > 0;
+         xcb_res_client_id_value_next(&ids)) {
+        if (xcb_res_client_id_value_value_length(ids.data) > 0) {
+            return static_cast<pid_t>(*xcb_res_client_id_value_value(ids.data));
+        }
+    }
+    return std::nullopt;
 }
 
 XcbReply<xcb_generic_event_t> X11Connection::pollEvent() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <sys/types.h>
 #include <xcb/xcb.h>
 
 #include <cstdint>
@@ -40,6 +41,9 @@ public:
     [[nodiscard]] std::vector<std::uint32_t> cardinals(xcb_window_t window, xcb_atom_t property) const;
     /// The strings of a property of zero-terminated strings.
     [[nodiscard]] std::vector<std::string> texts(xcb_window_t window, xcb_atom_t property) const;
+
+    /// The process that a window belongs to; nullopt if the server does not know or cannot tell.
+    [[nodiscard]] std::optional<pid_t> processOf(xcb_window_t window) const;
 
     /// The next event without blocking, ignoring errors; null if there is none.
     [[nodiscard]] XcbReply<xcb_generic_event_t> pollEvent() const;

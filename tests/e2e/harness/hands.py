@@ -5,7 +5,7 @@ import time
 
 from harness.waiting import PATIENCE
 
-LEFT, RIGHT = 1, 3
+LEFT, MIDDLE, RIGHT = 1, 2, 3
 
 
 class Hands:

@@ -140,6 +140,12 @@ class Screen:
         owner = self._display.get_selection_owner(self._display.intern_atom(name))
         return owner if owner == X.NONE else owner.id
 
+    def hold_selection(self, name):
+        """Only for tests: offers something for pasting and, like a hung application, never hands it over."""
+        window = self._root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        window.set_selection_owner(self._display.intern_atom(name), X.CurrentTime)
+        self._display.sync()
+
     def select_desktop(self, number):
         """Only for tests: asks the window manager, as a pager does."""
         self._ask_window_manager(self._root, "_NET_CURRENT_DESKTOP", [number, X.CurrentTime, 0, 0, 0])
