@@ -105,6 +105,7 @@ TEST_F(ProjectMenuTest, ANewProjectIsTrimmedAndBecomesActiveAtOnce) {
     EXPECT_EQ(surfaces_.prompt().text.whole(), "Nombre del proyecto:");
     EXPECT_EQ(surfaces_.prompt().accept, "Crear");
     EXPECT_EQ(surfaces_.prompt().placeholder, "p.ej. LMN Juvenil");
+    EXPECT_EQ(surfaces_.prompt().fieldWidth, 240);
     surfaces_.answer("  Corto \n");
     ASSERT_EQ(projects().projects().size(), 1U);
     EXPECT_EQ(projects().activeProject()->name, "Corto");
@@ -123,6 +124,7 @@ TEST_F(ProjectMenuTest, RenamingStartsFromTheNameAndABlankNameDoesNotRename) {
     EXPECT_EQ(surfaces_.prompt().text.whole(), "Nuevo nombre para \"Uno\":");
     EXPECT_EQ(surfaces_.prompt().accept, "Cambiar");
     EXPECT_EQ(surfaces_.prompt().initial, "Uno");
+    EXPECT_EQ(surfaces_.prompt().fieldWidth, 280);
     surfaces_.answer("   ");
     EXPECT_EQ(projects().projects()[0].name, "Uno");
     surfaces_.answer(" Dos ");
