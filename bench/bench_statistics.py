@@ -17,9 +17,9 @@ from bench_program import (  # noqa: E402
     processor_milliseconds,
     start_bare_clock,
 )
-from harness.hands import LEFT  # noqa: E402
 from harness.home import today  # noqa: E402
 from harness.screen import Rectangle  # noqa: E402
+from harness.user_input import LEFT  # noqa: E402
 from harness.waiting import stays, wait_until  # noqa: E402
 from harness.world import World  # noqa: E402
 
@@ -77,16 +77,16 @@ def shows_content(world):
 def open_by_click(world):
     """From the button's release on the clock until the tab's figures are on the screen, in milliseconds."""
     x, y = world.clock().frame.centre
-    world.hands.move(x, y)
-    world.hands.press(LEFT)
+    world.input.move(x, y)
+    world.input.press(LEFT)
     begin = time.monotonic()
-    world.hands.release(LEFT)
+    world.input.release(LEFT)
     wait_until(lambda: shows_content(world), "the figures", every=0.002)
     return (time.monotonic() - begin) * 1000
 
 
 def close(world):
-    world.hands.key("ctrl+w")
+    world.input.key("ctrl+w")
     wait_until(lambda: world.statistics() is None and not shows_content(world), "the window to close")
     # What was shown is destroyed and given back a moment later.
     stays(lambda: world.statistics() is None, "the closed window", 0.5)
@@ -103,11 +103,11 @@ def after_a_write(world):
         return
     written = world.home.data / "today.json"
 
-    def moment():
+    def modified():
         return written.stat().st_mtime_ns if written.exists() else 0
 
-    before = moment()
-    wait_until(lambda: moment() != before, "a periodic write")
+    before = modified()
+    wait_until(lambda: modified() != before, "a periodic write")
     time.sleep(SETTLE_SECONDS)
 
 
@@ -147,7 +147,7 @@ def main():
 
         open_by_click(world)
         for tab in range(TABS, 0, -1):
-            world.hands.key(f"ctrl+{tab}")
+            world.input.key(f"ctrl+{tab}")
             time.sleep(1)
         report.line("private memory, every tab shown", private_megabytes(program), OPEN_MEMORY_LIMIT, "MB")
         close(world)

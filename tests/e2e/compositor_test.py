@@ -35,7 +35,7 @@ class Compositor(unittest.TestCase):
             world.start_compositor()
             world.start_program()
             self.assert_clean(world, "with", shadow=True)
-            world.hands.drag((400, 260), (450, 300))
+            world.input.drag((400, 260), (450, 300))
             wait_until(
                 lambda: (world.home.setting("windowOriginX"), world.home.setting("windowOriginY")) == ("350", "240"),
                 "the place in the settings",

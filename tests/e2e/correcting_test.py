@@ -5,9 +5,9 @@ import unittest
 from contextlib import contextmanager
 
 from harness import worked_days as record
-from harness.hands import RIGHT
 from harness.menu import Menu
 from harness.statistics_window import DETAILS, GOALS, OVERVIEW, TABS, StatisticsWindow
+from harness.user_input import RIGHT
 from harness.waiting import wait_until
 from harness.world import World
 
@@ -63,7 +63,7 @@ class Going(unittest.TestCase):
             window.click("push button", "Día siguiente")
             window.wait_for_text("label", record.short_date())
             # Nor is the window lost by Escape's other meanings: it closes.
-            world.hands.key("Escape")
+            world.input.key("Escape")
             wait_until(lambda: world.statistics() is None, "the window to close")
 
     def test_the_tabulator_goes_through_all_that_can_be_worked_in_the_order_of_reading(self):
@@ -71,7 +71,7 @@ class Going(unittest.TestCase):
             window.select(DETAILS)
             stops = []
             for _ in range(13):
-                world.hands.key("Tab")
+                world.input.key("Tab")
                 stops.append(wait_until(window.focused, "the focus"))
             start = stops.index(("push button", "Día anterior"))
             self.assertEqual(
@@ -105,9 +105,9 @@ class Filtering(unittest.TestCase):
                 window.click("check box", tier)
             window.wait_for(lambda read: rows(read) == ALL_ROWS, "all rows again")
             window.click("text", "buscar")
-            world.hands.type("Navega")
+            world.input.type("Navega")
             window.wait_for(lambda read: rows(read) == [BROWSER_ROW], "the one of that category")
-            world.hands.key("Escape")
+            world.input.key("Escape")
             window.wait_for(lambda read: rows(read) == ALL_ROWS, "all rows after the search")
             self.assertIsNotNone(world.statistics())
 
@@ -122,7 +122,7 @@ class Classes(unittest.TestCase):
     def test_another_category_moves_every_figure_and_the_default_brings_it_back(self):
         with window_open("category") as (world, window):
             icon = wait_until(Menu(world).tray_icon, "the tray icon").frame
-            wait_until(lambda: self.steady(world, icon), "the tray's figure to settle")
+            wait_until(lambda: self.steady(world, icon), "the tray icon to stop changing")
             before = world.screen.grab(icon)
             window.select(DETAILS)
 
@@ -158,9 +158,9 @@ class Classes(unittest.TestCase):
         with window_open("tier") as (world, window):
             window.select(DETAILS)
             window.tab_to("list item", EDITOR_ROW)
-            world.hands.key("Down")
+            world.input.key("Down")
             wait_until(lambda: window.focused() == ("list item", BROWSER_ROW), "the next row")
-            world.hands.key("Menu")
+            world.input.key("Menu")
             menu = Menu(world)
             wait_until(menu.popups, "the menu of the row")
             menu.choose(TIER, NEUTRAL)
@@ -183,11 +183,11 @@ class Goals(unittest.TestCase):
         with window_open("goals") as (world, window):
             window.select(GOALS)
             window.tab_to("spin box", "Horas por día")
-            world.hands.key("Up", "Up", "Up")
+            world.input.key("Up", "Up", "Up")
             self.saved(world, dailyHours=7.5)
             self.assertIn("7.5h", window.tab(GOALS).texts())
             window.wait_for(lambda read: any("/ 7h 30m" in name for name in read.names("progress bar")), "the goal")
-            world.hands.key("Tab", "minus")
+            world.input.key("Tab", "minus")
             self.saved(world, dailyHours=7.5, dailyProductivity=0.75)
             # As a reader steps: by the action.
             window.wait_for_text("spin box", "Horas por semana").act("Increase")
@@ -196,7 +196,7 @@ class Goals(unittest.TestCase):
                 lambda read: read.find("spin box", "Horas por semana")[0].value()[0] == 36, "the value on the bus"
             )
             window.tab_to("check box", "Notificaciones de metas")
-            world.hands.key("space")
+            world.input.key("space")
             self.saved(world, notificationsEnabled=False)
             window.wait_for(
                 lambda read: "checked" not in read.find("check box", "Notificaciones de metas")[0].states,
@@ -209,9 +209,9 @@ class Goals(unittest.TestCase):
             # What lies below is scrolled to first.
             window.tab_to("spin box", "Horas por mes")
             frame = window.wait_for_text("spin box", "Horas por mes").frame()
-            world.hands.click(frame.right - frame.width // 4, frame.centre[1])
+            world.input.click(frame.right - frame.width // 4, frame.centre[1])
             self.saved(world, monthlyHours=145)
-            world.hands.click(frame.x + frame.width // 4, frame.centre[1])
+            world.input.click(frame.x + frame.width // 4, frame.centre[1])
             self.saved(world, monthlyHours=140)
 
     @staticmethod
@@ -228,24 +228,24 @@ class Report(unittest.TestCase):
         with window_open("report") as (world, window):
             window.select(GOALS)
             window.tab_to("push button", "Generar reporte PDF del mes…")
-            world.hands.key("Return")
+            world.input.key("Return")
             dialog = wait_until(lambda: world.screen.window(title="Guardar reporte"), "the dialog")
             wait_until(lambda: world.screen.active_window() == dialog.id, "the dialog's focus")
             path = world.folder / "noviembre.pdf"
-            world.hands.key("ctrl+a")
-            world.hands.type(str(path))
-            world.hands.key("Return")
+            world.input.key("ctrl+a")
+            world.input.type(str(path))
+            world.input.key("Return")
             wait_until(path.exists, "the page")
             self.assertTrue(path.read_bytes().startswith(b"%PDF-"))
-            words = self.told(["pdftotext", "-layout", str(path), "-"])
+            words = self.output(["pdftotext", "-layout", str(path), "-"])
             for expected in ("FATHOM", "Visual Studio Code", "Firefox"):
                 self.assertIn(expected, words)
-            about = self.told(["pdfinfo", str(path)])
+            about = self.output(["pdfinfo", str(path)])
             self.assertRegex(about, r"Pages: +1\b")
             self.assertRegex(about, r"Page size: +612 x 792 pts")
 
     @staticmethod
-    def told(command):
+    def output(command):
         return subprocess.run(command, check=True, capture_output=True, text=True, timeout=20).stdout
 
 

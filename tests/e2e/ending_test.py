@@ -3,7 +3,7 @@
 import signal
 import unittest
 
-from harness.moments import Lapse, Moment
+from harness.timing import Elapsed, EventTime
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
@@ -15,7 +15,7 @@ class Ending(unittest.TestCase):
                 program = world.start_program()
                 sleep_until(program.began.latest + 3)
                 ended = world.stop_program(program, number)
-                Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
+                Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
                 self.assertGreaterEqual(world.home.day_seconds(), 1)
 
     def test_a_signal_while_the_menu_is_open_ends_it_as_well(self):
@@ -36,8 +36,8 @@ class Ending(unittest.TestCase):
             )
             program = world.start_program()
             sleep_until(program.began.latest + 4)
-            lost = Moment.of(lambda: (world.server.kill(), program.wait()))
-            Lapse.between(program.began, lost).assert_counted(world.home.day_seconds())
+            lost = EventTime.of(lambda: (world.server.kill(), program.wait()))
+            Elapsed.between(program.began, lost).assert_counted(world.home.day_seconds())
             # What is set on the way out has no other moment to reach the disk.
             self.assertGreater(int(world.home.setting("gate.workSeconds")), 5)
 

@@ -47,7 +47,7 @@ class Day(unittest.TestCase):
         with running("day") as (world, menu):
             window = exported_day(world, menu)
             world.screenshot("dialog")
-            world.hands.key("Return")
+            world.input.key("Return")
             path = world.home.path / f"tidewatch-{today()}.csv"
             wait_until(path.exists, "the file")
             self.assertEqual(
@@ -61,15 +61,15 @@ class Day(unittest.TestCase):
     def test_it_goes_where_the_user_says_and_gets_its_extension(self):
         with running("elsewhere") as (world, menu):
             exported_day(world, menu)
-            world.hands.key("ctrl+a")
-            world.hands.type(str(world.folder / "mine"))
-            world.hands.key("Return")
+            world.input.key("ctrl+a")
+            world.input.type(str(world.folder / "mine"))
+            world.input.key("Return")
             wait_until((world.folder / "mine.csv").exists, "the file")
 
     def test_escape_writes_nothing(self):
         with running("escape") as (world, menu):
             window = exported_day(world, menu)
-            world.hands.key("Escape")
+            world.input.key("Escape")
             wait_until(lambda: world.screen.window(title=window.title) is None, "the dialog to go")
             self.assertEqual(list(world.home.path.glob("*.csv")), [])
 
@@ -78,11 +78,11 @@ class Day(unittest.TestCase):
             path = world.home.path / f"tidewatch-{today()}.csv"
             path.write_text("old", encoding="utf-8")
             exported_day(world, menu)
-            world.hands.key("Return")
+            world.input.key("Return")
             wait_until(lambda: len(popups(world)) > 1, "the question")
             world.screenshot("question")
             self.assertEqual(path.read_text(encoding="utf-8"), "old")
-            world.hands.key("alt+s")
+            world.input.key("alt+s")
             wait_until(lambda: path.read_text(encoding="utf-8").startswith(HEADER), "the new file")
 
     def test_a_place_that_is_gone_meanwhile_is_told(self):
@@ -91,10 +91,10 @@ class Day(unittest.TestCase):
             documents.mkdir()
             exported_day(world, menu)
             documents.rmdir()
-            world.hands.key("Return")
+            world.input.key("Return")
             dialog(world, FAILED)
             world.screenshot("alert")
-            world.hands.key("Return")
+            world.input.key("Return")
             stays(world.program.is_running, "the program", 0.5)
 
     def test_the_clock_counts_on_while_the_dialog_is_open(self):
@@ -121,17 +121,17 @@ def asked_for_report(world, _=None):
     window = wait_until(world.statistics, "the statistics window")
     wait_until(lambda: world.screen.active_window() == window.id, "the focus")
     # The last thing of the tab of goals is the button that asks for the report.
-    world.hands.key("ctrl+2")
+    world.input.key("ctrl+2")
     time.sleep(0.5)
-    world.hands.key("shift+Tab", "Return")
+    world.input.key("shift+Tab", "Return")
     return dialog(world, "Guardar reporte")
 
 
 def export_project(world, menu):
     menu.open_from_tray()
-    world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Right")
+    world.input.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Right")
     wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
-    world.hands.key("Down", "Down", "Down", "Return")
+    world.input.key("Down", "Down", "Down", "Return")
     return dialog(world, "Exportar proyecto")
 
 
@@ -145,7 +145,7 @@ class Cancelled(unittest.TestCase):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             for ask in (exported_day, export_project, asked_for_report):
                 window = ask(world, menu)
-                world.hands.key("alt+F4" if ask is export_project else "Escape")
+                world.input.key("alt+F4" if ask is export_project else "Escape")
                 wait_until(lambda: world.screen.window(title=window.title) is None, "the dialog to go")
                 stays(lambda: world.screen.window(title=FAILED) is None, "no message", 0.5)
             self.assertEqual(written(world), set())
@@ -164,7 +164,7 @@ class Names(unittest.TestCase):
             world.start_program()
             export_project(world, menu)
             world.screenshot("dialog")
-            world.hands.key("Return")
+            world.input.key("Return")
             wait_until(lambda: written(world), "the file")
             wait_until(lambda: world.screen.window(title="Exportar proyecto") is None, "the dialog to go")
             (path,) = written(world)
@@ -188,7 +188,7 @@ class Project(unittest.TestCase):
     def test_its_whole_history_is_written(self):
         with running("project") as (world, menu):
             export_project(world, menu)
-            world.hands.key("Return")
+            world.input.key("Return")
             path = world.home.path / "tidewatch-Corto.csv"
             wait_until(path.exists, "the file")
             self.assertEqual(
@@ -205,7 +205,7 @@ class Report(unittest.TestCase):
         with running("report") as (world, _):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             asked_for_report(world)
-            world.hands.key("Return")
+            world.input.key("Return")
             path = world.home.path / "fathom-reporte.pdf"
             wait_until(path.exists, "the page")
             said = subprocess.run(["pdfinfo", path], capture_output=True, text=True, check=True).stdout

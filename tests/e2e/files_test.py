@@ -189,7 +189,7 @@ class AtTheStart(unittest.TestCase):
             program = world.start_program()
             write_the_day(world)
             for key in ("ctrl+2", "ctrl+3", "ctrl+4", "ctrl+5", "ctrl+1"):
-                world.hands.key(key)
+                world.input.key(key)
                 time.sleep(0.3)
             stays(program.is_running, "the program", 2)
             world.stop_program(program)

@@ -4,8 +4,8 @@ import os
 import unittest
 from contextlib import contextmanager
 
-from harness.hands import LEFT
 from harness.screen import distance
+from harness.user_input import LEFT
 from harness.waiting import stays, wait_until
 from harness.world import World
 
@@ -36,7 +36,7 @@ def place(world):
     return frame.x, frame.y
 
 
-def told(world):
+def reported(world):
     return world.note.log().split()
 
 
@@ -47,7 +47,7 @@ class Layer(unittest.TestCase):
             note = window(world)
             self.assertTrue(terminal.frame.contains(*note.frame.centre), "the terminal lies elsewhere")
             # Also after it was clicked, where the terminal does not cover it.
-            world.hands.drag((note.frame.centre), (note.frame.centre))
+            world.input.drag((note.frame.centre), (note.frame.centre))
             stacking = world.screen.stacking()
             self.assertLess(stacking.index(note.id), stacking.index(terminal.id))
             self.assertLessEqual(
@@ -65,8 +65,8 @@ class Layer(unittest.TestCase):
             terminal = world.open_terminal()
             note = window(world)
             self.assertFalse(terminal.frame.contains(note.frame.right - 5, note.frame.y + 5))
-            world.hands.click(note.frame.right - 30, note.frame.y + 10, LEFT)
-            wait_until(lambda: "click" in told(world), "the click")
+            world.input.click(note.frame.right - 30, note.frame.y + 10, LEFT)
+            wait_until(lambda: "click" in reported(world), "the click")
             self.assertEqual(world.screen.active_window(), terminal.id)
             stacking = world.screen.stacking()
             self.assertLess(stacking.index(note.id), stacking.index(terminal.id))
@@ -77,12 +77,12 @@ class Gestures(unittest.TestCase):
         with note_on("drag") as world:
             self.assertEqual(place(world), (60, 90))
             self.assertFalse(world.stored.exists())
-            world.hands.drag((200, 200), (450, 350))
+            world.input.drag((200, 200), (450, 350))
             wait_until(lambda: place(world) == (310, 240), "the note at its new place")
-            wait_until(lambda: told(world) == ["place"], "the release")
+            wait_until(lambda: reported(world) == ["place"], "the release")
             self.assertEqual(world.stored.read_text(), "310 240")
-            world.hands.drag((400, 350), (402, 352), steps=2)
-            wait_until(lambda: told(world) == ["place", "place", "click"], "the click")
+            world.input.drag((400, 350), (402, 352), steps=2)
+            wait_until(lambda: reported(world) == ["place", "place", "click"], "the click")
             self.assertEqual(place(world), (310, 240))
 
     def test_it_comes_back_where_it_was_left(self):
@@ -91,9 +91,9 @@ class Gestures(unittest.TestCase):
 
     def test_a_control_in_it_is_worked_and_drags_nothing(self):
         with note_on("control") as world:
-            world.hands.drag((80, 110), (180, 160))
-            wait_until(lambda: told(world) == ["control"], "the control")
-            stays(lambda: place(world) == (60, 90) and told(world) == ["control"], "a note that stays")
+            world.input.drag((80, 110), (180, 160))
+            wait_until(lambda: reported(world) == ["control"], "the control")
+            stays(lambda: place(world) == (60, 90) and reported(world) == ["control"], "a note that stays")
 
 
 class Ground(unittest.TestCase):
@@ -122,9 +122,9 @@ class Ground(unittest.TestCase):
     def test_the_margin_of_the_shadow_is_not_its_surface(self):
         with note_on("margin", stored="500 300", compositor=True) as world:
             wait_until(lambda: place(world) == (500 - SHADOW, 300 - SHADOW), "the note")
-            world.hands.drag((490, 380), (590, 380))
-            stays(lambda: place(world) == (500 - SHADOW, 300 - SHADOW) and not told(world), "a note that stays")
-            world.hands.drag((620, 380), (720, 380))
+            world.input.drag((490, 380), (590, 380))
+            stays(lambda: place(world) == (500 - SHADOW, 300 - SHADOW) and not reported(world), "a note that stays")
+            world.input.drag((620, 380), (720, 380))
             wait_until(lambda: world.stored.read_text() == "600 300", "the place of the panel, not of the margin")
 
 

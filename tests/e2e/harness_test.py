@@ -15,11 +15,11 @@ class Harness(unittest.TestCase):
             self.assertEqual(world.screen.active_window(), terminal.id)
 
             before = world.screen.grab(terminal.frame)
-            world.hands.type("abc")
+            world.input.type("abc")
             wait_until(lambda: difference(before, world.screen.grab(terminal.frame)), "the typed letters")
 
             title_bar = (terminal.frame.x + 100, terminal.frame.y - 8)
-            world.hands.drag(title_bar, (title_bar[0] + 200, title_bar[1] + 100))
+            world.input.drag(title_bar, (title_bar[0] + 200, title_bar[1] + 100))
             moved = wait_until(
                 lambda: self.moved(world, terminal), "the terminal at its new place"
             )

@@ -13,8 +13,8 @@ from harness import menu as rows
 from harness.menu import Menu
 from harness.statistics_window import DETAILS, OVERVIEW, PROJECTS, TABS, TIMESHEET, StatisticsWindow
 from harness.waiting import wait_until
-from harness.world import World
 from harness.worked_days import day_key
+from harness.world import World
 
 TCP_TABLES = ("tcp", "tcp6", "udp", "udp6")
 
@@ -140,11 +140,11 @@ class HostileNames(unittest.TestCase):
     def test_the_menu_and_the_trays_words_ask_nobody_either(self):
         menu = Menu(self.world)
         icon = wait_until(menu.tray_icon, "the tray icon")
-        self.world.hands.move(*icon.frame.centre)
+        self.world.input.move(*icon.frame.centre)
         time.sleep(2)
         self.world.screenshot("tray")
         menu.open_from_tray()
-        self.world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right")
+        self.world.input.key(*["Down"] * (rows.PROJECT + 1), "Right")
         wait_until(lambda: len(menu.popups()) > 1, "the submenu")
         self.world.screenshot("menu")
         menu.close()

@@ -2,8 +2,8 @@
 
 import unittest
 
-from harness.moments import Lapse, Moment
 from harness.screen import difference
+from harness.timing import Elapsed, EventTime
 from harness.world import World, sleep_until
 
 THRESHOLD = 60
@@ -16,7 +16,7 @@ class Idle(unittest.TestCase):
             world.open_terminal("WorkTerm")
             program = world.start_program()
             sleep_until(program.started + 5)
-            last_input = Moment.of(lambda: world.hands.type("the last words"))
+            last_input = EventTime.of(lambda: world.input.type("the last words"))
 
             sleep_until(last_input.latest + THRESHOLD + 6)
             standing = world.screenshot("standing", world.clock().frame)
@@ -25,12 +25,12 @@ class Idle(unittest.TestCase):
                 difference(standing, world.screen.grab(world.clock().frame)), "the clock counted without the user"
             )
 
-            back = Moment.of(lambda: world.hands.type("back again"))
+            back = EventTime.of(lambda: world.input.type("back again"))
             sleep_until(back.latest + 6)
             self.assertIsNotNone(difference(standing, world.screenshot("going", world.clock().frame)))
             ended = world.stop_program(program)
 
-            worked = Lapse.between(program.began, last_input + THRESHOLD) + Lapse.between(back, ended)
+            worked = Elapsed.between(program.began, last_input + THRESHOLD) + Elapsed.between(back, ended)
             worked.assert_counted(world.home.day_seconds())
             worked.assert_counted(world.home.application_seconds("WorkTerm"))
 
@@ -40,9 +40,9 @@ class Idle(unittest.TestCase):
             program = world.start_program()
             for second in range(1, 19):
                 sleep_until(program.began.latest + second)
-                world.hands.move(600 + second, 400)
+                world.input.move(600 + second, 400)
             ended = world.stop_program(program)
-            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
 
 
 if __name__ == "__main__":

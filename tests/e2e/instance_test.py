@@ -5,7 +5,7 @@ import unittest
 
 from harness.home import today
 from harness.menu import Menu
-from harness.moments import Lapse
+from harness.timing import Elapsed
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
@@ -48,14 +48,14 @@ class Restart(unittest.TestCase):
             world.open_terminal("WorkTerm")
             program = world.start_program()
             sleep_until(program.began.latest + 5)
-            first = Lapse.between(program.began, world.stop_program(program))
+            first = Elapsed.between(program.began, world.stop_program(program))
             self.assertEqual(world.home.read("today.json")["2020-02-03"], 77)
             after_first = world.home.read("today.json")[today()]
             first.assert_counted(after_first, before=5000)
 
             program = world.start_program()
             sleep_until(program.began.latest + 5)
-            second = Lapse.between(program.began, world.stop_program(program))
+            second = Elapsed.between(program.began, world.stop_program(program))
             second.assert_counted(world.home.read("today.json")[today()], before=after_first)
             (first + second).assert_counted(world.home.application_seconds("WorkTerm"), before=4000)
 

@@ -70,7 +70,7 @@ class Killing(unittest.TestCase):
             self.assertTrue((self.world.home.data / name).exists(), f"{name} is gone")
         return {name: leaves(self.world.home.read(name)) for name in FILES}
 
-    # The moments
+    # When to kill
 
     def starting(self, program):
         time.sleep(self.random.uniform(0, 1))
@@ -82,9 +82,9 @@ class Killing(unittest.TestCase):
     def writing(self, program):
         """As soon as a file's successor is there, or a moment later."""
         self.wait_for_clock(program)
-        moment = self.random.uniform(0, 0.03)
+        delay = self.random.uniform(0, 0.03)
         wait_until(lambda: list(self.world.home.data.glob("*.tmp")), "a write", every=0)
-        time.sleep(moment)
+        time.sleep(delay)
 
     def wait_for_clock(self, program):
         return wait_until(lambda: self.seconds_on_clock(program), "the clock")
@@ -98,7 +98,7 @@ class Killing(unittest.TestCase):
                 return 3600 * hours + 60 * minutes + seconds
         return None
 
-    # One life
+    # From start to kill
 
     def work_and_kill(self, before, wait_for_the_moment):
         program = self.world.start_program(wait_for_clock=False, environment=self.clock)

@@ -7,13 +7,13 @@ import unittest
 from contextlib import contextmanager
 
 from harness import menu as rows
-from harness.hands import LEFT, RIGHT
 from harness.home import today
 from harness.local_time import now_in, zone_where_it_is
 from harness.menu import Menu
-from harness.moments import Lapse, Moment
 from harness.screen import difference
 from harness.services import register_folder_opener
+from harness.timing import Elapsed, EventTime
+from harness.user_input import LEFT, RIGHT
 from harness.waiting import stays, wait_until
 from harness.world import HEIGHT, WIDTH, World, sleep_until
 
@@ -61,7 +61,7 @@ class Opening(unittest.TestCase):
                 menu.close()
             self.assertEqual(world.screen.active_window(), terminal.id)
             before = world.screen.grab(terminal.frame)
-            world.hands.type("still here")
+            world.input.type("still here")
             wait_until(lambda: difference(before, world.screen.grab(terminal.frame)), "the terminal to take keys")
 
     def test_the_clock_counts_on_while_it_is_open(self):
@@ -72,7 +72,7 @@ class Opening(unittest.TestCase):
             sleep_until(world.program.began.latest + 7)
             menu.close()
             ended = world.stop_program(world.program)
-            Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(world.program.began, ended).assert_counted(world.home.day_seconds())
 
 
 class Keys(unittest.TestCase):
@@ -84,9 +84,9 @@ class Keys(unittest.TestCase):
                 ("ctrl+q", lambda: not world.program.is_running()),
             ):
                 menu.open_from_tray()
-                world.hands.key("Down", "Right")
+                world.input.key("Down", "Right")
                 wait_until(lambda: len(menu.popups()) == 2, "the submenu")
-                world.hands.key(key)
+                world.input.key(key)
                 wait_until(happened, key)
                 wait_until(lambda: not menu.popups(), "the menu to close")
             self.assertEqual(world.program.wait(), 0)
@@ -109,7 +109,7 @@ class Names(unittest.TestCase):
             world.home.write("projects.json", json.dumps({"projects": projects, "activeProjectID": active}))
             world.program = world.start_program()
             menu.open_from_tray()
-            world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right")
+            world.input.key(*["Down"] * (rows.PROJECT + 1), "Right")
             wait_until(lambda: len(menu.popups()) == 2, "the submenu")
             time.sleep(0.5)
             world.screenshot("projects")
@@ -117,27 +117,27 @@ class Names(unittest.TestCase):
             self.assertLess(projects_menu.width, 450)
             self.assertLess(projects_menu.height, 330)
             # The first project has no name; its menu renames it, and so it is a row.
-            world.hands.key("Down", "Right", "Down", "Return")
+            world.input.key("Down", "Right", "Down", "Return")
             dialog = wait_until(lambda: world.screen.window(title="Renombrar proyecto"), "the dialog")
             wait_until(lambda: world.screen.active_window() == dialog.id, "the focus")
-            world.hands.type("Ahora")
+            world.input.type("Ahora")
             world.screenshot("rename")
-            world.hands.key("Return")
+            world.input.key("Return")
             wait_until(lambda: world.home.read("projects.json")["projects"][0]["name"] == "Ahora", "the new name")
             self.delete_the_second(world, menu)
             wait_until(lambda: len(world.home.read("projects.json")["projects"]) == len(names) - 1, "one project less")
 
     def delete_the_second(self, world, menu):
         menu.open_from_tray()
-        world.hands.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Down", "Right")
+        world.input.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Down", "Right")
         wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
-        world.hands.key("Up", "Return")
+        world.input.key("Up", "Return")
         dialog = wait_until(lambda: self.question(world), "the question")
         wait_until(lambda: world.screen.active_window() == dialog.id, "the focus")
         world.screenshot("delete")
         self.assertLess(dialog.frame.width, 450)
         self.assertLess(dialog.frame.height, 260)
-        world.hands.key("Return")
+        world.input.key("Return")
 
     @staticmethod
     def question(world):
@@ -158,7 +158,7 @@ class Choices(unittest.TestCase):
 
     @staticmethod
     def picture_submenu(world, menu):
-        world.hands.key("Down", "Right")
+        world.input.key("Down", "Right")
         wait_until(lambda: len(menu.popups()) == 2, "the submenu")
         time.sleep(0.2)
         world.screenshot("submenu")
@@ -247,7 +247,7 @@ class Commands(unittest.TestCase):
             wait_until(lambda: world.clock() is None, "the clock to hide")
             sleep_until(world.program.began.latest + 5)
             ended = world.stop_program(world.program)
-            Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(world.program.began, ended).assert_counted(world.home.day_seconds())
             world.start_program(wait_for_clock=False)
             wait_until(menu.tray_icon, "the tray icon")
             stays(lambda: world.clock() is None, "the hidden clock", 1)
@@ -260,9 +260,9 @@ class Commands(unittest.TestCase):
             asked = time.monotonic()
             menu.choose(rows.RESET)
             wait_until(lambda: world.home.read("today.json") == {today(): 0}, "the day at 0 on disk")
-            reset = Moment(asked, time.monotonic())
+            reset = EventTime(asked, time.monotonic())
             ended = world.stop_program(world.program)
-            Lapse.between(reset, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(reset, ended).assert_counted(world.home.day_seconds())
             self.assertGreaterEqual(world.home.application_seconds("WorkTerm"), 3)
 
     def test_the_data_file_is_written_and_shown_in_the_file_manager(self):
@@ -294,13 +294,13 @@ class Commands(unittest.TestCase):
         with running("quit") as (world, menu):
             sleep_until(world.program.began.latest + 3)
             menu.open_from_tray()
-            ended = Moment.of(lambda: (menu.choose(rows.QUIT), world.wait_for_end(world.program)))
-            Lapse.between(world.program.began, ended).assert_counted(world.home.day_seconds())
+            ended = EventTime.of(lambda: (menu.choose(rows.QUIT), world.wait_for_end(world.program)))
+            Elapsed.between(world.program.began, ended).assert_counted(world.home.day_seconds())
 
     def test_a_key_equivalent_works_in_the_open_menu(self):
         with running("key") as (world, menu):
             menu.open_from_tray()
-            world.hands.key("ctrl+q")
+            world.input.key("ctrl+q")
             self.assertEqual(world.program.wait(), 0)
 
 

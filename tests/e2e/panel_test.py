@@ -3,8 +3,8 @@
 import time
 import unittest
 
-from harness.hands import LEFT
 from harness.screen import difference
+from harness.user_input import LEFT
 from harness.waiting import stays, wait_until
 from harness.world import HEIGHT, WIDTH, World
 
@@ -36,7 +36,7 @@ class Place(unittest.TestCase):
             program = world.start_program()
             self.assertEqual(place(world), (300, 200))
             grip = (320, 210)
-            world.hands.drag(grip, (grip[0] + 250, grip[1] + 150))
+            world.input.drag(grip, (grip[0] + 250, grip[1] + 150))
             wait_until(lambda: place(world) == (550, 350), "the clock at its new place")
             world.stop_program(program)
             world.start_program()
@@ -48,7 +48,7 @@ class Place(unittest.TestCase):
             world.start_program()
             for spot in ((30, 30), (190, 30), (110, 62), (30, 100), (190, 100)):
                 x, y = place(world)
-                world.hands.drag((x + spot[0], y + spot[1]), (x + spot[0] + 40, y + spot[1] + 20))
+                world.input.drag((x + spot[0], y + spot[1]), (x + spot[0] + 40, y + spot[1] + 20))
                 wait_until(lambda: place(world) == (x + 40, y + 20), f"the clock dragged at {spot}")
 
     def test_a_place_off_the_screen_is_ignored(self):
@@ -66,7 +66,7 @@ class Gestures(unittest.TestCase):
             world.start_program()
             time.sleep(2.5)
             self.assertEqual(world.home.day_seconds(), 0)
-            world.hands.drag((340, 240), (342, 242), steps=2)
+            world.input.drag((340, 240), (342, 242), steps=2)
             wait_until(lambda: world.home.day_seconds() >= 1, "the day on disk")
             self.assertLess(world.home.day_seconds(), 30, "it was only written when its time had come")
             self.assertEqual(place(world), (300, 200))
@@ -76,7 +76,7 @@ class Gestures(unittest.TestCase):
             world.home.write_settings(sizeScale=1.0, windowOriginX=300, windowOriginY=200)
             world.start_program()
             time.sleep(2.5)
-            world.hands.drag((340, 240), (380, 260))
+            world.input.drag((340, 240), (380, 260))
             wait_until(lambda: place(world) == (340, 220), "the clock at its new place")
             stays(lambda: world.home.day_seconds() == 0, "a day not written")
             wait_until(lambda: world.home.setting("windowOriginX") == "340", "the place in the settings")
@@ -89,7 +89,7 @@ class Layer(unittest.TestCase):
             world.start_program()
             terminal = world.open_terminal()
             self.assertTrue(terminal.frame.contains(*world.clock().frame.centre), "the terminal lies elsewhere")
-            world.hands.click(terminal.frame.x + 5, terminal.frame.bottom - 5, LEFT)
+            world.input.click(terminal.frame.x + 5, terminal.frame.bottom - 5, LEFT)
             clock = world.clock()
             self.assertGreater(
                 world.screen.stacking().index(clock.id), world.screen.stacking().index(terminal.id)
@@ -111,11 +111,11 @@ class Layer(unittest.TestCase):
             world.start_program()
             terminal = world.open_terminal()
             x, y = world.clock().frame.centre
-            world.hands.drag((x, y), (x + 40, y + 20))
+            world.input.drag((x, y), (x + 40, y + 20))
             wait_until(lambda: world.clock().frame.centre == (x + 40, y + 20), "the clock where it was dragged")
             self.assertEqual(world.screen.active_window(), terminal.id)
             before = world.screen.grab(terminal.frame)
-            world.hands.type("typed")
+            world.input.type("typed")
             wait_until(lambda: difference(before, world.screen.grab(terminal.frame)), "the typed letters")
 
     def test_a_full_screen_window_covers_it(self):

@@ -249,14 +249,14 @@ class Reading(unittest.TestCase):
                 *((tier, of_tier(applications, tier)) for tier in ("Productivo", "Neutral", "Distrayendo")),
             ]
             named = by_name(applications, record.NAMES)
-            spoken = ", ".join(f"{name} {duration(seconds)}" for name, seconds in sums + named)
+            parts = ", ".join(f"{name} {duration(seconds)}" for name, seconds in sums + named)
             cells = []
             for (its_hour, minute), filled in TODAY.items():
                 if its_hour == number:
                     tier = max(("Productivo", "Neutral", "Distrayendo"), key=lambda tier: of_tier(filled, tier))
                     cells.append(f"{on_clock(number, minute)}, {duration(sum(filled.values()))}, {tier}")
             return [
-                ("list item", f"{on_clock(number)}, {spoken}"),
+                ("list item", f"{on_clock(number)}, {parts}"),
                 *(("label", cell) for cell in cells),
                 *(("label", f"{name}, {duration(seconds)}") for name, seconds in sums),
                 *(("list item", f"{name}, {duration(seconds)}") for name, seconds in named),

@@ -5,7 +5,7 @@ import unittest
 
 from harness.home import today
 from harness.menu import PROJECT, Menu
-from harness.moments import Lapse, Moment
+from harness.timing import Elapsed, EventTime
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
@@ -33,34 +33,34 @@ class Record(unittest.TestCase):
                 "appOverrides": {"FirstTerm": "Desarrollo", "SecondTerm": "Juegos"},
                 "tierOverrides": [],
             }))
-            world.hands.focus(first.id)
+            world.input.focus(first.id)
             program = world.start_program()
             sleep_until(program.began.latest + 10)
-            chosen = Moment.of(lambda: self.activate_the_project(world))
-            world.hands.focus(first.id)
+            chosen = EventTime.of(lambda: self.activate_the_project(world))
+            world.input.focus(first.id)
             sleep_until(program.began.latest + 30)
-            away = Moment.of(lambda: world.hands.focus(second.id))
+            away = EventTime.of(lambda: world.input.focus(second.id))
             sleep_until(away.latest + 15)
-            back = Moment.of(lambda: world.hands.focus(first.id))
+            back = EventTime.of(lambda: world.input.focus(first.id))
             sleep_until(back.latest + 15)
             world.screenshot("after-a-minute")
             ended = world.stop_program(program)
             self.assert_files_agree(world)
             apps = by_application(world.home.read("apps.json"))
-            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
-            Lapse.between(away, back).assert_counted(apps["SecondTerm"])
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(away, back).assert_counted(apps["SecondTerm"])
             tagged = by_application({day: rows[PROJECT_ID] for day, rows in world.home.read("project_time.json").items()})
-            Lapse.between(chosen, ended).assert_counted(sum(tagged.values()))
+            Elapsed.between(chosen, ended).assert_counted(sum(tagged.values()))
 
     def activate_the_project(self, world):
         """Chooses "Activar" with the keyboard."""
         menu = Menu(world)
         menu.open_from_tray()
-        world.hands.key(*["Down"] * (PROJECT + 1))
-        world.hands.key("Right")
-        world.hands.key("Down")
-        world.hands.key("Right")
-        world.hands.key("Return")
+        world.input.key(*["Down"] * (PROJECT + 1))
+        world.input.key("Right")
+        world.input.key("Down")
+        world.input.key("Right")
+        world.input.key("Return")
         wait_until(lambda: world.home.read("projects.json").get("activeProjectID") == PROJECT_ID, "the active project")
 
     def assert_files_agree(self, world):

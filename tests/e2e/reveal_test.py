@@ -28,7 +28,7 @@ class Reveal(unittest.TestCase):
         wait_until(dialogs, "the alert", 20)
         world.screenshot("alert")
         self.assertEqual(world.opened(), [])
-        world.hands.key("Return")
+        world.input.key("Return")
         wait_until(lambda: not dialogs(), "the end of the alert")
 
     def test_the_file_manager_on_the_bus_shows_the_file(self):

@@ -4,7 +4,7 @@ import os
 import time
 import unittest
 
-from harness.moments import Lapse, Moment
+from harness.timing import Elapsed, EventTime
 from harness.waiting import wait_until
 from harness.world import World
 
@@ -16,7 +16,7 @@ class SlowDisk(unittest.TestCase):
     def start(self, world):
         """A program in the middle of its first write; gives it and when the write began."""
         program = world.start_program(environment={"LD_PRELOAD": os.environ["TIDEWATCH_SLOW_DISK"]})
-        began = Moment.of(lambda: wait_until((world.home.data / "today.json.tmp").exists, "the write"))
+        began = EventTime.of(lambda: wait_until((world.home.data / "today.json.tmp").exists, "the write"))
         self.assertFalse((world.home.data / "today.json").exists())
         return program, began.latest
 
@@ -28,7 +28,7 @@ class SlowDisk(unittest.TestCase):
             self.assertEqual(world.home.day_seconds(), BETWEEN_FLUSHES, "not the state of the flush's moment")
             time.sleep(2)
             ended = world.stop_program(program)
-            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
 
     def test_an_end_during_the_write_waits_for_it_and_writes_what_is_newest(self):
         with World("slow-disk-end", tray=False) as world:
@@ -36,7 +36,7 @@ class SlowDisk(unittest.TestCase):
             time.sleep(3)
             ended = world.stop_program(program)
             self.assertGreater(world.home.day_seconds(), BETWEEN_FLUSHES)
-            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
             self.assertEqual(list(world.home.data.glob("*.tmp")), [])
 
 

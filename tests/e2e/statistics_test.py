@@ -5,8 +5,8 @@ import unittest
 from contextlib import contextmanager
 
 from harness import menu as rows
-from harness.hands import LEFT
 from harness.menu import Menu
+from harness.user_input import LEFT
 from harness.waiting import stays, wait_until
 from harness.world import HEIGHT, WIDTH, World
 
@@ -39,15 +39,15 @@ class Opening(unittest.TestCase):
     def test_a_left_click_on_the_tray_icon_opens_it(self):
         with running("tray") as (world, menu):
             icon = wait_until(menu.tray_icon, "the tray icon")
-            world.hands.click(*icon.frame.centre, LEFT)
+            world.input.click(*icon.frame.centre, LEFT)
             opened(world)
             self.assertGreaterEqual(world.home.day_seconds(), 0)
 
     def test_a_click_on_the_clock_opens_it_and_another_closes_it(self):
         with running("clock") as (world, _):
-            world.hands.click(*world.clock().frame.centre, LEFT)
+            world.input.click(*world.clock().frame.centre, LEFT)
             opened(world)
-            world.hands.click(*world.clock().frame.centre, LEFT)
+            world.input.click(*world.clock().frame.centre, LEFT)
             closed(world)
 
     def test_the_menu_and_its_key_open_it(self):
@@ -55,16 +55,16 @@ class Opening(unittest.TestCase):
             menu.open_from_tray()
             menu.choose(rows.STATISTICS)
             opened(world)
-            world.hands.key("ctrl+w")
+            world.input.key("ctrl+w")
             closed(world)
             menu.open_from_tray()
-            world.hands.key("ctrl+e")
+            world.input.key("ctrl+e")
             opened(world)
 
     def test_it_takes_the_focus_from_an_application_that_is_worked_in(self):
         with running("focus") as (world, menu):
             world.open_terminal()
-            world.hands.type("busy")
+            world.input.type("busy")
             second = world.start_program(wait_for_clock=False)
             self.assertEqual(second.wait(), 0)
             window = opened(world)
@@ -83,7 +83,7 @@ class Place(unittest.TestCase):
             world.start_program(wait_for_clock=False).wait()
             window = opened(world)
             self.assertEqual(self.outer(world, window), expected)
-            world.hands.resize(window.id, 830, 570)
+            world.input.resize(window.id, 830, 570)
             wait_until(lambda: world.statistics().frame.width == 830, "the smaller window")
             world.start_program(wait_for_clock=False).wait()
             wait_until(lambda: self.outer(world, world.statistics()) == expected, "the old size and place")
@@ -107,8 +107,8 @@ class Place(unittest.TestCase):
         with running("least") as (world, _):
             world.start_program(wait_for_clock=False).wait()
             window = opened(world)
-            world.hands.focus(window.id)
-            world.hands.resize(window.id, 300, 200)
+            world.input.focus(window.id)
+            world.input.resize(window.id, 300, 200)
             wait_until(lambda: world.statistics().frame.width < 1000, "a smaller window")
             time.sleep(0.3)
             frame = world.statistics().frame
@@ -126,7 +126,7 @@ class Closing(unittest.TestCase):
         with running("close-button") as (world, _):
             world.start_program(wait_for_clock=False).wait()
             window = opened(world)
-            world.hands.key("alt+F4")
+            world.input.key("alt+F4")
             closed(world)
             stays(world.program.is_running, "the program", 1)
             world.start_program(wait_for_clock=False).wait()

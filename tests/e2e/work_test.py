@@ -4,7 +4,7 @@ import time
 import unittest
 
 from harness.screen import difference
-from harness.moments import Lapse, Moment
+from harness.timing import Elapsed, EventTime
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
@@ -29,7 +29,7 @@ class Work(unittest.TestCase):
             ended = world.stop_program(program)
 
             booked = world.home.day_seconds()
-            Lapse.between(program.began, ended).assert_counted(booked)
+            Elapsed.between(program.began, ended).assert_counted(booked)
             self.assertAlmostEqual(world.home.application_seconds("WorkTerm"), booked, delta=1)
             self.assertEqual(world.home.all_application_seconds(), world.home.application_seconds("WorkTerm"))
 
@@ -37,15 +37,15 @@ class Work(unittest.TestCase):
         with World("two-applications") as world:
             first = world.open_terminal("FirstTerm")
             second = world.open_terminal("SecondTerm")
-            world.hands.focus(first.id)
+            world.input.focus(first.id)
             program = world.start_program()
             sleep_until(program.began.latest + 6)
-            change = Moment.of(lambda: world.hands.focus(second.id))
+            change = EventTime.of(lambda: world.input.focus(second.id))
             sleep_until(change.latest + 10)
             ended = world.stop_program(program)
 
-            Lapse.between(program.began, change).assert_counted(world.home.application_seconds("FirstTerm"))
-            Lapse.between(change, ended).assert_counted(world.home.application_seconds("SecondTerm"))
+            Elapsed.between(program.began, change).assert_counted(world.home.application_seconds("FirstTerm"))
+            Elapsed.between(change, ended).assert_counted(world.home.application_seconds("SecondTerm"))
 
     def test_without_any_window_in_front_the_day_grows_alone(self):
         with World("no-application") as world:
@@ -53,7 +53,7 @@ class Work(unittest.TestCase):
             sleep_until(program.began.latest + 4)
             ended = world.stop_program(program)
 
-            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
             self.assertEqual(world.home.all_application_seconds(), 0)
 
     def test_what_is_on_disk_after_half_a_minute_survives_a_kill(self):
@@ -74,7 +74,7 @@ class Work(unittest.TestCase):
     @staticmethod
     def type_until(world, end):
         while time.monotonic() < end:
-            world.hands.type("work ")
+            world.input.type("work ")
             sleep_until(min(end, time.monotonic() + 1))
 
 

@@ -90,9 +90,9 @@ class Studio:
         wait_until(Menu(self.world).tray_icon, "the tray icon")
         self.world.start_program(wait_for_clock=False).wait(5)
         window = wait_until(self.world.statistics, "the statistics window")
-        self.world.hands.focus(window.id)
-        self.world.hands.resize(window.id, *size)
-        self.world.hands.move(5, 5)
+        self.world.input.focus(window.id)
+        self.world.input.resize(window.id, *size)
+        self.world.input.move(5, 5)
         wait_until(lambda: self._shown_at(size), f"a window of {size}")
         return program
 
@@ -101,7 +101,7 @@ class Studio:
         return (frame.width, frame.height) == size
 
     def picture_of_tab(self, tab):
-        self.world.hands.key(f"ctrl+{TABS.index(tab) + 1}")
+        self.world.input.key(f"ctrl+{TABS.index(tab) + 1}")
         time.sleep(1.5)
         return self.world.screen.grab(self.world.statistics().frame)
 
@@ -111,7 +111,7 @@ class Studio:
         menu = Menu(self.world)
         time.sleep(3)
         menu.open_from_clock()
-        self.world.hands.key(*["Down"] * (rows.THEME + 1), "Right")
+        self.world.input.key(*["Down"] * (rows.THEME + 1), "Right")
         wait_until(lambda: len(menu.popups()) == 2, "the themes")
         time.sleep(0.5)
         frames = [popup.frame for popup in menu.popups()]

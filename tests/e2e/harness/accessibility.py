@@ -5,7 +5,7 @@ from dataclasses import dataclass, field
 from gi.repository import Gio, GLib
 
 from harness.screen import Rectangle
-from harness.waiting import PATIENCE, wait_until
+from harness.waiting import DEFAULT_TIMEOUT, wait_until
 
 _ACCESSIBLE = "org.a11y.atspi.Accessible"
 _ROOT = "/org/a11y/atspi/accessible/root"
@@ -178,7 +178,7 @@ class Accessibility:
         return reply.unpack()
 
 
-def wait_for_window(bus, pid, title, condition=lambda window: True, what="the window on the bus", seconds=PATIENCE):
+def wait_for_window(bus, pid, title, condition=lambda window: True, what="the window on the bus", seconds=DEFAULT_TIMEOUT):
     """Waits for the window to satisfy `condition(window)`; the failure shows what was found instead."""
     last = []
 

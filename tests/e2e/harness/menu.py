@@ -2,8 +2,8 @@
 
 import time
 
-from harness.hands import LEFT, RIGHT
 from harness.screen import difference
+from harness.user_input import LEFT, RIGHT
 from harness.waiting import wait_until
 from harness.world import CLOCK_CLASS
 
@@ -46,12 +46,12 @@ class Menu:
 
     def open_from_tray(self, button=RIGHT):
         icon = wait_until(self.tray_icon, "the tray icon")
-        self._world.hands.click(*icon.frame.centre, button)
+        self._world.input.click(*icon.frame.centre, button)
         return self._opened()
 
     def open_from_clock(self):
         clock = wait_until(self._world.clock, "the clock")
-        self._world.hands.click(*clock.frame.centre, RIGHT)
+        self._world.input.click(*clock.frame.centre, RIGHT)
         return self._opened()
 
     def _opened(self):
@@ -63,29 +63,29 @@ class Menu:
         for _ in range(3):
             if not self.popups():
                 return
-            self._world.hands.key("Escape")
+            self._world.input.key("Escape")
             time.sleep(0.2)
         wait_until(lambda: not self.popups(), "the menu to close")
 
     def choose(self, row, inner_row=None):
         """Chooses a row of the open menu, or a row of its submenu, with the keyboard."""
-        hands = self._world.hands
-        hands.key(*["Down"] * (row + 1))
+        user = self._world.input
+        user.key(*["Down"] * (row + 1))
         if inner_row is None:
-            hands.key("Return")
+            user.key("Return")
         else:
             before = len(self.popups())
-            hands.key("Right")
+            user.key("Right")
             wait_until(lambda: len(self.popups()) > before, "the submenu")
             if inner_row:
-                hands.key(*["Down"] * inner_row)
-            hands.key("Return")
+                user.key(*["Down"] * inner_row)
+            user.key("Return")
         wait_until(lambda: not self.popups(), "the menu to close")
 
     def row_frame(self, popup, row):
         """The screen rectangle of a row of the open menu, from its highlight by keyboard."""
         plain = self._world.screen.grab(popup.frame)
-        self._world.hands.key(*["Down"] * (row + 1))
+        self._world.input.key(*["Down"] * (row + 1))
         time.sleep(0.2)
         lit = difference(plain, self._world.screen.grab(popup.frame))
         if lit is None:
@@ -95,4 +95,4 @@ class Menu:
     def click_row(self, popup, row):
         """Chooses a row of the open menu with the mouse."""
         place = self.row_frame(popup, row)
-        self._world.hands.click(*place, LEFT)
+        self._world.input.click(*place, LEFT)

@@ -6,7 +6,7 @@ import signal
 import subprocess
 import time
 
-from harness.waiting import PATIENCE
+from harness.waiting import DEFAULT_TIMEOUT
 
 _libc = ctypes.CDLL(None, use_errno=True)
 _PR_SET_PDEATHSIG = 1
@@ -49,7 +49,7 @@ class Process:
     def send(self, number):
         self._popen.send_signal(number)
 
-    def wait(self, seconds=PATIENCE):
+    def wait(self, seconds=DEFAULT_TIMEOUT):
         """Waits for the exit status; a negative one is the terminating signal."""
         try:
             return self._popen.wait(seconds)

@@ -1,7 +1,7 @@
 """The statistics window, operated by input events and read through the accessibility bus."""
 
 from harness.accessibility import wait_for_window
-from harness.hands import LEFT
+from harness.user_input import LEFT
 from harness.waiting import wait_until
 from harness.world import STATISTICS_TITLE
 
@@ -34,12 +34,12 @@ class StatisticsWindow:
         return self.wait_for(lambda read: read.find("panel", name), f"the tab {name}").find("panel", name)[0]
 
     def select(self, name):
-        self._world.hands.key(f"ctrl+{TABS.index(name) + 1}")
+        self._world.input.key(f"ctrl+{TABS.index(name) + 1}")
         return self.tab(name)
 
     def click(self, role, name, button=LEFT):
         node = self.wait_for_text(role, name)
-        self._world.hands.click(*node.frame().centre, button)
+        self._world.input.click(*node.frame().centre, button)
 
     def focused(self):
         """(role, name) of the focused object, or None."""
@@ -49,7 +49,7 @@ class StatisticsWindow:
     def tab_to(self, role, name):
         """Presses Tab until it is focused."""
         for _ in range(40):
-            self._world.hands.key("Tab")
+            self._world.input.key("Tab")
             if self.focused() == (role, name):
                 return
         raise AssertionError(f"the tabulator does not lead to the {role} {name!r}")

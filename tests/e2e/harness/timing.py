@@ -1,8 +1,7 @@
-"""When something happened and how long it lasted, as precisely as an observer can tell.
+"""When something happened and how long it lasted, as precisely as it can be observed from outside.
 
-On a busy machine there is a delay between what a test requests and what the program does. So a moment is an interval in
-which something happened, and what the program counts is compared with the shortest and the longest time that it can
-have been counting.
+On a busy machine there is a delay between what a test requests and what the program does. So the time of an event is an
+interval, and what the program counts is compared with the shortest and the longest time that it can have been counting.
 """
 
 import time
@@ -12,32 +11,36 @@ EDGE = 2  # seconds: the error of whole-second counting at both ends of an inter
 
 
 @dataclass(frozen=True)
-class Moment:
+class EventTime:
+    """The times of the monotonic clock between which something happened."""
+
     earliest: float
     latest: float
 
     @staticmethod
     def of(action):
-        """The moment of an event caused by `action()`."""
+        """The time of an event caused by `action()`."""
         earliest = time.monotonic()
         action()
-        return Moment(earliest, time.monotonic())
+        return EventTime(earliest, time.monotonic())
 
     def __add__(self, seconds):
-        return Moment(self.earliest + seconds, self.latest + seconds)
+        return EventTime(self.earliest + seconds, self.latest + seconds)
 
 
 @dataclass(frozen=True)
-class Lapse:
+class Elapsed:
+    """The shortest and the longest time between two events, in seconds."""
+
     min: float
     max: float
 
     @staticmethod
     def between(begin, end):
-        return Lapse(end.earliest - begin.latest, end.latest - begin.earliest)
+        return Elapsed(end.earliest - begin.latest, end.latest - begin.earliest)
 
     def __add__(self, other):
-        return Lapse(self.min + other.min, self.max + other.max)
+        return Elapsed(self.min + other.min, self.max + other.max)
 
     def assert_counted(self, seconds, before=0):
         """Fails unless a program counting all the time can have gone from `before` to `seconds`."""

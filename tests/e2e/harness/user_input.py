@@ -3,12 +3,12 @@
 import subprocess
 import time
 
-from harness.waiting import PATIENCE
+from harness.waiting import DEFAULT_TIMEOUT
 
 LEFT, MIDDLE, RIGHT = 1, 2, 3
 
 
-class Hands:
+class UserInput:
     def __init__(self, env):
         self._env = env
 
@@ -17,7 +17,7 @@ class Hands:
             ["xdotool", *(str(argument) for argument in arguments)],
             env=self._env,
             check=True,
-            timeout=PATIENCE,
+            timeout=DEFAULT_TIMEOUT,
             stdin=subprocess.DEVNULL,
         )
 

@@ -7,12 +7,11 @@ class TimeOut(AssertionError):
     """The condition did not become true in time."""
 
 
-# How long something is waited for that is sure to come. No test is about it: a machine may be as slow and as busy
-# as it likes.
-PATIENCE = 120.0
+# In seconds, for what is certain to happen; generous, so that no test fails on a slow or busy machine.
+DEFAULT_TIMEOUT = 120.0
 
 
-def wait_until(condition, what, seconds=PATIENCE, every=0.05):
+def wait_until(condition, what, seconds=DEFAULT_TIMEOUT, every=0.05):
     """Returns the first true result of `condition()`; raises TimeOut, with `what`, after `seconds`."""
     deadline = time.monotonic() + seconds
     while True:

@@ -10,12 +10,12 @@ import tempfile
 import time
 from pathlib import Path
 
-from harness.hands import Hands
 from harness.home import Home
 from harness.local_time import ZONE
-from harness.moments import Moment
 from harness.processes import Process
 from harness.screen import Screen
+from harness.timing import EventTime
+from harness.user_input import UserInput
 from harness.waiting import TimeOut, wait_until
 
 WIDTH, HEIGHT = 1280, 800
@@ -109,11 +109,11 @@ class World:
         self.display = ":" + number
         self.env = self._environment()
         self._screen = Screen(self.display)
-        self.hands = Hands(self.env)
-        self.hands.move(self._size[0] // 2, self._size[1] // 2)
-        # With the first synthetic key the server announces a keyboard, whereupon a window manager lets go of its keys
-        # for a moment and grabs them anew; so that comes before there is one.
-        self.hands.key("shift")
+        self.input = UserInput(self.env)
+        self.input.move(self._size[0] // 2, self._size[1] // 2)
+        # With the first synthetic key the server announces a keyboard, whereupon a window manager releases its
+        # key grabs for a moment; so this is done before there is a window manager.
+        self.input.key("shift")
         root_colour = Process(
             ["xsetroot", "-solid", "#%02x%02x%02x" % BACKGROUND], self.env, self.folder / "xsetroot.log"
         )
@@ -206,7 +206,7 @@ class World:
             "-e", "sh", "-c", "cat > /dev/null",
         )
         window = wait_until(lambda: self.screen.window(window_class=window_class), "the terminal")
-        self.hands.focus(window.id)
+        self.input.focus(window.id)
         return window
 
     # The program
@@ -223,22 +223,22 @@ class World:
             except TimeOut:
                 self._keep_states_of({"program": process, "window-manager": self.window_manager})
                 raise
-            process.began = Moment(process.started, time.monotonic())
+            process.began = EventTime(process.started, time.monotonic())
         return process
 
     def stop_program(self, process, number=signal.SIGTERM):
-        """The orderly end by a signal, when it came; anything but a status of 0 fails."""
+        """Ends a program by a signal and returns the time of its end; anything but a status of 0 fails."""
         process.send(number)
         return self.wait_for_end(process)
 
     @staticmethod
     def wait_for_end(process):
-        """When a program ended that was asked to a moment ago; anything but a status of 0 fails."""
+        """The time of the end of a program that has just been asked to quit; anything but a status of 0 fails."""
         asked = time.monotonic()
         status = process.wait()
         if status != 0:
             raise AssertionError(f"the program ended with {status}")
-        return Moment(asked, time.monotonic())
+        return EventTime(asked, time.monotonic())
 
     def clock(self):
         """The clock's window, or None while it is hidden."""
@@ -285,10 +285,10 @@ class World:
         if self._screen and self.server.is_running():
             try:
                 self.screenshot("failure")
-            except Exception as failure:  # the first failure is the one to be told
+            except Exception as failure:  # the first failure is the one to report
                 print(f"no last screenshot: {failure}")
 
 
-def sleep_until(moment):
-    """`moment` on the monotonic clock."""
-    time.sleep(max(0.0, moment - time.monotonic()))
+def sleep_until(deadline):
+    """`deadline` by the monotonic clock."""
+    time.sleep(max(0.0, deadline - time.monotonic()))
