@@ -1,5 +1,5 @@
-// Paints the clock in every theme at every size, active, idle and opaque, and what lies behind the
-// dashboards, into pictures: clock_gallery FOLDER
+// Paints the clock in every theme at every size, active, idle and opaque, and the dashboards'
+// backgrounds, into pictures: clock_gallery FOLDER
 
 #include <QDir>
 #include <QGuiApplication>
@@ -21,7 +21,7 @@ namespace {
 constexpr int margin = 12;
 constexpr QSize dashboardSize(1360, 900);
 
-/// Something like a desktop's wallpaper, so that translucency and contrast can be judged.
+/// Resembles a desktop wallpaper, to judge translucency and contrast.
 class Wallpaper : public QQuickPaintedItem {
 public:
     using QQuickPaintedItem::QQuickPaintedItem;
@@ -48,7 +48,7 @@ void paintTheme(ClockScene& scene, const Theme& theme, const QDir& folder) {
     }
 }
 
-/// What lies behind the dashboard of a theme.
+/// The background of a theme's dashboard.
 void paintDecoration(const Theme& theme, QQuickItem& decoration, const QDir& folder) {
     QQuickWindow window;
     window.setColor(toQColor(theme.dashboard.bg));

@@ -1,4 +1,4 @@
-// A day that begins at five, from the second that is booked to the tab that shows it.
+// A day that starts at five o'clock, from booking to the tabs.
 
 #include <gmock/gmock.h>
 
@@ -13,8 +13,6 @@ namespace {
 using namespace std::chrono;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
-
-constexpr int timesheetTab = 3;
 
 const DayKey wednesday("2026-01-14");
 const DayKey thursday("2026-01-15");
@@ -129,7 +127,7 @@ TEST_F(DayFromFiveTest, ThePeakHourIsTheOneOnTheClock) {
     EXPECT_EQ(peak.subtitle, "prom. 6 am") << "of two days, at two and at nine";
 }
 
-// Sessions go by the dates that the keys name, and a night is named after the day before.
+// Sessions follow the dates in the keys, and a night belongs to the day before.
 
 TEST_F(DayFromFiveTest, ASessionOfTheNightStandsUnderTheDateOfItsDay) {
     work(at(2026y / 1 / 16, 1h), 1200s);

@@ -1,5 +1,5 @@
-// The figures of the statistics window where they are rounded: printed figures with halves to the even one,
-// as their printed form always does, and only the score itself with halves upward.
+// Rounding in the statistics window: printed figures round half to even, as formatting does; only the score
+// itself rounds half up.
 
 #include <gmock/gmock.h>
 
@@ -13,9 +13,6 @@ namespace tidewatch {
 namespace {
 
 using std::chrono::hours;
-
-constexpr int detailsTab = 2;
-constexpr int projectsTab = 4;
 
 /// Productive and distracting seconds of a day.
 struct Classified {
@@ -61,7 +58,7 @@ struct FiguresTest : testing::Test, StatsWorld {
 constexpr auto green = "#7bd88f";
 constexpr auto red = "#d15757";
 
-/// Two days and what stands beside the ring of the second.
+/// Two days and the comparison shown beside the second one's ring.
 struct Comparison {
     Classified before;
     Classified today;
@@ -117,8 +114,7 @@ TEST_F(FiguresTest, AComparisonWithTheMeanOfTheWeekIsRoundedAndColouredAlike) {
 }
 
 TEST_F(FiguresTest, AYesterdayThatScoredNothingIsComparedWithAllTheSame) {
-    // 0.005, 0.015, 0.025 and 0.145 of a hundred: the last falls short of its half as a number of the
-    // machine.
+    // 0.005, 0.015, 0.025 and 0.145 of a hundred: the last is slightly below the half as a double.
     for (const auto& [productive, figure] : {std::pair(5, "+0%"), {15, "+2%"}, {25, "+2%"}, {145, "+14%"}}) {
         SCOPED_TRACE(productive);
         machine_.clock.advance(hours(24 * 30));

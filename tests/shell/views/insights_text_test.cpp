@@ -1,4 +1,4 @@
-// The tiles of the look back, where there is little to look back on, and the goals at their very mark.
+// The insights' tiles with little data, and goals that are exactly reached.
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,6 @@
 namespace tidewatch {
 namespace {
 
-constexpr int goalsTab = 1;
 constexpr int wholeRecord = 2;
 
 enum Tile { peak, total, mean, best, score, constancy };

@@ -1,4 +1,4 @@
-// The statistics window open while midnight passes.
+// The statistics window while midnight passes.
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ struct MidnightTest : testing::Test, StatsWorld {
 
     void passMidnight() { machine_.mainLoop.runFor(10s); }
 
-    /// What the head says: the day on show, and whether its arrow leads on.
+    /// The header: the selected day, and whether its forward arrow is enabled.
     [[nodiscard]] std::string head() {
         return header_.date().toStdString() + (header_.canGoForward() ? " >" : " |");
     }

@@ -144,7 +144,7 @@ void StatsScene::show(QSize size) {
 }
 
 QQuickItem* StatsScene::item(const QString& name) const {
-    // Along what is seen: the rows of a list are nobody's children but the view's.
+    // By visual parents: the rows of a list have no other parent.
     QList<QQuickItem*> open{view_.get()};
     while (!open.isEmpty()) {
         auto* found = open.takeFirst();
@@ -155,7 +155,7 @@ QQuickItem* StatsScene::item(const QString& name) const {
 }
 
 QImage StatsScene::picture() {
-    // What was laid out anew by one turn of the loop may lead to another.
+    // One layout may cause another.
     for (int turn = 0; turn < 3; ++turn) QCoreApplication::processEvents();
     return window_.grabWindow();
 }

@@ -18,6 +18,13 @@
 
 namespace tidewatch {
 
+/// The indexes of the statistics window's tabs.
+inline constexpr int overviewTab = 0;
+inline constexpr int goalsTab = 1;
+inline constexpr int detailsTab = 2;
+inline constexpr int timesheetTab = 3;
+inline constexpr int projectsTab = 4;
+
 /// The statistics window's models on a fake machine; initially nothing is booked.
 class StatsWorld {
 public:
@@ -29,8 +36,7 @@ public:
     /// The same in the project's time.
     void bookProject(const Uuid& project, const char* app, const DayKey& day, std::int64_t seconds);
 
-    /// Some weeks of believable work that end today, Thursday the 15th of January, in the
-    /// afternoon.
+    /// Some weeks of realistic work until the afternoon of today, Thursday the 15th of January.
     void bookBelievableWork();
 
     /// Announces that the window is about to be shown.
@@ -42,7 +48,7 @@ public:
     Services services_{machine_.platform};
     ThemeController& theme_ = services_.theme;
     int reportsAsked_ = 0;
-    std::vector<std::string> menusAsked_;  ///< the applications whose menus were asked for
+    std::vector<std::string> menusAsked_;  ///< the applications whose menus were requested
     Statistics statistics_;
     StatsPresenter& presenter_ = statistics_.presenter();
     Dashboard& dashboard_ = statistics_.dashboard();
