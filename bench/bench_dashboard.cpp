@@ -5,6 +5,7 @@
 #include "analysis/insights_engine.h"
 #include "bench/support/bench_world.h"
 #include "bench/support/ratio.h"
+#include "classification/classification.h"
 #include "platform/fake/fake_time_zone.h"
 
 int main() {
@@ -15,18 +16,18 @@ int main() {
     BenchWorld world(record);
     world.clock.setZone(platform::madridZone());
     const BenchStores stores(world);
-    const CategoryStore categories(world.files, world.log, world.applications);
-    const AppInfoResolver appInfo(world.applications);
-    const ProductivityScorer scorer(stores.apps, categories);
+    const Classification classification(
+        {.files = world.files, .log = world.log, .applications = world.applications, .apps = stores.apps});
     const Broadcaster broadcaster;
     ProjectStore projects(world.files, world.log, world.randomness, broadcaster);
     projects.addProject("Casa");
 
     world.clock.setNow(std::chrono::sys_days(std::chrono::December / 19 / 2025) + std::chrono::hours(18));
-    DashboardModel dashboard({world.clock, world.loop, stores.daily, stores.apps, stores.hours,
-                              stores.minutes, stores.keys, categories, scorer, projects, stores.times,
-                              appInfo});
-    const InsightsEngine insights(world.clock, stores.daily, stores.hours, stores.minutes, categories);
+    DashboardModel dashboard({world.clock, world.loop, stores.days, stores.apps, stores.hours, stores.minutes,
+                              stores.keys, classification.categories, classification.scorer, projects,
+                              stores.times, classification.appInfo});
+    const InsightsEngine insights(world.clock, stores.days, stores.hours, stores.minutes,
+                                  classification.categories);
 
     Verdicts verdicts;
     verdicts.computation(

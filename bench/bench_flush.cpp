@@ -65,7 +65,7 @@ struct FlushBench {
     BenchWorld world{makeLargeRecord({})};
     BenchStores stores{world};
     SerialQueue disk{[this](JobQueue::Job job) { world.loop.post(std::move(job)); }};
-    const std::vector<std::string> paths{stores.daily.dataFilePath(), stores.apps.dataFilePath(),
+    const std::vector<std::string> paths{stores.days.dataFilePath(), stores.apps.dataFilePath(),
                                          stores.hours.dataFilePath(), stores.minutes.dataFilePath(),
                                          stores.times.dataFilePath()};
 };
@@ -96,7 +96,7 @@ void expectLastStateOnDisk(FlushBench& bench) {
     const auto written = bench.contents();
     BenchStores next(bench.world);
     const auto today = next.dayRule.today();
-    if (next.daily.seconds(today) != bench.stores.daily.seconds(today)) giveUp("a flush lost seconds");
+    if (next.days.seconds(today) != bench.stores.days.seconds(today)) giveUp("a flush lost seconds");
     next.flush();
     if (bench.contents() != written) giveUp("a flush wrote something else");
 }

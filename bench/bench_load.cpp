@@ -46,7 +46,7 @@ void measure(int years, Verdicts& verdicts) {
             stores.emplace(world);
         },
         maxMillisecondsPerMegabyte * onDisk);
-    if (stores->daily.allDays().size() != static_cast<std::size_t>(years * size.daysPerYear)) {
+    if (stores->days.allDays().size() != static_cast<std::size_t>(years * size.daysPerYear)) {
         giveUp("the record was not loaded");
     }
     stores.reset();

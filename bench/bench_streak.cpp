@@ -3,14 +3,11 @@
 #include <array>
 #include <string_view>
 
-#include "analysis/goal_evaluator.h"
-#include "analysis/goal_store.h"
-#include "analysis/reward_engine.h"
+#include "analysis/goal_tracking.h"
 #include "base/calendar_day.h"
 #include "bench/support/bench_world.h"
 #include "bench/support/ratio.h"
-#include "classification/category_store.h"
-#include "classification/productivity_score.h"
+#include "classification/classification.h"
 
 namespace {
 
@@ -34,27 +31,18 @@ void fillGaps(LargeRecord& record, const std::vector<AppSeconds>& fullDay) {
     }
 }
 
-struct Fixture {
+struct Fixture : BenchStores, Classification {
     explicit Fixture(BenchWorld& world)
-        : settings(world.preferences),
-          dayRule(world.clock, settings),
-          daily(world.files, world.log, dayRule),
-          apps(world.files, world.log, world.frontmost),
-          categories(world.files, world.log, world.applications),
-          scorer(apps, categories),
-          goals(world.files, world.log),
-          evaluator(world.clock, goals, daily, scorer),
-          rewards(world.clock, goals, daily, scorer, evaluator) {}
+        : BenchStores(world),
+          Classification(
+              {.files = world.files, .log = world.log, .applications = world.applications, .apps = apps}),
+          goals({.clock = world.clock,
+                 .files = world.files,
+                 .log = world.log,
+                 .days = days,
+                 .scorer = scorer}) {}
 
-    Settings settings;
-    DayRule dayRule;
-    DailyStore daily;
-    AppUsageStore apps;
-    CategoryStore categories;
-    ProductivityScorer scorer;
-    GoalStore goals;
-    GoalEvaluator evaluator;
-    RewardEngine rewards;
+    GoalTracking goals;
 };
 
 std::vector<AppSeconds> everyApplication(const LargeRecord& record) {
@@ -82,7 +70,8 @@ int main() {
     verdicts.computation(
         "streak of 400 days, ten years",
         [&] {
-            if (fixture.rewards.currentStreak() != daysThatCount) giveUp("the streak is not the longest");
+            if (fixture.goals.rewards.currentStreak() != daysThatCount)
+                giveUp("the streak is not the longest");
         },
         10);
     return verdicts.exitCode();

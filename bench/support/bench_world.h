@@ -8,16 +8,8 @@
 
 #include "base/serial_queue.h"
 #include "bench/support/large_record.h"
-#include "core/app_usage_store.h"
 #include "core/broadcaster.h"
-#include "core/clock_keys.h"
-#include "core/daily_store.h"
-#include "core/day_rule.h"
-#include "core/hourly_store.h"
-#include "core/idle_monitor.h"
-#include "core/minute_store.h"
-#include "core/settings.h"
-#include "core/timer_engine.h"
+#include "core/counting.h"
 #include "platform/fake/fake_applications.h"
 #include "platform/fake/fake_clock.h"
 #include "platform/fake/fake_frontmost_application.h"
@@ -62,21 +54,20 @@ struct BenchWorld {
 };
 
 /// All stores, loaded.
-struct BenchStores {
+struct BenchStores : Counting {
     explicit BenchStores(BenchWorld& world)
-        : settings(world.preferences),
-          dayRule(world.clock, settings),
-          keys(world.clock, settings, dayRule),
-          daily(world.files, world.log, dayRule),
-          apps(world.files, world.log, world.frontmost),
-          hours(world.files, world.log, world.frontmost),
-          minutes(world.files, world.log, world.frontmost),
+        : Counting({.clock = world.clock,
+                    .files = world.files,
+                    .log = world.log,
+                    .preferences = world.preferences,
+                    .inputActivity = world.input,
+                    .frontmost = world.frontmost}),
           times(world.files, world.log, world.frontmost) {}
 
     /// Books one second everywhere, as a tick does.
     void bookSecond(const platform::Clock& clock) {
         const auto today = dayRule.today();
-        daily.set(daily.seconds(today) + Seconds(1), today);
+        days.set(days.seconds(today) + Seconds(1), today);
         apps.incrementCurrentApp(today);
         hours.incrementCurrentApp(keys.hourKey(clock.now()));
         minutes.incrementCurrentApp(keys.bucketKey(clock.now()));
@@ -84,7 +75,7 @@ struct BenchStores {
     }
 
     void flush() {
-        daily.flush();
+        days.flush();
         apps.flush();
         hours.flush();
         minutes.flush();
@@ -92,20 +83,13 @@ struct BenchStores {
     }
 
     void flushOn(JobQueue& queue) {
-        daily.flushOn(queue);
+        days.flushOn(queue);
         apps.flushOn(queue);
         hours.flushOn(queue);
         minutes.flushOn(queue);
         times.flushOn(queue);
     }
 
-    Settings settings;
-    DayRule dayRule;
-    ClockKeys keys;
-    DailyStore daily;
-    AppUsageStore apps;
-    HourlyStore hours;
-    MinuteStore minutes;
     ProjectTimeStore times;
 };
 
@@ -114,16 +98,14 @@ struct BenchCore : BenchStores {
     explicit BenchCore(BenchWorld& world)
         : BenchStores(world),
           loop(world.loop),
-          idleMonitor(world.input),
           projects(world.files, world.log, world.randomness, broadcaster),
           booking(projects, times),
-          engine(world.clock, world.loop, settings, idleMonitor, keys, {daily, apps, hours, minutes}, disk,
+          engine(world.clock, world.loop, settings, idleMonitor, keys, stores(), disk,
                  {nullptr, nullptr, &booking}) {
         projects.setActive(projectId(0));
     }
 
     platform::FakeMainLoop& loop;
-    IdleMonitor idleMonitor;
     Broadcaster broadcaster;
     ProjectStore projects;
     ActiveProjectBooking booking;

@@ -5,13 +5,13 @@
 #include <array>
 #include <chrono>
 #include <fstream>
-#include <random>
 #include <stdexcept>
 #include <string_view>
 #include <vector>
 
 #include "core/clock_keys.h"
 #include "core/counter_json.h"
+#include "tools/support/random.h"
 
 namespace tidewatch::bench {
 namespace {
@@ -59,10 +59,10 @@ public:
 private:
     void makeDay(const std::string& day) {
         for (int bucket = 0; bucket < size_.bucketsPerDay; ++bucket) {
-            const auto several = between(size_.minPerBucket, size_.maxPerBucket);
+            const auto several = random_.between(size_.minPerBucket, size_.maxPerBucket);
             int left = bucketSeconds;
             for (int i = 0; i < several; ++i) {
-                const int share = i + 1 == several ? left : between(0, left / 2);
+                const int share = i + 1 == several ? left : random_.between(0, left / 2);
                 if (share > 0) book(day, bucket, names_[favourite()], share);
                 left -= share;
             }
@@ -88,17 +88,12 @@ private:
 
     // Some applications are used all day long, most of them rarely.
     std::size_t favourite() {
-        const auto any = static_cast<std::size_t>(between(0, size_.applications - 1));
-        return std::min(any, static_cast<std::size_t>(between(0, size_.applications - 1)));
-    }
-
-    // Not std::uniform_int_distribution, whose numbers differ between libraries.
-    int between(int low, int high) {
-        return low + static_cast<int>(random_() % static_cast<std::uint32_t>(high - low + 1));
+        const auto any = static_cast<std::size_t>(random_.between(0, size_.applications - 1));
+        return std::min(any, static_cast<std::size_t>(random_.between(0, size_.applications - 1)));
     }
 
     const RecordSize& size_;
-    std::mt19937 random_;
+    Random random_;
     const std::vector<std::string> names_;
     LargeRecord record_;
 };

@@ -8,7 +8,7 @@
 namespace tidewatch {
 
 /// The classification of counted seconds, built together. Main thread only.
-struct Classification final {
+struct Classification {
     /// All of it must outlive the bundle.
     struct Dependencies {
         platform::FileSystem& files;

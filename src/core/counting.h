@@ -13,7 +13,7 @@
 namespace tidewatch {
 
 /// The settings, the day rule and the four counter stores, built together. Main thread only.
-struct Counting final {
+struct Counting {
     /// All of it must outlive the bundle.
     struct Dependencies {
         const platform::Clock& clock;

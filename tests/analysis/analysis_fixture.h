@@ -2,16 +2,10 @@
 
 #include <string>
 
-#include "analysis/goal_evaluator.h"
-#include "analysis/goal_store.h"
-#include "analysis/reward_engine.h"
+#include "analysis/goal_tracking.h"
 #include "base/calendar_day.h"
-#include "classification/category_store.h"
-#include "classification/productivity_score.h"
-#include "core/app_usage_store.h"
-#include "core/daily_store.h"
-#include "core/day_rule.h"
-#include "core/settings.h"
+#include "classification/classification.h"
+#include "tests/support/core_fixture.h"
 #include "tests/support/fake_world.h"
 
 namespace tidewatch::test {
@@ -19,29 +13,20 @@ namespace tidewatch::test {
 inline const std::string goalsJson = "/home/user/.tidewatch/goals.json";
 
 /// Goals, rewards and what they depend on, in a fake world.
-struct AnalysisFixture {
+struct AnalysisFixture : Counting, Classification {
     explicit AnalysisFixture(FakeWorld& world)
-        : settings(world.preferences),
-          dayRule(world.clock, settings),
-          daily(world.files, world.log, dayRule),
-          apps(world.files, world.log, world.frontmost),
-          categories(world.files, world.log, world.applications),
-          scorer(apps, categories),
-          goals(world.files, world.log),
-          evaluator(world.clock, goals, daily, scorer),
-          rewards(world.clock, goals, daily, scorer, evaluator) {}
+        : Counting(countingDependencies(world)),
+          Classification(
+              {.files = world.files, .log = world.log, .applications = world.applications, .apps = apps}),
+          goals({.clock = world.clock,
+                 .files = world.files,
+                 .log = world.log,
+                 .days = days,
+                 .scorer = scorer}) {}
 
-    Settings settings;
-    DayRule dayRule;
-    DailyStore daily;
-    AppUsageStore apps;
-    CategoryStore categories;
-    ProductivityScorer scorer;
-    GoalStore goals;
-    GoalEvaluator evaluator;
-    RewardEngine rewards;
+    GoalTracking goals;
 
-    void setTime(const DayKey& day, int seconds) { daily.set(Seconds(seconds), day); }
+    void setTime(const DayKey& day, int seconds) { days.set(Seconds(seconds), day); }
     void setTime(std::chrono::year_month_day day, int seconds) { setTime(toDayKey(day), seconds); }
 
     /// Books seconds to applications of these tiers.

@@ -29,7 +29,7 @@ struct DashboardFixture : ClassificationFixture {
     platform::MainLoop& mainLoop;
 
     [[nodiscard]] DashboardModel::Sources sources() const {
-        return {clock, mainLoop,   daily,  apps,     hours,       minutes,
+        return {clock, mainLoop,   days,   apps,     hours,       minutes,
                 keys,  categories, scorer, projects, projectTime, appInfo};
     }
 };

@@ -94,7 +94,7 @@ TEST_F(DashboardModelTest, EveryAssignmentIsAnnouncedWhetherItDiffersOrNot) {
 
 TEST_F(DashboardModelTest, ADayWithoutDataEndsEmptyWithTheMeanOfTheDaysBeforeIt) {
     book(editor, "2026-01-14", 60);
-    fixture_.daily.set(Seconds(60), DayKey("2026-01-14"));
+    fixture_.days.set(Seconds(60), DayKey("2026-01-14"));
     model_.reload();
     EXPECT_THAT(model_.allDayApps(), IsEmpty());
     EXPECT_THAT(model_.hourGroups(), IsEmpty());

@@ -13,7 +13,7 @@ using testing::SizeIs;
 
 TEST_F(DashboardModelTest, ADayWithoutProjectTimeIsOneUntaggedRow) {
     fixture_.projects.addProject("Casa");
-    fixture_.daily.set(Seconds(100), DayKey("2026-01-15"));
+    fixture_.days.set(Seconds(100), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(model_.projectRows(),
                 ElementsAre(ProjectRow{"__untagged__", std::nullopt, Seconds(100), {}}));
@@ -22,10 +22,10 @@ TEST_F(DashboardModelTest, ADayWithoutProjectTimeIsOneUntaggedRow) {
 TEST_F(DashboardModelTest, ProjectTimeBeyondTheDaysTotalLeavesNoUntaggedRow) {
     const auto casa = fixture_.projects.addProject("Casa");
     bookProject(casa, editor, "2026-01-15", 10);
-    fixture_.daily.set(Seconds(9), DayKey("2026-01-15"));
+    fixture_.days.set(Seconds(9), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("Casa 10"));
-    fixture_.daily.set(Seconds(10), DayKey("2026-01-15"));
+    fixture_.days.set(Seconds(10), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("Casa 10"));
 }
@@ -46,7 +46,7 @@ TEST_F(DashboardModelTest, TheTimeOfAnArchivedProjectLandsInTheRest) {
     const auto old = fixture_.projects.addProject("Viejo");
     bookProject(casa, editor, "2026-01-15", 10);
     bookProject(old, editor, "2026-01-15", 50);
-    fixture_.daily.set(Seconds(70), DayKey("2026-01-15"));
+    fixture_.days.set(Seconds(70), DayKey("2026-01-15"));
     fixture_.projects.setArchived(ProjectStore::Archived::yes, old.id);
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("__untagged__ 60", "Casa 10"));
@@ -72,13 +72,13 @@ TEST_F(DashboardModelTest, EqualRowsKeepTheOrderOfTheProjectsAndTheRestComesAfte
     bookProject(c, editor, "2026-01-15", 20);
     bookProject(b, editor, "2026-01-15", 10);
     bookProject(a, editor, "2026-01-15", 10);
-    fixture_.daily.set(Seconds(50), DayKey("2026-01-15"));
+    fixture_.days.set(Seconds(50), DayKey("2026-01-15"));
     model_.reload();
     EXPECT_THAT(rowsOfProjects(), ElementsAre("C 20", "A 10", "B 10", "__untagged__ 10"));
 }
 
 TEST_F(DashboardModelTest, TheScoreAndTheDaysTotalNeedNotAgree) {
-    fixture_.daily.set(Seconds(1000), DayKey("2026-01-15"));
+    fixture_.days.set(Seconds(1000), DayKey("2026-01-15"));
     book(editor, "2026-01-15", 60);
     model_.reload();
     EXPECT_EQ(model_.totalActiveToday(), Seconds(60));

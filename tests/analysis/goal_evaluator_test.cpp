@@ -21,11 +21,11 @@ std::vector<std::string> texts(const std::vector<DayKey>& keys) {
 
 class GoalEvaluatorTest : public testing::Test {
 protected:
-    void setGoals(const GoalSettings& goals) { fixture_.goals.setSettings(goals); }
+    void setGoals(const GoalSettings& goals) { fixture_.goals.store.setSettings(goals); }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
     test::AnalysisFixture fixture_{world_};
-    const GoalEvaluator& evaluator_ = fixture_.evaluator;
+    const GoalEvaluator& evaluator_ = fixture_.goals.evaluator;
 };
 
 TEST_F(GoalEvaluatorTest, OnAMondayTheWeekHasOneDayOnASundaySeven) {
@@ -131,7 +131,7 @@ TEST_F(GoalEvaluatorTest, ASumTakesAbsentDaysAsZero) {
     const std::vector days{DayKey("2026-01-13"), DayKey("2026-01-14"), DayKey("no day")};
     EXPECT_EQ(evaluator_.sumSeconds(days), Seconds(5));
     EXPECT_EQ(evaluator_.sumSeconds({}), Seconds(0));
-    EXPECT_EQ(fixture_.daily.allDays().size(), 1u) << "asking made a day";
+    EXPECT_EQ(fixture_.days.allDays().size(), 1u) << "asking made a day";
 }
 
 TEST_F(GoalEvaluatorTest, NewGoalsTakeEffectAtOnce) {

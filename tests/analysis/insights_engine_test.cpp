@@ -20,7 +20,7 @@ constexpr auto music = "com.spotify.client";    // neutral
 
 class InsightsEngineTest : public testing::Test {
 protected:
-    void day(const char* key, int seconds) { fixture_.daily.set(Seconds(seconds), DayKey(key)); }
+    void day(const char* key, int seconds) { fixture_.days.set(Seconds(seconds), DayKey(key)); }
     void hour(const char* key, int seconds, const char* app = music) {
         for (int i = 0; i < seconds; ++i) fixture_.hours.incrementApp(AppId(app), HourKey(key));
     }
@@ -31,7 +31,7 @@ protected:
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
     test::ClassificationFixture fixture_{world_};
-    const InsightsEngine engine_{world_.clock, fixture_.daily, fixture_.hours, fixture_.minutes,
+    const InsightsEngine engine_{world_.clock, fixture_.days, fixture_.hours, fixture_.minutes,
                                  fixture_.categories};
 };
 
@@ -242,7 +242,7 @@ TEST_F(InsightsEngineTest, ABucketKeyWithoutABlankIsADayAndThenNoDate) {
 TEST_F(InsightsEngineTest, AnHourThatTheClockSkipsDoesNotInterruptASession) {
     world_.clock.setZone(platform::madridZone());
     world_.clock.setNow(utc(2026y / 3 / 29, 12h));
-    const InsightsEngine engine(world_.clock, fixture_.daily, fixture_.hours, fixture_.minutes,
+    const InsightsEngine engine(world_.clock, fixture_.days, fixture_.hours, fixture_.minutes,
                                 fixture_.categories);
     bucket("2026-03-29 01:50", 600);
     bucket("2026-03-29 03:00", 600);
@@ -254,7 +254,7 @@ TEST_F(InsightsEngineTest, AnHourThatTheClockSkipsDoesNotInterruptASession) {
 TEST_F(InsightsEngineTest, TheWeekKeepsItsDaysWhenTheClockChanges) {
     world_.clock.setZone(platform::madridZone());
     world_.clock.setNow(utc(2026y / 3 / 30, 22h + 30min));  // half past midnight on the 31st
-    const InsightsEngine engine(world_.clock, fixture_.daily, fixture_.hours, fixture_.minutes,
+    const InsightsEngine engine(world_.clock, fixture_.days, fixture_.hours, fixture_.minutes,
                                 fixture_.categories);
     day("2026-03-24", 1000);
     day("2026-03-25", 100);

@@ -1,5 +1,5 @@
-// The engine against a slow computation on maps of texts that is plainly right, over random records with the
-// nights in which the clock changes.
+// The engine compared with a slow but simple computation on maps of strings, over random records that include
+// clock changes.
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -16,8 +16,8 @@
 
 #include "analysis/insights_engine.h"
 #include "platform/fake/fake_time_zone.h"
-#include "tests/support/chance.h"
 #include "tests/support/classification_fixture.h"
+#include "tools/support/random.h"
 
 namespace tidewatch {
 namespace {
@@ -57,7 +57,7 @@ std::string described(const Insights& insights) {
     return text;
 }
 
-// When a clock shows what, for some weeks around a moment.
+// The local times of some weeks around an instant.
 struct Almanac {
     Almanac(Instant now, const platform::TimeZone& zone) {
         const auto first = floor<minutes>(now) - floor<minutes>(now).time_since_epoch() % 5min;
@@ -88,7 +88,7 @@ std::vector<Place> places() {
     };
 }
 
-// A record of some weeks around a moment, as maps of texts.
+// A record of some weeks around an instant, as maps of strings.
 struct Record {
     Counters days;
     NestedCounters hours;
@@ -98,13 +98,13 @@ struct Record {
 class RecordMaker final {
 public:
     RecordMaker(unsigned seed, const Place& place)
-        : chance_(seed), now_(place.now), zone_(*place.zone), oddDay_(place.oddDay) {}
+        : random_(seed), now_(place.now), zone_(*place.zone), oddDay_(place.oddDay) {}
 
     Record make() {
-        for (auto at = now_ - std::chrono::days(chance_.between(1, 45)); at < now_ + std::chrono::days(2);
+        for (auto at = now_ - std::chrono::days(random_.between(1, 45)); at < now_ + std::chrono::days(2);
              at += 10min) {
-            if (chance_.onceIn(40)) working_ = !working_;
-            if (working_ || chance_.onceIn(20)) book(at);
+            if (random_.onceIn(40)) working_ = !working_;
+            if (working_ || random_.onceIn(20)) book(at);
         }
         addOddities();
         return record_;
@@ -119,8 +119,8 @@ private:
         const auto day = dayText(at, zone_);
         auto bucket = timeText(at, zone_);
         bucket.back() = '0';
-        const std::string app = chance_.oneOf(apps);
-        const int seconds = chance_.oneOf(counts);
+        const std::string app = random_.oneOf(apps);
+        const int seconds = random_.oneOf(counts);
         record_.days[day] += seconds;
         record_.hours[bucket.substr(0, 13)][app] += seconds;
         record_.minutes[bucket][app] += seconds;
@@ -131,17 +131,17 @@ private:
         constexpr std::array minutes{"{}", "{} 24:00", "{} 1:00", "x{}", "{} 02:30", "{} 02:40", "{} 02:50"};
         const auto key = [&](const char* shape) { return fmt::format(fmt::runtime(shape), oddDay_); };
         for (const auto* shape : hours) {
-            if (chance_.onceIn(3)) record_.hours[key(shape)]["com.apple.dt.Xcode"] = chance_.between(0, 5000);
+            if (random_.onceIn(3)) record_.hours[key(shape)]["com.apple.dt.Xcode"] = random_.between(0, 5000);
         }
         for (const auto* shape : minutes) {
-            if (chance_.onceIn(3))
-                record_.minutes[key(shape)]["com.apple.dt.Xcode"] = chance_.between(200, 700);
+            if (random_.onceIn(3))
+                record_.minutes[key(shape)]["com.apple.dt.Xcode"] = random_.between(200, 700);
         }
-        if (chance_.onceIn(5)) record_.minutes["2026-02-30 10:00"]["com.spotify.client"] = 600;
-        if (chance_.onceIn(5)) record_.days["nunca"] = chance_.between(0, 90);
+        if (random_.onceIn(5)) record_.minutes["2026-02-30 10:00"]["com.spotify.client"] = 600;
+        if (random_.onceIn(5)) record_.days["nunca"] = random_.between(0, 90);
     }
 
-    test::Chance chance_;
+    Random random_;
     const Instant now_;
     const platform::TimeZone& zone_;
     const std::string oddDay_;
@@ -165,7 +165,7 @@ std::string jsonOf(const NestedCounters& counters) {
     return text + "}";
 }
 
-// The definitions, one after the other, as plainly as can be.
+// Each definition in its simplest form.
 class SlowInsights final {
 public:
     SlowInsights(const Record& record, const CategoryStore& categories, const Almanac& almanac,
@@ -311,7 +311,7 @@ TEST(InsightsPropertyTest, AgreesWithASlowImplementation) {
         test::ClassificationFixture fixture(world);
         if (seed % 3 == 0) fixture.categories.setCategory(Category::games, AppId("org.example.Unknown"));
         if (seed % 4 == 0) fixture.categories.setTier(Tier::distracting, Category::design);
-        const InsightsEngine engine(world.clock, fixture.daily, fixture.hours, fixture.minutes,
+        const InsightsEngine engine(world.clock, fixture.days, fixture.hours, fixture.minutes,
                                     fixture.categories);
         SlowInsights slow(record, fixture.categories, almanacs[seed % all.size()],
                           dayText(place.now, *place.zone));

@@ -19,8 +19,8 @@ using testing::SizeIs;
 class ReportDataTest : public testing::Test {
 protected:
     [[nodiscard]] ReportData build() const {
-        return buildReportData({world_.clock, fixture_.daily, fixture_.apps, appInfo_, fixture_.scorer,
-                                fixture_.evaluator, fixture_.rewards});
+        return buildReportData({world_.clock, fixture_.days, fixture_.apps, appInfo_, fixture_.scorer,
+                                fixture_.goals.evaluator, fixture_.goals.rewards});
     }
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
@@ -46,7 +46,7 @@ TEST_F(ReportDataTest, TheFirstOfAMonthWithoutTimeIsAnEmptyReport) {
 
 TEST_F(ReportDataTest, AnEmptyRecordHasTheFourRowsOfGoals) {
     const auto data = build();
-    EXPECT_EQ(data.goals, fixture_.evaluator.evaluate());
+    EXPECT_EQ(data.goals, fixture_.goals.evaluator.evaluate());
     EXPECT_EQ(data.goals[0].label, "Hoy");
     EXPECT_EQ(data.goals[3].label, "Mes");
     EXPECT_EQ(data.streak, 0);

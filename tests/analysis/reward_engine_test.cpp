@@ -35,7 +35,7 @@ protected:
 
     test::FakeWorld world_;  // Thursday, 2026-01-15, 09:00
     test::AnalysisFixture fixture_{world_};
-    const RewardEngine& rewards_ = fixture_.rewards;
+    const RewardEngine& rewards_ = fixture_.goals.rewards;
     const DayKey today_{"2026-01-15"};
     sys_days nextDay_ = 2020y / 1 / 1;
 };
@@ -63,8 +63,8 @@ TEST_F(RewardEngineTest, StarsForProductivityBeginAtAQuarterAndThreeQuarters) {
 }
 
 TEST_F(RewardEngineTest, ThreeFifthsAgainstTheGoalOfFourFifthsFallShortByARoundingAndGiveOneStar) {
-    // As numbers of the machine 0.6 / 0.8 is a last bit below three quarters, whatever the seconds are.
-    ASSERT_EQ(fixture_.goals.settings().dailyProductivity, 0.8);
+    // As doubles, 0.6 / 0.8 is one bit below three quarters, whatever the seconds are.
+    ASSERT_EQ(fixture_.goals.store.settings().dailyProductivity, 0.8);
     EXPECT_EQ(starsForScore(60, 40), 1);
     EXPECT_EQ(starsForScore(18, 12), 1);
     EXPECT_EQ(starsForScore(10800, 7200), 1);
@@ -72,7 +72,7 @@ TEST_F(RewardEngineTest, ThreeFifthsAgainstTheGoalOfFourFifthsFallShortByARoundi
 }
 
 TEST_F(RewardEngineTest, WhereTheQuotientIsExactThreeQuartersOfTheGoalGiveTwoStars) {
-    fixture_.goals.setSettings({.dailyProductivity = 0.5});
+    fixture_.goals.store.setSettings({.dailyProductivity = 0.5});
     EXPECT_EQ(starsForScore(375, 625), 2);
     EXPECT_EQ(starsForScore(374, 626), 1);
     EXPECT_EQ(starsForScore(125, 875), 1);
@@ -136,7 +136,7 @@ TEST_F(RewardEngineTest, ALowerGoalMakesPastDaysGoodAtOnce) {
     EXPECT_EQ(rewards_.currentStreak(), 0);
     GoalSettings goals;
     goals.dailyHours = 3.5;
-    fixture_.goals.setSettings(goals);
+    fixture_.goals.store.setSettings(goals);
     EXPECT_EQ(rewards_.currentStreak(), 10);
 }
 
@@ -154,11 +154,11 @@ TEST_F(RewardEngineTest, AnotherClassificationChangesPastDays) {
 TEST_F(RewardEngineTest, AGoalThatIsNotAboveZeroSwitchesOffItsStars) {
     fixture_.setTime(today_, 6 * hour);
     fixture_.addClassified(today_, 60, 0);
-    fixture_.goals.setSettings({.dailyHours = 0});
+    fixture_.goals.store.setSettings({.dailyHours = 0});
     EXPECT_EQ(rewards_.starsToday(), 2);
-    fixture_.goals.setSettings({.dailyProductivity = -1});
+    fixture_.goals.store.setSettings({.dailyProductivity = -1});
     EXPECT_EQ(rewards_.starsToday(), 3);
-    fixture_.goals.setSettings({.dailyHours = 0, .dailyProductivity = 0});
+    fixture_.goals.store.setSettings({.dailyHours = 0, .dailyProductivity = 0});
     EXPECT_EQ(rewards_.starsToday(), 0);
     EXPECT_EQ(rewards_.currentStreak(), 0);
 }

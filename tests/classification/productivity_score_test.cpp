@@ -87,7 +87,7 @@ TEST_F(ProductivityScorerTest, SecondsWithoutAnApplicationAreExcluded) {
     fixture.engine.start();
     world.mainLoop.runFor(std::chrono::seconds(70));
     EXPECT_EQ(fixture.engine.todaySeconds(), Seconds(70));
-    EXPECT_EQ(fixture.scorer.compute(std::vector{fixture.daily.today()}), ProductivityScore());
+    EXPECT_EQ(fixture.scorer.compute(std::vector{fixture.days.today()}), ProductivityScore());
 }
 
 }  // namespace

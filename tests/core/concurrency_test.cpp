@@ -1,4 +1,4 @@
-// The stores' promise that any thread may call them. Worth most under the thread sanitizer.
+// The stores are thread-safe. Most useful under the thread sanitizer.
 
 #include <gmock/gmock.h>
 
@@ -119,7 +119,7 @@ TEST_F(ConcurrencyTest, TheDayRuleFollowsSettingsAndZoneFromAnyThread) {
     asking.join();
 }
 
-// The tick with a real thread that writes, on a disk that stops while it does.
+// Ticks with a real writing thread, on a disk that stalls during a write.
 struct StallTest : testing::Test {
     test::FakeWorld world;
     std::optional<test::CoreFixture> fixture;
@@ -161,14 +161,14 @@ TEST_F(StallTest, AMinuteAndAHalfOfItBringsTheNewestStateAloneOnceItIsOver) {
     world.files.resume();
     fixture->disk->finish();
     expectOnDisk(120);
-    // The state that was being written, and the newest one; the other files had not been begun.
+    // The state that was being written, and the newest one; the other files had not been started.
     EXPECT_EQ(std::ranges::count(world.files.writes(), world.todayJson), 2);
     EXPECT_EQ(std::ranges::count(world.files.writes(), world.appsJson), 1);
 }
 
 TEST_F(StallTest, TheEndWaitsForTheWriteAndThenWritesTheNewestState) {
     tick(5);
-    // Long enough for an end that does not wait to be over; one that does is right however long it is.
+    // Long enough for a destructor that does not wait to finish; one that waits passes whatever the delay.
     std::thread disk([this] {
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
         world.files.resume();
@@ -181,7 +181,7 @@ TEST_F(StallTest, TheEndWaitsForTheWriteAndThenWritesTheNewestState) {
 TEST_F(StallTest, ReadersAndBookingsDoNotWaitEither) {
     EXPECT_EQ(fixture->apps.aggregate(std::vector{today}).front().seconds, Seconds(30));
     fixture->apps.incrementApp(AppId("firefox"), today);
-    EXPECT_EQ(fixture->daily.seconds(today), Seconds(30));
+    EXPECT_EQ(fixture->days.seconds(today), Seconds(30));
     EXPECT_EQ(fixture->minutes.snapshot().keyCount(), 1u);
 }
 

@@ -1,4 +1,4 @@
-// What the stores and the tick do when disk and files fail them.
+// The stores and the tick with failing disks and damaged files.
 
 #include <gmock/gmock.h>
 
@@ -156,7 +156,7 @@ TEST_F(FaultTest, EveryTruncationOfTodayIsReadAsNoDataAndReplaced) {
         world.files.put(world.todayJson, goodToday);
         world.files.truncate(world.todayJson, length);
         start();
-        EXPECT_THAT(fixture->daily.allDays(), IsEmpty()) << length;
+        EXPECT_THAT(fixture->days.allDays(), IsEmpty()) << length;
         fixture->engine.stop();
         EXPECT_EQ(world.files.content(world.todayJson), "{\n  \"2026-01-15\" : 0\n}") << length;
     }

@@ -57,8 +57,8 @@ TEST_F(TimerEngineDayTest, WhatIsSetUnderTheNewDaysKeyInTheGapBecomesItsStart) {
     setTimeOfDay(23h + 59min + 58s + 500ms);
     auto& engine = start();
     tick();
-    world.clock.advance(600ms);  // past the boundary, the engine's next tick still to come
-    fixture->daily.set(engine.todaySeconds(), fixture->daily.today());
+    world.clock.advance(600ms);  // past the boundary, before the engine's next tick
+    fixture->days.set(engine.todaySeconds(), fixture->days.today());
     EXPECT_EQ(stored(tomorrow), Seconds(5001));
     world.mainLoop.runFor(400ms);
     EXPECT_EQ(engine.todaySeconds(), Seconds(5002));

@@ -50,7 +50,7 @@ struct TimerEngineTest : testing::Test {
         world.clock.setNow(std::chrono::sys_days(std::chrono::January / 15 / 2026) + time);
     }
 
-    [[nodiscard]] Seconds stored(const DayKey& day) const { return fixture->daily.seconds(day); }
+    [[nodiscard]] Seconds stored(const DayKey& day) const { return fixture->days.seconds(day); }
     [[nodiscard]] std::vector<AppSeconds> apps(const DayKey& day) const {
         return fixture->apps.aggregate(std::vector{day});
     }

@@ -52,23 +52,23 @@ TEST_F(TimerEngineTest, EachStoreLooksAtTheApplicationInFrontByItself) {
             return AppId("app" + std::to_string(looks++));
         }
     } frontmost;
-    Settings settings(world.preferences);
-    const DayRule dayRule(world.clock, settings);
-    const ClockKeys keys(world.clock, settings, dayRule);
-    const IdleMonitor idleMonitor(world.inputActivity);
-    DailyStore daily(world.files, world.log, dayRule);
-    AppUsageStore appsStore(world.files, world.log, frontmost);
-    HourlyStore hours(world.files, world.log, frontmost);
-    MinuteStore minutes(world.files, world.log, frontmost);
+    Counting counting({.clock = world.clock,
+                       .files = world.files,
+                       .log = world.log,
+                       .preferences = world.preferences,
+                       .inputActivity = world.inputActivity,
+                       .frontmost = frontmost});
     const auto disk = world.queues.makeQueue("record");
-    TimerEngine engine(world.clock, world.mainLoop, settings, idleMonitor, keys,
-                       {daily, appsStore, hours, minutes}, *disk, {});
+    TimerEngine engine(world.clock, world.mainLoop, counting.settings, counting.idleMonitor, counting.keys,
+                       counting.stores(), *disk, {});
     engine.start();
     tick();
     EXPECT_EQ(frontmost.looks, 3);
-    EXPECT_THAT(appsStore.aggregate(std::vector{today}), ElementsAre(AppSeconds{AppId("app0"), Seconds(1)}));
-    EXPECT_THAT(hours.entries(HourKey("2026-01-15 09")), ElementsAre(AppSeconds{AppId("app1"), Seconds(1)}));
-    EXPECT_THAT(minutes.entries(BucketKey("2026-01-15 09:00")),
+    EXPECT_THAT(counting.apps.aggregate(std::vector{today}),
+                ElementsAre(AppSeconds{AppId("app0"), Seconds(1)}));
+    EXPECT_THAT(counting.hours.entries(HourKey("2026-01-15 09")),
+                ElementsAre(AppSeconds{AppId("app1"), Seconds(1)}));
+    EXPECT_THAT(counting.minutes.entries(BucketKey("2026-01-15 09:00")),
                 ElementsAre(AppSeconds{AppId("app2"), Seconds(1)}));
 }
 
@@ -294,7 +294,7 @@ using TimerEngineDeathTest = TimerEngineTest;
 
 TEST_F(TimerEngineDeathTest, AnOverflowOfTheDayEndsTheProcess) {
     start();
-    fixture->daily.set(Seconds(std::numeric_limits<std::int64_t>::max()), tomorrow);
+    fixture->days.set(Seconds(std::numeric_limits<std::int64_t>::max()), tomorrow);
     world.clock.setNow(sys_days(2026y / 1 / 16));
     EXPECT_DEATH(tick(), "overflow");
 }

@@ -1,5 +1,5 @@
-// Days of random work through the real tick, held against a list of the seconds that were worked: every sum
-// is made from that list in the slowest and plainest way.
+// Days of random work through the real tick, compared with a list of the worked seconds, from which every sum
+// is computed in the simplest way.
 
 #include <gmock/gmock.h>
 
@@ -12,8 +12,8 @@
 
 #include "platform/fake/fake_time_zone.h"
 #include "projects/active_project_booking.h"
-#include "tests/support/chance.h"
 #include "tests/support/classification_fixture.h"
+#include "tools/support/random.h"
 
 namespace tidewatch {
 namespace {
@@ -24,7 +24,7 @@ using namespace std::chrono_literals;
 struct WorkedSecond {
     DayKey day;
     int hour;
-    int minute;  // at which its ten minutes begin
+    int minute;  // the start of its ten minutes
     AppId app;   // empty: none that can be booked
     std::optional<Uuid> project;
 };
@@ -50,7 +50,7 @@ struct Fixture {
 class RecordPropertyTest : public testing::TestWithParam<std::uint32_t> {
 protected:
     RecordPropertyTest() {
-        // Among them one that knows no table, one that the desktop registers, one with a difficult name, the
+        // Including one that is in no table, one that the desktop registers, one with a difficult name, the
         // program itself and none at all.
         for (const auto* app :
              {"com.apple.dt.Xcode", "com.google.Chrome", "com.apple.finder", "com.spotify.client",
@@ -60,12 +60,12 @@ protected:
         }
         world_.applications.registerApplication(AppId("org.example.Terminal"),
                                                 {"Terminal", "", {"TerminalEmulator"}});
-        world_.clock.setZone(chance_.onceIn(2) ? platform::madridZone() : platform::mexicoCityZone());
+        world_.clock.setZone(random_.onceIn(2) ? platform::madridZone() : platform::mexicoCityZone());
         // A night in which Madrid changes its clocks, or in which Mexico did.
         world_.clock.setNow(std::chrono::sys_days(std::chrono::October / 24 / 2020) +
-                            std::chrono::minutes(chance_.between(0, 1439)));
+                            std::chrono::minutes(random_.between(0, 1439)));
         start();
-        record().settings.setDayStartHour(chance_.between(0, 23));
+        record().settings.setDayStartHour(random_.between(0, 23));
         work();
     }
 
@@ -86,24 +86,24 @@ protected:
     }
 
     void changeSomething() {
-        if (chance_.onceIn(20)) world_.frontmost.set(chance_.oneOf(apps_));
-        if (chance_.onceIn(60)) world_.inputActivity.set(chance_.between(0, 400));
-        if (chance_.onceIn(150)) world_.clock.suspend(std::chrono::minutes(chance_.between(1, 300)));
-        if (chance_.onceIn(400)) chooseProject();
-        if (chance_.onceIn(1500)) restart();
+        if (random_.onceIn(20)) world_.frontmost.set(random_.oneOf(apps_));
+        if (random_.onceIn(60)) world_.inputActivity.set(random_.between(0, 400));
+        if (random_.onceIn(150)) world_.clock.suspend(std::chrono::minutes(random_.between(1, 300)));
+        if (random_.onceIn(400)) chooseProject();
+        if (random_.onceIn(1500)) restart();
     }
 
     void chooseProject() {
         auto& projects = running_->projects;
-        if (chance_.onceIn(3) || projects.projects().empty()) {
+        if (random_.onceIn(3) || projects.projects().empty()) {
             ids_.push_back(projects.addProject("p").id);
             projects.setActive(ids_.back());
-        } else if (chance_.onceIn(3)) {
+        } else if (random_.onceIn(3)) {
             projects.setActive(std::nullopt);
-        } else if (chance_.onceIn(3)) {
-            projects.deleteProject(chance_.oneOf(ids_));
+        } else if (random_.onceIn(3)) {
+            projects.deleteProject(random_.oneOf(ids_));
         } else {
-            projects.setActive(chance_.oneOf(ids_));
+            projects.setActive(random_.oneOf(ids_));
         }
     }
 
@@ -114,7 +114,7 @@ protected:
         const auto local = civilTime(now, world_.clock.timeZone()->utcOffset(now));
         const auto app = world_.frontmost.current().value_or(AppId());
         const bool bookable = app != AppId("com.brightlooms.tidewatch");
-        worked_.push_back({record().daily.today(), local.hour, local.minute / 10 * 10,
+        worked_.push_back({record().days.today(), local.hour, local.minute / 10 * 10,
                            bookable ? app : AppId(), running_->projects.activeProjectId()});
     }
 
@@ -124,7 +124,7 @@ protected:
         return result;
     }
 
-    // How many of the seconds that `counts` fall under each name that `nameOf` gives.
+    // The number of seconds that satisfy `counts`, by `nameOf`.
     template <class Counts, class NameOf>
     [[nodiscard]] Sums count(Counts counts, NameOf nameOf) const {
         Sums sums;
@@ -250,7 +250,7 @@ protected:
         const auto byDay = count([](const WorkedSecond&) { return true; },
                                  [](const WorkedSecond& s) { return s.day.text(); });
         for (const auto& [day, seconds] : byDay) {
-            EXPECT_EQ(record().daily.seconds(DayKey(day)).count(), seconds) << day;
+            EXPECT_EQ(record().days.seconds(DayKey(day)).count(), seconds) << day;
             const auto apps = countApps([&](const WorkedSecond& s) { return s.day.text() == day; });
             EXPECT_EQ(asSums(record().apps.aggregate(std::vector{DayKey(day)})), apps) << day;
             expectProjectsToAgree(DayKey(day));
@@ -278,7 +278,7 @@ protected:
         expectGroupsToAgree();
     }
 
-    test::Chance chance_{GetParam()};
+    Random random_{GetParam()};
     test::FakeWorld world_;
     Broadcaster broadcaster_;
     std::vector<AppId> apps_;
@@ -306,10 +306,10 @@ TEST_P(RecordPropertyTest, WhatIsReadBackAgreesAndIsWrittenAgainByteForByte) {
 
 TEST_P(RecordPropertyTest, AChangeOfClassificationMovesPastDays) {
     for (int change = 0; change < 6; ++change) {
-        if (chance_.onceIn(2)) {
-            record().categories.setTier(chance_.oneOf(allTiers()), chance_.oneOf(allCategories()));
+        if (random_.onceIn(2)) {
+            record().categories.setTier(random_.oneOf(allTiers()), random_.oneOf(allCategories()));
         } else {
-            record().categories.setCategory(chance_.oneOf(allCategories()), chance_.oneOf(apps_));
+            record().categories.setCategory(random_.oneOf(allCategories()), random_.oneOf(apps_));
         }
         expectScoresToAgree();
     }
@@ -325,7 +325,7 @@ TEST_P(RecordPropertyTest, AChangeOfDayStartLosesNoHour) {
     for (const auto& day : days()) {
         for (const auto& hour : record().hourSummaries(day)) before += hour.seconds.count();
     }
-    record().settings.setDayStartHour(chance_.between(0, 23));
+    record().settings.setDayStartHour(random_.between(0, 23));
     std::int64_t after = 0;
     for (const auto& day : days()) {
         for (const auto& hour : record().hourSummaries(day)) after += hour.seconds.count();

@@ -1,6 +1,5 @@
-// Random days at the machine: whatever comes, the gate and the reminder stay within their tables. Each run is
-// held against a model, written as plainly as can be, and against rules that need no model. A failure prints
-// the seed and every move so far.
+// Random days at the machine, compared with a model, which is as simple as possible, and checked against
+// rules that need no model. A failure prints the seed and every move so far.
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>
@@ -39,9 +38,9 @@ std::string text(const Move& move) {
     return fmt::format("{}({})", names.at(static_cast<std::size_t>(move.kind)), move.amount);
 }
 
-class Chance {
+class RandomMoves {
 public:
-    explicit Chance(std::uint64_t seed) : engine_(seed) {}
+    explicit RandomMoves(std::uint64_t seed) : engine_(seed) {}
 
     std::int64_t between(std::int64_t min, std::int64_t max) {
         return std::uniform_int_distribution(min, max)(engine_);
@@ -69,7 +68,7 @@ private:
     std::discrete_distribution<> kinds_{24, 1, 2, 2, 6, 6, 2, 3, 1, 1};  // in the order of Kind
 };
 
-/// What the gate should hold, and what of it the preferences should.
+/// The gate's expected state, and the part of it that the preferences should hold.
 struct GateModel {
     struct Stored {
         std::int64_t work = 0;
@@ -125,7 +124,7 @@ struct GateModel {
     }
 };
 
-/// What the reminder should hold.
+/// The reminder's expected state.
 struct ReminderModel {
     std::string day;
     std::int64_t sitting = 0;
@@ -163,16 +162,16 @@ struct Seen {
 
 class RandomRun {
 public:
-    explicit RandomRun(std::uint64_t seed) : chance_(seed), history_(fmt::format("seed {}:", seed)) {
+    explicit RandomRun(std::uint64_t seed) : random_(seed), history_(fmt::format("seed {}:", seed)) {
         storeAnyState();
-        totalToday_ = chance_.between(0, 40000);
-        settings_.setDayStartHour(static_cast<int>(chance_.between(0, 23)));
+        totalToday_ = random_.between(0, 40000);
+        settings_.setDayStartHour(static_cast<int>(random_.between(0, 23)));
         restart();
     }
 
     Seen play() {
         for (int i = 0; i < movesARun && !testing::Test::HasFailure(); ++i) {
-            const auto move = chance_.move();
+            const auto move = random_.move();
             history_ += " " + text(move);
             SCOPED_TRACE(history_);
             make(move);
@@ -186,11 +185,11 @@ public:
 
 private:
     void storeAnyState() {
-        if (chance_.oneIn(4)) return;  // a new installation
+        if (random_.oneIn(4)) return;  // a new installation
         auto& stored = gateModel_.stored;
-        stored = {chance_.between(0, 4000), chance_.oneIn(3), std::nullopt};
-        if (chance_.oneIn(2)) {
-            stored.lock = world_.clock.now() + milliseconds(chance_.between(-10'000'000, 10'000'000));
+        stored = {random_.between(0, 4000), random_.oneIn(3), std::nullopt};
+        if (random_.oneIn(2)) {
+            stored.lock = world_.clock.now() + milliseconds(random_.between(-10'000'000, 10'000'000));
         }
         auto& preferences = world_.preferences;
         preferences.setBoolean("gate.initialized", true);
@@ -260,12 +259,12 @@ private:
         }
     }
 
-    /// False if anything went other than it should. Plain comparisons: there are hundreds of thousands.
+    /// False if anything is wrong. Plain comparisons, since there are hundreds of thousands.
     bool workSecond() {
         world_.clock.advance(1s);
         const auto today = dayRule_.today().text();
         if (today != day_) {
-            totalToday_ = chance_.between(0, 40000);
+            totalToday_ = random_.between(0, 40000);
             ++seen_.days;
         }
         day_ = today;
@@ -350,7 +349,7 @@ private:
         EXPECT_EQ(reminderMessages_.shown.size(), model.messages);
     }
 
-    Chance chance_;
+    RandomMoves random_;
     std::string history_;
     test::FakeWorld world_;
     Settings settings_{world_.preferences};
@@ -366,7 +365,7 @@ private:
     Seen seen_;
 };
 
-/// One run alone for TIDEWATCH_SEED; more of them for TIDEWATCH_LONG.
+/// A single run with TIDEWATCH_SEED; more runs with TIDEWATCH_LONG.
 std::vector<std::uint64_t> seeds() {
     if (const char* seed = std::getenv("TIDEWATCH_SEED")) return {std::strtoull(seed, nullptr, 10)};
     std::vector<std::uint64_t> result;

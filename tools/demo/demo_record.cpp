@@ -9,8 +9,8 @@
 #include "base/calendar_day.h"
 #include "core/clock_keys.h"
 #include "projects/project_color_palette.h"
-#include "tools/demo/chance.h"
 #include "tools/demo/work_day.h"
+#include "tools/support/random.h"
 
 namespace tidewatch::demo {
 
@@ -58,31 +58,31 @@ bool isHoliday(sys_days day) {
 }
 
 DayPlan workingDay(std::uint32_t seed) {
-    Chance chance(seed);
+    Random random(seed);
     DayPlan plan;
     plan.seed = seed + 1;
-    const int temper = chance.between(1, 100);
+    const int temper = random.between(1, 100);
     plan.mood = temper <= 40 ? Mood::good : temper <= 80 ? Mood::usual : Mood::poor;
-    plan.start = minutes(chance.between(8 * 60 + 20, 9 * 60 + 50));
-    plan.target = minutes(plan.mood == Mood::poor ? chance.between(300, 400) : chance.between(405, 500));
-    plan.meeting = chance.percent(45);
-    plan.evening = chance.percent(35);
+    plan.start = minutes(random.between(8 * 60 + 20, 9 * 60 + 50));
+    plan.target = minutes(plan.mood == Mood::poor ? random.between(300, 400) : random.between(405, 500));
+    plan.meeting = random.percent(45);
+    plan.evening = random.percent(35);
     return plan;
 }
 
 /// Nullopt on a day off.
 std::optional<DayPlan> planOf(sys_days day, std::uint32_t seed) {
     auto plan = workingDay(seed);
-    Chance chance(seed + 2);
+    Random random(seed + 2);
     const weekday name(day);
     if (name == Saturday || name == Sunday) {
-        if (!chance.percent(name == Saturday ? 16 : 5)) return std::nullopt;
+        if (!random.percent(name == Saturday ? 16 : 5)) return std::nullopt;
         plan.start += minutes(90);
-        plan.target = minutes(chance.between(80, 200));
+        plan.target = minutes(random.between(80, 200));
         plan.meeting = false;
         return plan;
     }
-    if (isHoliday(day) || chance.percent(3)) return std::nullopt;
+    if (isHoliday(day) || random.percent(3)) return std::nullopt;
     return plan;
 }
 

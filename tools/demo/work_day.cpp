@@ -4,7 +4,7 @@
 #include <array>
 #include <span>
 
-#include "tools/demo/chance.h"
+#include "tools/support/random.h"
 
 namespace tidewatch::demo {
 
@@ -68,20 +68,20 @@ bool isForAProject(Activity activity) {
 
 class Day final {
 public:
-    explicit Day(const DayPlan& plan) : plan_(plan), chance_(plan.seed), clock_(plan.start) {}
+    explicit Day(const DayPlan& plan) : plan_(plan), random_(plan.seed), clock_(plan.start) {}
 
     std::vector<WorkedMinute> live() {
-        spend(Activity::mail, chance_.between(15, 35), Share::none);
-        if (plan_.meeting) spend(Activity::meeting, chance_.between(25, 50), Share::first);
-        workUntil(plan_.target * chance_.between(20, 28) / 100, Share::first);
-        spend(Activity::drifting, chance_.between(5, 14), Share::none);
-        workUntil(plan_.target * chance_.between(45, 55) / 100, Share::first);
-        clock_ += minutes(chance_.between(50, 80));
+        spend(Activity::mail, random_.between(15, 35), Share::none);
+        if (plan_.meeting) spend(Activity::meeting, random_.between(25, 50), Share::first);
+        workUntil(plan_.target * random_.between(20, 28) / 100, Share::first);
+        spend(Activity::drifting, random_.between(5, 14), Share::none);
+        workUntil(plan_.target * random_.between(45, 55) / 100, Share::first);
+        clock_ += minutes(random_.between(50, 80));
         spend(Activity::drifting, drift(), Share::none);
         workUntil(plan_.target, Share::second);
         if (plan_.evening) {
-            clock_ = std::max(clock_ + minutes(60), minutes(20 * 60 + chance_.between(15, 75)));
-            spend(Activity::playing, chance_.between(25, 80), Share::none);
+            clock_ = std::max(clock_ + minutes(60), minutes(20 * 60 + random_.between(15, 75)));
+            spend(Activity::playing, random_.between(25, 80), Share::none);
         }
         return std::move(worked_);
     }
@@ -90,17 +90,17 @@ private:
     [[nodiscard]] int drift() {
         switch (plan_.mood) {
             case Mood::good:
-                return chance_.between(4, 12);
+                return random_.between(4, 12);
             case Mood::usual:
-                return chance_.between(12, 30);
+                return random_.between(12, 30);
             case Mood::poor:
                 break;
         }
-        return chance_.between(70, 120);
+        return random_.between(70, 120);
     }
 
     [[nodiscard]] Activity nextWork() {
-        const int throwOfTheDie = chance_.between(1, 100);
+        const int throwOfTheDie = random_.between(1, 100);
         if (throwOfTheDie <= 44) return Activity::coding;
         if (throwOfTheDie <= 64) return Activity::drawing;
         if (throwOfTheDie <= 78) return Activity::writing;
@@ -111,11 +111,11 @@ private:
         while (minutes(static_cast<int>(worked_.size())) < target && clock_ < lastMinute) {
             const auto activity = nextWork();
             const int left = static_cast<int>((target - minutes(static_cast<int>(worked_.size()))).count());
-            spend(activity, std::min(chance_.between(18, 75), left + 5),
+            spend(activity, std::min(random_.between(18, 75), left + 5),
                   isForAProject(activity) ? share : Share::none);
-            if (chance_.percent(45)) clock_ += minutes(chance_.between(4, 16));
-            if (plan_.mood == Mood::poor && chance_.percent(35)) {
-                spend(Activity::drifting, chance_.between(8, 25), Share::none);
+            if (random_.percent(45)) clock_ += minutes(random_.between(4, 16));
+            if (plan_.mood == Mood::poor && random_.percent(35)) {
+                spend(Activity::drifting, random_.between(8, 25), Share::none);
             }
         }
     }
@@ -124,14 +124,14 @@ private:
         const auto mix = ingredients(activity);
         auto app = pick(mix);
         for (int minute = 0; minute < howLong && clock_ < lastMinute; ++minute, clock_ += minutes(1)) {
-            if (chance_.percent(24)) app = pick(mix);
-            const int seconds = chance_.percent(80) ? 60 : chance_.between(18, 59);
+            if (random_.percent(24)) app = pick(mix);
+            const int seconds = random_.percent(80) ? 60 : random_.between(18, 59);
             worked_.push_back({clock_, seconds, app, share});
         }
     }
 
     [[nodiscard]] std::string_view pick(std::span<const Ingredient> mix) {
-        int place = chance_.between(1, 100);
+        int place = random_.between(1, 100);
         for (const auto& ingredient : mix) {
             place -= ingredient.weight;
             if (place <= 0) return ingredient.app;
@@ -142,7 +142,7 @@ private:
     static constexpr minutes lastMinute{24 * 60};
 
     const DayPlan& plan_;
-    Chance chance_;
+    Random random_;
     minutes clock_;
     std::vector<WorkedMinute> worked_;
 };

@@ -14,8 +14,8 @@ protected:
     test::FakeWorld world_;
     test::AnalysisFixture fixture_{world_};
     const AppInfoResolver appInfo_{world_.applications};
-    PdfReport report_{{world_.clock, fixture_.daily, fixture_.apps, appInfo_, fixture_.scorer,
-                       fixture_.evaluator, fixture_.rewards},
+    PdfReport report_{{world_.clock, fixture_.days, fixture_.apps, appInfo_, fixture_.scorer,
+                       fixture_.goals.evaluator, fixture_.goals.rewards},
                       world_.files,
                       world_.log};
     const std::string path_ = "/home/user/Documentos/fathom-reporte.pdf";

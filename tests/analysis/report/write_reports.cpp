@@ -1,5 +1,5 @@
-// write_reports DIRECTORY [FONTS]: writes each of the months as NAME.pdf, and what the page is to show as
-// NAME.json, into a directory that exists. FONTS is a folder of typefaces to draw with.
+// write_reports DIRECTORY [FONTS]: writes each month as NAME.pdf, and the expected content of the page as
+// NAME.json, into an existing directory. FONTS is a directory of typefaces to use.
 
 #include <QFile>
 #include <QGuiApplication>

@@ -16,8 +16,8 @@ ClockWorld::ClockWorld() {
 
 void ClockWorld::startAt(Seconds today) {
     presenter_.reset();
-    fixture_->daily.set(today, fixture_->dayRule.today());
-    fixture_->daily.flush();
+    fixture_->days.set(today, fixture_->dayRule.today());
+    fixture_->days.flush();
     fixture_ = std::make_unique<test::CoreFixture>(machine_);
     presenter_ =
         std::make_unique<ClockPresenter>(fixture_->engine, theme_, machine_.clock, [this] { return stars_; });
