@@ -50,7 +50,7 @@ class Report:
 
     @staticmethod
     def remark(what, value, unit):
-        """What is worth knowing, and judged by nobody."""
+        """Printed for information, without a limit."""
         print(f"{what:<44} {value:8.1f} {unit}", flush=True)
 
     def line(self, what, value, limit, unit):

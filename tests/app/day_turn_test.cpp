@@ -17,7 +17,7 @@ enum class Loop { fake, toolkit };
 constexpr auto the15th = sys_days(2026y / 1 / 15);
 constexpr auto the16th = sys_days(2026y / 1 / 16);
 
-/// The delegate with both of its timers running, as the day that it counts for changes.
+/// The delegate with both of its timers running while the day changes.
 class DayTurn : public ProgramWorld, public testing::WithParamInterface<Loop> {
 protected:
     void startAt(Instant now, const std::string& todayJson) {

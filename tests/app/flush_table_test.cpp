@@ -20,8 +20,8 @@ const DayKey yesterday("2026-01-15");
 const DayKey today("2026-01-16");
 
 /// Five seconds were worked, with a project active, up to 23:59:59 of the 15th. Then the clock passes
-/// midnight and no tick has seen it yet: the engine still counts for the 15th, the clock tells the 16th, and
-/// both days hold totals that nobody would set.
+/// midnight and no tick has seen it yet: the engine still counts for the 15th, the clock shows the 16th, and
+/// both days hold recognisable totals.
 class MidnightWorld : public ProgramWorld {
 public:
     MidnightWorld() {
@@ -78,7 +78,7 @@ const std::string hoursFile = "hours.json";
 const std::string minutesFile = "minutes.json";
 const std::string projectTime = "project_time.json";
 
-/// One moment at which something may reach the disk.
+/// An event on which something may be written.
 struct Occasion {
     const char* name;
     std::function<void(MidnightWorld&)> happens;
@@ -168,7 +168,7 @@ const std::vector<Occasion> occasions{
      .files = {},
      .today = 1005,
      .gate = true},
-    // What writes nothing.
+    // These write nothing.
     {.name = "AClickOnThePanelThatClosesTheStatistics",
      .happens =
          [](MidnightWorld& world) {
@@ -256,7 +256,7 @@ TEST_F(TheIdleProgram, WritesNothingForAnHour) {
     EXPECT_THAT(written(), testing::IsEmpty());
 }
 
-/// All files of the record with something in each.
+/// All files of the record, none of them empty.
 class TheRemovedFolder : public TheIdleProgram {
 public:
     TheRemovedFolder() {

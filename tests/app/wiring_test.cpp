@@ -1,4 +1,4 @@
-// How the delegate hands on what happens: never inside of what announces it.
+// The delegate forwards events asynchronously, never from within the signal.
 
 #include <gtest/gtest.h>
 

@@ -41,7 +41,7 @@ TEST(CopyOnWriteTest, AssigningReleasesTheOldValue) {
     EXPECT_EQ(&*first, &*second);
 }
 
-// Worth most under the thread sanitizer.
+// Most useful under the thread sanitizer.
 TEST(CopyOnWriteTest, ACopyIsReadAndDestroyedOnAnotherThreadWhileTheOriginalIsEdited) {
     constexpr int rounds = 500;
     CopyOnWrite<std::vector<int>> value;

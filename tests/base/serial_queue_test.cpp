@@ -1,4 +1,4 @@
-// Worth most under the thread sanitizer.
+// Most useful under the thread sanitizer.
 
 #include "base/serial_queue.h"
 
@@ -17,7 +17,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// What a queue delivers, kept until somebody runs it, as a main loop does.
+// Keeps what a queue posts until it is run, like a main loop.
 class Owner final {
 public:
     void take(JobQueue::Job job) {

@@ -18,13 +18,13 @@ using testing::Pair;
 using testing::UnorderedElementsAre;
 using testing::UnorderedElementsAreArray;
 
-/// The applications of one category, parted by blanks.
+/// The applications of one category, separated by spaces.
 struct AppsOfCategory {
     Category category;
     std::string_view apps;
 };
 
-/// The whole built-in table once more, so that no row of it can be lost, misspelt or moved unseen.
+/// The whole built-in table once more, so that no row can be lost, misspelt or moved unnoticed.
 constexpr AppsOfCategory wholeTable[] = {
     {Category::audioVideo,
      "com.blackmagic-design.DaVinciResolve com.apple.FinalCut com.apple.FinalCutPro com.adobe.Premiere "

@@ -12,8 +12,8 @@ namespace {
 struct Package {
     const char* name;
     const char* desktopId;
-    const char* categories;  // as its desktop entry has them in Debian 12
-    Category expected;       // as somebody who uses it would file it
+    const char* categories;  // in its desktop entry in Debian 12
+    Category expected;       // as a user would classify it
 };
 
 const std::vector<Package>& packages() {

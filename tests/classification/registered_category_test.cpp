@@ -17,7 +17,7 @@ struct Row {
     std::optional<Category> category;
 };
 
-// What well-known kinds of applications register.
+// What common kinds of applications register.
 const std::vector<Row>& applications() {
     using enum Category;
     static const std::vector<Row> rows{

@@ -1,4 +1,4 @@
-// What reaches the disk beside the tick, and what is left out. The queue's jobs run when told.
+// What is written in the background, and what need not be. The test decides when the queue runs its jobs.
 
 #include <gmock/gmock.h>
 
@@ -148,7 +148,7 @@ TEST_F(BackgroundFlushTest, AnotherProcessesFileIsReplacedWithoutAChange) {
     EXPECT_EQ(world.files.content(world.appsJson + ".other-2026-01-15"), "theirs");
 }
 
-// The tick on a disk that does not get on.
+// Ticks while the disk stalls.
 struct StalledTickTest : testing::Test {
     test::FakeWorld world;
     std::optional<test::CoreFixture> fixture;

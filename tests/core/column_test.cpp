@@ -91,7 +91,7 @@ TEST(PackedColumnTest, ItsChunksTogetherAreItsElements) {
     EXPECT_EQ(values, plain);
 }
 
-// Every order of small and large integers makes chunks of another width or base.
+// Each order of small and large integers yields chunks of a different width or base.
 TEST(PackedColumnTest, KeepsIntegersOfAnySizeInAnyOrder) {
     constexpr auto least = std::numeric_limits<std::int64_t>::min();
     constexpr auto greatest = std::numeric_limits<std::int64_t>::max();

@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::string_literals;
 
-// What a reader makes of `text` and writes again; nothing if it is refused.
+// `text` read and written again; nullopt if it is rejected.
 std::optional<std::string> reread(std::string text, std::size_t depth) {
     const auto record = parseCounters(std::move(text), depth);
     return record ? std::optional(serializeCounters(*record)) : std::nullopt;
@@ -135,7 +135,7 @@ TEST(CounterJson, AKeyWithANulIsWrittenAndReadBack) {
     EXPECT_EQ(reread(text, 2), text);
 }
 
-// Keeps the pieces, and takes as many as it is told.
+// Keeps the pieces; accepts a limited number of them.
 class PieceSink final : public platform::ByteSink {
 public:
     explicit PieceSink(std::size_t capacity) : capacity_(capacity) {}
@@ -151,7 +151,7 @@ private:
     std::size_t capacity_;
 };
 
-// A record of more than a piece, with a key and a name that are longer than a piece.
+// A record larger than a piece, with a key and a name that are each longer than a piece.
 CounterRecord longRecord() {
     CounterRecord record(2);
     for (int day = 0; day < 5000; ++day) {

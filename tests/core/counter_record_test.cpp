@@ -14,7 +14,7 @@ namespace tidewatch {
 namespace {
 
 using Words = std::vector<std::string>;
-// The plain picture of a record: every path and its counter. Paths sort as the nested maps would.
+// A record as a simple model: every path and its counter. Paths sort as the nested maps would.
 using Model = std::map<Words, std::int64_t>;
 
 std::vector<std::string_view> views(const Words& words) {
@@ -104,7 +104,7 @@ TEST_P(CounterRecordOfDepth, AppendedOutOfOrderAndTwiceItIsSortedAndWithoutDupli
     std::string text = "{";
     for (int i = 0; i < 200; ++i) {
         auto path = randomPath();
-        // One whole object a member of the top level: of equal ones the last stands.
+        // The top level's members are whole objects: of duplicate keys the last wins.
         std::erase_if(model, [&](const auto& entry) { return entry.first.front() == path.front(); });
         model[path] = i;
         std::string value = std::to_string(i);

@@ -22,7 +22,7 @@ struct DayRuleTest : testing::Test {
     platform::MemoryPreferences preferences;
     Settings settings{preferences};
 
-    // The key that a program started in the present zone gives.
+    // The key in a program that is started in the current zone.
     [[nodiscard]] std::string key(Instant instant) const {
         return DayRule(clock, settings).dayKey(instant).text();
     }
@@ -143,7 +143,7 @@ protected:
         settings.setDayStartHour(GetParam().startHour);
     }
 
-    // What the wall shows decides: the date, or the one before it until the hour has come.
+    // The local time decides: the date, or the day before it until the start hour.
     [[nodiscard]] DayKey byTheWall(Instant instant) const {
         const auto shown = civilTime(instant, zone->utcOffset(instant));
         const auto day =

@@ -12,7 +12,7 @@ namespace {
 std::vector<std::string> manyNames() {
     std::vector<std::string> names{"", "a", "b"};
     for (int i = 0; i < 2000; ++i) {
-        names.push_back(std::to_string(i) + ".application");  // alike in their ends
+        names.push_back(std::to_string(i) + ".application");  // with a common suffix
         names.push_back("org.example.application" + std::to_string(i));
     }
     return names;

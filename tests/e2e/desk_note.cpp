@@ -1,5 +1,5 @@
-// A note on the desktop: a floating window of the layer below, alone, with a control in its corner. It keeps
-// its place in the file that is its argument, "x y", and says on its output what the mouse does to it.
+// A note on the desktop: only a floating window in the layer below, with a control in its corner. It stores
+// its position in the file given as argument, "x y", and prints what the mouse does to it.
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -9,7 +9,7 @@ from harness.worked_days import TODAY, duration
 from harness.world import World
 
 # The day goes on counting while the test looks.
-PATIENCE_SECONDS = 180
+TIMEOUT_SECONDS = 180
 
 
 def share(part, whole):
@@ -56,7 +56,7 @@ class Reading(unittest.TestCase):
     def expect_outline(self, tab, expected):
         """`expected(seconds)` is what the tab says once today has come to so many seconds."""
         possible = []
-        for passed in range(PATIENCE_SECONDS):
+        for passed in range(TIMEOUT_SECONDS):
             words = expected(record.total(TODAY) + passed)
             if words not in possible:
                 possible.append(words)

@@ -1,5 +1,5 @@
-// To be loaded into the program before the C library: bringing the day's file to the disk takes five seconds,
-// as on a disk that stalls.
+// Preloaded into the program before the C library: syncing the day's file takes five seconds, as on a disk
+// that stalls.
 
 #include <sys/syscall.h>
 #include <unistd.h>

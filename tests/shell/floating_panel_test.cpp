@@ -11,7 +11,7 @@ namespace {
 
 using platform::Point;
 
-/// The clock's window: what the fake surfaces make, with the settings as its place.
+/// The clock's window on fake surfaces, positioned by the settings.
 class FloatingPanelTest : public testing::Test {
 protected:
     FloatingPanel& panel() {

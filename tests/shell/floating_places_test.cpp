@@ -13,7 +13,7 @@ namespace {
 
 using platform::Point;
 
-/// Several windows below, as an owner has them that keeps each place under its own key.
+/// Several windows in the layer below; each position is stored under its own key.
 class FloatingPlacesTest : public testing::Test {
 protected:
     struct Placed {

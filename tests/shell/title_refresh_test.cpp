@@ -60,7 +60,7 @@ private:
     int titlesBefore_ = 0;
 };
 
-/// Something that the user does, and how often the title is drawn anew for it.
+/// A user action, and how often it redraws the title.
 struct Deed {
     const char* name;
     std::function<void(TitleWorld&)> happens;
@@ -100,7 +100,7 @@ const std::vector<Deed> deeds{
          world.answer("Disco");
      },
      2},
-    // What leaves it to the next second.
+    // These wait for the next second.
     {"AFailureToToggleTheLoginItem",
      [](TitleWorld& world) {
          world.breakTheLoginItem();

@@ -74,12 +74,12 @@ TEST_F(ButtonTest, AWiderTextButtonKeepsItsWordsInTheMiddle) {
 
 TEST_F(DisabledControlTest, ADisabledControlIsReportedAndCannotBePressedThroughTheAccessibilityBus) {
     show(R"(Item {
-        property int told: 0
+        property int clicks: 0
         Column {
-            IconButton { objectName: "icon"; symbol: "plus"; accessibleName: "Más"; enabled: false; onClicked: ++told }
-            LinkButton { objectName: "link"; text: "hoy"; enabled: false; onClicked: ++told }
-            TextButton { objectName: "words"; text: "Generar"; enabled: false; onClicked: ++told }
-            Chip { objectName: "chip"; text: "Neutral"; enabled: false; onToggled: ++told }
+            IconButton { objectName: "icon"; symbol: "plus"; accessibleName: "Más"; enabled: false; onClicked: ++clicks }
+            LinkButton { objectName: "link"; text: "hoy"; enabled: false; onClicked: ++clicks }
+            TextButton { objectName: "words"; text: "Generar"; enabled: false; onClicked: ++clicks }
+            Chip { objectName: "chip"; text: "Neutral"; enabled: false; onToggled: ++clicks }
         }
     })");
     for (const auto* name : {"icon", "link", "words", "chip"}) {
@@ -89,10 +89,10 @@ TEST_F(DisabledControlTest, ADisabledControlIsReportedAndCannotBePressedThroughT
         the(name).setEnabled(true);
         EXPECT_EQ(accessible(the(name)).text(QAccessible::Description), "");
     }
-    EXPECT_EQ(count("told"), 0);
+    EXPECT_EQ(count("clicks"), 0);
     for (const auto* name : {"icon", "link", "words", "chip"})
         act(the(name), QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(count("told"), 4);
+    EXPECT_EQ(count("clicks"), 4);
 }
 
 }  // namespace

@@ -59,11 +59,11 @@ TEST(Contrast, EveryTierIsLegibleOnTheCardsOfEveryTheme) {
     }
 }
 
-/// The brightest that the dashboard's liquid ever is, at its told intensity over the dashboard's ground.
+/// The brightest that the dashboard's liquid ever is, at its intensity over the dashboard's ground.
 QColor brightestLiquid(const Palette& palette) {
     const LiquidPainter liquid({{150, 110}, {1360, 1000}, liquidDecorationIntensity, Ground::translucent});
     QColor brightest = Qt::black;
-    // After so many seconds it begins anew.
+    // It repeats after this many seconds.
     for (int second = 0; second < 126; ++second) {
         const auto picture = liquid.paint(liquidAngles(second));
         for (int y = 0; y < picture.height(); ++y) {

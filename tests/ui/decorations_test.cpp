@@ -1,5 +1,5 @@
-// What is laid behind the dashboard and on the panel, measured in painted pixels of sixteen bits, since eight
-// cannot tell such faint colours apart.
+// The decorations of dashboard and panel, measured in pixels of sixteen bits a channel, since eight cannot
+// distinguish such faint colours.
 
 #include "ui/backgrounds/decorations.h"
 
@@ -31,7 +31,7 @@ QImage painted(QSize size, int scale = 1) {
     return image;
 }
 
-/// The rows on which anything is painted that is not lost in the sixteenth bit.
+/// The rows on which more is painted than rounding errors.
 std::vector<int> rowsWithALine(const QImage& image, int x) {
     std::vector<int> rows;
     for (int y = 0; y < image.height(); ++y) {

@@ -40,7 +40,7 @@ TEST(NameText, NamesAreLimitedToTwoHundredCharacters) {
 }
 
 TEST(NameText, NoCharacterIsSplit) {
-    // Eleven bytes and five units of text each, and one to the eye.
+    // Eleven bytes and five code units each, but one visible character.
     const std::string coder = "👩‍💻";
     EXPECT_EQ(nameText(repeated(coder, 201)), QString::fromStdString(repeated(coder, 200)) + "…");
     const std::string accented = "e\u0301";

@@ -1,4 +1,4 @@
-// On a screen with two pixels to a point, what is painted must have the screen's pixels.
+// On a screen with two pixels per point, painted items must have the screen's resolution.
 
 #include <gmock/gmock.h>
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr int pixelsToAPoint = 2;
 
-/// Whether every pixel of an image has a twin, as in one that was painted in points and enlarged.
+/// Whether an image consists of blocks of equal pixels, as if painted at half the resolution and enlarged.
 bool isEnlarged(const QImage& image) {
     for (int y = 0; y + 1 < image.height(); y += pixelsToAPoint) {
         for (int x = 0; x + 1 < image.width(); x += pixelsToAPoint) {

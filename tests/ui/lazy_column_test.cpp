@@ -62,24 +62,24 @@ struct LazyColumnTest : testing::Test, UiScene {
 
     void open() {
         show(lazyList, {300, 200}, {{"rows", QVariant::fromValue<RowListModel*>(&rows_)}});
-        settle();
+        polish();
     }
 
-    void settle() { static_cast<void>(picture()); }
+    void polish() { static_cast<void>(picture()); }
 
     void apply() {
         rows_.setRows(tiles_);
-        settle();
+        polish();
     }
 
     void scrollTo(double y) {
         view_->setProperty("contentY", y);
-        settle();
+        polish();
     }
 
     [[nodiscard]] LazyColumn& column() const { return *qobject_cast<LazyColumn*>(item("column")); }
 
-    /// The rows that there are, as the tabulator and screen readers come to them.
+    /// The existing rows in tab order, which is that of screen readers.
     [[nodiscard]] QStringList names() const {
         QStringList found;
         for (const auto* row : column().childItems()) found.append(row->objectName());
@@ -109,7 +109,7 @@ TEST_F(LazyColumnTest, AThousandRowsCostAsManyDelegatesAsTwenty) {
     open();
     const int few = column().delegateCount();
     fill(980);
-    settle();
+    polish();
     EXPECT_LE(column().delegateCount(), few + LazyColumn::spareRows);
 }
 
@@ -212,10 +212,10 @@ TEST_F(LazyColumnTest, OutOfViewAltogetherItKeepsAFewRowsAtTheNearerEnd) {
     fill(100);
     open();
     column().setY(5000);
-    settle();
+    polish();
     EXPECT_EQ(names(), from(0, LazyColumn::spareRows));
     column().setY(-5000);
-    settle();
+    polish();
     EXPECT_EQ(names(), from(100 - LazyColumn::spareRows, 100));
 }
 

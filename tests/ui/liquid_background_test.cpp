@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::chrono;
 
-void settle() {
+void processEvents() {
     for (int i = 0; i < 3; ++i) {
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents();
@@ -30,7 +30,7 @@ protected:
 
     void showWindow() {
         window_.show();
-        settle();
+        processEvents();
     }
 
     platform::FakeClock clock_{sys_days(January / 15 / 2026)};
@@ -52,7 +52,7 @@ TEST_F(LiquidBackgroundTest, MovesOnlyWhileItsWindowIsOnTheScreen) {
     showWindow();
     EXPECT_TRUE(liquid_.isMoving());
     window_.hide();
-    settle();
+    processEvents();
     EXPECT_FALSE(liquid_.isMoving());
     showWindow();
     EXPECT_TRUE(liquid_.isMoving());

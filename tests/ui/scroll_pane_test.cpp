@@ -40,7 +40,7 @@ struct ScrollPaneTest : testing::Test, UiScene {
 
     [[nodiscard]] double contentY() const { return seen("y0").toDouble(); }
 
-    /// Whether the pane comes to that place, and stays there.
+    /// Whether the pane scrolls to that position and stays there.
     [[nodiscard]] bool restsAt(double y) const {
         if (!QTest::qWaitFor([&] { return contentY() == y; }, 60'000)) return false;
         QTest::qWait(200);

@@ -46,7 +46,7 @@ TEST(SymbolTable, GlyphsStandInTheMiddleOfTheirSquare) {
     }
 }
 
-// A frame with nothing in it would look like a check box that nobody has ticked.
+// An empty frame would look like an unchecked check box.
 TEST(SymbolTable, TheSymbolOfAnApplicationHasMoreThanItsFrame) {
     const auto shape = *symbolShape(u"app");
     const auto bounds = shape.boundingRect();
@@ -59,7 +59,8 @@ TEST(SymbolTable, TheSymbolOfAnApplicationHasMoreThanItsFrame) {
     int inkOfASide = 0;
     for (int i = 0; i < 100; ++i) inkOfASide += hasInk(i / 100.0, 0.7) ? 1 : 0;
     EXPECT_GT(inkOfASide, 0);
-    EXPECT_GT(inkInTheMiddle, 3 * inkOfASide / 2) << "from above, there is more than the two lines of a frame";
+    EXPECT_GT(inkInTheMiddle, 3 * inkOfASide / 2)
+        << "from above, there is more than the two lines of a frame";
 }
 
 TEST(SymbolTable, TheSymbolsThatTheWindowNamesAreThere) {

@@ -9,7 +9,7 @@
 namespace tidewatch {
 namespace {
 
-/// Rows of a list belong to no object, so that only the tree of what is shown leads to them.
+/// Rows of a list have no QObject parent and are only found in the tree of visual items.
 QQuickItem* findShown(QQuickItem& in, const QString& name) {
     if (in.objectName() == name) return &in;
     for (auto* child : in.childItems()) {

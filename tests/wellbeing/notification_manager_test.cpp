@@ -24,7 +24,7 @@ protected:
         manager_.emplace(service_, world_.mainLoop, world_.preferences, world_.log, goals_, daily_);
     }
 
-    /// A start, with what the user or the service answers to the request.
+    /// A start with this answer to the permission request.
     void start(const platform::AuthorizationResult& answer) {
         start();
         manager_->requestAuthorization();

@@ -1,7 +1,7 @@
-// A core that works much faster than time, on the real disk, until it is killed.
+// A core that ticks much faster than real time, on the real disk, until it is killed.
 //
-// Usage: kill_child HOME START, where START is the wall clock in seconds since 1970. Says on its standard
-// output what it found at the start, "loaded DAYS APPS HOURS MINUTES PROJECTS", and after each completed
+// Usage: kill_child HOME START, where START is the wall clock in seconds since 1970. Prints to its standard
+// output what it loaded, "loaded DAYS APPS HOURS MINUTES PROJECTS", and after each completed
 // flush what that flush wrote, "flushed ...": the sums of all seconds in each store.
 
 #include <fmt/format.h>
@@ -71,7 +71,7 @@ Seconds sumOf(const ProjectTimeStore& times, const std::vector<DayKey>& days) {
     return sum;
 }
 
-// One write, so that a line is either said or not.
+// A single write, so that a line is printed whole or not at all.
 void say(const std::string& line) {
     if (::write(STDOUT_FILENO, line.data(), line.size()) != static_cast<ssize_t>(line.size())) std::exit(3);
 }
@@ -118,7 +118,7 @@ int main(int argc, char** argv) {
         if (tick % ticksBetweenFlushes == 0) {
             disk.finish();
             tell("flushed");
-            clock.suspend(1h);  // so that day changes, which flush on their own, come often
+            clock.suspend(1h);  // so that day changes, which flush too, are frequent
         }
     }
 }

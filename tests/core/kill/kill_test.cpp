@@ -1,6 +1,6 @@
-// Kills a working core at random moments and looks at what is left on the disk.
+// Kills a working core at random times and checks what is left on the disk.
 //
-// TIDEWATCH_LONG=1 kills 200 times instead of 30; TIDEWATCH_SEED repeats the moments of an earlier run.
+// TIDEWATCH_LONG=1 kills 200 times instead of 30; TIDEWATCH_SEED repeats the times of an earlier run.
 
 #include <gmock/gmock.h>
 #include <simdjson.h>
@@ -36,7 +36,7 @@ constexpr std::array names{"today.json", "apps.json", "hours.json", "minutes.jso
 /// Sums of all seconds in each of the files.
 using Sums = std::array<std::int64_t, names.size()>;
 
-/// What a killed child had said.
+/// What a killed child had printed.
 struct Report {
     std::optional<Sums> loaded;
     std::optional<Sums> lastFlush;
@@ -89,7 +89,7 @@ protected:
         for (std::size_t file = 0; file < names.size(); ++file) contents_[file] = read(names[file]);
     }
 
-    // Every file has to parse; a file that is not there is a failure too.
+    // Every file must exist and be valid.
     Counters read(const std::string& name) {
         Counters counters;
         simdjson::dom::element top;
@@ -98,7 +98,7 @@ protected:
         return counters;
     }
 
-    // How long a child takes, on this machine and this build, until its first flush is done.
+    // How long a child takes to complete its first flush, on this machine and with this build.
     std::chrono::microseconds timeToFirstFlush() {
         for (auto span = 20ms; span < 20s; span *= 2) {
             const auto report = workAndKill(span);
@@ -109,7 +109,7 @@ protected:
         return 0us;
     }
 
-    // Lets a child work for `span` from its start on, kills it, and gives what it had said.
+    // Lets a child work for `span` from its start on, kills it, and returns what it had printed.
     Report workAndKill(std::chrono::microseconds span) {
         std::array<int, 2> pipe{};
         EXPECT_EQ(::pipe(pipe.data()), 0);
@@ -152,7 +152,7 @@ protected:
             if (report.loaded) {
                 EXPECT_EQ((*report.loaded)[file], found) << "it did not continue from what was on the disk";
             }
-            // No less than was flushed, and no more than the one flush that could not be told of any more.
+            // No less than was flushed, and at most one flush more, which could not be reported any more.
             const auto known = report.lastFlush ? (*report.lastFlush)[file] : found;
             EXPECT_GE(left, known);
             EXPECT_LE(left, known + ticksBetweenFlushes);
@@ -168,7 +168,7 @@ protected:
         }
     }
 
-    // Beside the files at most one unfinished successor each. True if there is any.
+    // Besides the files at most one temporary file each. Returns whether there is any.
     [[nodiscard]] bool leftUnfinished() const {
         bool unfinished = false;
         for (const auto& entry : std::filesystem::directory_iterator(data_)) {

@@ -24,7 +24,7 @@ constexpr auto timeout = 400ms;
 constexpr char service[] = "com.example.Service";
 constexpr char path[] = "/com/example";
 
-/// Answers each call with its text; `mute` keeps the answer to itself.
+/// Answers each call with its text; `mute` is never answered.
 class Service final : public QDBusVirtualObject {
 public:
     explicit Service(QDBusConnection bus, const QString& name = service, const QString& at = path) {
@@ -63,7 +63,7 @@ protected:
         return QDBusConnection::connectToBus(address, connections_.back());
     }
 
-    /// The answer to a call on which the caller waits, and how long that took.
+    /// The reply to a blocking call, and how long it took.
     struct Asked {
         QDBusMessage answer;
         qint64 milliseconds = 0;

@@ -16,8 +16,8 @@
 
 namespace {
 
-// A folder that hangs, as one on a server that is gone: whoever looks at it waits until it is back. Only the
-// test's own thread does not, so that it can tell that it was made to look.
+// A folder that hangs, as if on a server that is down: every access blocks until it is back. Only the test's
+// own thread is not blocked, so that it can detect accesses of its own.
 struct HangingFolder {
     std::mutex mutex;
     std::condition_variable changed;
@@ -58,7 +58,7 @@ struct HangingFolder {
 
 }  // namespace
 
-// In the place of the C library's.
+// Replaces the C library's.
 extern "C" int stat(const char* path, struct stat* status) {
     hangingFolder.look(path);
     return ::fstatat(AT_FDCWD, path, status, 0);
@@ -72,7 +72,7 @@ using namespace std::chrono_literals;
 
 class DesktopEntriesTest : public testing::Test {
 protected:
-    // The id once everything that lies there now has been read.
+    // The id once everything that is there now has been read.
     std::optional<std::string> idForWindow(const std::string& instance, const std::string& windowClass) {
         auto& entries = this->entries();
         entries.waitUntilLoaded();
@@ -81,7 +81,7 @@ protected:
         return entries.idForWindow(instance, windowClass);
     }
 
-    // Made when first asked for, so that a test can put its files there before.
+    // Created on first use, so that a test can create its files before.
     DesktopEntries& entries() {
         if (!entries_) {
             entries_.emplace(
@@ -90,7 +90,7 @@ protected:
         return *entries_;
     }
 
-    // A folder's time of change may be as coarse as the kernel's clock.
+    // A folder's modification time may be as coarse as the kernel's clock.
     void makeFolderChanged(const std::string& path) {
         fs::last_write_time(path, fs::file_time_type::clock::now() + (stamp_ += 2s));
     }

@@ -21,7 +21,7 @@ using namespace std::chrono_literals;
 
 const UserNotification notification{"💣 Llevas 2 horas sentado", "Hora de un descanso · Muñecas"};
 
-/// A notification service as a test scripts it.
+/// A notification service that tests can script.
 class Service final : public QDBusVirtualObject {
 public:
     enum class Manner { takes, refuses, keepsSilent };
@@ -48,7 +48,7 @@ private:
 
 class DesktopNotificationsTest : public testing::Test {
 protected:
-    /// Lets the event loop run until `condition` holds; gives up after a minute.
+    /// Runs the event loop until `condition` holds, for a minute at most.
     static bool waitFor(const std::function<bool()>& condition) {
         QElapsedTimer timer;
         timer.start();
@@ -75,7 +75,7 @@ protected:
     QCoreApplication application_{argc_, argv_};
     FakeLog log_{[](const std::string& complaint) { ADD_FAILURE() << complaint; }};
     PrivateBus bus_;
-    // What stands after the place names one run of the bus.
+    // What follows the path identifies one run of the bus.
     SessionBus session_{bus_.address().section(',', 0, 0)};
 };
 

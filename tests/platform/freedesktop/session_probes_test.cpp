@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A socket that takes connections; with words, it says them to whoever has connected and spoken.
+/// A socket that accepts connections; with a reply, it sends that after the client has sent something.
 class Listener final {
 public:
     explicit Listener(const std::string& address, std::string words = "") : words_(std::move(words)) {

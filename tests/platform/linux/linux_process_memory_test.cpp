@@ -21,7 +21,7 @@ long residentKilobytes() {
 TEST(LinuxProcessMemory, GivesBackWhatWasFreed) {
     std::vector<std::unique_ptr<std::string>> blocks;
     for (int block = 0; block < 40'000; ++block) blocks.push_back(std::make_unique<std::string>(1000, 'x'));
-    // One block at the end keeps all below it from being given back by itself.
+    // A block at the end keeps the allocator from releasing everything below it by itself.
     auto last = std::move(blocks.back());
     blocks.clear();
     blocks.shrink_to_fit();

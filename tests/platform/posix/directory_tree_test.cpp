@@ -24,7 +24,7 @@ struct DirectoryTreeTest : testing::Test {
 
     [[nodiscard]] std::string at(const std::string& name) const { return directory.path() + "/" + name; }
 
-    // What is found below the test's directory, by the path from there.
+    // What is found below the test's directory, by relative path.
     std::map<std::string, FoundFile> find(HiddenFiles hidden = HiddenFiles::included) {
         std::map<std::string, FoundFile> found;
         const auto status = files.enumerate(directory.path(), hidden, [&](const FoundFile& file) {
@@ -207,7 +207,7 @@ TEST_F(DirectoryTreeTest, AHundredThousandFilesAreFound) {
     EXPECT_EQ(found, 100'000);
 }
 
-// Deeper than a path can be long, and than there are descriptors.
+// Deeper than the maximum path length and the number of file descriptors.
 TEST_F(DirectoryTreeTest, AnEndlessTreeIsEnumeratedUpToTheMaximumPathLength) {
     std::vector<FileDescriptor> parents;
     parents.emplace_back(::open(directory.path().c_str(), O_RDONLY | O_DIRECTORY));

@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A start of the program as far as it matters here: the lock and who asks for it.
+// A start of the program as far as it matters here: the lock and its owner.
 struct Start {
     explicit Start(Log& log, std::chrono::milliseconds timeout = LockedSingleInstance::defaultTimeout,
                    std::chrono::milliseconds pause = 50ms)
@@ -149,7 +149,7 @@ TEST_F(LockedSingleInstanceTest, AnInstanceThatEndsInTheMomentOfTheQuestionDoesN
     ASSERT_EQ(first->instance.claim(directory_.path()), InstanceClaim::first);
     bool answered = true;
     std::thread asking([&] { answered = ReopenSocket::askIn(directory_.path(), 60s); });
-    // One turn of the loop, as the last one that a program comes to.
+    // A single turn of the loop, like a program's last one.
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     first.reset();
     asking.join();
@@ -190,7 +190,7 @@ TEST_F(LockedSingleInstanceTest, TheSocketIsMadeAgainWhenItsDirectoryWasRemoved)
     Start first(log_);
     ASSERT_EQ(first.instance.claim(folder), InstanceClaim::first);
     std::filesystem::remove_all(folder);
-    // As a write does it, on a thread of its own.
+    // On a thread of its own, like a write.
     std::thread([&] { EXPECT_EQ(first.lock.ensure(), RecordLock::held); }).join();
     EXPECT_EQ(claimFromAnotherThread(folder), InstanceClaim::handedOver);
 }

@@ -14,7 +14,7 @@ std::atomic<int> refusals = 0;
 
 }  // namespace
 
-// In the place of the C library's.
+// Replaces the C library's.
 extern "C" int accept4(int listener, sockaddr* address, socklen_t* size, int flags) {
     if (!noneLeft) return static_cast<int>(::syscall(SYS_accept4, listener, address, size, flags));
     ++refusals;

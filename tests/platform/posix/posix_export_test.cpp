@@ -1,4 +1,4 @@
-// A file that is exported to where the user wants it.
+// Exports to paths that the user chooses.
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>

@@ -17,7 +17,7 @@
 
 namespace tidewatch::platform {
 
-/// A file system whose home is a directory of the test's own.
+/// A file system whose home is a temporary directory.
 struct PosixFileSystemTest : testing::Test {
     test::TemporaryDirectory directory;
     PosixFileSystem files{directory.path()};
@@ -33,7 +33,7 @@ struct PosixFileSystemTest : testing::Test {
         return status.st_mode & 07777;
     }
 
-    /// The names that lie in the test's directory.
+    /// The names of the entries of the test's directory.
     [[nodiscard]] std::vector<std::string> names() const {
         std::vector<std::string> result;
         for (const auto& entry : std::filesystem::directory_iterator(directory.path())) {
@@ -44,7 +44,7 @@ struct PosixFileSystemTest : testing::Test {
     }
 };
 
-/// While it lives, new files lack these rights.
+/// During its lifetime, new files lack these permissions.
 class Umask final {
 public:
     explicit Umask(mode_t mask) : before_(::umask(mask)) {}
@@ -56,7 +56,7 @@ private:
     mode_t before_;
 };
 
-/// While it lives, this process writes no file beyond `bytes`.
+/// During its lifetime, this process cannot write files larger than `bytes`.
 class FileSizeLimit final {
 public:
     explicit FileSizeLimit(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {

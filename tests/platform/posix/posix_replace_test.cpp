@@ -1,4 +1,4 @@
-// A file that is replaced atomically.
+// Atomic replacement of files.
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -13,12 +13,12 @@
 
 namespace {
 
-// What has been brought to the disk: 'f' for a file, 'd' for a directory.
+// What has been synced, in order: 'f' for a file, 'd' for a directory.
 std::string synced;
 
 }  // namespace
 
-// In the place of the C library's.
+// Replaces the C library's.
 extern "C" int fsync(int descriptor) {
     struct stat status {};
     ::fstat(descriptor, &status);

@@ -1,4 +1,4 @@
-// A file that is set aside.
+// Setting damaged files aside.
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>

@@ -17,7 +17,7 @@ constexpr int startTimeOut = 60'000;
 }  // namespace
 
 PrivateXServer::PrivateXServer() {
-    // The server chooses a free number and tells it.
+    // The server chooses a free display number and prints it.
     server_.setProcessChannelMode(QProcess::SeparateChannels);
     server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp", "-noreset"});
     while (!server_.canReadLine() && server_.waitForReadyRead(startTimeOut)) {

@@ -62,7 +62,7 @@ TEST_F(X11ActiveApplicationTest, AMillionChangesWhileNobodyAsksCostNoMemory) {
         change(former, 1000);
         change(present, 500);
         change(server_.root(), 500);
-        // The user is away, but windows come and go.
+        // The user is away, but windows open and close.
         if (round % 100 == 0) focus(round % 200 == 0 ? next : present);
     }
     constexpr std::int64_t flat = 6 * 1024 * 1024;
@@ -87,7 +87,7 @@ TEST_F(X11ActiveApplicationTest, OnlyTheWindowInFrontIsWatched) {
     ASSERT_TRUE(active_.current());
     EXPECT_NE(watchers(present), 0u);
     EXPECT_EQ(watchers(former), 0u);
-    // Nobody has to ask for it.
+    // Without being requested.
     focus(XCB_WINDOW_NONE);
     QElapsedTimer timer;
     timer.start();

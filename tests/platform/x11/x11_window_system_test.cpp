@@ -15,7 +15,7 @@ namespace {
 
 class X11WindowSystemTest : public testing::Test {
 protected:
-    /// Says on the root window that a window manager tells of frames beforehand.
+    /// Announces on the root window a window manager that reports frames in advance.
     void announceFrames() const {
         const auto feature = server_.atom("_NET_REQUEST_FRAME_EXTENTS");
         xcb_change_property(server_.client(), XCB_PROP_MODE_REPLACE, server_.root(),
@@ -51,7 +51,7 @@ TEST_F(X11WindowSystemTest, AWindowManagerThatHasStoppedBlocksNobody) {
     X11WindowSystem windowSystem;
     const auto window = server_.openWindow("Statistics");
     windowSystem.requestFrame(window);
-    // The quickest of several: the machine may be busy, the program must not wait.
+    // The fastest of several: the machine may be busy.
     qint64 quickest = 1000;
     for (int i = 0; i < 5; ++i) {
         QElapsedTimer timer;

@@ -1,5 +1,5 @@
-// The figures of the icons against their drawings, by distances between points: a second reading of the
-// numbers that shares neither paths nor strokes with the painter.
+// The painted icons compared with their geometry, by distances between points: an independent implementation
+// that shares neither paths nor strokes with the painter.
 
 #include <gtest/gtest.h>
 
@@ -70,7 +70,7 @@ Distance any(std::vector<Distance> areas) {
     };
 }
 
-/// How many pixels do not look as the drawing says. Those that its edge crosses may look either way.
+/// The number of pixels that differ from the drawing, not counting those on its edges.
 int wrongPixels(const QImage& image, double unitsHigh, const Distance& area,
                 const std::function<bool(const QColor&)>& isInk) {
     const double unit = unitsHigh / image.height();

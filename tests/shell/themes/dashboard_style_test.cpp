@@ -20,7 +20,7 @@ namespace {
 
 constexpr double ink = 10 / 255.0;
 
-/// One row of the table of values: a field and what it is in each theme, in the order of the menu.
+/// A row of the expected values: a field and its value in each theme, in menu order.
 struct FieldRow {
     const char* name;
     Color DashboardStyle::*field;

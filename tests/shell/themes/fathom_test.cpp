@@ -74,7 +74,7 @@ TEST(OchrePalette, AliasesTheTierColoursButForTheGrayOfWhatHasNoTier) {
     EXPECT_EQ(ochre_palette::other.at(1.1), DashboardStyle::tierOther);
 }
 
-// The one that a project whose colour cannot be read has, too.
+// Also the colour of projects whose stored colour is invalid.
 TEST(SystemColors, TheGreenIsOneOnBothGrounds) {
     for (const auto ground : {Appearance::light, Appearance::dark}) {
         EXPECT_EQ(systemColor(SystemColor::green, ground), Color::hex6(0x34C759));

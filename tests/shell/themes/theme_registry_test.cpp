@@ -18,7 +18,7 @@ const Color green{123 / byte, 216 / byte, 143 / byte, 1};
 using enum FontRole;
 using enum FontWeight;
 
-/// The table of the panel's values, a row a theme, in the order of the menu.
+/// The panel's expected values, one row per theme, in menu order.
 struct Row {
     const char* id;
     const char* displayName;
@@ -26,7 +26,7 @@ struct Row {
     double cornerRadius;
     PanelPadding padding;
     PanelBackground background;
-    std::optional<Color> primaryText;  ///< nothing where it is the desktop's own
+    std::optional<Color> primaryText;  ///< nullopt for the desktop's own
     std::optional<Color> secondaryText;
     std::optional<Color> accentActive;
     std::optional<Color> accentIdle;

@@ -13,7 +13,7 @@
 namespace tidewatch {
 namespace {
 
-/// Tells what the menu gives the toolkit to draw.
+/// Records what the menu has the toolkit draw.
 class DrawnMenu : public QMenu {
 public:
     static QStyleOptionMenuItem row(const QMenu& menu, const QAction& action) {

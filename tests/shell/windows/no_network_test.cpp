@@ -18,7 +18,7 @@
 namespace tidewatch {
 namespace {
 
-/// A server on this machine that hears whether anybody comes.
+/// A server on this machine that counts its connections.
 class Listener final {
 public:
     Listener() {
@@ -30,7 +30,7 @@ public:
         return QString("http://127.0.0.1:%1/picture.png").arg(server_.serverPort());
     }
 
-    /// Whoever asked before now has been heard.
+    /// Includes every connection that was requested before.
     [[nodiscard]] int visitors() {
         QTcpSocket last;
         last.connectToHost(QHostAddress::LocalHost, server_.serverPort());
@@ -45,14 +45,14 @@ private:
     int visitors_ = 0;
 };
 
-/// What a request comes to.
+/// The error that a request ends with.
 QNetworkReply::NetworkError outcome(QNetworkAccessManager& network, const QUrl& url) {
     const std::unique_ptr<QNetworkReply> reply(network.get(QNetworkRequest(url)));
-    bool told = false;
-    QObject::connect(reply.get(), &QNetworkReply::finished, reply.get(), [&told] { told = true; });
+    bool finished = false;
+    QObject::connect(reply.get(), &QNetworkReply::finished, reply.get(), [&finished] { finished = true; });
     EXPECT_TRUE(reply->isFinished());
     QCoreApplication::processEvents();
-    EXPECT_TRUE(told);
+    EXPECT_TRUE(finished);
     EXPECT_TRUE(reply->readAll().isEmpty());
     return reply->error();
 }

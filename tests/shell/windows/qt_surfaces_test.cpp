@@ -16,7 +16,7 @@
 namespace tidewatch {
 namespace {
 
-/// This program has no module of views: every view is one that cannot be made.
+/// This test program has no views module: no view can be created.
 class QtSurfacesTest : public testing::Test {
 protected:
     static QDialog& dialog() { return dynamic_cast<QDialog&>(*QApplication::activeModalWidget()); }

@@ -41,7 +41,7 @@ protected:
             size);
     }
 
-    /// Writes down what the mouse does to the window itself.
+    /// Records what the mouse does to the window itself.
     void record(QuickFloatingWindow& window) {
         window.setGestures({
             .mouseDown = [this](platform::Point) { gestures_.append("down"); },

@@ -213,7 +213,7 @@ TEST_F(SaveDialogTest, AFileThatIsThereIsReplacedOnlyIfTheUserSaysSo) {
     EXPECT_EQ(answers_.size(), 1U);
 }
 
-/// An icon theme that inherits from another, both in the folder of the test.
+/// An icon theme that inherits from another, both in the test's directory.
 struct IconThemeDialogTest : SaveDialogTest {
     IconThemeDialogTest() {
         theme("child", "Inherits=parent");

@@ -23,7 +23,7 @@ struct BreakBombViewTest : testing::Test, BreakScene {
     [[nodiscard]] int count(const char* property) const { return seen(property).toInt(); }
     [[nodiscard]] bool isUp() const { return item("alert")->isVisible(); }
 
-    /// Once the window has taken the view in.
+    /// After the view was added to the window.
     [[nodiscard]] bool buttonGetsFocus() const {
         return QTest::qWaitFor([this] { return item("dismiss")->hasActiveFocus(); }, 60'000);
     }
@@ -149,7 +149,7 @@ TEST_F(BreakBombViewTest, TheRingGoesOutAndTheBombRocksWhileItIsUp) {
     double maxScale = 0;
     double minTurn = 90;
     double maxTurn = -90;
-    // Both go through their whole ranges, in as many frames as the machine has time for.
+    // Both cover their whole ranges, in as many frames as the machine can render.
     const auto wholeRanges = [&] {
         return minScale < 1.04 && maxScale > 1.16 && minTurn < -7 && maxTurn > 7;
     };
