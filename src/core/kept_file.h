@@ -13,8 +13,8 @@
 
 namespace tidewatch {
 
-/// A small file of the record that is only written on changes: keeps its content in memory, so that a file
-/// that goes missing can be rewritten. Thread-safe.
+/// A RecordFile that keeps its content in memory, so that it can be restored if the file goes missing. For
+/// small files that are only written on changes, unlike the counter files. Thread-safe.
 class KeptFile final {
 public:
     /// As with RecordFile.

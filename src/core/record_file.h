@@ -10,7 +10,7 @@
 
 namespace tidewatch {
 
-/// One file of the record in the data directory: read once, then rewritten as a whole.
+/// Reads a file of the data directory once and rewrites it as a whole; keeps none of its content.
 ///
 /// Data that was not read is never overwritten. A file that could not be read or parsed is set aside before
 /// the first write, with the suffix ".damaged-" and the day; so is, with ".other-", what another process

@@ -75,7 +75,7 @@ void TimerEngine::tick() {
         writeDay();
         flushStores();
         ticksSinceFlush_ = 0;
-        // That took its time, and whoever comes after this tick goes by the clock.
+        // The flush took a while: the day may have changed before what follows this tick.
         checkDay();
     }
 

@@ -57,7 +57,9 @@ void removeCodeLoadingVariables(const QProcessEnvironment& inherited) {
 
 /// The address of the session bus, empty if there is none. No bus is started for this program alone.
 std::string busAddress() {
-    if (const auto told = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !told.isEmpty()) return told.toStdString();
+    if (const auto address = qgetenv("DBUS_SESSION_BUS_ADDRESS"); !address.isEmpty()) {
+        return address.toStdString();
+    }
     const auto standard = QFile::decodeName(qgetenv("XDG_RUNTIME_DIR")) + "/bus";
     return QDir::isAbsolutePath(standard) && QFile::exists(standard) ? "unix:path=" + standard.toStdString()
                                                                      : "";
@@ -65,7 +67,7 @@ std::string busAddress() {
 
 /// The address of the accessibility bus, as the toolkit would determine it.
 std::string accessibilityAddress(const X11Connection& server) {
-    if (const auto told = qgetenv("AT_SPI_BUS_ADDRESS"); !told.isEmpty()) return told.toStdString();
+    if (const auto address = qgetenv("AT_SPI_BUS_ADDRESS"); !address.isEmpty()) return address.toStdString();
     const auto announced = server.texts(server.root(), server.atom("AT_SPI_BUS"));
     return announced.empty() ? "" : announced.front();
 }
@@ -132,8 +134,8 @@ ProcessEnvironment::ProcessEnvironment() {
     }
     impl_->sessionBus = impl_->busProxy.proxiedAddress(busAddress());
     qputenv("DBUS_SESSION_BUS_ADDRESS", QByteArray::fromStdString(impl_->sessionBus));
-    // One that answers is left to the toolkit, which connects to it without a proxy: given an address here, this
-    // version of it would tell whoever reads the screen of no window at all.
+    // A responsive bus is left to the toolkit, which connects to it without a proxy: with an address in the
+    // environment, this version of it would report no window to screen readers.
     if (const auto address = accessibilityAddress(server);
         !address.empty() && !isBusResponsive(address, sessionTimeout)) {
         qputenv("AT_SPI_BUS_ADDRESS", QByteArray::fromStdString(impl_->busProxy.proxiedAddress(address)));

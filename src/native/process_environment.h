@@ -5,19 +5,19 @@
 
 namespace tidewatch::platform {
 
-/// What the process inherits, put right for the toolkit: one to be made before the toolkit's application
-/// object and to outlive it. Main thread only.
+/// Prepares the environment variables that the toolkit reads. Must be created before the toolkit's
+/// application object and outlive it. Main thread only.
 ///
-/// The program runs as an X11 client, also in a Wayland session, since there alone it can place its clock and
-/// see the application in front. No variable chooses what code the toolkit loads: among its plugins are some
-/// that open a port. Whoever else the toolkit asks in the session is made sure not to keep it waiting.
+/// The program runs as an X11 client, also in a Wayland session, where alone it can position its clock and
+/// see the application in front. Variables that make the toolkit load code are removed: some of its plugins
+/// open a port. Session services that do not respond cannot block it.
 class ProcessEnvironment final {
 public:
     ProcessEnvironment();
     ~ProcessEnvironment();
 
-    /// Whether the X server that DISPLAY names answers. Without one the toolkit would abort the process; why
-    /// stands in the log.
+    /// Whether the X server named by DISPLAY responds; if not, the reason has been logged. Without one the
+    /// toolkit would abort the process.
     [[nodiscard]] bool hasDisplay() const;
 
     /// What the process was started with: for other programs that it starts.

@@ -6,8 +6,8 @@ namespace tidewatch {
 
 namespace {
 
-/// How long a tray may take to appear before the user is told, in seconds; at session start the program may
-/// be faster than the tray.
+/// How long a tray may take to appear before the user is notified, in seconds; at session start the program
+/// may be faster than the tray.
 constexpr int trayTimeout = 10;
 
 }  // namespace

@@ -2,7 +2,7 @@ import QtQuick
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! How full ten minutes were, and of what. */
+/*! The time used of ten minutes as a bar in the colour of its main tier. */
 Item {
     id: root
 

@@ -4,7 +4,7 @@ import QtQuick.Templates as T
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! An application of the table. The right button, the menu key and Return ask for its menu. */
+/*! A row of the table: an application. The right button, the menu key and Return open its context menu. */
 T.ItemDelegate {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! How far a goal is reached: its name, its figures and a bar. */
+/*! The progress of a goal: name, figures and a bar. */
 ColumnLayout {
     id: root
 
@@ -33,7 +33,7 @@ ColumnLayout {
             Layout.preferredWidth: 16
             horizontalAlignment: Text.AlignRight
             text: root.goal.mark
-            // The monospaced family's own mark looks like a root.
+            // The monospaced family's check mark looks like a square root.
             font: Style.sans(14, Style.Semibold)
             color: Style.legibleOn(Style.palette.textGround, Style.palette.tierProductive)
             Accessible.ignored: true

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! Stars, progress, and the goals themselves. */
+/*! Stars, progress, and the settings of the goals. */
 TabPane {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! The brand, and the day on show with the ways to another one. */
+/*! The brand, and the selected day with buttons to select another. */
 RowLayout {
     id: root
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! An hour of the timesheet: its ten-minute cells, its sums, and what filled it. */
+/*! An hour of the timesheet: its ten-minute cells, sums and applications. */
 Card {
     id: root
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! The day's twenty-four hours as bars, each parted by tier. */
+/*! The day's 24 hours as stacked bars by tier. */
 Card {
     id: root
 

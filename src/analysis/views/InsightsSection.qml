@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! The look back: the longest session and the figures of a range of days. */
+/*! The insights: the longest session and the figures of a range of days. */
 ColumnLayout {
     id: root
 

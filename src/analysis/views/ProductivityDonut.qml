@@ -2,7 +2,7 @@ import QtQuick
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! The day's one large figure in its ring, and how it compares. */
+/*! The day's score in a ring, and its comparison with earlier days. */
 Card {
     id: root
 

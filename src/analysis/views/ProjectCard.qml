@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! The day's time of one project, or of none, and what it was spent in. */
+/*! The day's time of a project, or the untagged time, with its applications. */
 Card {
     id: root
 

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! Where the day's time went by project. */
+/*! The day's time by project. */
 TabPane {
     id: root
 

@@ -3,7 +3,7 @@ import QtQuick.Layouts
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! A goal, its value, and the way to less and more of it. */
+/*! A goal with its value and buttons to decrease and increase it. */
 RowLayout {
     id: root
 

@@ -2,7 +2,7 @@ import QtQuick
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! Lets a tier into the table, or keeps it out. */
+/*! Filters the table by a tier. */
 Chip {
     required property tierSwitch tier
 

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import Tidewatch.Analysis
 import Tidewatch.Ui
 
-/*! A tier's time and the applications that it went to. */
+/*! A tier's time and its applications. */
 Card {
     id: root
 

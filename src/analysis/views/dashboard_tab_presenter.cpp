@@ -4,7 +4,7 @@ namespace tidewatch {
 
 DashboardTabPresenter::DashboardTabPresenter(DashboardModel& model)
     : model_(model), modelChanged_(model.changed.connect([this](DashboardModel::Field field) {
-          // The last assignment of a reload stands for all of it.
+          // The last assignment of a reload: update once for all of them.
           if (field == DashboardModel::Field::avg7Score) updateIfVisible();
       })) {}
 

@@ -8,8 +8,7 @@ namespace tidewatch {
 HeaderPresenter::HeaderPresenter(DashboardModel& model, const InsightsEngine& dates)
     : model_(model), dates_(dates), modelChanged_(model.changed.connect([this](DashboardModel::Field field) {
           using Field = DashboardModel::Field;
-          // The last assignment of a reload stands for all of it: the window may come up again after
-          // midnight.
+          // The score is the last assignment of a reload: the window may be opened again after midnight.
           if (field == Field::selectedDate || field == Field::isSelectedToday || field == Field::avg7Score)
               update();
       })) {

@@ -23,36 +23,35 @@ struct FrameMargins {
 /// How bright the frame around a window is to be.
 enum class FrameVariant { light, dark };
 
-/// What is asked of the desktop about windows beyond what the toolkit offers. Main thread only.
+/// Window management beyond what the toolkit offers. Main thread only.
 class WindowSystem {
 public:
     virtual ~WindowSystem() = default;
 
-    /// Puts the window on every workspace and into no taskbar, and keeps the desktop from drawing a shadow or
-    /// a frame of its own around it. To be called after the window exists and before each time it is shown.
+    /// Shows the window on every workspace, without a taskbar entry, and without the desktop's own shadow or
+    /// frame. To be called after the window is created and before each time it is shown.
     virtual void prepareFloating(WindowHandle window) = 0;
 
     /// Whether windows may have translucent pixels at this moment.
     [[nodiscard]] virtual bool isCompositing() const = 0;
     virtual Connection onCompositingChanged(std::function<void()> changed) = 0;
 
-    /// Lets only `region`, in device pixels of the window, take the mouse; the rest lets clicks through.
+    /// Restricts mouse input to `region`, in device pixels of the window; clicks pass through the rest.
     virtual void setInputRegion(WindowHandle window, Rectangle region) = 0;
 
-    /// Asks the desktop which frame the window will get. To be called as soon as the window exists, so that
-    /// the answer is there when frameMargins() looks for it.
+    /// Requests the margins of the frame that the window will get. To be called as soon as the window is
+    /// created, so that they are available to frameMargins().
     virtual void requestFrame(WindowHandle window) = 0;
 
-    /// The frame that the window has or, before it is shown, will get, as far as the desktop has told; waits
-    /// a few milliseconds at most.
+    /// The margins of the frame that the window has or, before it is shown, will get, as far as the desktop
+    /// has reported them; waits a few milliseconds at most.
     [[nodiscard]] virtual FrameMargins frameMargins(WindowHandle window) = 0;
 
-    /// Asks for a frame that goes with the window's content. Holds from the next showing on at the latest; a
-    /// desktop whose frames have one look only takes no notice.
+    /// Requests a light or dark frame. Effective when the window is next shown at the latest; ignored by
+    /// desktops whose frames have only one appearance.
     virtual void setFrameVariant(WindowHandle window, FrameVariant shade) = 0;
 
-    /// Gives a window that is shown the focus and brings it before all others, whatever the user is doing in
-    /// another application.
+    /// Focuses and raises a visible window, even if the user is active in another application.
     virtual void activate(WindowHandle window) = 0;
 
     /// Calls `changed` with true when other windows cover all of `window`, with false when they no longer

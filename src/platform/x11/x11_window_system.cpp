@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
 
-/// Whoever asks in the name of the user, as a taskbar does, is not kept from taking the focus.
+/// Requests on behalf of the user, like those of a taskbar, are exempt from focus stealing prevention.
 constexpr std::uint32_t actsForTheUser = 2;
 
 /// Far more than a healthy desktop needs, and too short to be noticed.
@@ -174,10 +174,10 @@ void X11WindowSystem::keepOutOfTaskbar(xcb_window_t window) {
 }
 
 void X11WindowSystem::waitForServer() {
-    // The server must have seen what was sent before the toolkit's connection goes on.
+    // The server must have processed these requests before the toolkit's connection sends more.
     const XcbReply<xcb_get_input_focus_reply_t> roundTrip(
         xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
-    // Events that came along with the answer no longer wake the notifier.
+    // Events that arrived with the reply no longer wake the notifier.
     QTimer::singleShot(0, notifier_.get(), [this] { readEvents(); });
 }
 

@@ -4,13 +4,13 @@ import QtQuick
 import Tidewatch.Shell
 import Tidewatch.Ui
 
-/*! The floating clock. Draws at the theme's own size and fits itself into whatever size it is given. */
+/*! The floating clock. Laid out at the theme's size and scaled to fit its own. */
 Item {
     id: root
 
     required property ClockPresenter presenter
 
-    /*! Pixels to a point of the theme's own drawing. */
+    /*! Pixels per point of the theme's layout. */
     readonly property real unit: Math.min(width / presenter.panelWidth, height / presenter.panelHeight)
 
     implicitWidth: presenter.panelWidth

@@ -6,7 +6,7 @@ import Tidewatch.Shell
 import Tidewatch.Ui
 import Tidewatch.Wellbeing
 
-/*! All of the statistics window: what stands in its row, and the break alert over it. */
+/*! The content of the statistics window: the panes of its row, and the break alert above them. */
 FocusScope {
     id: root
 

@@ -4,7 +4,7 @@ import Tidewatch.Analysis
 import Tidewatch.Shell
 import Tidewatch.Ui
 
-/*! The head of the statistics window, its tabs, and the one on show. */
+/*! The header of the statistics window, its tab bar, and the current tab. */
 Item {
     id: root
 

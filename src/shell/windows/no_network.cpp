@@ -6,7 +6,8 @@
 namespace tidewatch {
 namespace {
 
-/// Has failed before anybody can listen to it; tells so when the loop turns, as replies do.
+/// Has failed from the beginning, before signals can be connected; like other replies it therefore emits them
+/// later, from the event loop.
 class RefusedReply final : public QNetworkReply {
 public:
     RefusedReply(QNetworkAccessManager::Operation operation, const QNetworkRequest& request, QObject* parent)
@@ -17,16 +18,16 @@ public:
         setOpenMode(QIODevice::ReadOnly);
         setError(ContentAccessDenied, "This program asks nothing of the network.");
         setFinished(true);
-        QMetaObject::invokeMethod(this, &RefusedReply::tell, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &RefusedReply::announce, Qt::QueuedConnection);
     }
 
     void abort() override {}
 
 protected:
-    qint64 readData(char* /*into*/, qint64 /*most*/) override { return -1; }
+    qint64 readData(char* /*data*/, qint64 /*maxSize*/) override { return -1; }
 
 private:
-    void tell() {
+    void announce() {
         Q_EMIT errorOccurred(error());
         Q_EMIT finished();
     }

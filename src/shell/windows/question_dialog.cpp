@@ -49,7 +49,7 @@ QString broken(const QString& text, const QFontMetricsF& metrics) {
 }
 
 /// The text on lines of `textWidth`: its name on the line on which it begins, and no word wider than a line.
-/// What stands behind a line end is shown whole.
+/// Text after a line break is shown unabridged.
 QString fitted(const TextWithName& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     const auto before = tidewatch::text(text.before);

@@ -17,16 +17,15 @@ platform::Point globalPosition(const QMouseEvent& event) {
     return {event.globalPosition().x(), event.globalPosition().y()};
 }
 
-/// A tool lies above ordinary windows by its kind, also where the state for that is ignored, so a window that
-/// is to lie below is an ordinary one.
+/// Tool windows are above ordinary ones even where the stay-on-top state is ignored, so a window in the layer
+/// below is an ordinary one.
 Qt::WindowFlags flagsOf(WindowLayer layer) {
     const Qt::WindowFlags kind = layer == WindowLayer::above ? Qt::Tool | Qt::WindowStaysOnTopHint
                                                              : Qt::Window | Qt::WindowStaysOnBottomHint;
     return kind | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus;
 }
 
-/// `size`, made smaller in its proportions where no screen is large enough to show it: pixels that nobody
-/// sees cost memory all the same.
+/// `size`, scaled down proportionally if larger than every screen: pixels off screen cost memory too.
 PanelSize withinScreens(const PanelSize& size) {
     QSizeF most;
     for (const auto* screen : QGuiApplication::screens()) most = most.expandedTo(screen->size());

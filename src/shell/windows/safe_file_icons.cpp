@@ -9,7 +9,7 @@ namespace tidewatch {
 
 namespace {
 
-/// What the toolkit asks an icon theme for when it makes a file dialog or a question.
+/// The icons that the toolkit requests from the icon theme for file dialogs and questions.
 constexpr std::array dialogIcons = {
     "computer",
     "dialog-cancel",

@@ -34,7 +34,7 @@ constexpr int placesWidth = 150;
 constexpr int minColumnWidth = 90;
 constexpr int questionWidth = 360;
 
-/// How a kind of file is told apart.
+/// How files of a kind are recognised.
 struct FileType {
     const char* filter;
     const char* extension;
@@ -108,8 +108,8 @@ void placeAbove(QFileDialog& dialog, QWindow* window) {
     dialog.windowHandle()->setTransientParent(window);
 }
 
-/// The toolkit's dialog reads a double quote in the name field as the end of one name among several. In this
-/// one what stands there is one name, and the file gets that name, letter by letter.
+/// The toolkit's dialog takes a double quote in the name field for the end of one of several names. This one
+/// takes the field's text literally as a single name.
 class SaveDialog final : public QFileDialog {
 public:
     using QFileDialog::QFileDialog;
@@ -176,7 +176,7 @@ QFileDialog* presentSaveDialog(const SaveRequest& request, const QString& folder
     const auto type = fileType(request.kind);
     keepUnsafeIconsFromDialogs();
     auto* dialog = new SaveDialog(nullptr, text(request.title), folder, type.filter);
-    // Destroyed after the dialog's parts, of which one asks for pictures on a thread of its own.
+    // Destroyed after the dialog's parts, one of which requests icons on its own thread.
     const auto icons = std::make_shared<SafeFileIcons>();
     dialog->setIconProvider(icons.get());
     QObject::connect(dialog, &QObject::destroyed, [icons] {});

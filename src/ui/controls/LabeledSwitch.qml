@@ -23,11 +23,11 @@ Item {
             if (!enabled)
                 return;
             toggle();
-            tell();
+            request();
         }
 
-        /*! The template has toggled itself; restore the owner's value. */
-        function tell() {
+        /*! Passes the new state on; the template has toggled itself, so the owner's value is restored. */
+        function request() {
             root.toggled(checked);
             checked = root.checked;
         }
@@ -47,7 +47,7 @@ Item {
         Keys.onReturnPressed: flip()
         Keys.onEnterPressed: flip()
 
-        onToggled: tell()
+        onToggled: request()
 
         Binding on checked {
             value: root.checked

@@ -54,7 +54,7 @@ void LazyColumn::followModel() {
             [this](const QModelIndex&, int first, int last) { rowsRemoved(first, last - first + 1); });
     connect(model_, &QAbstractItemModel::rowsMoved, this,
             [this](const QModelIndex&, int from, [[maybe_unused]] int last, const QModelIndex&, int to) {
-                // Rows move one by one; told is the place before which the row comes to stand.
+                // Rows move one by one; `to` is the index of the row before which the moved one is put.
                 Q_ASSERT(from == last);
                 rowMoved(from, to > from ? to - 1 : to);
             });

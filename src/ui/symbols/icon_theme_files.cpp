@@ -36,7 +36,7 @@ bool isOnePicture(const QFileInfo& info) {
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) return false;
     const auto content = file.read(maxPictureSize);
-    const bool isPacked = content.startsWith("\x1f\x8b");  // what is in it cannot be told
+    const bool isPacked = content.startsWith("\x1f\x8b");  // its content is unknown
     return !isPacked && !refersToAnotherFile(content);
 }
 
@@ -77,7 +77,7 @@ IconThemeFiles::IconThemeFiles() {
     folders_.removeDuplicates();
 }
 
-// A theme lies in several places, and what one of its indexes lists may be in any of them.
+// A theme may be spread over several directories; what any of its indexes lists may be in each of them.
 void IconThemeFiles::addTheme(const QString& name) {
     QStringList places;
     for (const auto& base : QIcon::themeSearchPaths()) {

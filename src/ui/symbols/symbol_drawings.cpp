@@ -68,7 +68,7 @@ QPainterPath hollowStar() {
 }
 
 QPainterPath appWindow() {
-    // What lies within an odd number of outlines is filled: the frame and the bar, but for the buttons.
+    // Odd-even fill: the frame and the bar are filled, the buttons are not.
     QPainterPath window;
     window.addRoundedRect(QRectF(0.05, 0.08, 0.9, 0.84), 0.17, 0.17);
     window.addRoundedRect(QRectF(0.13, 0.36, 0.74, 0.48), 0.09, 0.09);

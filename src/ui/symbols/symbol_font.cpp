@@ -28,7 +28,7 @@ QPainterPath symbolGlyph(char32_t codePoint) {
     if (!font.isValid()) return {};
     const auto glyphs = font.glyphIndexesForString(QString::fromUcs4(&codePoint, 1));
     if (glyphs.isEmpty() || glyphs.front() == 0) return {};
-    // The font stands on its base line, and its em square reaches from there to the ascent.
+    // Glyphs are relative to the baseline; the em square reaches from there to the ascent.
     const auto toUnitSquare = QTransform::fromTranslate(0, font.ascent()) *
                               QTransform::fromScale(1.0 / outlinePixels, 1.0 / outlinePixels);
     return toUnitSquare.map(font.pathForGlyph(glyphs.front()));
