@@ -8,8 +8,8 @@ import time
 import unittest
 from pathlib import Path
 
-from harness.hands import MIDDLE
-from harness.moments import Lapse
+from harness.user_input import MIDDLE
+from harness.timing import Elapsed
 from harness.services import TrayOnTheBus
 from harness.silent_bus import SilentBus
 from harness.statistics_window import DETAILS, StatisticsWindow
@@ -145,12 +145,12 @@ class Silent(unittest.TestCase):
             world.screen.hold_selection("PRIMARY")
             # Each of them would wait for the owner for ten seconds.
             time.sleep(1.2)
-            world.hands.key("ctrl+v")
+            world.input.key("ctrl+v")
             time.sleep(1.2)
             window.click("text", "buscar", MIDDLE)
             time.sleep(1.2)
             ended = world.stop_program(program)
-            Lapse.between(program.began, ended).assert_counted(world.home.day_seconds())
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
 
     def test_a_session_manager_and_an_input_method_that_say_nothing(self):
         with World("silent-others") as world:
