@@ -4,7 +4,7 @@
 #include "native/native_platform.h"
 #include "native/process_environment.h"
 
-// Nothing is read from the command line: the toolkit would take orders from it, too.
+// No command line options: the toolkit would interpret its own as well.
 int main(int, char* arguments[]) {
     const tidewatch::platform::ProcessEnvironment environment;
     if (!environment.hasDisplay()) return EXIT_FAILURE;

@@ -20,7 +20,7 @@ public:
     /// toolkit would abort the process.
     [[nodiscard]] bool hasDisplay() const;
 
-    /// What the process was started with: for other programs that it starts.
+    /// The environment that the process was started with, for programs that it starts itself.
     [[nodiscard]] const QProcessEnvironment& inherited() const;
 
     /// The session bus's address for use in this process.

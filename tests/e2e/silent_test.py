@@ -8,11 +8,11 @@ import time
 import unittest
 from pathlib import Path
 
-from harness.user_input import MIDDLE
-from harness.timing import Elapsed
 from harness.services import TrayOnTheBus
 from harness.silent_bus import SilentBus
 from harness.statistics_window import DETAILS, StatisticsWindow
+from harness.timing import Elapsed
+from harness.user_input import MIDDLE
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
 

@@ -11,8 +11,8 @@ namespace tidewatch::platform {
 
 namespace {
 
-/// A program path as the Exec key wants it: in double quotes, what is special there escaped. The entry
-/// itself takes a backslash away, so each one is written twice.
+/// A program path for the Exec key: in double quotes, special characters escaped. Entry values are unescaped
+/// once before that, so each backslash is doubled.
 std::string quotedForExec(const std::string& path) {
     std::string quoted = "\"";
     for (const char c : path) {

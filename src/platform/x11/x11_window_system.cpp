@@ -98,7 +98,7 @@ FrameMargins X11WindowSystem::frameMargins(WindowHandle window) {
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + frameTimeout;
     auto extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
-    // Anything that comes from the server may be word that the property is there now.
+    // Any event may announce that the property has been set.
     for (auto now = Clock::now(); extents.empty() && now < end; now = Clock::now()) {
         pollfd server{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
         ::poll(&server, 1, static_cast<int>(std::chrono::ceil<std::chrono::milliseconds>(end - now).count()));

@@ -11,7 +11,7 @@ class QSocketNotifier;
 
 namespace tidewatch::platform {
 
-/// What the X server and an EWMH window manager offer about windows beyond the toolkit.
+/// The WindowSystem of an X server with an EWMH window manager.
 class X11WindowSystem final : public WindowSystem {
 public:
     X11WindowSystem();

@@ -9,7 +9,7 @@ namespace tidewatch {
 
 namespace {
 
-/// More bytes than any line shows. The toolkit measures all of a text before it cuts it.
+/// More bytes than any line shows: the toolkit measures a whole text before it elides it.
 constexpr std::size_t maxFittedBytes = 4096;
 
 }  // namespace

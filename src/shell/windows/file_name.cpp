@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t maxNameBytes = 255;
 constexpr std::size_t maxExtensionLength = 8;
 
-/// From the last dot on; empty where what follows it is too long to be one.
+/// The extension with its dot; empty if what follows the last dot is too long for one.
 std::string_view extensionOf(std::string_view name) {
     const auto dot = name.rfind('.');
     if (dot == std::string_view::npos || name.size() - dot > maxExtensionLength) return {};

@@ -6,7 +6,7 @@ namespace tidewatch {
 
 namespace {
 
-/// What `colour` looks like over `ground`: a menu is opaque, whatever lies below it.
+/// The opaque result of `colour` over `ground`: menus are opaque.
 QColor over(const Color& ground, const Color& colour) {
     const auto mix = [&](double below, double above) {
         return static_cast<float>(below * (1 - colour.alpha) + above * colour.alpha);

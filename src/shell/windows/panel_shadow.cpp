@@ -25,8 +25,7 @@ void PanelShadow::setCornerRadius(double radius) {
 void PanelShadow::paint(QPainter* painter) {
     painter->setPen(Qt::NoPen);
     const QRectF panel = boundingRect().adjusted(reach, reach, -reach, -reach);
-    // Layers that shrink toward the panel add up to a shade that fades outward with the square of the
-    // distance.
+    // Layers shrinking toward the panel add up to a shadow that fades with the square of the distance.
     for (int layer = 0; layer < layers; ++layer) {
         const double distance = (reach - drop) * (1.0 - static_cast<double>(layer) / layers);
         const double share = 2.0 * (layer + 1) / (layers * (layers + 1));

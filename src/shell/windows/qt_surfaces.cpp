@@ -40,7 +40,7 @@ void QtSurfaces::registerFonts() {
 
 std::unique_ptr<FloatingWindow> QtSurfaces::makeClockWindow(PanelSize size) {
     auto view = makeView("ContentView", dependencies_.clock);
-    // Without it the clock is blank, and time is counted all the same.
+    // Without it the clock is blank, but time is counted.
     if (!view) view = std::make_unique<QQuickItem>();
     QuickFloatingWindow::Content content{
         .title = "Tidewatch",
@@ -67,7 +67,7 @@ std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject
     QQmlComponent component(&engine_);
     component.setData("import Tidewatch.Shell\n" + name + " {}", QUrl());
     if (!component.isReady()) return brokenView(name, component.errorString());
-    // The engine knows the style module from the import on.
+    // The style is available only once its module has been imported.
     Style::of(engine_)->follow(dependencies_.theme);
     const QVariantMap properties{{"presenter", QVariant::fromValue(&presenter)}};
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));

@@ -91,7 +91,7 @@ void QuickFloatingWindow::resize(PanelSize wanted) {
 }
 
 void QuickFloatingWindow::orderFrontRegardless() {
-    // A window manager forgets its hints when a window goes.
+    // Window managers discard the hints of hidden windows.
     if (!isVisible()) windowSystem_.prepareFloating(winId());
     show();
     raise();
@@ -112,7 +112,7 @@ void QuickFloatingWindow::setGestures(Gestures gestures) {
 }
 
 bool QuickFloatingWindow::event(QEvent* event) {
-    // The content first: only then is known whether one of its controls has taken the press.
+    // The content first: one of its controls may handle the press.
     const bool handled = QQuickWindow::event(event);
     switch (event->type()) {
         case QEvent::MouseButtonPress:
@@ -155,7 +155,7 @@ void QuickFloatingWindow::exposeEvent(QExposeEvent* event) {
 }
 
 void QuickFloatingWindow::closeEvent(QCloseEvent* event) {
-    // Only the program's own menus hide it; a window manager that asks to close it is not obeyed.
+    // Only the program's own menus hide it; the window manager's close requests are ignored.
     event->ignore();
 }
 

@@ -62,7 +62,7 @@ void apply(QWidget& widget, const DashboardStyle& style) {
     for (auto* button : widget.findChildren<QPushButton*>()) button->setIcon({});
 }
 
-/// Puts the theme on the questions of a dialog, which take nothing from it as other widgets would.
+/// Applies the theme to a dialog's message boxes, which do not inherit it from the dialog.
 class QuestionTailor final : public QObject {
 public:
     QuestionTailor(QObject& dialog, const DashboardStyle& style) : QObject(&dialog), style_(style) {
@@ -81,7 +81,7 @@ private:
     const DashboardStyle style_;
 };
 
-/// Those parts that the toolkit's own dialog alone has.
+/// The widgets that exist only in the toolkit's own dialog.
 void wearInside(QFileDialog& dialog, const DashboardStyle& style) {
     if (auto* places = dialog.findChild<QListView*>("sidebar")) places->setMinimumWidth(placesWidth);
     if (auto* files = dialog.findChild<QTreeView*>("treeView")) {
@@ -101,7 +101,7 @@ void putWordsOn(QFileDialog& dialog) {
     dialog.setLabelText(QFileDialog::LookIn, "Guardar en:");
 }
 
-/// Keeps the dialog above the window that the user was in.
+/// Keeps the dialog above the previously active window.
 void placeAbove(QFileDialog& dialog, QWindow* window) {
     if (window == nullptr) return;
     dialog.winId();
@@ -114,7 +114,7 @@ class SaveDialog final : public QFileDialog {
 public:
     using QFileDialog::QFileDialog;
 
-    /// Null where the desktop's own dialog is used.
+    /// Null if the desktop's own dialog is used.
     [[nodiscard]] QLineEdit* nameField() const { return findChild<QLineEdit*>("fileNameEdit"); }
 
     void propose(const QString& name) {
@@ -142,7 +142,7 @@ protected:
         const auto path = withExtension(place);
         if (QFileInfo::exists(path) && !mayReplace(path)) return;
         Q_EMIT fileSelected(path);
-        // The base class reads the name in its own way.
+        // The base class would parse the name.
         QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
     }
 

@@ -16,7 +16,7 @@ constexpr QSize minSize(820, 560);  // what the user can make of it
 
 }  // namespace
 
-/// The window itself, from one opening to the next closing.
+/// The window itself, which exists while the statistics are open.
 class QuickStatisticsWindow::Frame final : public QQuickWindow {
 public:
     explicit Frame(std::function<void()> askedToClose) : askedToClose_(std::move(askedToClose)) {
@@ -58,7 +58,7 @@ void QuickStatisticsWindow::showWindow() {
     if (!window_) {
         auto window = std::make_unique<Frame>([this] { close(); });
         window->create();
-        // While the view is being made, the desktop has time to answer.
+        // The desktop can answer while the view is being created.
         dependencies_.windowSystem.requestFrame(window->winId());
         auto view = content_.makeView();
         if (!view) return;
@@ -67,7 +67,7 @@ void QuickStatisticsWindow::showWindow() {
     }
     applyTheme();
     const auto target = placement();
-    // A window manager takes no size for a window that it keeps as large as the screen.
+    // Window managers ignore sizes for maximised windows.
     if (window_->isVisible()) window_->showNormal();
     window_->setGeometry(target);
     window_->showNormal();
@@ -100,7 +100,7 @@ void QuickStatisticsWindow::applyTheme() {
 
 QRect QuickStatisticsWindow::placement() {
     const auto frame = statisticsFrame(dependencies_.screens);
-    // A window that fills the screen has another frame until the window manager has taken it back.
+    // A maximised window has a different frame until the window manager has restored it.
     const auto filling = Qt::WindowMaximized | Qt::WindowFullScreen;
     if ((window_->windowStates() & filling) == 0 || !margins_) {
         margins_ = dependencies_.windowSystem.frameMargins(window_->winId());

@@ -16,10 +16,10 @@ namespace {
 
 constexpr std::array iconSizes = {16, 22, 24, 32, 48};
 
-/// A title comes every second, and asking whether there is a tray costs more than all else in that second.
+/// The title is set every second, and querying for a tray costs more than everything else in that second.
 constexpr int titlesBetweenLooks = 4;
 
-/// The toolkit looks for markup in the first line alone, and the project's name may look like it.
+/// The toolkit looks for markup in the first line only, and the project's name may look like it.
 QString plainToolTip(const std::string& words) {
     return text("Tidewatch\n" + words);
 }

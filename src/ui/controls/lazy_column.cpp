@@ -144,8 +144,7 @@ void LazyColumn::updateRows() {
     letGoOutside(wanted, focused);
     for (int index = wanted.first; index < wanted.end; ++index) ensure(index);
     if (focused) {
-        // The row with the focus stays, wherever it has been scrolled to, and so do those that the tabulator
-        // comes to.
+        // The focused row and its neighbours in tab order are kept, wherever they have been scrolled to.
         for (int index = *focused - 1; index <= *focused + 1; ++index) ensure(index);
     }
     QQuickItem* previous = nullptr;
@@ -214,7 +213,7 @@ LazyColumn::Range LazyColumn::inView() const {
         top = std::max(top, part.top());
         bottom = std::min(bottom, part.bottom());
     }
-    // Out of view altogether, the end that is nearer counts.
+    // If it is out of view altogether, the nearer end counts.
     top = std::min(top, height());
     bottom = std::max(bottom, top);
     const int first = static_cast<int>(std::floor(top / rowHeight_)) - spareRows;
@@ -280,7 +279,7 @@ QQuickItem* LazyColumn::makeRow(int index) {
 }
 
 void LazyColumn::retire(QQuickItem& row) {
-    // Nothing of what the pointer and the keyboard had to do with it is to come back when it is another row.
+    // Hover, press and focus must not carry over to the next row that reuses it.
     auto* focused = window() == nullptr ? nullptr : window()->activeFocusItem();
     if (focused != nullptr && row.isAncestorOf(focused)) focused->setFocus(false);
     row.setFocus(false);

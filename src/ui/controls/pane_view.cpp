@@ -28,7 +28,7 @@ void PaneView::geometryChange(const QRectF& geometry, const QRectF& before) {
 }
 
 void PaneView::makeView() {
-    // Its own signal may be what led here.
+    // This may be called from one of its own signals.
     if (view_) {
         view_->setVisible(false);
         view_->setParentItem(nullptr);

@@ -14,7 +14,7 @@ QIcon applicationIcon(const QString& name) {
     }
     if (!pictureCanBeOpened(QFileInfo(name))) return {};
     const QIcon icon(name);
-    // A file that cannot be read makes an icon that is there and has no picture.
+    // An unreadable file yields an icon that is not null but has no image.
     constexpr int anySize = 16;
     return icon.pixmap(anySize, anySize).isNull() ? QIcon() : icon;
 }

@@ -15,10 +15,10 @@ constexpr qint64 maxIndexSize = 1024 * 1024;        // bytes
 constexpr int maxThemes = 64;
 
 constexpr std::array endings{".png", ".svg", ".xpm"};
-/// The pictures of screens whose points are that many pixels.
+/// The suffixes of images for screens with that many pixels per point.
 constexpr std::array densities{"@2x", "@3x", "@4x", "@5x", "@6x", "@7x", "@8x", "@9x"};
 
-// Whether a drawing names a picture outside itself, which the toolkit would open.
+// Whether a drawing refers to an external image, which the toolkit would open.
 bool refersToAnotherFile(const QByteArray& content) {
     if (!content.contains("<svg") || !content.contains("image")) return false;
     constexpr QByteArrayView key = "href";
@@ -46,7 +46,7 @@ QString ofDensity(const QFileInfo& picture, const char* density) {
     return path.insert(dot < 0 ? path.size() : dot, density);
 }
 
-// The name itself, and what is left when it is cut at its last dash, again and again.
+// The name itself, and its prefixes up to each dash, longest first.
 QStringList namesFor(QString name) {
     QStringList names;
     while (true) {
@@ -70,7 +70,7 @@ IconThemeFiles::IconThemeFiles() {
     for (const auto& name : {QIcon::themeName(), QIcon::fallbackThemeName(), QString("hicolor")}) {
         if (!name.isEmpty() && !themes_.contains(name)) themes_ += name;
     }
-    // What a theme inherits from comes behind it.
+    // Parent themes come after the theme itself.
     for (qsizetype i = 0; i < themes_.size() && i < maxThemes; ++i) addTheme(QString(themes_[i]));
     if (themes_.size() > maxThemes) canBeRead_ = false;
     for (const auto& folder : QIcon::themeSearchPaths() + QIcon::fallbackSearchPaths()) addFolder(folder);
@@ -110,7 +110,7 @@ QStringList IconThemeFiles::readIndex(const QString& place) {
         const auto line = each.trimmed();
         if (line.startsWith('[')) {
             const auto folder = QString::fromUtf8(line.mid(1, line.indexOf(']') - 1)).trimmed();
-            // The toolkit would read another name here.
+            // The toolkit would look up a different name.
             if (folder.contains('%') || folder.contains('\\')) canBeRead_ = false;
             listed += folder;
         } else if (line.startsWith("Inherits") && line.contains('=')) {

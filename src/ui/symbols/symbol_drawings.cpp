@@ -10,7 +10,7 @@
 namespace tidewatch {
 namespace {
 
-/// A star of so many points around `centre`, one of them upwards.
+/// A star with `points` points around `centre`, one of them upwards.
 QPainterPath star(QPointF centre, int points, double outer, double inner) {
     const int corners = 2 * points;
     QPainterPath path;

@@ -8,7 +8,7 @@
 namespace tidewatch {
 namespace {
 
-/// Large enough for outlines whose corners are where the font puts them.
+/// Large enough for precise outlines.
 constexpr int outlinePixels = 512;
 
 QRawFont symbolFont() {

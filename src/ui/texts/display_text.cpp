@@ -12,7 +12,7 @@ namespace tidewatch {
 namespace {
 
 constexpr std::size_t maxNameCharacters = 200;
-/// A single one that the user perceives may consist of any number of characters.
+/// A single grapheme may consist of any number of code points.
 constexpr std::size_t maxNameSize = 4096;
 
 bool breaksLine(QChar letter) {

@@ -7,10 +7,10 @@
 namespace tidewatch {
 namespace {
 
-/// A line has few parts; what changes from second to second must not gather for ever.
+/// A line has few parts; those that change every second must not accumulate.
 constexpr int keptTexts = 64;
 
-/// The value at `key`, from `make` the first time.
+/// The value at `key`, created by `make` on first use.
 template <class Key, class Value, class Make>
 const Value& remembered(QHash<Key, Value>& values, const Key& key, Make&& make) {
     const auto known = values.constFind(key);
