@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <atomic>
 #include <memory>
 #include <optional>
 #include <string>
@@ -191,27 +192,41 @@ TEST_F(ConcurrencyTest, AFileIsRestoredWhileItIsWrittenAndNoOlderTextStaysLast) 
     static_cast<void>(file.read([](std::string text) { return std::optional(std::move(text)); }));
     for (int i = 0; i <= rounds; ++i) {
         world.files.removeDirectory("/home/user/.tidewatch");
+        // Both at the same time: the queue's thread is awake and waits for this one.
+        std::atomic<bool> begun = false;
+        queue.post([&] {
+            while (!begun) std::this_thread::yield();
+        });
         file.restoreOn(queue);
+        begun = true;
+        // Sooner or later in each round, so that the write meets every step of the other.
+        for (std::atomic<int> step = 0; step < 30 * i; ++step) {
+        }
         file.write(std::to_string(i));
+        queue.finish();
+        ASSERT_EQ(world.files.content("/home/user/.tidewatch/notes.json"), std::to_string(i));
     }
-    queue.finish();
-    EXPECT_EQ(world.files.content("/home/user/.tidewatch/notes.json"), std::to_string(rounds));
 }
 
 TEST_F(ConcurrencyTest, FlushesOfTheQueueAndOfOthersNeverPutAnOlderStateLast) {
     SerialQueue queue([](JobQueue::Job) {});
     AppUsageStore store(world.files, world.log, world.frontmost);
-    std::thread other([&] {
-        for (int i = 0; i < rounds; ++i) store.flush();
-    });
-    for (int i = 0; i < rounds; ++i) {
+    // Each round ends with both, so that neither makes good afterwards what the other has spoilt.
+    for (int i = 1; i <= rounds; ++i) {
+        std::atomic<bool> begun = false;
+        std::thread other([&] {
+            begun = true;
+            store.flush();
+        });
+        while (!begun) std::this_thread::yield();
         store.incrementApp(AppId("firefox"), today);
         store.flushOn(queue);
+        other.join();
+        queue.finish();
+        const AppUsageStore next(world.files, world.log, world.frontmost);
+        ASSERT_THAT(next.aggregate(std::vector{today}),
+                    ElementsAre(AppSeconds{AppId("firefox"), Seconds(i)}));
     }
-    other.join();
-    queue.finish();
-    const AppUsageStore next(world.files, world.log, world.frontmost);
-    EXPECT_EQ(next.aggregate(std::vector{today}).front().seconds, Seconds(rounds));
 }
 
 }  // namespace
