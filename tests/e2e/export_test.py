@@ -129,7 +129,8 @@ def asked_for_report(world, _=None):
 
 def export_project(world, menu):
     menu.open_from_tray()
-    world.input.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Right")
+    menu.go_down(rows.PROJECT + 1)
+    world.input.key("Right", "Down", "Right")
     wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
     world.input.key("Down", "Down", "Down", "Return")
     return dialog(world, "Exportar proyecto")

@@ -109,7 +109,8 @@ class Names(unittest.TestCase):
             world.home.write("projects.json", json.dumps({"projects": projects, "activeProjectID": active}))
             world.program = world.start_program()
             menu.open_from_tray()
-            world.input.key(*["Down"] * (rows.PROJECT + 1), "Right")
+            menu.go_down(rows.PROJECT + 1)
+            world.input.key("Right")
             wait_until(lambda: len(menu.popups()) == 2, "the submenu")
             time.sleep(0.5)
             world.screenshot("projects")
@@ -129,7 +130,8 @@ class Names(unittest.TestCase):
 
     def delete_the_second(self, world, menu):
         menu.open_from_tray()
-        world.input.key(*["Down"] * (rows.PROJECT + 1), "Right", "Down", "Down", "Right")
+        menu.go_down(rows.PROJECT + 1)
+        world.input.key("Right", "Down", "Down", "Right")
         wait_until(lambda: len(menu.popups()) == 3, "the project's menu")
         world.input.key("Up", "Return")
         dialog = wait_until(lambda: self.question(world), "the question")

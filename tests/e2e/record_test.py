@@ -56,7 +56,7 @@ class Record(unittest.TestCase):
         """Chooses "Activar" with the keyboard."""
         menu = Menu(world)
         menu.open_from_tray()
-        world.input.key(*["Down"] * (PROJECT + 1))
+        menu.go_down(PROJECT + 1)
         world.input.key("Right")
         world.input.key("Down")
         world.input.key("Right")

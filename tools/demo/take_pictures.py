@@ -111,7 +111,8 @@ class Studio:
         menu = Menu(self.world)
         time.sleep(3)
         menu.open_from_clock()
-        self.world.input.key(*["Down"] * (rows.THEME + 1), "Right")
+        menu.go_down(rows.THEME + 1)
+        self.world.input.key("Right")
         wait_until(lambda: len(menu.popups()) == 2, "the themes")
         time.sleep(0.5)
         frames = [popup.frame for popup in menu.popups()]

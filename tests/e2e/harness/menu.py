@@ -4,7 +4,7 @@ import time
 
 from harness.screen import difference
 from harness.user_input import LEFT, RIGHT
-from harness.waiting import wait_until
+from harness.waiting import becomes_true, wait_until
 from harness.world import CLOCK_CLASS
 
 # The rows that can be chosen, from the top.
@@ -16,6 +16,9 @@ THEMES = ("ochre", "editorial", "minimal", "hacker", "liquid")
 SIZES = (0.1, 0.25, 0.5, 0.75, 1.0, 5.0)
 IDLE_SECONDS = (60, 180, 300, 600, 900, 1800)
 DAY_STARTS = (0, 4, 5, 6, 7, 8)
+
+# Long enough for a busy machine to light up a row.
+FIRST_KEY_SECONDS = 20
 
 
 class Menu:
@@ -56,8 +59,27 @@ class Menu:
 
     def _opened(self):
         popup = wait_until(self.popups, "the menu")[0]
+        wait_until(lambda: any(low != high for low, high in self._picture(popup).getextrema()), "the menu's rows")
         time.sleep(0.3)
         return popup
+
+    def _picture(self, popup):
+        return self._world.screen.grab(popup.frame)
+
+    def go_down(self, rows):
+        """Highlights that many rows after one another. A key that comes before the menu has the keyboard is lost, so
+        the first one is repeated until a row lights up."""
+        popup = self.popups()[0]
+        plain = self._picture(popup)
+
+        def is_lit():
+            return difference(plain, self._picture(popup)) is not None
+
+        self._world.input.key("Down")
+        while not becomes_true(is_lit, FIRST_KEY_SECONDS):
+            self._world.input.key("Down")
+        if rows > 1:
+            self._world.input.key(*["Down"] * (rows - 1))
 
     def close(self):
         for _ in range(3):
@@ -70,7 +92,7 @@ class Menu:
     def choose(self, row, inner_row=None):
         """Chooses a row of the open menu, or a row of its submenu, with the keyboard."""
         user = self._world.input
-        user.key(*["Down"] * (row + 1))
+        self.go_down(row + 1)
         if inner_row is None:
             user.key("Return")
         else:
@@ -85,7 +107,7 @@ class Menu:
     def row_frame(self, popup, row):
         """The screen rectangle of a row of the open menu, from its highlight by keyboard."""
         plain = self._world.screen.grab(popup.frame)
-        self._world.input.key(*["Down"] * (row + 1))
+        self.go_down(row + 1)
         time.sleep(0.2)
         lit = difference(plain, self._world.screen.grab(popup.frame))
         if lit is None:

@@ -23,6 +23,15 @@ def wait_until(condition, what, seconds=DEFAULT_TIMEOUT, every=0.05):
         time.sleep(every)
 
 
+def becomes_true(condition, seconds, every=0.05):
+    """Whether `condition()` becomes true within `seconds`."""
+    try:
+        wait_until(condition, "it", seconds, every)
+    except TimeOut:
+        return False
+    return True
+
+
 def stays(condition, what, seconds=1.0, every=0.1):
     """Fails unless `condition()` holds at every check for `seconds`."""
     deadline = time.monotonic() + seconds
