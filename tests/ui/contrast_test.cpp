@@ -41,7 +41,8 @@ TEST(Contrast, AGreyInTheMiddleGetsWhatHelps) {
 }
 
 TEST(Contrast, EveryTierIsLegibleOnTheCardsOfEveryTheme) {
-    for (const auto& theme : ThemeRegistry().themes()) {
+    const ThemeRegistry registry;
+    for (const auto& theme : registry.themes()) {
         SCOPED_TRACE(theme.id);
         const Palette palette(theme.dashboard);
         // What lies behind the cards may be anything between the plain ground and the brightest.
