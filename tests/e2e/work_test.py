@@ -1,5 +1,6 @@
 """Work at a terminal is booked: to the day, and to the application in front."""
 
+import signal
 import time
 import unittest
 
@@ -46,6 +47,23 @@ class Work(unittest.TestCase):
 
             Elapsed.between(program.began, change).assert_counted(world.home.application_seconds("FirstTerm"))
             Elapsed.between(change, ended).assert_counted(world.home.application_seconds("SecondTerm"))
+
+    def test_an_application_whose_window_is_destroyed_gets_no_more_seconds(self):
+        with World("destroyed-window") as world:
+            terminal = world.open_terminal("GoneTerm")
+            program = world.start_program()
+            sleep_until(program.began.latest + 6)
+            # Nobody else tells of the window's end: it stays the active one by name.
+            world.window_manager.send(signal.SIGSTOP)
+            try:
+                gone = EventTime.of(lambda: world.screen.disconnect_owner(terminal.id))
+                sleep_until(gone.latest + 10)
+                ended = world.stop_program(program)
+            finally:
+                world.window_manager.send(signal.SIGCONT)
+
+            Elapsed.between(program.began, gone).assert_counted(world.home.application_seconds("GoneTerm"))
+            Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
 
     def test_without_any_window_in_front_the_day_grows_alone(self):
         with World("no-application") as world:

@@ -72,6 +72,11 @@ class Screen:
             return window
         return None
 
+    def disconnect_owner(self, window_id):
+        """Ends the connection of the application that owns a window; its windows are destroyed, as after a crash."""
+        self._display.create_resource_object("window", window_id).kill_client()
+        self._display.sync()
+
     def _collect(self, parent, found):
         for child in parent.query_tree().children:
             try:
