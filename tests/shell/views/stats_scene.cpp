@@ -82,7 +82,8 @@ void StatsWorld::bookDay(const DayKey& day, int seed) {
     for (int hour = 9; hour <= last; ++hour) {
         if (hour == 13) continue;
         for (int minute = 0; minute < 60; minute += 10) {
-            const auto& app = knownApps[random() % (random() % 3 == 0 ? knownApps.size() : 4)];
+            const auto any = random();
+            const auto& app = knownApps[any % (random() % 3 == 0 ? knownApps.size() : 4)];
             book(app.id, day, hour, minute, 300 + static_cast<int>(random() % 301));
         }
     }
