@@ -68,9 +68,9 @@ TEST_F(ConcurrencyTest, BucketsAreBookedReadCopiedAndFlushedFromSeveralThreads) 
         for (int i = 0; i < rounds; ++i) {
             const auto snapshot = store.snapshot();
             Seconds now;
+            UsageSnapshot::Reader reader(snapshot);
             for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
-                UsageSnapshot::Reader(snapshot).forEachApp(
-                    key, [&](std::uint32_t, Seconds seconds) { now += seconds; });
+                reader.forEachApp(key, [&](std::uint32_t, Seconds seconds) { now += seconds; });
             }
             EXPECT_GE(now, last);
             last = now;

@@ -95,8 +95,9 @@ TEST_F(HourlyStoreTest, ASnapshotHoldsEverythingInOrderAndStandsStill) {
     store.incrementApp(AppId("gimp"), HourKey("2026-01-15 08"));
 
     std::vector<std::string> seen;
+    UsageSnapshot::Reader reader(snapshot);
     for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
-        UsageSnapshot::Reader(snapshot).forEachApp(key, [&](std::uint32_t app, Seconds seconds) {
+        reader.forEachApp(key, [&](std::uint32_t app, Seconds seconds) {
             ASSERT_LT(app, snapshot.appCount());
             seen.push_back(std::string(snapshot.key(key)) + " " + std::string(snapshot.app(app)) + " " +
                            std::to_string(seconds.count()));

@@ -46,9 +46,9 @@ constexpr int ticksBetweenFlushes = 30;
 
 Seconds sumOf(const UsageSnapshot& snapshot) {
     Seconds sum;
+    UsageSnapshot::Reader reader(snapshot);
     for (UsageSnapshot::Index key = 0; key < snapshot.keyCount(); ++key) {
-        UsageSnapshot::Reader(snapshot).forEachApp(key,
-                                                   [&](std::uint32_t, Seconds seconds) { sum += seconds; });
+        reader.forEachApp(key, [&](std::uint32_t, Seconds seconds) { sum += seconds; });
     }
     return sum;
 }
