@@ -81,7 +81,7 @@ public:
     [[nodiscard]] Seconds seconds(Index leaf) const { return Seconds(counters_[leaf]); }
 
     /// The leaves are stored in chunks of this size: leaf i is number i % leafChunkSize of one.
-    static constexpr std::size_t leafChunkSize = 2048;
+    static constexpr std::size_t leafChunkSize = PackedColumn<std::int64_t>::chunkSize;
 
     /// Copies the name ids and counters of a chunk of leaves; see LeafReader.
     void readLeaves(std::size_t chunk, std::array<std::uint32_t, leafChunkSize>& nameIds,
