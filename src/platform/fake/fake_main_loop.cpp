@@ -25,7 +25,7 @@ void FakeMainLoop::post(Job job) {
     jobs_.push_back(std::move(job));
 }
 
-std::unique_ptr<RepeatingTimer> FakeMainLoop::repeat(std::chrono::milliseconds interval, TimerMode mode,
+std::unique_ptr<RepeatingTimer> FakeMainLoop::repeat(std::chrono::nanoseconds interval, TimerMode mode,
                                                      Job fire) {
     const auto id = nextTimer_++;
     timers_->emplace(id, Timer{interval, mode, std::move(fire), clock_.monotonic() + interval});

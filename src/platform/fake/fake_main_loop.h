@@ -20,7 +20,7 @@ public:
     FakeMainLoop& operator=(const FakeMainLoop&) = delete;
 
     void post(Job job) override;
-    [[nodiscard]] std::unique_ptr<RepeatingTimer> repeat(std::chrono::milliseconds interval, TimerMode mode,
+    [[nodiscard]] std::unique_ptr<RepeatingTimer> repeat(std::chrono::nanoseconds interval, TimerMode mode,
                                                          Job fire) override;
 
     /// Fires due timers in creation order, then runs posted jobs, including those they post, until none is

@@ -3,11 +3,16 @@
 #include <QApplication>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace tidewatch::platform {
 
 namespace {
+
+std::chrono::milliseconds wholeMilliseconds(std::chrono::nanoseconds duration) {
+    return std::chrono::ceil<std::chrono::milliseconds>(duration);
+}
 
 bool menuIsOpen() {
     return QApplication::activePopupWidget() != nullptr;
@@ -24,18 +29,17 @@ public:
         Job fire;
     };
 
-    explicit TimerGroup(std::chrono::milliseconds interval) {
-        // A precise timer keeps to its first group: it neither drifts nor catches up.
+    explicit TimerGroup(std::chrono::nanoseconds interval)
+        : interval_(interval), due_(std::chrono::steady_clock::now() + interval) {
+        // A precise timer neither drifts nor catches up.
         timer_.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { fire(); });
-        timer_.start(interval);
+        timer_.start(wholeMilliseconds(interval));
     }
 
     /// Whether a listener that joins now still waits for most of an interval.
-    [[nodiscard]] bool isYoung() const {
-        return timer_.remainingTimeAsDuration() >= timer_.intervalAsDuration() * 4 / 5;
-    }
-    [[nodiscard]] std::chrono::milliseconds interval() const { return timer_.intervalAsDuration(); }
+    [[nodiscard]] bool isYoung() const { return timer_.remainingTimeAsDuration() >= interval_ * 4 / 5; }
+    [[nodiscard]] std::chrono::nanoseconds interval() const { return interval_; }
 
     void join(std::weak_ptr<Listener> listener) { listeners_.push_back(std::move(listener)); }
 
@@ -43,6 +47,7 @@ private:
     void fire() {
         // A listener may destroy its timer, even the last one, or create another.
         const auto self = shared_from_this();
+        if (interval_ != wholeMilliseconds(interval_)) startNext();
         std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
         for (const auto& each : std::vector(listeners_)) {
             const auto listener = each.lock();
@@ -50,6 +55,15 @@ private:
         }
     }
 
+    /// The toolkit's timers count whole milliseconds; each start makes up for the previous rounding.
+    void startNext() {
+        const auto now = std::chrono::steady_clock::now();
+        due_ += (std::max(now - due_, std::chrono::nanoseconds::zero()) / interval_ + 1) * interval_;
+        timer_.start(wholeMilliseconds(due_ - now));
+    }
+
+    const std::chrono::nanoseconds interval_;
+    std::chrono::steady_clock::time_point due_;
     QTimer timer_;
     std::vector<std::weak_ptr<Listener>> listeners_;
 };
@@ -80,13 +94,13 @@ void QtMainLoop::post(Job job) {
     QMetaObject::invokeMethod(qApp, std::move(job), Qt::QueuedConnection);
 }
 
-std::unique_ptr<RepeatingTimer> QtMainLoop::repeat(std::chrono::milliseconds interval, TimerMode mode,
+std::unique_ptr<RepeatingTimer> QtMainLoop::repeat(std::chrono::nanoseconds interval, TimerMode mode,
                                                    Job fire) {
     return std::make_unique<Subscription<TimerGroup>>(group(interval),
                                                       TimerGroup::Listener{mode, std::move(fire)});
 }
 
-std::shared_ptr<QtMainLoop::TimerGroup> QtMainLoop::group(std::chrono::milliseconds interval) {
+std::shared_ptr<QtMainLoop::TimerGroup> QtMainLoop::group(std::chrono::nanoseconds interval) {
     std::erase_if(groups_, [](const auto& group) { return group.expired(); });
     for (const auto& each : groups_) {
         auto group = each.lock();

@@ -16,13 +16,13 @@ public:
     QtMainLoop& operator=(const QtMainLoop&) = delete;
 
     void post(Job job) override;
-    [[nodiscard]] std::unique_ptr<RepeatingTimer> repeat(std::chrono::milliseconds interval, TimerMode mode,
+    [[nodiscard]] std::unique_ptr<RepeatingTimer> repeat(std::chrono::nanoseconds interval, TimerMode mode,
                                                          Job fire) override;
 
 private:
     class TimerGroup;
 
-    [[nodiscard]] std::shared_ptr<TimerGroup> group(std::chrono::milliseconds interval);
+    [[nodiscard]] std::shared_ptr<TimerGroup> group(std::chrono::nanoseconds interval);
 
     std::vector<std::weak_ptr<TimerGroup>> groups_;
 };

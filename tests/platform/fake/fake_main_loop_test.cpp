@@ -38,6 +38,13 @@ TEST_F(FakeMainLoopTest, ATimerFiresFirstAfterOneIntervalAndThenAtEach) {
     EXPECT_EQ(fired, 11);
 }
 
+TEST_F(FakeMainLoopTest, AnIntervalMayBeAFractionOfAMillisecond) {
+    int fired = 0;
+    const auto timer = loop.repeat(nanoseconds(1s) / 60, TimerMode::common, [&] { ++fired; });
+    loop.runFor(10s);
+    EXPECT_EQ(fired, 600);
+}
+
 TEST_F(FakeMainLoopTest, TimersDueTogetherFireInTheOrderOfTheirMakingThenTheirJobs) {
     const auto first = loop.repeat(1s, TimerMode::common, [this] {
         calls += "1";

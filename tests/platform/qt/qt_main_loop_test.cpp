@@ -56,6 +56,22 @@ TEST_F(QtMainLoopTest, AJobFromAnotherThreadRunsOnTheMainThread) {
     EXPECT_EQ(ran, main);
 }
 
+TEST_F(QtMainLoopTest, FractionsOfAMillisecondDoNotAddUp) {
+    // Rounded, these would be half an interval off after the twentieth. A slow machine delays single firings.
+    constexpr std::int64_t interval = 20'500'000;
+    constexpr std::int64_t tolerance = 4'000'000;
+    int fired = 0;
+    int onTime = 0;
+    QElapsedTimer timer;
+    timer.start();
+    const auto ticking = loop_.repeat(std::chrono::nanoseconds(interval), TimerMode::common, [&] {
+        ++fired;
+        if (fired > 20 && timer.nsecsElapsed() % interval < tolerance) ++onTime;
+    });
+    while (fired < 30) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_GT(onTime, 0);
+}
+
 TEST_F(QtMainLoopTest, ADestroyedTimerDoesNotFire) {
     int fired = 0;
     auto timer = loop_.repeat(10ms, TimerMode::common, [&] { ++fired; });
