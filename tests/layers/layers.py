@@ -82,6 +82,7 @@ def rooms():
         domain += f" {name}"
         domain_views += f" {name}/views"
     plan["analysis/report"] = plan["analysis/views"]
+    plan["wellbeing/games"] = room("base platform/api")
     toolkit_free = f"base platform/api shell/themes {domain}"
     plan["shell"] = room(toolkit_free, "fmt")
     plan["shell/icons"] = room("base shell shell/themes ui", "qt")
