@@ -39,7 +39,7 @@ private:
     std::deque<Job> jobs_;
 };
 
-std::unique_ptr<JobQueue> FakeJobQueueFactory::makeQueue(const std::string&) {
+std::unique_ptr<JobQueue> FakeJobQueueFactory::makeQueue(const std::string&, JobPriority) {
     return std::make_unique<Queue>(mainLoop_, isHeld_);
 }
 

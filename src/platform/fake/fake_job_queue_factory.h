@@ -14,7 +14,8 @@ public:
     /// `mainLoop` must outlive it.
     explicit FakeJobQueueFactory(MainLoop& mainLoop) : mainLoop_(mainLoop) {}
 
-    [[nodiscard]] std::unique_ptr<JobQueue> makeQueue(const std::string& name) override;
+    using JobQueueFactory::makeQueue;
+    [[nodiscard]] std::unique_ptr<JobQueue> makeQueue(const std::string& name, JobPriority priority) override;
 
     /// From now on jobs are deferred until release(), finish() or the destruction of their queue.
     void hold() { *isHeld_ = true; }

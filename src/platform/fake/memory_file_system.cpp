@@ -89,7 +89,7 @@ FileResult<FileInfo> MemoryFileSystem::inspectLocked(const std::string& path) co
     const auto file = files_.find(path);
     if (file == files_.end()) return absent("inspect", path);
     info.size = file->second.content.size();
-    info.modified += std::chrono::nanoseconds(file->second.modified);
+    info.modified = file->second.modified;
     info.identity.inode = file->second.inode;
     return info;
 }
@@ -183,7 +183,7 @@ Status MemoryFileSystem::write(const std::string& path, std::string_view content
 
 void MemoryFileSystem::replace(const std::string& path, std::string_view content) {
     ++changes_;
-    files_[path] = {std::string(content), changes_, changes_};
+    files_[path] = {std::string(content), changes_, nextTime()};
 }
 
 std::optional<Error> MemoryFileSystem::fault(std::string_view content) {
@@ -202,14 +202,31 @@ void MemoryFileSystem::put(const std::string& path, std::string_view content) {
 
 void MemoryFileSystem::touch(const std::string& path) {
     const std::lock_guard lock(mutex_);
-    files_.at(path).modified = ++changes_;
+    files_.at(path).modified = nextTime();
+}
+
+void MemoryFileSystem::touch(const std::string& path, FileTime time) {
+    const std::lock_guard lock(mutex_);
+    files_.at(path).modified = time;
+    latest_ = std::max(latest_, time);
+}
+
+void MemoryFileSystem::append(const std::string& path, std::string_view content) {
+    const std::lock_guard lock(mutex_);
+    auto& file = files_.at(path);
+    file.content += content;
+    file.modified = nextTime();
+}
+
+FileTime MemoryFileSystem::nextTime() {
+    return latest_ += std::chrono::nanoseconds(1);
 }
 
 void MemoryFileSystem::truncate(const std::string& path, std::size_t length) {
     const std::lock_guard lock(mutex_);
     auto& file = files_.at(path);
     file.content.resize(length);
-    file.modified = ++changes_;
+    file.modified = nextTime();
 }
 
 std::optional<std::string> MemoryFileSystem::content(const std::string& path) const {

@@ -38,8 +38,13 @@ public:
     /// new identity.
     void put(const std::string& path, std::string_view content);
 
-    /// Changes the modification time of an existing file.
+    /// Changes the modification time of an existing file: to a later one than that of all files, or to
+    /// `time`.
     void touch(const std::string& path);
+    void touch(const std::string& path, FileTime time);
+
+    /// Appends to an existing file, which keeps its identity.
+    void append(const std::string& path, std::string_view content);
 
     /// Truncates an existing file to `length` bytes.
     void truncate(const std::string& path, std::size_t length);
@@ -88,13 +93,14 @@ private:
     struct File {
         std::string content;
         std::uint64_t inode;
-        std::uint64_t modified;  // a counter of changes to any file
+        FileTime modified;
     };
 
     void replace(const std::string& path, std::string_view content);
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
     [[nodiscard]] Status write(const std::string& path, std::string_view content);
     [[nodiscard]] FileResult<FileInfo> inspectLocked(const std::string& path) const;
+    [[nodiscard]] FileTime nextTime();
     [[nodiscard]] bool makeDirectories(const std::string& path);
     [[nodiscard]] std::vector<std::string> pathsBelow(const std::string& directory) const;
 
@@ -103,7 +109,8 @@ private:
     bool stalled_ = false;
     int stalledWrites_ = 0;
     std::map<std::string, File> files_;
-    std::uint64_t changes_ = 0;
+    std::uint64_t changes_ = 0;  // to any file
+    FileTime latest_{};          // modification time of any file
     std::set<std::string> directories_;
     std::set<std::string> unmakeable_;
     std::set<std::string> unreadable_;

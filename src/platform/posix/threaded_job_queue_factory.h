@@ -11,7 +11,8 @@ public:
     /// `mainLoop` must outlive it.
     explicit ThreadedJobQueueFactory(MainLoop& mainLoop) : mainLoop_(mainLoop) {}
 
-    [[nodiscard]] std::unique_ptr<JobQueue> makeQueue(const std::string& name) override;
+    using JobQueueFactory::makeQueue;
+    [[nodiscard]] std::unique_ptr<JobQueue> makeQueue(const std::string& name, JobPriority priority) override;
 
 private:
     MainLoop& mainLoop_;
