@@ -30,11 +30,14 @@ Vector load(const char* text) {
     return bytes;
 }
 
-// Of each byte whether "us or \u0 begins there, as -1 or 0. Reads two bytes past the vector.
+// Of each byte whether "us begins there, or \u0 and a letter of the key, as -1 or 0. Reads some bytes past
+// the vector.
 Vector candidatesIn(const char* text) {
     const auto first = load(text);
     const auto third = load(text + 2);
-    return ((first == '"') | (first == '\\')) & (load(text + 1) == 'u') & ((third == 's') | (third == '0'));
+    const auto key = (first == '"') & (third == 's');
+    const auto escaped = (first == '\\') & (third == '0') & ((load(text + 4) | 1) == '7');
+    return (key | escaped) & (load(text + 1) == 'u');
 }
 
 bool mayBeginIn(const char* block) {
@@ -48,7 +51,7 @@ bool mayBeginIn(const char* block) {
 
 std::size_t findUsage(std::string_view lines, std::size_t from) {
     auto i = from;
-    for (; i + blockSize + 2 <= lines.size(); i += blockSize) {
+    for (; i + blockSize + usageKey.size() <= lines.size(); i += blockSize) {
         if (!mayBeginIn(lines.data() + i)) continue;
         for (auto at = lines.find('u', i + 1); at <= i + blockSize; at = lines.find('u', at + 1)) {
             if (beginsWithUsage(lines.substr(at - 1))) return at - 1;
