@@ -32,6 +32,10 @@ public:
     /// frame. To be called after the window is created and before each time it is shown.
     virtual void prepareFloating(WindowHandle window) = 0;
 
+    /// Requests every workspace for a visible window. To be called each time after it is shown: some desktops
+    /// ignore what prepareFloating() requests of this.
+    virtual void joinAllWorkspaces(WindowHandle window) = 0;
+
     /// Whether windows may have translucent pixels at this moment.
     [[nodiscard]] virtual bool isCompositing() const = 0;
     virtual Connection onCompositingChanged(std::function<void()> changed) = 0;

@@ -11,6 +11,7 @@ namespace tidewatch::platform {
 class FakeWindowSystem final : public WindowSystem {
 public:
     void prepareFloating(WindowHandle) override { ++prepared_; }
+    void joinAllWorkspaces(WindowHandle) override { ++joinedWorkspaces_; }
     [[nodiscard]] bool isCompositing() const override { return compositing_; }
     Connection onCompositingChanged(std::function<void()> changed) override {
         return compositingChanged_.connect(std::move(changed));
@@ -37,11 +38,14 @@ public:
 
     /// How often a window was prepared for being shown.
     [[nodiscard]] int prepared() const { return prepared_; }
+    /// How often a window was put on all workspaces.
+    [[nodiscard]] int joinedWorkspaces() const { return joinedWorkspaces_; }
     [[nodiscard]] Rectangle inputRegion() const { return inputRegion_; }
 
 private:
     bool compositing_ = false;
     int prepared_ = 0;
+    int joinedWorkspaces_ = 0;
     Rectangle inputRegion_;
     FrameMargins margins_;
     std::optional<FrameVariant> shade_;

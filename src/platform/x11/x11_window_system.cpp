@@ -19,6 +19,9 @@ namespace {
 
 constexpr std::uint32_t everyDesktop = 0xFFFFFFFF;
 
+/// The source of a request.
+constexpr std::uint32_t anApplication = 1;
+
 /// Requests on behalf of the user, like those of a taskbar, are exempt from focus stealing prevention.
 constexpr std::uint32_t actsForTheUser = 2;
 
@@ -60,6 +63,12 @@ void X11WindowSystem::prepareFloating(WindowHandle window) {
     setCardinal(xWindow(window), shadowAtom_, 0);
     keepOutOfTaskbar(xWindow(window));
     waitForServer();
+}
+
+void X11WindowSystem::joinAllWorkspaces(WindowHandle window) {
+    if (!connection_.alive()) return;
+    sendToRoot(xWindow(window), desktopAtom_, {everyDesktop, anApplication});
+    xcb_flush(connection_.get());
 }
 
 Connection X11WindowSystem::onCompositingChanged(std::function<void()> changed) {

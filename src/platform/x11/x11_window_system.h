@@ -18,6 +18,7 @@ public:
     ~X11WindowSystem() override;
 
     void prepareFloating(WindowHandle window) override;
+    void joinAllWorkspaces(WindowHandle window) override;
     [[nodiscard]] bool isCompositing() const override { return compositing_; }
     Connection onCompositingChanged(std::function<void()> changed) override;
     void setInputRegion(WindowHandle window, Rectangle region) override;

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -12,6 +13,9 @@ namespace tidewatch {
 namespace {
 
 constexpr int growthMilliseconds = 200;
+
+/// How long a window manager may take to place a window.
+constexpr int settlingMilliseconds = 2000;
 
 platform::Point globalPosition(const QMouseEvent& event) {
     return {event.globalPosition().x(), event.globalPosition().y()};
@@ -74,6 +78,7 @@ platform::Point QuickFloatingWindow::origin() const {
 }
 
 void QuickFloatingWindow::setOrigin(platform::Point origin) {
+    shownAt_.reset();
     setPosition(qRound(origin.x - outline_.margin()), qRound(origin.y - outline_.margin()));
 }
 
@@ -91,9 +96,14 @@ void QuickFloatingWindow::resize(PanelSize wanted) {
 }
 
 void QuickFloatingWindow::orderFrontRegardless() {
-    // Window managers discard the hints of hidden windows.
-    if (!isVisible()) windowSystem_.prepareFloating(winId());
+    if (!isVisible()) {
+        // Window managers discard the hints of hidden windows.
+        windowSystem_.prepareFloating(winId());
+        shownAt_ = position();
+        QTimer::singleShot(settlingMilliseconds, this, [this] { shownAt_.reset(); });
+    }
     show();
+    windowSystem_.joinAllWorkspaces(winId());
     raise();
     updateOnScreen();
 }
@@ -149,6 +159,13 @@ void QuickFloatingWindow::mouseReleased(const QMouseEvent& event) {
     }
 }
 
+/// Some window managers place a window as if it had a frame, and only then see that it has none.
+void QuickFloatingWindow::moveEvent(QMoveEvent* event) {
+    QQuickWindow::moveEvent(event);
+    const auto wanted = std::exchange(shownAt_, std::nullopt);
+    if (isVisible() && wanted && event->pos() != *wanted) setPosition(*wanted);
+}
+
 void QuickFloatingWindow::exposeEvent(QExposeEvent* event) {
     QQuickWindow::exposeEvent(event);
     updateOnScreen();
@@ -168,6 +185,7 @@ void QuickFloatingWindow::adaptToCompositor() {
 }
 
 void QuickFloatingWindow::layOut(platform::Point origin) {
+    shownAt_.reset();
     outline_.layOut(*content_.item, origin, panel_, content_.cornerRadius(panel_));
 }
 

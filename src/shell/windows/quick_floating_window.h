@@ -6,6 +6,7 @@
 #include <QVariantAnimation>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "platform/api/window_system.h"
 #include "shell/floating_window.h"
@@ -42,6 +43,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -59,7 +61,8 @@ private:
     PanelSize panel_;
     WindowOutline outline_;
     QVariantAnimation growth_;
-    bool takenByContent_ = false;  ///< the current press
+    std::optional<QPoint> shownAt_;  ///< the window's place when it was shown, until it is first moved
+    bool takenByContent_ = false;    ///< the current press
     bool covered_ = false;
     Connection compositing_;
     Connection covering_;
