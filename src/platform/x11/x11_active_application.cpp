@@ -31,6 +31,8 @@ X11ActiveApplication::X11ActiveApplication(const X11Connection& connection, Desk
         std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
                      [this] { processEvents(); });
+    // The program's own windows are about to be shown, and may be announced as active at once.
+    refresh();
 }
 
 X11ActiveApplication::~X11ActiveApplication() = default;
@@ -38,6 +40,7 @@ X11ActiveApplication::~X11ActiveApplication() = default;
 std::optional<AppId> X11ActiveApplication::current() {
     processEvents();
     if (!connection_.alive()) return std::nullopt;
+    if (!announced_ && activeWindow() != window_) invalidate();
     // A change during the query requires another one.
     constexpr int maxChecks = 3;
     for (int looks = 0; stale_ && looks < maxChecks; ++looks) refresh();
@@ -46,7 +49,9 @@ std::optional<AppId> X11ActiveApplication::current() {
 
 void X11ActiveApplication::refresh() {
     stale_ = false;
-    window_ = connection_.cardinal(connection_.root(), activeWindowAtom_).value_or(XCB_WINDOW_NONE);
+    window_ = activeWindow();
+    if (isOwnWithoutFocus(window_)) window_ = former_;
+    former_ = window_;
     if (window_ == XCB_WINDOW_NONE) return;
     setWatched(window_, itsPropertiesAndEnd);
     application_ = identify(window_);
@@ -54,9 +59,37 @@ void X11ActiveApplication::refresh() {
     processEvents();
 }
 
+xcb_window_t X11ActiveApplication::activeWindow() {
+    const auto active = connection_.cardinal(connection_.root(), activeWindowAtom_);
+    announced_ = active.has_value();
+    return active ? *active : focusedWindow();
+}
+
+/// The window with the focus is often one inside the application's: the one that has a class is meant.
+xcb_window_t X11ActiveApplication::focusedWindow() const {
+    const XcbReply<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
+    auto window = focus ? focus->focus : xcb_window_t{XCB_WINDOW_NONE};
+    if (window == XCB_INPUT_FOCUS_POINTER_ROOT) window = connection_.childBelowPointer(connection_.root());
+    while (window != XCB_WINDOW_NONE && window != connection_.root()) {
+        if (!connection_.texts(window, XCB_ATOM_WM_CLASS).empty()) return window;
+        window = connection_.parentOf(window);
+    }
+    return XCB_WINDOW_NONE;
+}
+
+bool X11ActiveApplication::isOwnWithoutFocus(xcb_window_t window) const {
+    if (window == XCB_WINDOW_NONE || connection_.processOf(window) != getpid()) return false;
+    constexpr std::uint32_t hasInput = 1;
+    const auto hints = connection_.cardinals(window, XCB_ATOM_WM_HINTS);
+    return hints.size() >= 2 && (hints[0] & hasInput) != 0 && hints[1] == 0;
+}
+
 void X11ActiveApplication::processEvents() {
     while (const auto event = connection_.pollEvent()) {
-        if (isRelevant(*event)) invalidate();
+        if (!isRelevant(*event)) continue;
+        if ((event->response_type & 0x7f) == XCB_DESTROY_NOTIFY) former_ = XCB_WINDOW_NONE;
+        invalidate();
     }
     if (!connection_.alive() && notifier_) notifier_->setEnabled(false);
 }

@@ -62,6 +62,18 @@ std::vector<std::string> X11Connection::texts(xcb_window_t window, xcb_atom_t na
     return texts;
 }
 
+xcb_window_t X11Connection::parentOf(xcb_window_t window) const {
+    const XcbReply<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(get(), xcb_query_tree(get(), window), nullptr));
+    return reply ? reply->parent : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+xcb_window_t X11Connection::childBelowPointer(xcb_window_t window) const {
+    const XcbReply<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(get(), xcb_query_pointer(get(), window), nullptr));
+    return reply ? reply->child : xcb_window_t{XCB_WINDOW_NONE};
+}
+
 std::optional<pid_t> X11Connection::processOf(xcb_window_t window) const {
     if (!hasExtension(&xcb_res_id)) return std::nullopt;
     // The server knows the client's process id; the window's own property may hold one that is only valid

@@ -42,6 +42,11 @@ public:
     /// The strings of a property of zero-terminated strings.
     [[nodiscard]] std::vector<std::string> texts(xcb_window_t window, xcb_atom_t property) const;
 
+    /// XCB_WINDOW_NONE for the root, and for a window that is gone.
+    [[nodiscard]] xcb_window_t parentOf(xcb_window_t window) const;
+    /// XCB_WINDOW_NONE if the pointer is over none of them.
+    [[nodiscard]] xcb_window_t childBelowPointer(xcb_window_t window) const;
+
     /// The process that a window belongs to; nullopt if the server does not know or cannot tell.
     [[nodiscard]] std::optional<pid_t> processOf(xcb_window_t window) const;
 

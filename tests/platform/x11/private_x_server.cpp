@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 #include <fstream>
 
@@ -59,6 +60,12 @@ void PrivateXServer::setClass(xcb_window_t window, const std::string& windowClas
     const auto names = "instance" + std::string(1, '\0') + windowClass + std::string(1, '\0');
     xcb_change_property(client_, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 8,
                         static_cast<std::uint32_t>(names.size()), names.data());
+}
+
+void PrivateXServer::refuseFocus(xcb_window_t window) const {
+    const std::array<std::uint32_t, 9> inputIsFalse = {1, 0};
+    xcb_change_property(client_, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 32,
+                        inputIsFalse.size(), inputIsFalse.data());
 }
 
 void PrivateXServer::setNumber(xcb_window_t window, xcb_atom_t property, std::uint32_t value) const {

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] xcb_atom_t atom(std::string_view name) const;
     [[nodiscard]] xcb_window_t openWindow(const std::string& windowClass) const;
     void setClass(xcb_window_t window, const std::string& windowClass) const;
+    /// As the hints of a window say that never wants the keyboard.
+    void refuseFocus(xcb_window_t window) const;
     void setNumber(xcb_window_t window, xcb_atom_t property, std::uint32_t value) const;
     /// Waits until the server has processed all requests.
     void sync() const;

@@ -97,5 +97,41 @@ TEST_F(X11ActiveApplicationTest, OnlyTheWindowInFrontIsWatched) {
     EXPECT_EQ(watchers(present), 0u);
 }
 
+/// Some window managers announce such a window as active when it is shown or hovered over.
+TEST_F(X11ActiveApplicationTest, AWindowOfThisProgramThatTakesNoFocusLeavesTheFormerAnswer) {
+    const auto clock = server_.openWindow("Clock");
+    server_.refuseFocus(clock);
+    focus(XCB_WINDOW_NONE);
+    EXPECT_EQ(active_.current(), std::nullopt);
+    focus(clock);
+    EXPECT_EQ(active_.current(), std::nullopt);
+    const auto statistics = server_.openWindow("Statistics");
+    focus(statistics);
+    EXPECT_EQ(active_.current(), AppId("own"));
+    focus(clock);
+    EXPECT_EQ(active_.current(), AppId("own"));
+    xcb_destroy_window(server_.client(), statistics);
+    server_.sync();
+    EXPECT_EQ(active_.current(), std::nullopt);
+}
+
+TEST_F(X11ActiveApplicationTest, WithoutAnAnnouncementTheInputFocusIsAsked) {
+    const auto window = server_.openWindow("Window");
+    xcb_map_window(server_.client(), window);
+    const auto give = [this](xcb_window_t focused) {
+        xcb_set_input_focus(server_.client(), XCB_INPUT_FOCUS_NONE, focused, XCB_CURRENT_TIME);
+        server_.sync();
+    };
+    give(window);
+    EXPECT_EQ(active_.current(), AppId("own"));
+    give(XCB_INPUT_FOCUS_NONE);
+    EXPECT_EQ(active_.current(), std::nullopt);
+    give(window);
+    EXPECT_EQ(active_.current(), AppId("own"));
+    // A window manager has come.
+    focus(XCB_WINDOW_NONE);
+    EXPECT_EQ(active_.current(), std::nullopt);
+}
+
 }  // namespace
 }  // namespace tidewatch::platform
