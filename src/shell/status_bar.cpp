@@ -14,6 +14,7 @@ constexpr int trayTimeout = 10;
 
 void StatusBar::begin(std::function<void(StatusItem::Click)> clicked) {
     item_ = dependencies_.surfaces.makeStatusItem();
+    item_->offerMenu(dependencies_.menu);
     refreshTitle();
     dependencies_.notifications.setLegacyService([this](const platform::UserNotification& message) {
         item_->showMessage(message.title, message.body);

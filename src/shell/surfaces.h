@@ -22,6 +22,10 @@ public:
     virtual void setTitle(const StatusTitle& title) = 0;
     virtual void onClick(std::function<void(Click)> clicked) = 0;
 
+    /// The menu for trays that draw it themselves, which call `rows` each time before it opens. With any
+    /// other tray a click opens it, which onClick() reports.
+    virtual void offerMenu(std::function<MenuRows()> rows) = 0;
+
     /// Whether a tray currently shows the item.
     [[nodiscard]] virtual bool isShown() const = 0;
 

@@ -60,6 +60,7 @@ public:
     void showMessage(const std::string& title, const std::string& body) override {
         messages_.push_back(title + ": " + body);
     }
+    void offerMenu(std::function<MenuRows()>) override {}
     void popUpMenu(const MenuRows& rows) override { menus_.push_back(rows); }
 
     void click(Click click) const { clicked_(click); }

@@ -1,52 +1,17 @@
 #include "shell/windows/menu_view.h"
 
-#include <QIcon>
 #include <QKeyEvent>
-#include <QPainter>
-#include <QPixmap>
-#include <array>
 
-#include "shell/windows/elided_text.h"
+#include "shell/windows/menu_row_look.h"
 #include "shell/windows/menu_style.h"
-#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 
 namespace {
 
-QKeySequence shortcut(char keyEquivalent) {
-    return QKeySequence(Qt::CTRL |
-                        static_cast<Qt::Key>(QChar::fromLatin1(keyEquivalent).toUpper().unicode()));
-}
-
-/// The widest title that a menu has room for, in pixels.
-constexpr double titleWidth = 320;
-
-/// A title as the menu wants it: there is something to see of it, and an ampersand that is meant is written
-/// twice.
+/// An ampersand that is meant is written twice.
 QString rowTitle(const std::string& text, const QFont& font) {
-    return elidedLine(visibleName(text), font, titleWidth).replace('&', "&&");
-}
-
-/// A round dot of one colour, with a check mark on it where the row is checked: the icon takes the place that
-/// the menu's own mark would have.
-QIcon swatch(const RgbColor& color, bool checked) {
-    constexpr double side = 48;
-    QPixmap dot(static_cast<int>(side), static_cast<int>(side));
-    dot.fill(Qt::transparent);
-    QPainter painter(&dot);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(color.red, color.green, color.blue));
-    const double inset = side / (checked ? 24 : 6);
-    painter.drawEllipse(QRectF(0, 0, side, side).adjusted(inset, inset, -inset, -inset));
-    if (checked) {
-        painter.setPen(QPen(QColor(0x12, 0x12, 0x12), side / 9, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        const std::array mark = {QPointF(0.29, 0.52) * side, QPointF(0.44, 0.67) * side,
-                                 QPointF(0.72, 0.34) * side};
-        painter.drawPolyline(mark.data(), static_cast<int>(mark.size()));
-    }
-    return dot;
+    return menuTitle(text, font).replace('&', "&&");
 }
 
 }  // namespace
@@ -82,11 +47,12 @@ void MenuView::addRow(const MenuRow& row) {
         submenu->addRows(row.children);
         action = addMenu(submenu);
     }
-    if (row.swatch) action->setIcon(swatch(*row.swatch, row.checked));
+    // The icon takes the place that the menu's own check mark would have.
+    if (row.swatch) action->setIcon(menuSwatch(*row.swatch, row.checked));
     action->setEnabled(row.isEnabled());
     action->setCheckable(row.checked);
     action->setChecked(row.checked);
-    if (row.keyEquivalent) action->setShortcut(shortcut(*row.keyEquivalent));
+    if (row.keyEquivalent) action->setShortcut(menuShortcut(*row.keyEquivalent));
 }
 
 void MenuView::keyPressEvent(QKeyEvent* event) {

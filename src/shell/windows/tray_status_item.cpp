@@ -46,6 +46,11 @@ bool TrayStatusItem::lookForTray() {
     return trayWasThere_ && !wasThere;
 }
 
+void TrayStatusItem::offerMenu(std::function<MenuRows()> rows) {
+    rows_ = std::move(rows);
+    makeIcon();
+}
+
 bool TrayStatusItem::isShown() const {
     return trayWasThere_ && icon_->isVisible();
 }
@@ -61,6 +66,8 @@ void TrayStatusItem::popUpMenu(const MenuRows& rows) {
 }
 
 void TrayStatusItem::makeIcon() {
+    icon_.reset();
+    drawnMenu_.reset();
     icon_ = std::make_unique<QSystemTrayIcon>();
     QObject::connect(icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
                      [this](QSystemTrayIcon::ActivationReason reason) {
@@ -68,6 +75,9 @@ void TrayStatusItem::makeIcon() {
                          if (reason == QSystemTrayIcon::Trigger) clicked_(Click::left);
                          if (reason == QSystemTrayIcon::Context) clicked_(Click::right);
                      });
+    if (!rows_) return;
+    drawnMenu_ = std::make_unique<TrayDrawnMenu>(rows_);
+    drawnMenu_->offer(*icon_);
 }
 
 void TrayStatusItem::drawIcon() {

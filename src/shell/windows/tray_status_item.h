@@ -8,6 +8,7 @@
 
 #include "shell/surfaces.h"
 #include "shell/themes/theme_controller.h"
+#include "shell/windows/tray_drawn_menu.h"
 
 namespace tidewatch {
 
@@ -20,6 +21,7 @@ public:
 
     void setTitle(const StatusTitle& title) override;
     void onClick(std::function<void(Click)> clicked) override { clicked_ = std::move(clicked); }
+    void offerMenu(std::function<MenuRows()> rows) override;
     [[nodiscard]] bool isShown() const override;
     void showMessage(const std::string& title, const std::string& body) override;
     void popUpMenu(const MenuRows& rows) override;
@@ -35,6 +37,8 @@ private:
     std::optional<StatusTitle> title_;
     int titlesUntilLook_ = 0;
     bool trayWasThere_ = QSystemTrayIcon::isSystemTrayAvailable();
+    std::function<MenuRows()> rows_;
+    std::unique_ptr<TrayDrawnMenu> drawnMenu_;
     std::unique_ptr<QSystemTrayIcon> icon_;
     QPointer<QMenu> menu_;
 };

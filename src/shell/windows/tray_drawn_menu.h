@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QMenu>
+#include <QSystemTrayIcon>
+#include <functional>
+
+#include "shell/menu_row.h"
+
+namespace tidewatch {
+
+/// The menu of a tray icon for trays that draw it themselves, from what the session bus tells them of it
+/// (com.canonical.dbusmenu). Its rows are made anew each time before it opens.
+class TrayDrawnMenu final {
+public:
+    explicit TrayDrawnMenu(std::function<MenuRows()> rows);
+
+    /// Offers it to the tray; does nothing if the tray is not on the bus. `icon` must not outlive this
+    /// object.
+    void offer(QSystemTrayIcon& icon);
+
+private:
+    void refill();
+
+    const std::function<MenuRows()> rows_;
+    QMenu menu_;
+};
+
+}  // namespace tidewatch
