@@ -2,6 +2,7 @@
 
 import configparser
 import json
+import shutil
 from pathlib import Path
 
 from harness import local_time
@@ -23,6 +24,10 @@ class Home:
         lines = ["[General]", *(f"{key}={value}" for key, value in values.items())]
         self.settings_file.parent.mkdir(parents=True, exist_ok=True)
         self.settings_file.write_text("\n".join(lines) + "\n", encoding="utf-8")
+
+    def remove_record(self):
+        """As if the program had never run; the settings stay."""
+        shutil.rmtree(self.data, ignore_errors=True)
 
     def settings(self):
         """All settings as strings; {} without a file."""

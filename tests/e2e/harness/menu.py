@@ -1,8 +1,9 @@
 """The program's tray icon and its menu, operated like a user does."""
 
 import time
+from dataclasses import dataclass
 
-from harness.screen import difference
+from harness.screen import Rectangle, difference
 from harness.user_input import LEFT, RIGHT
 from harness.waiting import becomes_true, wait_until
 from harness.world import CLOCK_CLASS
@@ -17,8 +18,21 @@ SIZES = (0.1, 0.25, 0.5, 0.75, 1.0, 5.0)
 IDLE_SECONDS = (60, 180, 300, 600, 900, 1800)
 DAY_STARTS = (0, 4, 5, 6, 7, 8)
 
+# The least height of an icon in pixels: less is its shadow, or the panel itself.
+LEAST_ICON = 10
+SETTLING_SECONDS = 0.3
+DRAWN_BEFORE_READY_SECONDS = 1.5
+
 # Long enough for a busy machine to light up a row.
 FIRST_KEY_SECONDS = 20
+
+
+@dataclass(frozen=True)
+class DrawnIcon:
+    """An icon without a window of its own."""
+
+    frame: Rectangle
+    id: int = 0
 
 
 class Menu:
@@ -26,42 +40,87 @@ class Menu:
         self._world = world
 
     def tray_icon(self):
-        """The icon's window inside the tray, or None."""
-        tray = self._world.screen.window(window_class="trayer")
+        """The icon's window inside the tray, or what the tray draws of it, or None."""
+        kind = self._world.desktop.tray
+        tray = self._world.screen.window(window_class=kind.window_class)
         if tray is None:
             return None
+        if not kind.embeds:
+            return self._drawn_icon(self._world.panel_frame)
         for window in self._world.screen.windows():
             if window.window_class == CLOCK_CLASS and tray.frame.contains(*window.frame.centre):
                 return window
         return None
 
+    def _drawn_icon(self, panel):
+        """What was not on the panel before the program started."""
+        found = difference(self._world.panel_without_icon, self._world.screen.grab(panel))
+        if found is None or found.height < LEAST_ICON:
+            return None
+        return DrawnIcon(Rectangle(panel.x + found.x, panel.y + found.y, found.width, found.height))
+
+    def wait_for_icon(self):
+        """The icon, ready for a click."""
+        icon = wait_until(self.tray_icon, "the tray icon")
+        if not self._world.desktop.tray.embeds:
+            # A tray draws an icon before it has asked for all that it needs for a click.
+            time.sleep(DRAWN_BEFORE_READY_SECONDS)
+        return icon
+
     def popups(self):
         """The open menus' windows, the outermost first."""
-        icon = self.tray_icon()
+        icon = self._world.desktop.tray and self.tray_icon()
         return [
             window
             for window in self._world.screen.windows()
-            if window.window_class == CLOCK_CLASS
-            and window.unmanaged
+            if window.unmanaged
+            and self._can_be_ours(window)
             and (icon is None or window.id != icon.id)
             and window.frame.height > 30
         ]
 
+    def _can_be_ours(self, window):
+        if window.window_class == CLOCK_CLASS:
+            return True
+        tray = self._world.desktop.tray
+        return tray is not None and not tray.embeds and self._world.screen.is_menu(window.id)
+
     def open_from_tray(self, button=RIGHT):
-        icon = wait_until(self.tray_icon, "the tray icon")
-        self._world.input.click(*icon.frame.centre, button)
-        return self._opened()
+        icon = self.wait_for_icon()
+        return self._opened_by(lambda: self._world.input.click(*icon.frame.centre, button))
 
     def open_from_clock(self):
         clock = wait_until(self._world.clock, "the clock")
-        self._world.input.click(*clock.frame.centre, RIGHT)
-        return self._opened()
+        return self._opened_by(lambda: self._world.input.click(*clock.frame.centre, RIGHT))
 
-    def _opened(self):
+    def _opened_by(self, click):
+        before = self._world.screen.grab()
+        click()
         popup = wait_until(self.popups, "the menu")[0]
-        wait_until(lambda: any(low != high for low, high in self._picture(popup).getextrema()), "the menu's rows")
-        time.sleep(0.3)
+        # A compositor shows a window some time after it is there.
+        frame = popup.frame
+        behind = before.crop((frame.x, frame.y, frame.right, frame.bottom))
+
+        def is_drawn():
+            drawn = difference(behind, self._picture(popup))
+            return drawn is not None and drawn.height > frame.height * 3 // 4
+
+        wait_until(is_drawn, "the menu's rows")
+        self._settled_picture(popup)
         return popup
+
+    def _settled_picture(self, popup):
+        """The menu as soon as its picture stands still."""
+        last = [self._picture(popup)]
+
+        def stands_still():
+            before = last[0]
+            last[0] = self._picture(popup)
+            return difference(before, last[0]) is None
+
+        time.sleep(SETTLING_SECONDS)
+        wait_until(stands_still, "the menu to be drawn", every=SETTLING_SECONDS)
+        return last[0]
 
     def _picture(self, popup):
         return self._world.screen.grab(popup.frame)
@@ -88,6 +147,7 @@ class Menu:
             self._world.input.key("Escape")
             time.sleep(0.2)
         wait_until(lambda: not self.popups(), "the menu to close")
+        time.sleep(SETTLING_SECONDS)
 
     def choose(self, row, inner_row=None):
         """Chooses a row of the open menu, or a row of its submenu, with the keyboard."""
@@ -106,10 +166,9 @@ class Menu:
 
     def row_frame(self, popup, row):
         """The screen rectangle of a row of the open menu, from its highlight by keyboard."""
-        plain = self._world.screen.grab(popup.frame)
+        plain = self._settled_picture(popup)
         self.go_down(row + 1)
-        time.sleep(0.2)
-        lit = difference(plain, self._world.screen.grab(popup.frame))
+        lit = difference(plain, self._settled_picture(popup))
         if lit is None:
             raise AssertionError(f"row {row} does not light up")
         return popup.frame.x + lit.x + lit.width // 2, popup.frame.y + lit.y + lit.height // 2

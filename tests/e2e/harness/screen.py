@@ -126,9 +126,19 @@ class Screen:
         """The names in _NET_WM_STATE."""
         return {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_STATE")}
 
+    def is_menu(self, window_id):
+        """Whether a window says that it is one."""
+        types = {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_WINDOW_TYPE")}
+        return bool(types & {"_NET_WM_WINDOW_TYPE_POPUP_MENU", "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"})
+
     def active_window(self):
         """The id of the focused window, or 0."""
         return next(iter(self.property(0, "_NET_ACTIVE_WINDOW")), 0)
+
+    def input_focus(self):
+        """The id of the window that takes the keys; 0 or 1 for none of them or the one below the pointer."""
+        focus = self._display.get_input_focus().focus
+        return focus if isinstance(focus, int) else focus.id
 
     def managed(self):
         """The windows managed by the window manager, oldest first."""
@@ -162,6 +172,12 @@ class Screen:
         atoms = [self._display.intern_atom(name) for name in names]
         window = self._display.create_resource_object("window", window_id)
         self._ask_window_manager(window, "_NET_WM_STATE", [add, *(atoms + [0])[:2], from_a_pager, 0])
+
+    def place(self, window_id, x, y, width, height):
+        """Only for tests: requests a place and size for a window, as its application does."""
+        window = self._display.create_resource_object("window", window_id)
+        window.configure(x=x, y=y, width=width, height=height)
+        self._display.flush()
 
     def _ask_window_manager(self, window, message_type, numbers):
         from Xlib.protocol import event

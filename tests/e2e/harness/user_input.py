@@ -62,3 +62,7 @@ class UserInput:
 
     def focus(self, window_id):
         self._xdotool("windowactivate", "--sync", window_id)
+
+    def take_focus(self, window_id):
+        """Without a window manager."""
+        self._xdotool("windowfocus", "--sync", window_id)

@@ -10,16 +10,18 @@ import tempfile
 import time
 from pathlib import Path
 
+from harness.desktops import OPENBOX
 from harness.home import Home
 from harness.local_time import ZONE
 from harness.processes import Process
-from harness.screen import Screen
+from harness.screen import Screen, difference
 from harness.timing import EventTime
 from harness.user_input import UserInput
-from harness.waiting import TimeOut, wait_until
+from harness.waiting import DEFAULT_TIMEOUT, TimeOut, wait_until
 
 WIDTH, HEIGHT = 1280, 800
 BACKGROUND = (0x2F, 0x48, 0x58)
+LOOKS_AT_PANEL = 4  # half a second apart, without a difference
 CLOCK_TITLE = "Tidewatch"
 CLOCK_CLASS = "tidewatch"
 ACCESSIBILITY_BUS = "/usr/libexec/at-spi-bus-launcher"
@@ -37,7 +39,14 @@ class World:
     """
 
     def __init__(
-        self, name, tray=True, session_bus=True, accessibility=False, expected_warnings=(), size=(WIDTH, HEIGHT)
+        self,
+        name,
+        tray=True,
+        session_bus=True,
+        accessibility=False,
+        expected_warnings=(),
+        size=(WIDTH, HEIGHT),
+        desktop=OPENBOX,
     ):
         self.folder = ARTEFACTS / name
         shutil.rmtree(self.folder, ignore_errors=True)
@@ -45,6 +54,8 @@ class World:
         self.home = Home(self.folder / "home")
         self.expected_warnings = list(expected_warnings)
         self.programs = []
+        self.desktop = desktop
+        self.window_manager = None
         self._size = size
         self._wants_tray = tray
         self._wants_session_bus = session_bus
@@ -60,13 +71,12 @@ class World:
             self._start_server()
             if self._wants_session_bus:
                 self.start_session_bus()
-            self.window_manager = self.start("openbox", "--sm-disable")
-            wait_until(self.screen.has_window_manager, "the window manager")
+            self._start_window_manager()
             if self._wants_accessibility:
                 self._start_accessibility()
             if self._wants_session_bus:
                 self.start("dunst")
-            if self._wants_tray:
+            if self._wants_tray and self.desktop.tray:
                 self.start_tray()
         except BaseException:
             self.__exit__(None, None, None)
@@ -132,6 +142,7 @@ class World:
             "DISPLAY": self.display,
             "XDG_RUNTIME_DIR": str(runtime),
             "DBUS_SESSION_BUS_ADDRESS": f"unix:path={runtime}/bus",
+            **self.desktop.environment,
         }
         for name in os.environ:
             if name.endswith("SAN_OPTIONS"):
@@ -175,13 +186,50 @@ class World:
         self.start(ACCESSIBILITY_BUS, "--launch-immediately")
         self.accessibility = Accessibility(self.env["DBUS_SESSION_BUS_ADDRESS"])
 
+    def _start_window_manager(self):
+        for path, content in self.desktop.files.items():
+            file = self.home.path / ".config" / path
+            file.parent.mkdir(parents=True, exist_ok=True)
+            file.write_text(content, encoding="utf-8")
+        if self.desktop.window_manager:
+            self.window_manager = self.start(*self.desktop.window_manager)
+            wait_until(self.screen.has_window_manager, "the window manager")
+
     def start_tray(self):
-        tray = self.start(
-            "trayer", "--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "24",
-            "--SetDockType", "true",
-        )
+        kind = self.desktop.tray
+        tray = self.start(*kind.command)
         wait_until(lambda: self.screen.selection_owner("_NET_SYSTEM_TRAY_S0"), "the tray")
+        if not kind.embeds:
+            wait_until(self._has_item_host, "the tray on the bus")
+            wait_until(lambda: self.screen.window(window_class=kind.part), "the last part of the tray")
+            self.panel_frame, self.panel_without_icon = self._settled_panel(kind.window_class)
         return tray
+
+    def _has_item_host(self):
+        answer = subprocess.run(
+            ["gdbus", "call", "--session", "--dest", "org.kde.StatusNotifierWatcher",
+             "--object-path", "/StatusNotifierWatcher", "--method", "org.freedesktop.DBus.Properties.Get",
+             "org.kde.StatusNotifierWatcher", "IsStatusNotifierHostRegistered"],
+            env=self.env, capture_output=True, text=True, timeout=DEFAULT_TIMEOUT,
+        )
+        return "true" in answer.stdout
+
+    def _settled_panel(self, window_class):
+        """Frame and picture of a panel that is no longer being drawn or moved."""
+        looks = []
+
+        def stands_still():
+            panel = self.screen.window(window_class=window_class)
+            if panel is None or panel.frame.bottom > self._size[1]:
+                return False
+            looks.append((panel.frame, self.screen.grab(panel.frame)))
+            last = looks[-LOOKS_AT_PANEL:]
+            return len(last) == LOOKS_AT_PANEL and all(
+                frame == last[0][0] and difference(picture, last[0][1]) is None for frame, picture in last
+            )
+
+        wait_until(stands_still, "the panel to be drawn", every=0.5)
+        return looks[-1]
 
     def start_compositor(self):
         compositor = self.start("picom", "--backend", "xrender", "--no-fading-openclose", "--config", "/dev/null")
@@ -205,9 +253,32 @@ class World:
             "xterm", "-class", window_class, "-name", window_class.lower(), "-geometry", "60x10+40+60",
             "-e", "sh", "-c", "cat > /dev/null",
         )
-        window = wait_until(lambda: self.screen.window(window_class=window_class), "the terminal")
-        self.input.focus(window.id)
+        window = wait_until(lambda: self._managed_window(window_class), "the terminal")
+        self.focus(window)
         return window
+
+    def select_workspace(self, number):
+        """Shows the workspace with this number, from 0 on."""
+        command = self.desktop.workspaces[number]
+        if command:
+            subprocess.run(command, env=self.env, check=True, capture_output=True, timeout=DEFAULT_TIMEOUT)
+        else:
+            self.screen.select_desktop(number)
+
+    def _managed_window(self, window_class):
+        window = self.screen.window(window_class=window_class)
+        managed = window and (not self.desktop.window_manager or window.id in self.screen.managed())
+        return window if managed else None
+
+    def focus(self, window):
+        if self.desktop.window_manager:
+            self.input.focus(window.id)
+        else:
+            self.input.take_focus(window.id)
+
+    def focused_window(self):
+        """The id of the window that takes the keys, as the desktop announces it."""
+        return self.screen.active_window() if self.desktop.window_manager else self.screen.input_focus()
 
     # The program
 
@@ -221,7 +292,8 @@ class World:
             try:
                 wait_until(self.clock, "the clock on the screen")
             except TimeOut:
-                self._keep_states_of({"program": process, "window-manager": self.window_manager})
+                wanted = {"program": process, "window-manager": self.window_manager}
+                self._keep_states_of({name: each for name, each in wanted.items() if each})
                 raise
             process.began = EventTime(process.started, time.monotonic())
         return process
@@ -242,10 +314,11 @@ class World:
 
     def clock(self):
         """The clock's window, or None while it is hidden."""
-        managed = self.screen.managed()
+        managed = self.screen.managed() if self.desktop.window_manager else None
         for window in self.screen.windows():
-            if window.window_class == CLOCK_CLASS and window.title == CLOCK_TITLE and window.id in managed:
-                return window
+            if window.window_class == CLOCK_CLASS and window.title == CLOCK_TITLE:
+                if managed is None or window.id in managed:
+                    return window
         return None
 
     def statistics(self):
