@@ -11,14 +11,15 @@ function(tidewatch_module room)
     set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS tidewatch_${room})
 endfunction()
 
-# tidewatch_test(<name> [THREADS] [NOT_SANITIZED] SOURCES <file>... [APART <file>...] [KNOWS <target>...])
+# tidewatch_test(<name> [THREADS] [QT] [NOT_SANITIZED] SOURCES <file>... [APART <file>...] [KNOWS <target>...])
 #
-# A GoogleTest program, registered case by case, with locale, time zone and home fixed. THREADS marks tests that use
-# more than one thread: only those are built under the thread sanitizer. NOT_SANITIZED marks tests that the sanitizers'
-# presets do not build, mostly because they need Qt: only those are built in the preset release. APART lists sources that are excluded from
-# unity builds because their names clash with others'.
+# A GoogleTest program with locale, time zone and home fixed, registered case by case, or as a whole under a sanitizer.
+# THREADS marks tests that use more than one thread: only those are built under the thread sanitizer. QT marks tests
+# that need Qt, whose own leaks are nobody's business here. NOT_SANITIZED marks tests that prove nothing under a
+# sanitizer: only those are built in the preset release. APART lists sources that are excluded from unity builds because
+# their names clash with others'.
 function(tidewatch_test name)
-    cmake_parse_arguments(ARG "THREADS;NOT_SANITIZED" "" "SOURCES;APART;KNOWS" ${ARGN})
+    cmake_parse_arguments(ARG "THREADS;QT;NOT_SANITIZED" "" "SOURCES;APART;KNOWS" ${ARGN})
     if(TIDEWATCH_SANITIZE MATCHES thread AND NOT ARG_THREADS)
         return()
     endif()
@@ -38,9 +39,18 @@ function(tidewatch_test name)
     if(TIDEWATCH_SANITIZE MATCHES undefined)
         target_compile_options(${name} PRIVATE -fno-sanitize=null,alignment,vptr)
     endif()
-    # Each test process starts through `env`: test discovery does not preserve a list of variables.
-    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR
-        "${CMAKE_COMMAND};-E;env;LC_ALL=C.UTF-8;TZ=UTC;HOME=${CMAKE_BINARY_DIR}/test-home;QT_QPA_PLATFORM=offscreen")
+    # Test processes start through `env`: test discovery does not preserve a list of variables.
+    set(variables LC_ALL=C.UTF-8 TZ=UTC HOME=${CMAKE_BINARY_DIR}/test-home QT_QPA_PLATFORM=offscreen)
+    if(ARG_QT)
+        list(APPEND variables ASAN_OPTIONS=detect_leaks=0)
+    endif()
+    if(TIDEWATCH_SANITIZE)
+        # A sanitized process takes longer to start than most cases to run.
+        add_test(NAME ${name} COMMAND ${CMAKE_COMMAND} -E env ${variables} $<TARGET_FILE:${name}> --gtest_brief=1)
+        set_tests_properties(${name} PROPERTIES TIMEOUT 3600 FAIL_REGULAR_EXPRESSION "  SKIPPED  ]")
+        return()
+    endif()
+    set_target_properties(${name} PROPERTIES CROSSCOMPILING_EMULATOR "${CMAKE_COMMAND};-E;env;${variables}")
     # Neither timeout checks performance: they end tests that hang, even on a very slow machine.
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 600 PROPERTIES TIMEOUT 1800)
 endfunction()

@@ -1,34 +1,14 @@
 #include "platform/x11/x11_active_application.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 
-#include "tests/platform/x11/private_x_server.h"
+#include "tests/platform/x11/active_application_fixture.h"
 
 namespace tidewatch::platform {
 namespace {
-
-class X11ActiveApplicationTest : public testing::Test {
-protected:
-    void focus(xcb_window_t window) const {
-        server_.setNumber(server_.root(), activeWindow_, window);
-        server_.sync();
-    }
-
-    int argc_ = 1;
-    char name_[5] = "test";
-    char* argv_[2] = {name_, nullptr};
-    QCoreApplication application_{argc_, argv_};
-    PrivateXServer server_;
-    const xcb_atom_t activeWindow_ = server_.atom("_NET_ACTIVE_WINDOW");
-    const xcb_atom_t title_ = server_.atom("_NET_WM_NAME");
-    X11Connection connection_;
-    DesktopEntries entries_{{}};
-    X11ActiveApplication active_{connection_, entries_, AppId("own")};
-};
 
 TEST_F(X11ActiveApplicationTest, TheAnswerFollowsTheFocusBackAndForth) {
     EXPECT_EQ(active_.current(), std::nullopt);
@@ -40,35 +20,6 @@ TEST_F(X11ActiveApplicationTest, TheAnswerFollowsTheFocusBackAndForth) {
     EXPECT_EQ(active_.current(), std::nullopt);
     focus(first);
     EXPECT_EQ(active_.current(), AppId("own"));
-}
-
-TEST_F(X11ActiveApplicationTest, AMillionChangesWhileNobodyAsksCostNoMemory) {
-    const auto former = server_.openWindow("Former");
-    const auto present = server_.openWindow("Present");
-    const auto next = server_.openWindow("Next");
-    focus(former);
-    ASSERT_TRUE(active_.current());
-    focus(present);
-    ASSERT_TRUE(active_.current());
-    const auto change = [this](xcb_window_t window, std::uint32_t times) {
-        for (std::uint32_t i = 0; i < times; ++i) server_.setNumber(window, title_, i);
-        server_.sync();
-        QCoreApplication::processEvents();
-    };
-    change(present, 1000);
-    const auto before = residentMemory(::getpid());
-    const auto serverBefore = server_.memory();
-    for (int round = 0; round < 500; ++round) {
-        change(former, 1000);
-        change(present, 500);
-        change(server_.root(), 500);
-        // The user is away, but windows open and close.
-        if (round % 100 == 0) focus(round % 200 == 0 ? next : present);
-    }
-    constexpr std::int64_t flat = 6 * 1024 * 1024;
-    EXPECT_LT(residentMemory(::getpid()) - before, flat);
-    EXPECT_LT(server_.memory() - serverBefore, flat);
-    EXPECT_TRUE(active_.current());
 }
 
 TEST_F(X11ActiveApplicationTest, OnlyTheWindowInFrontIsWatched) {
