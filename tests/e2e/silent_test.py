@@ -8,10 +8,12 @@ import time
 import unittest
 from pathlib import Path
 
+from Xlib import X
+
 from harness.services import TrayOnTheBus
 from harness.silent_bus import SilentBus
 from harness.statistics_window import DETAILS, StatisticsWindow
-from harness.timing import Elapsed
+from harness.timing import Elapsed, EventTime
 from harness.user_input import MIDDLE
 from harness.waiting import wait_until
 from harness.world import World, sleep_until
@@ -151,6 +153,27 @@ class Silent(unittest.TestCase):
             time.sleep(1.2)
             ended = world.stop_program(program)
             Elapsed.between(program.began, ended).assert_counted(world.home.day_seconds())
+
+    def test_a_clipboard_manager_that_hangs_at_the_end(self):
+        """It is asked to keep what was copied here, for some seconds. By then a successor can start, on the whole record."""
+        warning = "Unable to receive an event from the clipboard manager"
+        with World("silent-keeper", accessibility=True, expected_warnings=[warning]) as world:
+            program = world.start_program()
+            window = StatisticsWindow(world, program)
+            window.open()
+            window.select(DETAILS)
+            window.click("text", "buscar")
+            world.input.type("editor")
+            world.input.key("ctrl+a", "ctrl+c")
+            wait_until(lambda: world.screen.selection_owner("CLIPBOARD") != X.NONE, "something copied", SOON)
+            world.screen.hold_selection("CLIPBOARD_MANAGER")
+            asked = EventTime.of(lambda: program.send(signal.SIGTERM))
+            successor = world.start_program()
+            ended = world.stop_program(successor)
+            self.assertEqual(program.wait(SOON), 0)
+            self.assertRegex(program.log(), warning)
+            both = Elapsed.between(program.began, asked) + Elapsed.between(successor.began, ended)
+            both.assert_counted(world.home.day_seconds())
 
     def test_a_session_manager_and_an_input_method_that_say_nothing(self):
         with World("silent-others") as world:
