@@ -4,7 +4,7 @@
 
 #include "analysis/goal_settings.h"
 #include "base/signal.h"
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -37,7 +37,7 @@ public:
     Signal<> changed;
 
 private:
-    KeptFile file_;
+    RestorableFile file_;
     GoalSettings settings_;
 };
 

@@ -7,7 +7,7 @@
 #include "classification/category_overrides.h"
 #include "classification/registered_category.h"
 #include "classification/tier.h"
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 #include "platform/api/applications.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
@@ -55,7 +55,7 @@ private:
     void flush();
 
     mutable RegisteredCategories registered_;  // caches lookups
-    KeptFile file_;
+    RestorableFile file_;
     CategoryOverrides overrides_;
 };
 

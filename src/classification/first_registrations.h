@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/tagged_string.h"
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 
@@ -37,7 +37,7 @@ public:
     void restoreMissingOn(JobQueue& disk) { file_.restoreOn(disk); }
 
 private:
-    KeptFile file_;
+    RestorableFile file_;
     std::map<AppId, Words> words_;
     bool changed_ = false;
 };

@@ -8,7 +8,7 @@
 #include "base/signal.h"
 #include "base/uuid.h"
 #include "core/broadcaster.h"
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 #include "platform/api/file_system.h"
 #include "platform/api/log.h"
 #include "platform/api/randomness.h"
@@ -78,7 +78,7 @@ private:
 
     platform::Randomness& randomness_;
     const Broadcaster& broadcaster_;
-    KeptFile file_;
+    RestorableFile file_;
     ProjectList list_;
 };
 

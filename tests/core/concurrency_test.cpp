@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 #include "platform/fake/fake_time_zone.h"
 #include "tests/support/core_fixture.h"
 
@@ -188,7 +188,7 @@ TEST_F(StallTest, ReadersAndBookingsDoNotWaitEither) {
 
 TEST_F(ConcurrencyTest, AFileIsRestoredWhileItIsWrittenAndNoOlderTextStaysLast) {
     SerialQueue queue([](JobQueue::Job) {});
-    KeptFile file(world.files, world.log, "notes.json");
+    RestorableFile file(world.files, world.log, "notes.json");
     static_cast<void>(file.read([](std::string text) { return std::optional(std::move(text)); }));
     for (int i = 0; i <= rounds; ++i) {
         world.files.removeDirectory("/home/user/.tidewatch");

@@ -26,9 +26,9 @@ constexpr int margin = 24;
 
 constexpr int maxLines = 24;
 
-/// The whole text on lines of `textWidth`, broken wherever a line is full, behind a slash if there is one. Of
-/// more than `maxLines` lines the middle is left out.
-QString broken(const QString& text, const QFontMetricsF& metrics) {
+/// The text wrapped at `textWidth`, after a slash where possible. The middle is left out of text that would
+/// take more than `maxLines` lines.
+QString wrapped(const QString& text, const QFontMetricsF& metrics) {
     const auto rest = metrics.elidedText(text, Qt::ElideMiddle, double{textWidth} * (maxLines - 1));
     QStringList lines;
     QString line;
@@ -37,8 +37,8 @@ QString broken(const QString& text, const QFontMetricsF& metrics) {
         const auto end = ends.toNextBoundary();
         const auto character = rest.mid(at, end - at);
         if (metrics.horizontalAdvance(line + character) > textWidth && !line.isEmpty()) {
-            const auto behindSlash = line.lastIndexOf(u'/') + 1;
-            const auto kept = behindSlash > line.size() / 2 ? behindSlash : line.size();
+            const auto afterSlash = line.lastIndexOf(u'/') + 1;
+            const auto kept = afterSlash > line.size() / 2 ? afterSlash : line.size();
             lines += line.left(kept);
             line.remove(0, kept);
         }
@@ -48,8 +48,8 @@ QString broken(const QString& text, const QFontMetricsF& metrics) {
     return (lines << line).join(u'\n');
 }
 
-/// The text on lines of `textWidth`: its name on the line on which it begins, and no word wider than a line.
-/// Text after a line break is shown unabridged.
+/// The text as it fits into lines of `textWidth`: its name elided to the rest of its line, and too long a
+/// word elided to a line. What follows a line break is wrapped, not elided.
 QString fitted(const TextWithName& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     const auto before = tidewatch::text(text.before);
@@ -60,12 +60,11 @@ QString fitted(const TextWithName& text, const QFont& font) {
     auto words = paragraphs.front().split(u' ');
     for (auto& word : words) word = metrics.elidedText(word, Qt::ElideMiddle, textWidth);
     paragraphs.front() = words.join(u' ');
-    for (qsizetype i = 1; i < paragraphs.size(); ++i) paragraphs[i] = broken(paragraphs[i], metrics);
+    for (qsizetype i = 1; i < paragraphs.size(); ++i) paragraphs[i] = wrapped(paragraphs[i], metrics);
     return paragraphs.join(u'\n');
 }
 
-/// What is read aloud of a text: a name as it is shown, and a path without the line ends that are put into
-/// it.
+/// The text as a screen reader gets it: a name as elided, a path without the line breaks of wrapping.
 QString accessibleText(const TextWithName& text, const QLabel& shown) {
     return text.name.empty() ? tidewatch::text(text.whole()) : shown.text();
 }
@@ -101,7 +100,7 @@ QLabel* QuestionDialog::addText(const char* name, const TextWithName& text) {
 
 QLineEdit* QuestionDialog::addField(double width, const QString& placeholder, const QString& initial) {
     auto* field = new QLineEdit;
-    // The toolkit's own limit would cut the name that is only to be confirmed.
+    // The toolkit's own limit would truncate a name that is only to be confirmed.
     field->setMaxLength(std::numeric_limits<int>::max());
     field->setText(initial);
     field->setPlaceholderText(placeholder);
@@ -117,15 +116,15 @@ void QuestionDialog::addButtons(const QString& accept, Cancel cancel) {
     auto* row = new QHBoxLayout;
     row->addStretch();
     if (cancel == Cancel::offered) {
-        auto* refusing = new QPushButton("Cancelar");
-        refusing->setAutoDefault(false);
-        connect(refusing, &QPushButton::clicked, this, &QDialog::reject);
-        row->addWidget(refusing);
+        auto* cancelButton = new QPushButton("Cancelar");
+        cancelButton->setAutoDefault(false);
+        connect(cancelButton, &QPushButton::clicked, this, &QDialog::reject);
+        row->addWidget(cancelButton);
     }
-    auto* acting = new QPushButton(accept);
-    acting->setDefault(true);
-    connect(acting, &QPushButton::clicked, this, &QDialog::accept);
-    row->addWidget(acting);
+    auto* acceptButton = new QPushButton(accept);
+    acceptButton->setDefault(true);
+    connect(acceptButton, &QPushButton::clicked, this, &QDialog::accept);
+    row->addWidget(acceptButton);
     rows_->addSpacing(8);
     rows_->addLayout(row);
 }

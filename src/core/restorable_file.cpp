@@ -1,18 +1,18 @@
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 
 namespace tidewatch {
 
-bool KeptFile::write(std::string content) {
+bool RestorableFile::write(std::string content) {
     const std::lock_guard lock(mutex_);
     text_ = std::move(content);
     return file_.write(*text_);
 }
 
-void KeptFile::restoreOn(JobQueue& queue) {
+void RestorableFile::restoreOn(JobQueue& queue) {
     queue.post([this] { restore(); });
 }
 
-void KeptFile::restore() {
+void RestorableFile::restore() {
     const std::lock_guard lock(mutex_);
     if (text_ && file_.isMissing()) file_.write(*text_);
 }

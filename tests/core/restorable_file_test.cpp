@@ -1,4 +1,4 @@
-#include "core/kept_file.h"
+#include "core/restorable_file.h"
 
 #include <gmock/gmock.h>
 
@@ -16,16 +16,16 @@ std::optional<std::string> markedText(std::string text) {
     return text.starts_with("notes") ? std::optional(std::move(text)) : std::nullopt;
 }
 
-struct KeptFileTest : testing::Test {
+struct RestorableFileTest : testing::Test {
     test::FakeWorld world;
     std::unique_ptr<JobQueue> queue = world.queues.makeQueue("record");
-    KeptFile file{world.files, world.log, "notes.json", "Tidewatch: failed to keep notes: "};
+    RestorableFile file{world.files, world.log, "notes.json", "Tidewatch: failed to keep notes: "};
 
     [[nodiscard]] std::optional<std::string> onDisk() const { return world.files.content(path); }
     void load() { static_cast<void>(file.read(markedText)); }
 };
 
-TEST_F(KeptFileTest, WhatWasWrittenComesBackWithItsDirectory) {
+TEST_F(RestorableFileTest, WhatWasWrittenComesBackWithItsDirectory) {
     load();
     EXPECT_TRUE(file.write("notes 1"));
     EXPECT_TRUE(file.write("notes 2"));
@@ -35,7 +35,7 @@ TEST_F(KeptFileTest, WhatWasWrittenComesBackWithItsDirectory) {
     EXPECT_THAT(world.log.infos(), IsEmpty());
 }
 
-TEST_F(KeptFileTest, WhatWasReadComesBackAsItStood) {
+TEST_F(RestorableFileTest, WhatWasReadComesBackAsItStood) {
     world.files.put(path, "notes of\n  an earlier run");
     EXPECT_EQ(file.read(markedText), "notes of\n  an earlier run");
     world.files.removeDirectory(directory);
@@ -43,7 +43,7 @@ TEST_F(KeptFileTest, WhatWasReadComesBackAsItStood) {
     EXPECT_EQ(onDisk(), "notes of\n  an earlier run");
 }
 
-TEST_F(KeptFileTest, AFileThatIsThereIsLeftAloneWhateverItHolds) {
+TEST_F(RestorableFileTest, AFileThatIsThereIsLeftAloneWhateverItHolds) {
     load();
     EXPECT_TRUE(file.write("notes"));
     world.files.put(path, "edited by hand");
@@ -52,7 +52,7 @@ TEST_F(KeptFileTest, AFileThatIsThereIsLeftAloneWhateverItHolds) {
     EXPECT_EQ(world.files.writeCount(), 1);
 }
 
-TEST_F(KeptFileTest, AFileThatMayNotBeReadIsNotMissing) {
+TEST_F(RestorableFileTest, AFileThatMayNotBeReadIsNotMissing) {
     load();
     EXPECT_TRUE(file.write("notes"));
     world.files.put(path, "for other eyes");
@@ -61,7 +61,7 @@ TEST_F(KeptFileTest, AFileThatMayNotBeReadIsNotMissing) {
     EXPECT_EQ(onDisk(), "for other eyes");
 }
 
-TEST_F(KeptFileTest, AFileThatNeverWasIsNotMade) {
+TEST_F(RestorableFileTest, AFileThatNeverWasIsNotMade) {
     load();
     world.files.removeDirectory(directory);
     file.restoreOn(*queue);
@@ -69,7 +69,7 @@ TEST_F(KeptFileTest, AFileThatNeverWasIsNotMade) {
     EXPECT_FALSE(world.files.hasDirectory(directory));
 }
 
-TEST_F(KeptFileTest, ADamagedFileThatIsRemovedStaysAway) {
+TEST_F(RestorableFileTest, ADamagedFileThatIsRemovedStaysAway) {
     world.files.put(path, "garbage");
     load();
     world.files.removeDirectory(directory);
@@ -77,7 +77,7 @@ TEST_F(KeptFileTest, ADamagedFileThatIsRemovedStaysAway) {
     EXPECT_EQ(onDisk(), std::nullopt);
 }
 
-TEST_F(KeptFileTest, AChangeThatCouldNotBeWrittenComesDownIfThereIsNoFile) {
+TEST_F(RestorableFileTest, AChangeThatCouldNotBeWrittenComesDownIfThereIsNoFile) {
     load();
     world.files.failWrite(1);
     world.log.expectWarning("Tidewatch: failed to keep notes: write: Input/output error");
@@ -86,7 +86,7 @@ TEST_F(KeptFileTest, AChangeThatCouldNotBeWrittenComesDownIfThereIsNoFile) {
     EXPECT_EQ(onDisk(), "notes");
 }
 
-TEST_F(KeptFileTest, TheTextIsThatOfTheMomentAtWhichItIsRestored) {
+TEST_F(RestorableFileTest, TheTextIsThatOfTheMomentAtWhichItIsRestored) {
     load();
     EXPECT_TRUE(file.write("notes 1"));
     world.files.removeDirectory(directory);
@@ -98,7 +98,7 @@ TEST_F(KeptFileTest, TheTextIsThatOfTheMomentAtWhichItIsRestored) {
     EXPECT_EQ(onDisk(), "notes 2");
 }
 
-TEST_F(KeptFileTest, NothingIsRestoredWhileAnotherProcessHasTheDirectory) {
+TEST_F(RestorableFileTest, NothingIsRestoredWhileAnotherProcessHasTheDirectory) {
     load();
     EXPECT_TRUE(file.write("notes"));
     world.files.removeDirectory(directory);

@@ -15,10 +15,10 @@ namespace tidewatch {
 
 /// A RecordFile that keeps its content in memory, so that it can be restored if the file goes missing. For
 /// small files that are only written on changes, unlike the counter files. Thread-safe.
-class KeptFile final {
+class RestorableFile final {
 public:
     /// As with RecordFile.
-    KeptFile(platform::FileSystem& files, platform::Log& log, std::string_view name,
+    RestorableFile(platform::FileSystem& files, platform::Log& log, std::string_view name,
              std::string_view failure = {})
         : file_(files, log, name, failure) {}
 
