@@ -51,10 +51,12 @@ void StatsWorld::registerApplications() {
 
 void StatsWorld::book(const char* app, const DayKey& day, int hour, int minute, std::int64_t seconds) {
     const AppId id(app);
+    const auto inHour = hourKey(day, hour);
+    const auto inBucket = bucketKey(day, {hour, minute});
     for (std::int64_t second = 0; second < seconds; ++second) {
         services_.counting.apps.incrementApp(id, day);
-        services_.counting.hours.incrementApp(id, hourKey(day, hour));
-        services_.counting.minutes.incrementApp(id, bucketKey(day, {hour, minute}));
+        services_.counting.hours.incrementApp(id, inHour);
+        services_.counting.minutes.incrementApp(id, inBucket);
     }
     services_.counting.days.set(services_.counting.days.seconds(day) + Seconds(seconds), day);
 }
