@@ -1,13 +1,16 @@
-# tidewatch_module(<room> SOURCES <file>... [KNOWS <target>...])
+# tidewatch_module(<room> [QT] SOURCES <file>... [KNOWS <target>...])
 #
 # One room (see docs/architecture.md) as a static library `tidewatch_<room>`. KNOWS names the rooms and libraries that
-# its headers and sources may include; targets that link the room inherit them.
+# its headers and sources may include; targets that link the room inherit them. QT marks a room that uses the toolkit.
 function(tidewatch_module room)
-    cmake_parse_arguments(ARG "" "" "SOURCES;KNOWS" ${ARGN})
+    cmake_parse_arguments(ARG "QT" "" "SOURCES;KNOWS" ${ARGN})
     add_library(tidewatch_${room} STATIC ${ARG_SOURCES})
     target_link_libraries(tidewatch_${room} PUBLIC ${ARG_KNOWS} PRIVATE tidewatch_options)
     target_include_directories(tidewatch_${room} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     tidewatch_unity(tidewatch_${room})
+    if(ARG_QT)
+        tidewatch_toolkit(tidewatch_${room})
+    endif()
     set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS tidewatch_${room})
 endfunction()
 
@@ -33,7 +36,7 @@ function(tidewatch_test name)
     set_source_files_properties(${ARG_APART} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     # The code under test is built as shipped; the tests themselves need not be fast, but should build quickly. The
     # checks disabled below cost a third of a test's build time and find hardly anything.
-    target_compile_options(${name} PRIVATE $<$<CONFIG:Release>:-O0>)
+    target_compile_options(${name} PRIVATE -O0)
     # In a unity build a name of one test may shadow that of another, which is harmless.
     set_target_properties(${name} PROPERTIES TIDEWATCH_MAY_SHADOW ${TIDEWATCH_UNITY})
     if(TIDEWATCH_SANITIZE MATCHES undefined)

@@ -24,21 +24,28 @@ function(tidewatch_qml_module room uri)
         VERSION 1.0
         DEPENDENCIES QtQuick ${ARG_IMPORTS}
         RESOURCE_PREFIX /qt-project.org/imports
+        NO_PLUGIN
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_VIEWS}
         OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path})
     target_link_libraries(${target} PUBLIC ${ARG_KNOWS} Qt6::Gui Qt6::Qml Qt6::Quick PRIVATE tidewatch_options)
     target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     _tidewatch_find_registered_headers(${target} ${ARG_SOURCES})
-    _tidewatch_part_compiled_views(${target})
+    _tidewatch_part_generated(${target})
     tidewatch_unity(${target})
+    tidewatch_toolkit(${target})
     set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS ${target})
-    # Targets that link only the types must not get the module.
-    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_qmltyperegistrations.cpp
-        PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 
+    # A reference to the registration, so that the linker does not drop it. A plugin would do no more and take longer to
+    # compile.
+    string(REPLACE "." "_" registration qml_register_types_${uri})
+    set(reference ${CMAKE_CURRENT_BINARY_DIR}/${target}_registration.cpp)
+    file(CONFIGURE OUTPUT ${reference} @ONLY CONTENT
+        "void @registration@();\nvoid (*const volatile reference_@registration@)() = @registration@;\n")
+    add_library(${target}_registration OBJECT ${reference})
     add_library(${target}_module INTERFACE)
-    target_link_libraries(${target}_module INTERFACE ${target} ${target}plugin)
+    target_link_libraries(${target}_module INTERFACE ${target})
+    target_sources(${target}_module INTERFACE $<TARGET_OBJECTS:${target}_registration>)
 endfunction()
 
 # The generated type registration includes each header by its bare name.
@@ -49,21 +56,25 @@ function(_tidewatch_find_registered_headers target)
     endforeach()
 endfunction()
 
-# The generated code of compiled views triggers our warnings, so it is compiled separately.
-function(_tidewatch_part_compiled_views target)
+# The toolkit's generated code triggers our warnings, so it is compiled separately.
+function(_tidewatch_part_generated target)
     get_target_property(sources ${target} SOURCES)
-    set(compiled ${sources})
-    list(FILTER compiled INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$")
-    if(NOT compiled)
-        return()
-    endif()
-    list(REMOVE_ITEM sources ${compiled})
+    set(generated ${sources})
+    list(FILTER generated INCLUDE REGEX "/qmlcache/.*_qml\\.cpp$|_qmltyperegistrations\\.cpp$")
+    list(REMOVE_ITEM sources ${generated})
     set_target_properties(${target} PROPERTIES SOURCES "${sources}")
-    add_library(${target}_compiled_views OBJECT ${compiled})
-    target_link_libraries(${target}_compiled_views PRIVATE Qt6::Qml)
-    target_compile_options(${target}_compiled_views PRIVATE -w)
-    target_sources(${target} PRIVATE $<TARGET_OBJECTS:${target}_compiled_views>)
-    tidewatch_unity(${target}_compiled_views)
+    add_library(${target}_generated OBJECT ${generated})
+    target_link_libraries(${target}_generated PRIVATE $<TARGET_PROPERTY:${target},LINK_LIBRARIES>)
+    target_include_directories(${target}_generated PRIVATE $<TARGET_PROPERTY:${target},INCLUDE_DIRECTORIES>)
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:${target}_generated>)
+    tidewatch_unity(${target}_generated)
+    # Targets that link only the types must not get the module.
+    set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_qmltyperegistrations.cpp
+        PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    foreach(part generated qmlcache)
+        target_compile_options(${target}_${part} PRIVATE -w)
+    endforeach()
+    tidewatch_toolkit(${target}_generated ${target}_qmlcache)
 endfunction()
 
 # tidewatch_qmllint(<room>)
