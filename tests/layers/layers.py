@@ -83,6 +83,7 @@ def rooms():
         domain_views += f" {name}/views"
     plan["analysis/report"] = plan["analysis/views"]
     plan["wellbeing/games"] = room("base platform/api")
+    plan["wellbeing/views"] = room(f"{' '.join(plan['wellbeing/views'].knows)} wellbeing/games", "fmt qt")
     toolkit_free = f"base platform/api shell/themes {domain}"
     plan["shell"] = room(toolkit_free, "fmt")
     plan["shell/icons"] = room("base shell shell/themes ui", "qt")

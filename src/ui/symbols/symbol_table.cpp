@@ -48,6 +48,17 @@ constexpr std::array table = {
     Row{u"chart.bar.fill", U'\uF20C'},
     Row{u"trophy.fill", U'\uEA23'},
     Row{u"leaf.fill", U'\uEA35'},
+    // Games.
+    Row{u"hourglass", U'\uE88C'},
+    Row{u"lock.fill", U'\uE897'},
+    Row{u"gift.fill", U'\uE8F6'},
+    Row{u"pause.fill", U'\uE034'},
+    Row{u"play.fill", U'\uE037'},
+    Row{u"arrow.left", U'\uE5C4'},
+    Row{u"arrow.up", U'\uE5D8'},
+    Row{u"arrow.down", U'\uE5DB'},
+    Row{u"arrow.right", U'\uE5C8'},
+    Row{u"arrow.up.to.line", U'\uE25A'},
     // Exercises.
     Row{u"figure.mind.and.body", U'\uEA78'},
     Row{u"figure.arms.open", U'\uE92C'},

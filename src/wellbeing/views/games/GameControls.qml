@@ -1,0 +1,52 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Tidewatch.Ui
+import Tidewatch.Wellbeing
+
+/*! The buttons of a running game, the first one on the left and the others on the right; after it, the way out. */
+Item {
+    id: root
+
+    required property GamesPresenter presenter
+    readonly property GamePresenter game: presenter.current
+
+    implicitHeight: 24
+
+    Repeater {
+        model: root.game.over ? 0 : root.game.controls.length
+
+        delegate: IconButton {
+            required property int index
+            // While the game changes there may be fewer controls than buttons.
+            readonly property gameControl control: root.game.controls[Math.min(index, root.game.controls.length - 1)]
+
+            objectName: "control" + index
+            x: index === 0 ? 0 : root.width - (root.game.controls.length - index) * width
+            width: 28
+            height: root.height
+            symbol: control.symbol
+            symbolSide: 18
+            accessibleName: control.name
+            onClicked: root.game.press(index)
+        }
+    }
+
+    PressButton {
+        objectName: "leave"
+        anchors.centerIn: parent
+        height: root.height
+        horizontalPadding: 16
+        visible: root.game.over
+        text: root.presenter.leaveText
+        contentItem: PlainText {
+            text: root.presenter.leaveText
+            font: Style.sans(11, Style.Medium)
+            color: Style.palette.primaryText
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
+        }
+        onClicked: root.presenter.leave()
+    }
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <qqmlregistration.h>
+#include <QColor>
+#include <QList>
+#include <QQuickPaintedItem>
+#include <QRectF>
+
+namespace tidewatch {
+
+/// The base of the games' drawings, which repaint only what has changed. Edges lie on whole screen pixels.
+class GameField : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("What the drawings of the games are")
+    Q_PROPERTY(QList<QColor> pieceColors READ pieceColors WRITE setPieceColors NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor plainColor READ plainColor WRITE setPlainColor NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY lookChanged FINAL)
+    Q_PROPERTY(QColor edge READ edge WRITE setEdge NOTIFY lookChanged FINAL)
+
+public:
+    explicit GameField(QQuickItem* parent = nullptr);
+
+    /// The theme's colours, which wrap; may be empty.
+    [[nodiscard]] QList<QColor> pieceColors() const { return pieceColors_; }
+    void setPieceColors(const QList<QColor>& colors);
+    [[nodiscard]] QColor plainColor() const { return plainColor_; }
+    void setPlainColor(const QColor& color);
+    /// Below everything; transparent for none.
+    [[nodiscard]] QColor ground() const { return ground_; }
+    void setGround(const QColor& color);
+    /// A line around the ground.
+    [[nodiscard]] QColor edge() const { return edge_; }
+    void setEdge(const QColor& color);
+
+    void paint(QPainter* painter) final;
+
+Q_SIGNALS:
+    void lookChanged();
+
+protected:
+    /// Paints what touches `dirty`, in the item's coordinates, over the ground.
+    virtual void paintField(QPainter& painter, const QRectF& dirty) = 0;
+
+    /// `rect`, its edges moved to the nearest screen pixels.
+    [[nodiscard]] QRectF onPixels(const QRectF& rect) const;
+
+    /// The theme's colour for `index`, from 0; `otherwise` if the theme has none.
+    [[nodiscard]] QColor colorAt(int index, const QColor& otherwise) const;
+
+    /// Repaints this area, in the item's coordinates, with its antialiased edges.
+    void repaint(const QRectF& area);
+
+    void geometryChange(const QRectF& to, const QRectF& from) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
+
+private:
+    template <class Value>
+    void changeLook(Value& value, const Value& to);
+
+    QList<QColor> pieceColors_;
+    QColor plainColor_ = Qt::white;
+    QColor ground_ = Qt::transparent;
+    QColor edge_ = Qt::transparent;
+};
+
+}  // namespace tidewatch
