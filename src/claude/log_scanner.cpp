@@ -146,8 +146,7 @@ std::optional<PastMonths> LogScanner::scanPastMonths() {
         if (windows.empty() || windows.back() != used) windows.push_back(used);
     });
     std::ranges::sort(windows);
-    const auto repeated = std::ranges::unique(windows);
-    windows.erase(repeated.begin(), repeated.end());
+    windows.erase(std::unique(windows.begin(), windows.end()), windows.end());
     for (const auto& [month, window] : windows) ++months[month].activeWindows;
     return months;
 }
