@@ -251,7 +251,7 @@ protected:
                                  [](const WorkedSecond& s) { return s.day.text(); });
         for (const auto& [day, seconds] : byDay) {
             EXPECT_EQ(record().days.seconds(DayKey(day)).count(), seconds) << day;
-            const auto apps = countApps([&](const WorkedSecond& s) { return s.day.text() == day; });
+            const auto apps = countApps([&day = day](const WorkedSecond& s) { return s.day.text() == day; });
             EXPECT_EQ(asSums(record().apps.aggregate(std::vector{DayKey(day)})), apps) << day;
             expectProjectsToAgree(DayKey(day));
         }
