@@ -5,17 +5,17 @@
 namespace tidewatch {
 namespace {
 
-constexpr double step = 8;
-constexpr double side = 6;
-constexpr double cornerRadius = 1.5;
+constexpr double previewStep = 8;
+constexpr double previewSide = 6;
+constexpr double previewRadius = 1.5;
 // Unrotated, every piece fits into these.
-constexpr int columns = 4;
-constexpr int rows = 2;
+constexpr int previewColumns = 4;
+constexpr int previewRows = 2;
 
 }  // namespace
 
 NextPiece::NextPiece(QQuickItem* parent) : GameField(parent) {
-    setImplicitSize(columns * step, rows * step);
+    setImplicitSize(previewColumns * previewStep, previewRows * previewStep);
 }
 
 void NextPiece::setPresenter(TetrisPresenter* presenter) {
@@ -32,8 +32,8 @@ void NextPiece::paintField(QPainter& painter, const QRectF& /*dirty*/) {
     if (piece == 0) return;
     painter.setBrush(colorAt(piece - 1, plainColor()));
     for (const auto& [row, column] : tetris::cellsOf({piece, 0, 0, 0})) {
-        const auto cell = onPixels({column * step, row * step, side, side});
-        painter.drawRoundedRect(cell, cornerRadius, cornerRadius);
+        const auto cell = onPixels({column * previewStep, row * previewStep, previewSide, previewSide});
+        painter.drawRoundedRect(cell, previewRadius, previewRadius);
     }
 }
 

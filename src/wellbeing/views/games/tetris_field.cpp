@@ -5,8 +5,8 @@
 namespace tidewatch {
 namespace {
 
-constexpr double inset = 1;
-constexpr double cornerRadius = 2.5;
+constexpr double cellInset = 1;
+constexpr double cellRadius = 2.5;
 constexpr double ghostOpacity = 0.18;
 
 auto& lookAt(auto& looks, const tetris::Cell& cell) {
@@ -76,7 +76,8 @@ void TetrisField::paintField(QPainter& painter, const QRectF& dirty) {
             auto color = colorAt(piece - 1, plainColor());
             if (kind == Kind::ghost) color.setAlphaF(color.alphaF() * static_cast<float>(ghostOpacity));
             painter.setBrush(color);
-            painter.drawRoundedRect(cell.adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
+            painter.drawRoundedRect(cell.adjusted(cellInset, cellInset, -cellInset, -cellInset), cellRadius,
+                                    cellRadius);
         }
     }
 }
