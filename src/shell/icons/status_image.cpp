@@ -27,7 +27,9 @@ QColor moodColour(StatusTitle::Mood mood) {
 }
 
 const QColor iconTint(0xEC, 0xEA, 0xE4);
-const QColor halo(0, 0, 0, 120);
+
+/// Behind all of it: what is light and thin is lost on a light panel, and nobody tells how light a panel is.
+const QColor ground(0x10, 0x12, 0x14, 235);
 
 /// The outline of a text with this cap height and at most this width, its baseline at the origin.
 QPainterPath textPath(const QString& text, double capHeight, double width) {
@@ -52,28 +54,26 @@ QPainterPath dashPath(double capHeight) {
     return path;
 }
 
-void fillWithHalo(QPainter& painter, const QPainterPath& path, const QColor& fill, double haloWidth) {
-    painter.strokePath(path, QPen(halo, haloWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.fillPath(path, fill);
-}
-
 }  // namespace
 
 QImage statusImage(int pixels, const StatusTitle& title) {
     return paintedImage({pixels, pixels}, [&](QPainter& painter) {
         const double unit = pixels / 22.0;
-        const double iconScale = unit * 12.5 / fathom::menubarIconHeight;
+        QPainterPath tile;
+        tile.addRoundedRect(QRectF(0, 0, pixels, pixels).adjusted(0.5, 0.5, -0.5, -0.5), unit * 4, unit * 4);
+        painter.fillPath(tile, ground);
+        const double iconScale = unit * 10.5 / fathom::menubarIconHeight;
         const double iconLeft = (pixels - fathom::menubarIconWidth * iconScale) / 2;
         const auto place =
-            QTransform::fromScale(iconScale, iconScale) * QTransform::fromTranslate(iconLeft, 0);
-        fillWithHalo(painter, place.map(fathom::menubarIconShape()), iconTint, unit);
-        const double capHeight = unit * 7.6;
+            QTransform::fromScale(iconScale, iconScale) * QTransform::fromTranslate(iconLeft, unit * 1.4);
+        painter.fillPath(place.map(fathom::menubarIconShape()), iconTint);
+        const double capHeight = unit * 7.2;
         auto figure = title.mood == StatusTitle::Mood::none
                           ? dashPath(capHeight)
-                          : textPath(text(title.figure), capHeight, pixels - 1.0);
+                          : textPath(text(title.figure), capHeight, pixels - unit * 3);
         const auto bounds = figure.boundingRect();
-        figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 1.2);
-        fillWithHalo(painter, figure, moodColour(title.mood), unit);
+        figure.translate((pixels - bounds.width()) / 2 - bounds.left(), pixels - unit * 2.2);
+        painter.fillPath(figure, moodColour(title.mood));
     });
 }
 

@@ -14,7 +14,7 @@ namespace tidewatch {
 
 namespace {
 
-constexpr std::array iconSizes = {16, 22, 24, 32, 48};
+constexpr std::array iconSizes = {16, 22, 24, 32, 48, 64};
 
 /// The title is set every second, and querying for a tray costs more than everything else in that second.
 constexpr int titlesBetweenLooks = 4;

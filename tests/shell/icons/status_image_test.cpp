@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
+#include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 namespace tidewatch {
@@ -23,6 +25,28 @@ protected:
             }
         }
         return count;
+    }
+
+    static double luminance(const QColor& colour) {
+        const auto linear = [](double part) {
+            return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+               0.0722 * linear(colour.blueF());
+    }
+
+    /// The ratio of the lightest to the darkest of these rows, without what the panel shows at their ends.
+    static double contrastWithin(const QImage& image, int firstRow, int endRow) {
+        double darkest = 1;
+        double lightest = 0;
+        for (int y = firstRow; y < endRow; ++y) {
+            for (int x = 2; x < image.width() - 2; ++x) {
+                const double light = luminance(image.pixelColor(x, y));
+                darkest = std::min(darkest, light);
+                lightest = std::max(lightest, light);
+            }
+        }
+        return (lightest + 0.05) / (darkest + 0.05);
     }
 
     int argc_ = 1;
@@ -57,7 +81,19 @@ TEST_P(StatusImageTest, EveryFigureFitsIntoTheSquare) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(TraySizes, StatusImageTest, testing::Values(16, 22, 24, 32, 48));
+TEST_P(StatusImageTest, FigureAndLogoStandOutFromTheirGroundOnEveryPanel) {
+    const int size = GetParam();
+    for (const auto panel : {Qt::white, Qt::lightGray, Qt::darkGray, Qt::black}) {
+        QImage seen(size, size, QImage::Format_RGB32);
+        seen.fill(panel);
+        QPainter(&seen).drawImage(0, 0, statusImage(size, {"72%", "", StatusTitle::Mood::low}));
+        // The darkest of the moods, next to the darkest that is around it.
+        EXPECT_GE(contrastWithin(seen, size * 2 / 3, size - 2), 3.0) << panel;
+        EXPECT_GE(contrastWithin(seen, 2, size / 2), 4.5) << panel;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(TraySizes, StatusImageTest, testing::Values(16, 22, 24, 32, 48, 64));
 
 }  // namespace
 }  // namespace tidewatch
