@@ -25,9 +25,13 @@ class Messages(unittest.TestCase):
     def test_a_milestone_is_shown_once_also_across_a_restart(self):
         with World("messages") as world:
             world.home.write("goals.json", json.dumps(SMALL_GOAL))
+            monitor = world.start("dbus-monitor", "--session", "member=Notify")
+            wait_until(monitor.log, "the monitor to listen")
             program = world.start_program()
             wait_until(lambda: messages_on_screen(world), "the message")
             world.screenshot("message")
+            # No icon of the program is installed here.
+            wait_until(lambda: 'string "image-data"' in monitor.log(), "the picture in the message")
             sleep_until(program.started + 14)
             fired = {key: value for key, value in world.home.settings().items() if key.startswith("notif-")}
             self.assertEqual(len(fired), 2, fired)

@@ -1,11 +1,17 @@
 #include "platform/freedesktop/desktop_notifications.h"
 
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QGuiApplication>
+#include <QIcon>
+#include <QPixmap>
 #include <QString>
 #include <QVariantMap>
 #include <utility>
+
+#include "platform/freedesktop/notification_picture.h"
 
 namespace tidewatch::platform {
 namespace {
@@ -20,10 +26,20 @@ constexpr char soundName[] = "message-new-instant";
 constexpr uint replacesNone = 0;
 constexpr int expiresAsTheServiceLikes = -1;
 
+/// An icon of that name is only known where the program is installed, so that the picture goes along.
+NotificationPicture programPicture() {
+    constexpr int pixels = 64;
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) return {};
+    return {QGuiApplication::windowIcon().pixmap(pixels).toImage()};
+}
+
 // The body of a desktop notification is markup.
 QDBusMessage notifyCall(const UserNotification& notification) {
     auto call = QDBusMessage::createMethodCall(service, notificationsPath, service, "Notify");
-    const QVariantMap hints{{"desktop-entry", desktopFileId}, {"sound-name", soundName}};
+    QVariantMap hints{{"desktop-entry", desktopFileId}, {"sound-name", soundName}};
+    if (const auto picture = programPicture(); !picture.image.isNull()) {
+        hints.insert("image-data", QVariant::fromValue(picture));
+    }
     call << QString(applicationName) << replacesNone << QString(desktopFileId)
          << QString::fromStdString(notification.title)
          << QString::fromStdString(notification.body).toHtmlEscaped() << QStringList() << hints
@@ -40,7 +56,9 @@ Status statusOf(const QDBusPendingCall& call) {
 }  // namespace
 
 DesktopNotifications::DesktopNotifications(SessionBus& bus, Log& log, std::chrono::milliseconds timeout)
-    : bus_(bus), log_(log), timeout_(timeout) {}
+    : bus_(bus), log_(log), timeout_(timeout) {
+    qDBusRegisterMetaType<NotificationPicture>();
+}
 
 void DesktopNotifications::requestAuthorization(std::function<void(AuthorizationResult)> answered) {
     QMetaObject::invokeMethod(
