@@ -88,7 +88,8 @@ def rooms():
     plan["shell"] = room(toolkit_free, "fmt")
     plan["shell/icons"] = room("base shell shell/themes ui", "qt")
     plan["shell/views"] = room(f"{toolkit_free} {domain_views} shell ui", "fmt qt")
-    plan["shell/windows"] = room("base platform/api core shell shell/icons shell/themes shell/views ui", "fmt qt")
+    plan["shell/windows"] = room("base platform/api core wellbeing/games shell shell/icons shell/themes shell/views ui",
+                                 "fmt qt")
     plan["app"] = room(f"{toolkit_free} shell", "fmt")
     plan["app/desktop"] = room(
         f"{toolkit_free} {domain_views} analysis/report app shell shell/icons shell/views shell/windows ui", "fmt qt")
