@@ -22,21 +22,28 @@ constexpr double spread = 1.306;  // of the logarithm: a tenth of the lines has 
 constexpr double longestLine = 70000;
 constexpr int percentWithUsage = 60;
 
-// What sessions are full of: prose, code and its escapes, now and then other letters than English ones.
-constexpr std::array<std::string_view, 12> phrases{
+// What replies are full of: prose and code, now and then other letters than English ones.
+constexpr std::array<std::string_view, 9> replyPhrases{
     "The function reads the whole file before it decides what to do. ",
-    R"(if (!found) return std::nullopt;\n    )",
-    R"(\t{\"usage\": {\"output_tokens\": 12}, \"type\": \"message\"}\n)",
+    R"(\n\nif (!found) return std::nullopt;\n    )",
     "La prueba falla porque el reloj todavía marca la hora de ayer. ",
     R"(import \"std/io\"\n\nfunc main() {\n\tprint(\"hello\")\n}\n)",
     "Let me look at the tests next and see which of them covers this case. ",
-    R"(src\/core\/timer_engine.cpp:118: warning: unused variable\n)",
-    R"(\u001b[32mPASS\u001b[0m 120 tests, 0 failures\n)",
     "— naïve résumé, 日本語, emoji 🙂 and quotes “like these” — ",
-    "0123456789abcdef0123456789abcdef0123456789abcdef ",
-    R"(C:\\Users\\somebody\\project\\readme.md )",
+    "I will keep the change small: one new function, and a test for each of its edge cases.\\n",
     "Now the build passes; the remaining failure is about the order of rows. ",
+    R"(std::string text = read(path).value_or(\"\");\n        )",
 };
+// And results of tools.
+constexpr std::array<std::string_view, 6> resultPhrases{
+    R"(src/core/timer_engine.cpp:118: warning: unused variable\n)",
+    R"(\u001b[32mPASS\u001b[0m 120 tests, 0 failures\n)",
+    R"(\t{\"usage\": {\"output_tokens\": 12}, \"type\": \"message\"}\n)",
+    R"(   118\u2192    const auto found = std::ranges::find(rows, key, &Row::key);\n)",
+    R"(C:\\Users\\somebody\\project\\readme.md\n)",
+    R"(0123456789abcdef0123456789abcdef0123456789abcdef  build/output.bin\n)",
+};
+
 constexpr std::array<std::string_view, 4> models{"claude-opus-4-7", "claude-sonnet-4-6", "claude-sonnet-4-6",
                                                  "claude-haiku-4-5-20251001"};
 
@@ -59,12 +66,17 @@ public:
         auto text = withUsage ? replyBegin(id) : resultBegin(id);
         const auto end = withUsage ? replyEnd(id, stamp) : resultEnd(id, stamp);
         while (static_cast<double>(text.size() + end.size()) < size) {
-            text += phrases[static_cast<std::size_t>(below(static_cast<int>(phrases.size())))];
+            text += withUsage ? any(replyPhrases) : any(resultPhrases);
         }
         return text + end + "\n";
     }
 
 private:
+    template <std::size_t Count>
+    [[nodiscard]] std::string_view any(const std::array<std::string_view, Count>& from) {
+        return from[static_cast<std::size_t>(below(static_cast<int>(Count)))];
+    }
+
     static std::string replyBegin(const std::string& id) {
         return fmt::format(
             R"({{"parentUuid":"{}","isSidechain":false,"userType":"external","cwd":"/home/user/project",)"
@@ -78,8 +90,7 @@ private:
             R"("cache_creation_input_tokens":{},"cache_read_input_tokens":{},"output_tokens":{},)"
             R"("service_tier":"standard"}}}},"requestId":"req_01","type":"assistant","uuid":"{}",)"
             R"("timestamp":"{}"}})",
-            models[static_cast<std::size_t>(below(4))], below(40), below(6000), below(150000), below(2500),
-            id, stamp);
+            any(models), below(40), below(6000), below(150000), below(2500), id, stamp);
     }
     static std::string resultBegin(const std::string& id) {
         return fmt::format(

@@ -53,6 +53,7 @@ void ClaudeUsageMonitor::publish(ClaudeSnapshot snapshot, double subscriptionUsd
     snapshot.monthlyBudgetUsd = settings_.monthlyBudgetUsd();
     snap_ = std::move(snapshot);
     lastScan_ = clock_.now();
+    hasScanned_ = true;
     changed.emit(Field::snap);
     queue_->run([this, snap = snap_, subscriptionUsd] { return loadHistory(snap, subscriptionUsd); },
                 [this](std::vector<ClaudeMonthRecord> history) { finish(std::move(history)); });

@@ -46,6 +46,8 @@ public:
     [[nodiscard]] const ClaudeSnapshot& snap() const { return snap_; }
     /// The oldest month first; empty before the first scan.
     [[nodiscard]] const std::vector<ClaudeMonthRecord>& history() const { return history_; }
+    /// Whether a snapshot has been published.
+    [[nodiscard]] bool hasScanned() const { return hasScanned_; }
     /// Whether a scan runs: until its history is there.
     [[nodiscard]] bool isScanning() const { return running_ > 0; }
 
@@ -73,6 +75,7 @@ private:
     ClaudeSnapshot snap_;
     std::vector<ClaudeMonthRecord> history_;
     Instant lastScan_ = distantPast;
+    bool hasScanned_ = false;
     int running_ = 0;
     // Lets a start that has been posted detect that this object has been destroyed.
     std::shared_ptr<const bool> alive_ = std::make_shared<const bool>(true);

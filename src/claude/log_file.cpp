@@ -96,9 +96,8 @@ bool LogFileReader::readPieces(platform::FileReader& reader, std::uint64_t lengt
             return false;
         }
         const auto lines = wholeLines(text.substr(overlap));
-        file.isText = isUtf8(lines);
+        file.isText = addLines(lines, file.rows);
         if (!file.isText) return true;
-        addLines(lines, file.rows);
         file.offset += lines.size();
         const auto end = overlap + lines.size();
         overlap = overlapOf(file.offset);
@@ -123,8 +122,9 @@ bool LogFileReader::makeRoom(std::size_t used) {
     return true;
 }
 
-void LogFileReader::addLines(std::string_view lines, std::vector<UsageRow>& rows) {
+bool LogFileReader::addLines(std::string_view lines, std::vector<UsageRow>& rows) {
     std::size_t begin = 0;
+    std::size_t unchecked = 0;  // what comes before is UTF-8
     for (auto hit = findUsage(lines, 0); hit != std::string_view::npos; hit = findUsage(lines, begin)) {
         auto end = lines.find('\n', begin);
         while (end < hit) {
@@ -132,8 +132,14 @@ void LogFileReader::addLines(std::string_view lines, std::vector<UsageRow>& rows
             end = lines.find('\n', begin);
         }
         if (const auto row = rowOf(lines.substr(begin, end - begin))) merging_.add(*row, rows);
+        // The parser has checked the line.
+        if (lineReader_.wasJson()) {
+            if (!isUtf8(lines.substr(unchecked, begin - unchecked))) return false;
+            unchecked = end;
+        }
         begin = end + 1;
     }
+    return isUtf8(lines.substr(unchecked));
 }
 
 std::optional<UsageRow> LogFileReader::rowOf(std::string_view line) {

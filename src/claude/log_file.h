@@ -57,7 +57,8 @@ private:
     [[nodiscard]] bool readPieces(platform::FileReader& reader, std::uint64_t length, std::size_t overlap,
                                   LogFile& file);
     [[nodiscard]] bool makeRoom(std::size_t used);
-    void addLines(std::string_view lines, std::vector<UsageRow>& rows);
+    // Returns whether the lines are UTF-8.
+    [[nodiscard]] bool addLines(std::string_view lines, std::vector<UsageRow>& rows);
     [[nodiscard]] std::optional<UsageRow> rowOf(std::string_view line);
 
     const platform::FileSystem& files_;

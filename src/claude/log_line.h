@@ -30,10 +30,12 @@ public:
     /// neither input nor output tokens.
     [[nodiscard]] std::optional<LogLine> read(std::string_view line);
 
-private:
-    [[nodiscard]] bool parse(std::string_view line, simdjson::dom::element& root);
+    /// Whether the last line was a JSON object, and therefore valid UTF-8.
+    [[nodiscard]] bool wasJson() const { return wasJson_; }
 
+private:
     simdjson::dom::parser parser_;
+    bool wasJson_ = false;
 };
 
 }  // namespace tidewatch

@@ -1,7 +1,6 @@
 #include "claude/usage_search.h"
 
-#include <cstdint>
-#include <cstring>
+#include "claude/byte_vector.h"
 
 namespace tidewatch {
 namespace {
@@ -9,6 +8,7 @@ namespace {
 constexpr std::string_view usageKey = "\"usage\"";
 // The letters of the key, escaped, are \u0061, \u0065, \u0067, \u0073 and \u0075.
 constexpr std::string_view escape = "\\u00";
+constexpr std::size_t blockSize = 4 * byteVectorSize;
 
 bool beginsWithUsage(std::string_view text) {
     if (text.starts_with(usageKey)) return true;
@@ -16,35 +16,25 @@ bool beginsWithUsage(std::string_view text) {
            (text[escape.size()] == '6' || text[escape.size()] == '7');
 }
 
-// As many bytes as fit into a vector register of any processor.
-constexpr std::size_t vectorSize = 16;
-using Vector [[gnu::vector_size(vectorSize)]] = signed char;
-using Words [[gnu::vector_size(vectorSize)]] = std::uint64_t;
-
-constexpr std::size_t vectorsInBlock = 4;
-constexpr std::size_t blockSize = vectorsInBlock * vectorSize;
-
-Vector load(const char* text) {
-    Vector bytes;
-    std::memcpy(&bytes, text, vectorSize);
-    return bytes;
+// Of each byte whether a quote or a backslash stands there, and a u after it. Reads one byte past the vector.
+ByteVector possibleIn(const char* text) {
+    const auto first = loadBytes(text);
+    return ((first == '"') | (first == '\\')) & (loadBytes(text + 1) == 'u');
 }
 
-// Of each byte whether "us begins there, or \u0 and a letter of the key, as -1 or 0. Reads some bytes past
-// the vector.
-Vector candidatesIn(const char* text) {
-    const auto first = load(text);
-    const auto third = load(text + 2);
+// Of these, whether "us begins there, or \u0 and a letter of the key. Reads four bytes past the vector.
+ByteVector likelyIn(const char* text) {
+    const auto first = loadBytes(text);
+    const auto third = loadBytes(text + 2);
     const auto key = (first == '"') & (third == 's');
-    const auto escaped = (first == '\\') & (third == '0') & ((load(text + 4) | 1) == '7');
-    return (key | escaped) & (load(text + 1) == 'u');
+    const auto escaped = (first == '\\') & (third == '0') & ((loadBytes(text + 4) | 1) == '7');
+    return (key | escaped) & (loadBytes(text + 1) == 'u');
 }
 
-bool mayBeginIn(const char* block) {
-    const auto any = candidatesIn(block) | candidatesIn(block + vectorSize) |
-                     candidatesIn(block + 2 * vectorSize) | candidatesIn(block + 3 * vectorSize);
-    const auto words = reinterpret_cast<Words>(any);
-    return (words[0] | words[1]) != 0;
+template <class Search>
+bool isAnyInBlock(const char* block, Search search) {
+    return isAnySet(search(block) | search(block + byteVectorSize) | search(block + 2 * byteVectorSize) |
+                    search(block + 3 * byteVectorSize));
 }
 
 }  // namespace
@@ -52,7 +42,8 @@ bool mayBeginIn(const char* block) {
 std::size_t findUsage(std::string_view lines, std::size_t from) {
     auto i = from;
     for (; i + blockSize + usageKey.size() <= lines.size(); i += blockSize) {
-        if (!mayBeginIn(lines.data() + i)) continue;
+        const auto* begin = lines.data() + i;
+        if (!isAnyInBlock(begin, possibleIn) || !isAnyInBlock(begin, likelyIn)) continue;
         for (auto at = lines.find('u', i + 1); at <= i + blockSize; at = lines.find('u', at + 1)) {
             if (beginsWithUsage(lines.substr(at - 1))) return at - 1;
         }
