@@ -59,6 +59,9 @@ constexpr std::array table = {
     Row{u"arrow.down", U'\uE5DB'},
     Row{u"arrow.right", U'\uE5C8'},
     Row{u"arrow.up.to.line", U'\uE25A'},
+    // Claude.
+    Row{u"sparkle", U'\uE65F'},
+    Row{u"bubble.left.and.bubble.right", U'\uE0BF'},
     // Exercises.
     Row{u"figure.mind.and.body", U'\uEA78'},
     Row{u"figure.arms.open", U'\uE92C'},
