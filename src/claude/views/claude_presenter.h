@@ -29,7 +29,7 @@ class ClaudePresenter final : public tidewatch::TabPresenter {
     Q_PROPERTY(QString updated READ updated NOTIFY updatedChanged FINAL)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY scanningChanged FINAL)
     Q_PROPERTY(QString scanning READ scanning CONSTANT FINAL)
-    Q_PROPERTY(QStringList ranges READ ranges CONSTANT FINAL)
+    Q_PROPERTY(QList<QString> ranges READ ranges CONSTANT FINAL)
     Q_PROPERTY(int rangeIndex READ rangeIndex NOTIFY figuresChanged FINAL)
     // Instead of the figures.
     Q_PROPERTY(bool hasNoLogs READ hasNoLogs NOTIFY figuresChanged FINAL)
