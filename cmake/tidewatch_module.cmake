@@ -14,7 +14,8 @@ function(tidewatch_module room)
     set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS tidewatch_${room})
 endfunction()
 
-# tidewatch_test(<name> [THREADS] [QT] [NOT_SANITIZED] SOURCES <file>... [APART <file>...] [KNOWS <target>...])
+# tidewatch_test(<name> [THREADS] [QT] [NOT_SANITIZED] SOURCES <file>... [APART <file>...] [KNOWS <target>...]
+#     [DEFINITIONS <definition>...])
 #
 # A GoogleTest program with locale, time zone and home fixed, registered case by case, or as a whole under a sanitizer.
 # THREADS marks tests that use more than one thread: only those are built under the thread sanitizer. QT marks tests
@@ -22,7 +23,7 @@ endfunction()
 # sanitizer: only those are built in the preset release. APART lists sources that are excluded from unity builds because
 # their names clash with others'.
 function(tidewatch_test name)
-    cmake_parse_arguments(ARG "THREADS;QT;NOT_SANITIZED" "" "SOURCES;APART;KNOWS" ${ARGN})
+    cmake_parse_arguments(ARG "THREADS;QT;NOT_SANITIZED" "" "SOURCES;APART;KNOWS;DEFINITIONS" ${ARGN})
     if(TIDEWATCH_SANITIZE MATCHES thread AND NOT ARG_THREADS)
         return()
     endif()
@@ -32,6 +33,7 @@ function(tidewatch_test name)
     add_executable(${name} ${ARG_SOURCES} ${ARG_APART})
     target_link_libraries(${name} PRIVATE ${ARG_KNOWS} tidewatch_options GTest::gmock_main)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
+    target_compile_definitions(${name} PRIVATE ${ARG_DEFINITIONS})
     tidewatch_unity(${name})
     set_source_files_properties(${ARG_APART} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     # The code under test is built as shipped; the tests themselves need not be fast, but should build quickly. The
