@@ -5,6 +5,7 @@
 #include "analysis/goal_tracking.h"
 #include "app/small_files.h"
 #include "base/serial_queue.h"
+#include "claude/claude_usage.h"
 #include "classification/classification.h"
 #include "core/broadcaster.h"
 #include "core/counting.h"
@@ -31,6 +32,7 @@ struct Services final {
     ProjectTracking projects;
     GoalTracking goals;
     Wellbeing wellbeing;
+    ClaudeUsage claude;
     SmallFiles smallFiles;
     /// Writes the stores; destroyed before any of them.
     std::unique_ptr<JobQueue> disk;

@@ -19,7 +19,7 @@ from harness.screen import Rectangle  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
 from harness.world import World  # noqa: E402
 
-TABS = ("overview", "goals", "details", "timesheet", "projects")
+TABS = ("overview", "goals", "details", "timesheet", "projects", "claude")
 WIDE, LEAST = (1360, 1000), (820, 560)
 SCREEN = (1480, 1100)
 AFTERNOON = 16  # o'clock in the pictures, so that today has something to show

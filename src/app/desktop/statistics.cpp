@@ -27,19 +27,21 @@ Statistics::Statistics(const platform::Platform& platform, Services& services, D
               .rewards = services.goals.rewards,
           },
           std::move(commands)),
+      claude_(platform.clock, platform.mainLoop, services.claude),
       presenter_({
           .clock = platform.clock,
           .broadcaster = services.broadcaster,
           .counters = services.counting.stores(),
           .breakReminder = services.wellbeing.breakReminder,
           .dashboard = dashboard_,
+          .claude = services.claude.monitor,
           .tabs = tabs(),
           .besideTabs = besideTabs(),
       }) {}
 
 std::vector<Pane> Statistics::tabs() {
     std::vector<Pane> all;
-    for (const auto& room : {dashboard_.tabs()}) all.insert(all.end(), room.begin(), room.end());
+    for (const auto& room : {dashboard_.tabs(), claude_.tabs()}) all.insert(all.end(), room.begin(), room.end());
     return all;
 }
 

@@ -4,6 +4,7 @@
 
 #include "analysis/views/dashboard.h"
 #include "app/services.h"
+#include "claude/views/claude_views.h"
 #include "platform/api/platform.h"
 #include "shell/views/stats_presenter.h"
 #include "ui/models/pane.h"
@@ -19,12 +20,14 @@ public:
 
     [[nodiscard]] StatsPresenter& presenter() { return presenter_; }
     [[nodiscard]] Dashboard& dashboard() { return dashboard_; }
+    [[nodiscard]] ClaudeViews& claude() { return claude_; }
 
 private:
     [[nodiscard]] std::vector<Pane> tabs();
     [[nodiscard]] static std::vector<Pane> besideTabs();
 
     Dashboard dashboard_;
+    ClaudeViews claude_;
     StatsPresenter presenter_;
 };
 

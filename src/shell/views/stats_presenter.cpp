@@ -18,6 +18,7 @@ void setVisible(const Pane& pane, bool visible) {
 StatsPresenter::StatsPresenter(Content content)
     : counters_(content.counters),
       dashboard_(content.dashboard),
+      claude_(content.claude),
       tabs_(std::move(content.tabs)),
       besideTabs_(std::move(content.besideTabs)),
       wallClock_(content.clock),
@@ -69,6 +70,7 @@ void StatsPresenter::reloadAll() {
     counters_.minutes.flush();
     dashboard_.model().reload();
     dashboard_.model().startLiveRefresh();
+    claude_.forceRefresh();
     appeared_ = true;
     updateVisibleTab();
 }

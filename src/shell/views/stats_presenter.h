@@ -9,6 +9,7 @@
 #include "analysis/views/dashboard.h"
 #include "analysis/views/header_presenter.h"
 #include "base/signal.h"
+#include "claude/claude_usage_monitor.h"
 #include "core/broadcaster.h"
 #include "core/timer_engine.h"
 #include "platform/api/clock.h"
@@ -20,7 +21,7 @@ namespace tidewatch {
 
 /// The whole statistics window: its row of panes, the tabs in the first of them, and the current tab.
 /// Outlives the window's views. Each time the window is about to be shown it flushes the record and reloads
-/// the figures. Main thread only.
+/// the figures, and scans the Claude logs. Main thread only.
 class StatsPresenter final : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -44,6 +45,7 @@ public:
         CounterStores counters;
         BreakReminder& breakReminder;
         Dashboard& dashboard;
+        ClaudeUsageMonitor& claude;
         /// In display order; at least one.
         std::vector<Pane> tabs;
         /// The panes beside the tabs.
@@ -75,6 +77,7 @@ private:
 
     const CounterStores counters_;
     Dashboard& dashboard_;
+    ClaudeUsageMonitor& claude_;
     const std::vector<Pane> tabs_;
     const std::vector<Pane> besideTabs_;
     WallClock wallClock_;

@@ -24,6 +24,7 @@ inline constexpr int goalsTab = 1;
 inline constexpr int detailsTab = 2;
 inline constexpr int timesheetTab = 3;
 inline constexpr int projectsTab = 4;
+inline constexpr int claudeTab = 5;
 
 /// The statistics window's models on a fake machine; initially nothing is booked.
 class StatsWorld {
