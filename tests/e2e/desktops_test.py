@@ -163,9 +163,9 @@ class Core(unittest.TestCase):
         window = wait_until(self.world.statistics, "the statistics window")
         wait_until(lambda: self.world.focused_window() == window.id, "the focus on it")
         if not DESKTOP.tiles:
-            wait_until(lambda: self.outer_frame() == self.told_frame(), f"{self.told_frame()}")
+            wait_until(lambda: self.outer_frame() == self.expected_frame(), f"{self.expected_frame()}")
             time.sleep(1)
-            self.assertEqual(self.outer_frame(), self.told_frame())
+            self.assertEqual(self.outer_frame(), self.expected_frame())
         self.world.screenshot("statistics")
         self.world.input.key("ctrl+w")
         wait_until(lambda: self.world.statistics() is None, "the statistics window to close")
@@ -176,7 +176,7 @@ class Core(unittest.TestCase):
         frame = window.frame
         return Rectangle(frame.x - left, frame.y - top, frame.width + left + right, frame.height + top + bottom)
 
-    def told_frame(self):
+    def expected_frame(self):
         area = Rectangle(*(self.world.screen.property(0, "_NET_WORKAREA")[:4] or (0, 0, WIDTH, HEIGHT)))
         width = min(max(area.width - MARGIN, SMALLEST[0]), LARGEST[0])
         height = min(max(area.height - MARGIN, SMALLEST[1]), LARGEST[1])
