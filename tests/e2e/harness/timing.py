@@ -30,19 +30,21 @@ class EventTime:
 
 @dataclass(frozen=True)
 class Elapsed:
-    """The shortest and the longest time between two events, in seconds."""
+    """The shortest and the longest time between two events, or the sum of such times, in seconds."""
 
     min: float
     max: float
+    intervals: int = 1
 
     @staticmethod
     def between(begin, end):
         return Elapsed(end.earliest - begin.latest, end.latest - begin.earliest)
 
     def __add__(self, other):
-        return Elapsed(self.min + other.min, self.max + other.max)
+        return Elapsed(self.min + other.min, self.max + other.max, self.intervals + other.intervals)
 
     def assert_counted(self, seconds, before=0):
         """Fails unless a program counting all the time can have gone from `before` to `seconds`."""
-        if not self.min - EDGE <= seconds - before <= self.max + EDGE:
+        error = EDGE * self.intervals
+        if not self.min - error <= seconds - before <= self.max + error:
             raise AssertionError(f"{seconds - before} s were counted in {self.min:.1f} to {self.max:.1f} s")
