@@ -19,7 +19,7 @@ class RestorableFile final {
 public:
     /// As with RecordFile.
     RestorableFile(platform::FileSystem& files, platform::Log& log, std::string_view name,
-             std::string_view failure = {})
+                   std::string_view failure = {})
         : file_(files, log, name, failure) {}
 
     /// As with RecordFile::read(); `parse` must not call into this object.

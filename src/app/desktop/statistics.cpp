@@ -41,7 +41,8 @@ Statistics::Statistics(const platform::Platform& platform, Services& services, D
 
 std::vector<Pane> Statistics::tabs() {
     std::vector<Pane> all;
-    for (const auto& room : {dashboard_.tabs(), claude_.tabs()}) all.insert(all.end(), room.begin(), room.end());
+    for (const auto& room : {dashboard_.tabs(), claude_.tabs()})
+        all.insert(all.end(), room.begin(), room.end());
     return all;
 }
 
