@@ -10,7 +10,7 @@ from harness.menu import Menu
 from harness.screen import Rectangle, difference
 from harness.timing import Elapsed, EventTime
 from harness.user_input import LEFT
-from harness.waiting import wait_until
+from harness.waiting import repeat_until, wait_until
 from harness.world import HEIGHT, WIDTH, World, sleep_until
 
 DESKTOP = DESKTOPS[os.environ["TIDEWATCH_DESKTOP"]]
@@ -159,8 +159,9 @@ class Core(unittest.TestCase):
     def test_the_statistics_open_at_their_size_and_close_by_the_keyboard(self):
         self.start()
         spot = self.menu.tray_icon().frame.centre if DESKTOP.tray else self.panel().centre
-        self.world.input.click(*spot, LEFT)
-        window = wait_until(self.world.statistics, "the statistics window")
+        window = repeat_until(
+            lambda: self.world.input.click(*spot, LEFT), self.world.statistics, "the statistics window"
+        )
         wait_until(lambda: self.world.focused_window() == window.id, "the focus on it")
         if not DESKTOP.tiles:
             wait_until(lambda: self.outer_frame() == self.expected_frame(), f"{self.expected_frame()}")

@@ -5,7 +5,7 @@ from dataclasses import dataclass
 
 from harness.screen import Rectangle, difference
 from harness.user_input import LEFT, RIGHT
-from harness.waiting import becomes_true, wait_until
+from harness.waiting import repeat_until, wait_until
 from harness.world import CLOCK_CLASS
 
 # The rows that can be chosen, from the top.
@@ -22,9 +22,6 @@ DAY_STARTS = (0, 4, 5, 6, 7, 8)
 LEAST_ICON = 10
 SETTLING_SECONDS = 0.3
 DRAWN_BEFORE_READY_SECONDS = 1.5
-
-# Long enough for a busy machine to light up a row.
-FIRST_KEY_SECONDS = 20
 
 
 @dataclass(frozen=True)
@@ -95,8 +92,7 @@ class Menu:
 
     def _opened_by(self, click):
         before = self._world.screen.grab()
-        click()
-        popup = wait_until(self.popups, "the menu")[0]
+        popup = repeat_until(click, self.popups, "the menu")[0]
         # A compositor shows a window some time after it is there.
         frame = popup.frame
         behind = before.crop((frame.x, frame.y, frame.right, frame.bottom))
@@ -126,19 +122,15 @@ class Menu:
         return self._world.screen.grab(popup.frame)
 
     def go_down(self, rows):
-        """Highlights that many rows after one another. A key that comes before the menu has the keyboard is lost, so
-        the first one is repeated until a row lights up."""
+        """Highlights that many rows after one another. A key that comes before the menu has the keyboard is lost."""
         popup = self.popups()[0]
-        plain = self._picture(popup)
-
-        def is_lit():
-            return difference(plain, self._picture(popup)) is not None
-
-        self._world.input.key("Down")
-        while not becomes_true(is_lit, FIRST_KEY_SECONDS):
-            self._world.input.key("Down")
-        if rows > 1:
-            self._world.input.key(*["Down"] * (rows - 1))
+        for _ in range(rows):
+            before = self._picture(popup)
+            repeat_until(
+                lambda: self._world.input.key("Down"),
+                lambda: difference(before, self._picture(popup)) is not None,
+                "the highlight to move",
+            )
 
     def close(self):
         for _ in range(3):

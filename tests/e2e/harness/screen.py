@@ -5,6 +5,8 @@ from dataclasses import dataclass
 from PIL import Image, ImageChops
 from Xlib import X, Xatom, display, error
 
+from harness.waiting import becomes_true
+
 
 @dataclass(frozen=True)
 class Rectangle:
@@ -150,6 +152,16 @@ class Screen:
 
     def has_window_manager(self):
         return bool(self.property(0, "_NET_SUPPORTING_WM_CHECK"))
+
+    def shows_windows(self, within):
+        """Only for tests: whether the window manager maps a window, which is gone afterwards, in so many seconds."""
+        window = self._root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        window.map()
+        try:
+            return becomes_true(lambda: window.get_attributes().map_state == X.IsViewable, within)
+        finally:
+            window.destroy()
+            self._display.sync()
 
     def selection_owner(self, name):
         owner = self._display.get_selection_owner(self._display.intern_atom(name))

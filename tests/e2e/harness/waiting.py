@@ -10,6 +10,9 @@ class TimeOut(AssertionError):
 # In seconds, for what is certain to happen; generous, so that no test fails on a slow or busy machine.
 DEFAULT_TIMEOUT = 120.0
 
+# In seconds: long enough for a busy machine to show the effect of a key or click.
+PATIENCE = 20.0
+
 
 def wait_until(condition, what, seconds=DEFAULT_TIMEOUT, every=0.05):
     """Returns the first true result of `condition()`; raises TimeOut, with `what`, after `seconds`."""
@@ -30,6 +33,17 @@ def becomes_true(condition, seconds, every=0.05):
     except TimeOut:
         return False
     return True
+
+
+def repeat_until(action, condition, what):
+    """Like a user whose key or click had no effect: repeats `action()` until `condition()` is true; returns that."""
+    deadline = time.monotonic() + DEFAULT_TIMEOUT
+    while True:
+        action()
+        if becomes_true(condition, PATIENCE):
+            return condition()
+        if time.monotonic() >= deadline:
+            raise TimeOut(f"tried {DEFAULT_TIMEOUT:g} s in vain for {what}")
 
 
 def stays(condition, what, seconds=1.0, every=0.1):
