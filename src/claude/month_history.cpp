@@ -56,6 +56,7 @@ std::vector<ClaudeMonthRecord> MonthHistory::update(const PastMonths& past, cons
         .subscriptionUsd = subscriptionUsd,
     };
     std::vector<ClaudeMonthRecord> result;
+    result.reserve(rows.size());
     for (auto& [month, row] : rows) result.push_back(std::move(row));
     const auto text = serializeMonthHistory(result);
     if (text && *text != before) static_cast<void>(file_.write(*text));

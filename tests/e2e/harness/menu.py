@@ -122,15 +122,20 @@ class Menu:
         return self._world.screen.grab(popup.frame)
 
     def go_down(self, rows):
-        """Highlights that many rows after one another. A key that comes before the menu has the keyboard is lost."""
+        """Highlights that many rows after one another. A key that comes before the menu has the keyboard is lost, and a
+        tray that draws the menu may be far behind the keys."""
         popup = self.popups()[0]
-        for _ in range(rows):
+        tray = self._world.desktop.tray
+        watched = 1 if tray is None or tray.embeds else rows
+        for _ in range(watched):
             before = self._picture(popup)
             repeat_until(
                 lambda: self._world.input.key("Down"),
                 lambda: difference(before, self._picture(popup)) is not None,
                 "the highlight to move",
             )
+        if rows > watched:
+            self._world.input.key(*["Down"] * (rows - watched))
 
     def close(self):
         for _ in range(3):
