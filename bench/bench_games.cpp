@@ -76,10 +76,10 @@ void bricks(Verdicts& verdicts) {
 void fallingBlocks(Verdicts& verdicts) {
     Arcade arcade;
     TetrisModel model({arcade.loop, arcade.preferences, arcade.randomness, arcade.keys});
-    constexpr int steps = 100;
-    // A game ends after about 120 falls.
+    constexpr int steps = 60;
+    // A game of these pieces is over before 100.
     verdicts.computation(
-        "100 falls of the falling-blocks game",
+        "60 falls of the falling-blocks game",
         [&] {
             model.reset();
             model.play();
