@@ -32,9 +32,8 @@ class Messages(unittest.TestCase):
             world.screenshot("message")
             # No icon of the program is installed here.
             wait_until(lambda: 'string "image-data"' in monitor.log(), "the picture in the message")
-            sleep_until(program.started + 14)
-            fired = {key: value for key, value in world.home.settings().items() if key.startswith("notif-")}
-            self.assertEqual(len(fired), 2, fired)
+            wait_until(lambda: len(self.fired(world)) >= 2, "the second milestone")
+            self.assertEqual(len(self.fired(world)), 2, self.fired(world))
             world.stop_program(program)
             world.start("dunstctl", "close-all")
             wait_until(lambda: not messages_on_screen(world), "the end of the message")
@@ -55,6 +54,11 @@ class Messages(unittest.TestCase):
             seconds = world.home.day_seconds()
             wait_until(lambda: world.home.day_seconds() > seconds, "the next periodic write")
             world.stop_program(program)
+
+    @staticmethod
+    def fired(world):
+        """The keys of the milestones that were announced."""
+        return [key for key in world.home.settings() if key.startswith("notif-")]
 
     @staticmethod
     def balloon(world, icon):
