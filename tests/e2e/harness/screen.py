@@ -153,12 +153,12 @@ class Screen:
     def has_window_manager(self):
         return bool(self.property(0, "_NET_SUPPORTING_WM_CHECK"))
 
-    def shows_windows(self, within):
-        """Only for tests: whether the window manager maps a window, which is gone afterwards, in so many seconds."""
+    def shows_new_windows(self):
+        """Only for tests: whether a window that is mapped now is shown within a second; it is gone afterwards."""
         window = self._root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
         window.map()
         try:
-            return becomes_true(lambda: window.get_attributes().map_state == X.IsViewable, within)
+            return becomes_true(lambda: window.get_attributes().map_state == X.IsViewable, 1)
         finally:
             window.destroy()
             self._display.sync()
