@@ -31,7 +31,7 @@ class GamePresenter : public QObject {
 public:
     [[nodiscard]] QString overlayTitle() const { return box_.title; }
     [[nodiscard]] QString overlayText() const { return box_.text; }
-    [[nodiscard]] QString accessibleText() const { return box_.spoken; }
+    [[nodiscard]] QString accessibleText() const { return box_.accessibleText; }
     [[nodiscard]] QString scoreText() const { return score_; }
     [[nodiscard]] QString scoreAccessibleText() const { return "Puntaje: " + score_; }
     [[nodiscard]] bool over() const { return over_; }
@@ -64,7 +64,7 @@ protected:
     struct Box {
         QString title;
         QString text;
-        QString spoken;  ///< the game and its state
+        QString accessibleText;  ///< the game and its state
         bool operator==(const Box&) const = default;
     };
 
