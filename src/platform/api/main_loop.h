@@ -30,10 +30,10 @@ public:
 
     /// Calls `fire` on the main thread every `interval` (a millisecond or more), first after one interval,
     /// without drifting: fractions of a millisecond only make single firings up to a millisecond late. Missed
-    /// firings (a blocked thread, a sleeping machine) are dropped. Timers of the same interval created
-    /// shortly after one another fire in the same turn of the loop, in creation order, and the jobs they post
-    /// run in that order; for this the later ones first fire up to a fifth of the interval early. The loop
-    /// must outlive the timer. Main thread only.
+    /// firings (a blocked thread, a sleeping machine) are dropped, those after them come at their usual time.
+    /// Timers of the same interval created shortly after one another fire in the same turn of the loop, in
+    /// creation order, and the jobs they post run in that order; for this the later ones first fire up to a
+    /// fifth of the interval early. The loop must outlive the timer. Main thread only.
     [[nodiscard]] virtual std::unique_ptr<RepeatingTimer> repeat(std::chrono::nanoseconds interval,
                                                                  TimerMode mode, Job fire) = 0;
 };

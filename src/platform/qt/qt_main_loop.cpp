@@ -31,8 +31,8 @@ public:
 
     explicit TimerGroup(std::chrono::nanoseconds interval)
         : interval_(interval), due_(std::chrono::steady_clock::now() + interval) {
-        // A precise timer neither drifts nor catches up.
         timer_.setTimerType(Qt::PreciseTimer);
+        timer_.setSingleShot(true);
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { fire(); });
         timer_.start(wholeMilliseconds(interval));
     }
@@ -47,7 +47,7 @@ private:
     void fire() {
         // A listener may destroy its timer, even the last one, or create another.
         const auto self = shared_from_this();
-        if (interval_ != wholeMilliseconds(interval_)) startNext();
+        startNext();
         std::erase_if(listeners_, [](const auto& listener) { return listener.expired(); });
         for (const auto& each : std::vector(listeners_)) {
             const auto listener = each.lock();
@@ -55,7 +55,8 @@ private:
         }
     }
 
-    /// The toolkit's timers count whole milliseconds; each start makes up for the previous rounding.
+    /// A repeating timer of the toolkit counts whole milliseconds, and after a firing that came more than an
+    /// interval late it starts afresh. Each start here makes up for the rounding and the lateness before it.
     void startNext() {
         const auto now = std::chrono::steady_clock::now();
         due_ += (std::max(now - due_, std::chrono::nanoseconds::zero()) / interval_ + 1) * interval_;

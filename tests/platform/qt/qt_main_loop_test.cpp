@@ -145,5 +145,21 @@ TEST_F(QtMainLoopTest, ABlockedThreadsFiringsAreDropped) {
     EXPECT_LE(fired, 2);
 }
 
+TEST_F(QtMainLoopTest, ABlockedThreadDoesNotShiftTheFiringsAfterIt) {
+    // A slow machine delays single firings.
+    constexpr std::int64_t interval = 40;
+    int fired = 0;
+    int onTime = 0;
+    QElapsedTimer timer;
+    timer.start();
+    const auto ticking = loop_.repeat(std::chrono::milliseconds(interval), TimerMode::common, [&] {
+        ++fired;
+        if (fired > 1 && timer.elapsed() % interval < interval / 4) ++onTime;
+    });
+    QThread::msleep(interval * 5 / 2);
+    while (fired < 10) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_GT(onTime, 0);
+}
+
 }  // namespace
 }  // namespace tidewatch::platform
