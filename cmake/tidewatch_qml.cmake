@@ -3,7 +3,7 @@ find_package(Qt6 6.4 REQUIRED COMPONENTS Gui Qml Quick)
 # tidewatch_qml_module(<room> <uri> SOURCES <file>... [VIEWS <file.qml>...] [IMPORTS <uri>...] [KNOWS <target>...])
 #
 # A room with a QML module of that uri: its types are declared in the headers among SOURCES; its VIEWS are compiled
-# ahead of time. Both may be in sub-folders; to QML the module is one folder, so that its views need no import of one
+# to byte code. Both may be in sub-folders; to QML the module is one folder, so that its views need no import of one
 # another. IMPORTS names the modules that its types depend on. Creates two targets: the static library
 # `tidewatch_<room>`, for code that uses the types, and `tidewatch_<room>_module`, for programs whose views import
 # the module; the module is linked in.
@@ -18,7 +18,8 @@ function(tidewatch_qml_module room uri)
         list(APPEND views ${name})
     endforeach()
     qt_add_library(${target} STATIC)
-    set_target_properties(${target} PROPERTIES AUTOMOC ON TIDEWATCH_VIEWS "${views}")
+    set_target_properties(${target} PROPERTIES AUTOMOC ON TIDEWATCH_VIEWS "${views}"
+        QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
     qt_add_qml_module(${target}
         URI ${uri}
         VERSION 1.0
@@ -28,12 +29,12 @@ function(tidewatch_qml_module room uri)
         SOURCES ${ARG_SOURCES}
         QML_FILES ${ARG_VIEWS}
         OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/${path})
-    target_link_libraries(${target} PUBLIC ${ARG_KNOWS} Qt6::Gui Qt6::Qml Qt6::Quick PRIVATE tidewatch_options)
+    target_link_libraries(${target} PUBLIC ${ARG_KNOWS} Qt6::Gui Qt6::Qml Qt6::Quick)
     target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     _tidewatch_find_registered_headers(${target} ${ARG_SOURCES})
     _tidewatch_part_generated(${target})
     tidewatch_unity(${target})
-    tidewatch_toolkit(${target})
+    tidewatch_headers(toolkit ${target})
     set_property(GLOBAL APPEND PROPERTY TIDEWATCH_ROOMS ${target})
 
     # A reference to the registration, so that the linker does not drop it. A plugin would do no more and take longer to
@@ -74,7 +75,7 @@ function(_tidewatch_part_generated target)
     foreach(part generated qmlcache)
         target_compile_options(${target}_${part} PRIVATE -w)
     endforeach()
-    tidewatch_toolkit(${target}_generated ${target}_qmlcache)
+    tidewatch_headers(toolkit ${target}_generated ${target}_qmlcache)
 endfunction()
 
 # tidewatch_qmllint(<room>)
