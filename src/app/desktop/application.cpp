@@ -44,7 +44,7 @@ Application::Application(char* programPath)
     if (toolkitTranslator_.load()) QCoreApplication::installTranslator(&toolkitTranslator_);
 }
 
-int Application::run(const platform::Platform& platform) {
+int Application::run(const platform::Platform& platform, const Addition& addition) {
     const auto directory = dataDirectory(platform.files);
     if (const auto made = platform.files.createDirectories(directory); !made) {
         platform.log.warning("Tidewatch: " + made.error().message);
@@ -61,6 +61,7 @@ int Application::run(const platform::Platform& platform) {
     platform.termination.onRequested([] { QCoreApplication::quit(); });
     DesktopComposition composition(platform, [] { QCoreApplication::quit(); });
     auto& delegate = composition.delegate();
+    const auto added = addition ? addition(composition) : nullptr;
     delegate.applicationDidFinishLaunching();
     platform.singleInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
     platform.termination.onSessionEnding([&] { delegate.flushAllStores(); });

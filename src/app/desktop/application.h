@@ -2,11 +2,15 @@
 
 #include <QApplication>
 #include <array>
+#include <functional>
+#include <memory>
 
 #include "platform/api/platform.h"
 #include "shell/windows/toolkit_translator.h"
 
 namespace tidewatch {
+
+class DesktopComposition;
 
 /// The program: the toolkit's application object, configured for a tray program, and its life cycle. One per
 /// process.
@@ -15,9 +19,12 @@ public:
     /// Sets up the toolkit; `programPath` is the process's first argument and must outlive this object.
     explicit Application(char* programPath);
 
+    /// Builds what a program has beside the ordinary one. It is destroyed before the composition.
+    using Addition = std::function<std::shared_ptr<void>(DesktopComposition&)>;
+
     /// Runs until the user, the session or a signal ends the program. Returns the exit code: 0 also if
     /// another instance was running and was asked to come to the front.
-    [[nodiscard]] int run(const platform::Platform& platform);
+    [[nodiscard]] int run(const platform::Platform& platform, const Addition& addition = nullptr);
 
 private:
     int argumentCount_ = 1;

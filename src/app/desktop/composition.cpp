@@ -46,6 +46,16 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
                    .terminate = std::move(terminate),
                }) {}
 
+GamesPresenter::Sources DesktopComposition::games() {
+    return {
+        .mainLoop = platform_.mainLoop,
+        .preferences = platform_.preferences,
+        .randomness = platform_.randomness,
+        .keys = keys_,
+        .gate = services_.wellbeing.gameGate,
+    };
+}
+
 QuickStatisticsWindow::Content DesktopComposition::statisticsContent() {
     return {
         .makeView =

@@ -12,6 +12,8 @@
 #include "shell/views/clock_presenter.h"
 #include "shell/windows/qt_surfaces.h"
 #include "shell/windows/statistics_window.h"
+#include "shell/windows/window_key_monitor.h"
+#include "wellbeing/views/games/games_presenter.h"
 
 namespace tidewatch {
 
@@ -23,6 +25,12 @@ public:
 
     [[nodiscard]] AppDelegate& delegate() { return program_.delegate(); }
 
+    // For windows beyond those of the program itself.
+    [[nodiscard]] GamesPresenter::Sources games();
+    [[nodiscard]] QtSurfaces& surfaces() { return surfaces_; }
+    [[nodiscard]] ThemeController& theme() { return services_.theme; }
+    [[nodiscard]] Broadcaster& broadcaster() { return services_.broadcaster; }
+
 private:
     [[nodiscard]] QuickStatisticsWindow::Content statisticsContent();
     [[nodiscard]] std::unique_ptr<Statistics> makeStatistics();
@@ -30,6 +38,7 @@ private:
     const platform::Platform& platform_;
     Services services_;
     ClockPresenter clock_;
+    WindowKeyMonitor keys_;
     QtSurfaces surfaces_;
     PdfReport report_;
     std::unique_ptr<Statistics> shown_;  ///< created when the statistics window is first shown

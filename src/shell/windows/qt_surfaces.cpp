@@ -63,9 +63,10 @@ std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
     return std::make_unique<TrayStatusItem>(dependencies_.theme);
 }
 
-std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject& presenter) {
+std::unique_ptr<QQuickItem> QtSurfaces::makeView(const QByteArray& name, QObject& presenter,
+                                                 const QByteArray& module) {
     QQmlComponent component(&engine_);
-    component.setData("import Tidewatch.Shell\n" + name + " {}", QUrl());
+    component.setData("import " + module + "\n" + name + " {}", QUrl());
     if (!component.isReady()) return brokenView(name, component.errorString());
     // The style is available only once its module has been imported.
     Style::of(engine_)->follow(dependencies_.theme);

@@ -40,9 +40,10 @@ public:
     void popUpMenu(const MenuRows& rows, platform::Point at) override;
     void showHint(const std::string& text) override;
 
-    /// Creates a view of the shell's module; `presenter` must outlive it. Returns null, with a log message,
-    /// if the view cannot be created, which is a bug.
-    [[nodiscard]] std::unique_ptr<QQuickItem> makeView(const QByteArray& name, QObject& presenter);
+    /// Creates a view of a module; `presenter` must outlive it. Returns null, with a log message, if the view
+    /// cannot be created, which is a bug.
+    [[nodiscard]] std::unique_ptr<QQuickItem> makeView(const QByteArray& name, QObject& presenter,
+                                                       const QByteArray& module = "Tidewatch.Shell");
 
     /// Frees cached data of views that may never be created again.
     void clearViewCache();
