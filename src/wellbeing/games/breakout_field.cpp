@@ -1,6 +1,7 @@
 #include "wellbeing/games/breakout_field.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tidewatch::breakout {
 namespace {
@@ -23,8 +24,7 @@ std::vector<Brick> wallOfBricks() {
             auto rect = firstBrick;
             rect.x += columnStep * column;
             rect.y += rowStep * row;
-            bricks.push_back(
-                {row * brickColumns + column, true, rect, row % static_cast<int>(colors.size())});
+            bricks.push_back({row * brickColumns + column, true, rect, row});
         }
     }
     return bricks;

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <array>
 #include <vector>
-
-#include "wellbeing/games/game_color.h"
 
 /// The brick game's field, in points: x from the left, y down from the top.
 namespace tidewatch::breakout {
@@ -54,21 +51,12 @@ struct Brick {
     int id = 0;  ///< row x columns + column
     bool alive = true;
     Rect rect;
-    int color = 0;  ///< index into the colours
+    int color = 0;  ///< that of its row, from 0
     bool operator==(const Brick&) const = default;
 };
 
 inline constexpr int brickColumns = 6;
 inline constexpr int brickRows = 5;
-
-/// The colours of the rows from the top, where no theme has any.
-inline constexpr std::array<GameColor, 5> colors{{
-    {0.82, 0.34, 0.34},
-    {0.88, 0.54, 0.29},
-    {0.91, 0.77, 0.35},
-    {0.48, 0.85, 0.56},
-    {0.42, 0.62, 0.83},
-}};
 
 /// A whole wall, row by row.
 [[nodiscard]] std::vector<Brick> wallOfBricks();

@@ -1,20 +1,15 @@
 #include "wellbeing/games/breakout_model.h"
 
 #include <algorithm>
-#include <chrono>
-
-#include "wellbeing/games/uniform_draw.h"
 
 namespace tidewatch {
 namespace {
 
 using namespace breakout;
 
-constexpr auto stepInterval = std::chrono::nanoseconds(std::chrono::seconds(1)) / 60;
-
 constexpr int livesOfAGame = 3;
-constexpr std::int64_t pointsPerBrick = 10;
-constexpr std::int64_t pointsPerLevel = 50;
+constexpr int pointsPerBrick = 10;
+constexpr int pointsPerLevel = 50;
 
 constexpr double paddleStart = fieldWidth / 2;
 constexpr double paddleMin = 20;
@@ -28,64 +23,30 @@ constexpr double sidewaysAtLaunch = 0.4;
 }  // namespace
 
 BreakoutModel::BreakoutModel(const Sources& sources)
-    : mainLoop_(sources.mainLoop),
-      randomness_(sources.randomness),
-      keys_(sources.keys),
+    : GameModel(sources, "breakoutHighScore"),
       lives_(livesOfAGame),
-      best_(sources.preferences, "breakoutHighScore"),
       paddleX_(paddleStart),
       ball_{{paddleStart, ballBeforeTheFirstGame}, {}} {}
 
-void BreakoutModel::play() {
-    switch (state_) {
-        case State::playing:
-            return;
-        case State::paused:
-            state_ = State::playing;
-            break;
-        case State::idle:
-        case State::over:
-        case State::won:
-            newGame();
-            break;
-    }
-    if (!keyObservation_) keyObservation_ = keys_.observe([this](GameKey key) { return press(key); });
-    startTimer();
-    changed.emit();
+void BreakoutModel::setUp() {
+    lives_ = livesOfAGame;
+    buildBricks();
+    resetBall();
 }
 
-void BreakoutModel::pause() {
-    if (state_ != State::playing) return;
-    state_ = State::paused;
-    timer_.reset();
-    changed.emit();
+void BreakoutModel::buildBricks() {
+    bricks_ = wallOfBricks();
 }
 
-void BreakoutModel::togglePlayPause() {
-    if (state_ == State::playing) {
-        pause();
-    } else {
-        play();
-    }
-}
-
-void BreakoutModel::reset() {
-    newGame();
-    state_ = State::idle;
-    timer_.reset();
-    changed.emit();
-}
-
-void BreakoutModel::stop() {
-    timer_.reset();
-    keyObservation_.reset();
-    if (state_ != State::playing) return;
-    state_ = State::paused;
-    changed.emit();
+void BreakoutModel::resetBall() {
+    launched_ = false;
+    const bool leftward = draw(2) == 0;
+    ball_ = {{paddleX_, ballOnThePaddle},
+             {leftward ? -sidewaysAtLaunch : sidewaysAtLaunch, -launchSpeed(level())}};
 }
 
 void BreakoutModel::launch() {
-    if (state_ != State::playing) return;
+    if (!isPlaying()) return;
     launched_ = true;
     changed.emit();
 }
@@ -108,39 +69,15 @@ void BreakoutModel::setPaddle(double to) {
     changed.emit();
 }
 
-void BreakoutModel::newGame() {
-    score_ = 0;
-    lives_ = livesOfAGame;
-    level_ = 1;
-    buildBricks();
-    resetBall();
-    state_ = State::playing;
-}
-
-void BreakoutModel::buildBricks() {
-    bricks_ = wallOfBricks();
-}
-
-void BreakoutModel::resetBall() {
-    launched_ = false;
-    const bool leftward = uniformBelow(2, randomness_) == 0;
-    ball_ = {{paddleX_, ballOnThePaddle},
-             {leftward ? -sidewaysAtLaunch : sidewaysAtLaunch, -launchSpeed(level_)}};
-}
-
-void BreakoutModel::startTimer() {
-    timer_.reset();
-    timer_ = mainLoop_.repeat(stepInterval, platform::TimerMode::common, [this] { step(); });
+std::chrono::nanoseconds BreakoutModel::stepInterval() const {
+    return std::chrono::nanoseconds(std::chrono::seconds(1)) / 60;
 }
 
 void BreakoutModel::step() {
-    if (state_ != State::playing) return;
-    if (launched_) {
-        if (moveBall(ball_, bricks_, paddleX_, level_) == Hit::brick) score_ += pointsPerBrick;
-        if (isLost(ball_)) loseBall();
-        if (wallIsCleared()) nextLevel();
-    }
-    changed.emit();
+    if (!launched_) return;
+    if (moveBall(ball_, bricks_, paddleX_, level()) == Hit::brick) earn(pointsPerBrick);
+    if (isLost(ball_)) loseBall();
+    if (wallIsCleared()) nextLevel();
 }
 
 void BreakoutModel::loseBall() {
@@ -152,26 +89,18 @@ void BreakoutModel::loseBall() {
     }
 }
 
-void BreakoutModel::endGame() {
-    state_ = State::over;
-    timer_.reset();
-    keyObservation_.reset();
-    best_.enter(score_);
-}
-
 bool BreakoutModel::wallIsCleared() const {
     return std::ranges::none_of(bricks_, &Brick::alive);
 }
 
 void BreakoutModel::nextLevel() {
-    ++level_;
-    score_ += pointsPerLevel;
+    setLevel(level() + 1);
+    earn(pointsPerLevel);
     buildBricks();
     resetBall();
 }
 
 KeyPress BreakoutModel::press(GameKey key) {
-    if (state_ != State::playing) return KeyPress::passedOn;
     switch (key) {
         case GameKey::space:
             launch();

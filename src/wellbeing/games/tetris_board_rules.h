@@ -4,8 +4,6 @@
 #include <chrono>
 #include <cstdint>
 
-#include "wellbeing/games/game_color.h"
-
 /// The rules of the falling-blocks board, without time and chance. Rows count down from 0 at the top, columns
 /// from 0 at the left. Pieces are numbered from 1 to 7: I, J, L, O, S, T, Z.
 namespace tidewatch::tetris {
@@ -39,18 +37,6 @@ struct Placement {
         return {piece, rot, row + byRows, column + byColumns};
     }
 };
-
-/// The colours of the empty cell and of pieces 1 to 7, where no theme has any.
-inline constexpr std::array<GameColor, pieceCount + 1> colors{{
-    {0, 0, 0, 0},
-    {0.36, 0.78, 0.84},
-    {0.42, 0.62, 0.83},
-    {0.88, 0.54, 0.29},
-    {0.91, 0.77, 0.35},
-    {0.48, 0.85, 0.56},
-    {0.61, 0.48, 0.85},
-    {0.82, 0.34, 0.34},
-}};
 
 /// Where the piece's cells are; some may be outside the board.
 [[nodiscard]] Cells cellsOf(const Placement& placement);

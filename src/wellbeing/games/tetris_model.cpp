@@ -2,84 +2,28 @@
 
 #include <array>
 
-#include "wellbeing/games/uniform_draw.h"
-
 namespace tidewatch {
 namespace {
 
 constexpr int spawnColumn = 3;
-constexpr std::int64_t pointsPerHardDroppedRow = 2;
+constexpr int pointsPerHardDroppedRow = 2;
 
 /// The shifts that a rotation tries, in this order.
 constexpr std::array kicks{0, -1, +1, -2, +2};
 
 }  // namespace
 
-TetrisModel::TetrisModel(const Sources& sources)
-    : mainLoop_(sources.mainLoop),
-      randomness_(sources.randomness),
-      keys_(sources.keys),
-      best_(sources.preferences, "tetrisHighScore") {}
+TetrisModel::TetrisModel(const Sources& sources) : GameModel(sources, "tetrisHighScore") {}
 
-void TetrisModel::play() {
-    switch (state_) {
-        case State::playing:
-            return;
-        case State::paused:
-            state_ = State::playing;
-            break;
-        case State::idle:
-        case State::over:
-            newGame();
-            break;
-    }
-    if (!keyObservation_) keyObservation_ = keys_.observe([this](GameKey key) { return press(key); });
-    restartTimer();
-    changed.emit();
-}
-
-void TetrisModel::pause() {
-    if (state_ != State::playing) return;
-    state_ = State::paused;
-    timer_.reset();
-    changed.emit();
-}
-
-void TetrisModel::togglePlayPause() {
-    if (state_ == State::playing) {
-        pause();
-    } else {
-        play();
-    }
-}
-
-void TetrisModel::reset() {
-    newGame();
-    state_ = State::idle;
-    timer_.reset();
-    changed.emit();
-}
-
-void TetrisModel::stop() {
-    timer_.reset();
-    keyObservation_.reset();
-    if (state_ != State::playing) return;
-    state_ = State::paused;
-    changed.emit();
-}
-
-void TetrisModel::newGame() {
+void TetrisModel::setUp() {
     grid_ = {};
-    score_ = 0;
     lines_ = 0;
-    level_ = 1;
     nextPiece_ = randomPiece();
     spawn();
-    state_ = State::playing;
 }
 
 int TetrisModel::randomPiece() {
-    return 1 + uniformBelow(tetris::pieceCount, randomness_);
+    return 1 + draw(tetris::pieceCount);
 }
 
 void TetrisModel::spawn() {
@@ -88,23 +32,12 @@ void TetrisModel::spawn() {
     if (tetris::collides(grid_, falling_)) endGame();
 }
 
-void TetrisModel::endGame() {
-    state_ = State::over;
-    timer_.reset();
-    keyObservation_.reset();
-    best_.enter(score_);
+std::chrono::nanoseconds TetrisModel::stepInterval() const {
+    return tetris::gravityInterval(level());
 }
 
-void TetrisModel::restartTimer() {
-    timer_.reset();
-    timer_ =
-        mainLoop_.repeat(tetris::gravityInterval(level_), platform::TimerMode::common, [this] { fall(); });
-}
-
-void TetrisModel::fall() {
-    if (state_ != State::playing) return;
+void TetrisModel::step() {
     if (!tryMove(1, 0)) lock();
-    changed.emit();
 }
 
 bool TetrisModel::tryMove(int byRows, int byColumns) {
@@ -129,7 +62,7 @@ void TetrisModel::moveRight() {
 
 void TetrisModel::softDrop() {
     if (!tryMove(1, 0)) return;
-    ++score_;
+    earn(1);
     changed.emit();
 }
 
@@ -149,7 +82,7 @@ void TetrisModel::hardDrop() {
     if (!hasPieceInPlay()) return;
     const int distance = tetris::dropDistance(grid_, falling_);
     falling_.row += distance;
-    score_ += pointsPerHardDroppedRow * distance;
+    earn(pointsPerHardDroppedRow * distance);
     lock();
     changed.emit();
 }
@@ -158,9 +91,9 @@ void TetrisModel::lock() {
     tetris::settle(grid_, falling_);
     if (const int cleared = tetris::clearFullRows(grid_); cleared > 0) {
         lines_ += cleared;
-        score_ += tetris::pointsFor(cleared, level_);
-        if (const int level = tetris::levelAfter(lines_); level != level_) {
-            level_ = level;
+        earn(tetris::pointsFor(cleared, level()));
+        if (const int reached = tetris::levelAfter(lines_); reached != level()) {
+            setLevel(reached);
             restartTimer();
         }
     }
@@ -187,7 +120,6 @@ std::vector<tetris::Cell> TetrisModel::ghostCells() const {
 }
 
 KeyPress TetrisModel::press(GameKey key) {
-    if (state_ != State::playing) return KeyPress::passedOn;
     switch (key) {
         case GameKey::p:
             pause();

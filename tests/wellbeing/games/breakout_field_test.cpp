@@ -41,15 +41,6 @@ TEST(BreakoutFieldTest, ThePaddleGetsNarrowerUpToTheFifthLevel) {
     EXPECT_EQ(paddleWidth(100), 20);
 }
 
-TEST(BreakoutFieldTest, EachRowHasAColourOfItsOwn) {
-    ASSERT_EQ(colors.size(), 5u);
-    EXPECT_EQ(colors[0], (GameColor{0.82, 0.34, 0.34, 1}));
-    EXPECT_EQ(colors[1], (GameColor{0.88, 0.54, 0.29, 1}));
-    EXPECT_EQ(colors[2], (GameColor{0.91, 0.77, 0.35, 1}));
-    EXPECT_EQ(colors[3], (GameColor{0.48, 0.85, 0.56, 1}));
-    EXPECT_EQ(colors[4], (GameColor{0.42, 0.62, 0.83, 1}));
-}
-
 TEST(BreakoutFieldTest, TheLeftAndTopEdgesOfARectangleAreInsideTheRightAndBottomOnesOutside) {
     constexpr Rect rect{10, 20, 30, 40};
     EXPECT_TRUE(rect.contains({10, 20}));

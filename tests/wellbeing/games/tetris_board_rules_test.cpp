@@ -132,18 +132,6 @@ TEST(TetrisBoardRulesTest, GravityIntervalsOfLevels1To13) {
     EXPECT_EQ(gravityInterval(1000), 90ms);
 }
 
-TEST(TetrisBoardRulesTest, TheEmptyCellHasNoColourAndEachPieceOneOfItsOwn) {
-    ASSERT_EQ(colors.size(), 8u);
-    EXPECT_EQ(colors[0].alpha, 0);
-    EXPECT_EQ(colors[1], (GameColor{0.36, 0.78, 0.84, 1}));
-    EXPECT_EQ(colors[2], (GameColor{0.42, 0.62, 0.83, 1}));
-    EXPECT_EQ(colors[3], (GameColor{0.88, 0.54, 0.29, 1}));
-    EXPECT_EQ(colors[4], (GameColor{0.91, 0.77, 0.35, 1}));
-    EXPECT_EQ(colors[5], (GameColor{0.48, 0.85, 0.56, 1}));
-    EXPECT_EQ(colors[6], (GameColor{0.61, 0.48, 0.85, 1}));
-    EXPECT_EQ(colors[7], (GameColor{0.82, 0.34, 0.34, 1}));
-}
-
 TEST(UniformDrawTest, AllNumbersAreDrawnEquallyOften) {
     platform::FakeRandomness randomness(7);
     std::array<int, 7> drawn{};

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +15,8 @@ namespace tidewatch::test {
 
 /// A falling-blocks game on a fake machine.
 struct TetrisWorld {
+    using State = TetrisModel::State;
+
     /// Presses keys: "<", ">", "v" and "^" are the arrows, "_" is space, "p" is P.
     void press(std::string_view presses) {
         for (const char each : presses) {
@@ -40,6 +44,12 @@ struct TetrisWorld {
         std::string pieces;
         for (int i = 0; i < count; ++i) pieces += "IIIIO";
         return pieces;
+    }
+
+    /// Plays on until the game is over: pieces pile up in the middle. Fails the test if it never is.
+    void lose() {
+        for (int i = 0; i < 100 && model.state() == State::playing; ++i) press("_");
+        ASSERT_EQ(model.state(), State::over);
     }
 
     /// The time of one row's fall.

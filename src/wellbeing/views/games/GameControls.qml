@@ -14,20 +14,21 @@ Item {
     implicitHeight: 24
 
     Repeater {
-        model: root.game.over ? 0 : root.game.controls.length
+        id: buttons
+
+        model: root.game.over ? null : root.game.controls
 
         delegate: IconButton {
             required property int index
-            // While the game changes there may be fewer controls than buttons.
-            readonly property gameControl control: root.game.controls[Math.min(index, root.game.controls.length - 1)]
+            required property gameControl row
 
             objectName: "control" + index
-            x: index === 0 ? 0 : root.width - (root.game.controls.length - index) * width
+            x: index === 0 ? 0 : root.width - (buttons.count - index) * width
             width: 28
             height: root.height
-            symbol: control.symbol
+            symbol: row.symbol
             symbolSide: 18
-            accessibleName: control.name
+            accessibleName: row.name
             onClicked: root.game.press(index)
         }
     }

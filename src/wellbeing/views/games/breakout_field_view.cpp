@@ -3,6 +3,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "ui/style/qt_color.h"
+#include "wellbeing/views/games/game_colors.h"
+
 namespace tidewatch {
 namespace {
 
@@ -10,11 +13,6 @@ constexpr double brickRadius = 2;
 constexpr double paddleRadius = 3;
 
 static_assert(breakout::brickRows * breakout::brickColumns <= 32);
-
-QColor toQColor(const GameColor& color) {
-    return QColor::fromRgbF(static_cast<float>(color.red), static_cast<float>(color.green),
-                            static_cast<float>(color.blue), static_cast<float>(color.alpha));
-}
 
 }  // namespace
 
@@ -80,7 +78,7 @@ void BreakoutFieldView::sync() {
 }
 
 QColor BreakoutFieldView::brickColor(const breakout::Brick& brick) const {
-    return colorAt(brick.color, toQColor(breakout::colors.at(static_cast<std::size_t>(brick.color))));
+    return colorAt(brick.color, toQColor(brickColors.at(static_cast<std::size_t>(brick.color))));
 }
 
 void BreakoutFieldView::paintField(QPainter& painter, const QRectF& dirty) {

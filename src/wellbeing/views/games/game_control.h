@@ -14,6 +14,7 @@ class GameControl final {
     Q_PROPERTY(QString name MEMBER name FINAL)
 
 public:
+    int id = 0;  ///< its place
     QString symbol;
     QString name;  ///< for assistive technology
 

@@ -1,19 +1,22 @@
 #pragma once
 
 #include <qqmlregistration.h>
-#include <QList>
 #include <QObject>
 #include <QString>
 #include <cstdint>
 #include <functional>
 #include <vector>
 
+#include "base/signal.h"
+#include "ui/models/row_list.h"
+#include "wellbeing/games/game_model.h"
 #include "wellbeing/views/games/game_control.h"
+#include "wellbeing/views/games/game_number.h"
 
 namespace tidewatch {
 
-/// What the panel shows of either game: the box over its board, the score and the controls. Notifies only of
-/// changes. Main thread only.
+/// What the panel shows of either game: the box over its board, the score, the numbers and the controls. Its
+/// field draws the board from the model itself. Notifies only of changes. Main thread only.
 class GamePresenter : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,9 +27,11 @@ class GamePresenter : public QObject {
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY overlayChanged FINAL)
     Q_PROPERTY(QString scoreText READ scoreText NOTIFY scoreChanged FINAL)
     Q_PROPERTY(QString scoreAccessibleText READ scoreAccessibleText NOTIFY scoreChanged FINAL)
+    Q_PROPERTY(tidewatch::GameNumber level READ level NOTIFY numbersChanged FINAL)
+    Q_PROPERTY(tidewatch::GameNumber best READ best NOTIFY numbersChanged FINAL)
     Q_PROPERTY(bool over READ over NOTIFY overChanged FINAL)
-    // From left to right.
-    Q_PROPERTY(QList<tidewatch::GameControl> controls READ controls NOTIFY controlsChanged FINAL)
+    /// From left to right.
+    Q_PROPERTY(tidewatch::RowListModel* controls READ controls CONSTANT FINAL)
 
 public:
     [[nodiscard]] QString overlayTitle() const { return box_.title; }
@@ -34,28 +39,33 @@ public:
     [[nodiscard]] QString accessibleText() const { return box_.accessibleText; }
     [[nodiscard]] QString scoreText() const { return score_; }
     [[nodiscard]] QString scoreAccessibleText() const { return "Puntaje: " + score_; }
+    [[nodiscard]] GameNumber level() const { return numbers_.level; }
+    [[nodiscard]] GameNumber best() const { return numbers_.best; }
     [[nodiscard]] bool over() const { return over_; }
-    [[nodiscard]] QList<GameControl> controls() const { return controls_; }
+    [[nodiscard]] RowListModel* controls() { return &controls_; }
 
     /// Does what the control at this index is for; ignored for any other index.
     Q_INVOKABLE void press(int control);
 
     /// Starts a new game.
-    virtual void start() = 0;
+    void start();
 
     /// Pauses a running game and lets go of timer and keys.
-    virtual void stop() = 0;
+    void stop();
 
 Q_SIGNALS:
+    /// Something on the board may have changed.
+    void boardChanged();
     void overlayChanged();
     void scoreChanged();
+    void numbersChanged();
     void overChanged();
-    void controlsChanged();
 
 protected:
     /// A control after the first one, which pauses and continues.
     struct Steering {
-        GameControl control;
+        QString symbol;
+        QString name;
         std::function<void()> act;
     };
 
@@ -68,21 +78,41 @@ protected:
         bool operator==(const Box&) const = default;
     };
 
-    /// What a game does at the moment.
-    enum class Course { standing, running, over };
+    /// Must be called once the model exists: shows its state from then on.
+    void follow(GameModel& game);
 
-    void show(const Box& box, std::int64_t score, Course course);
+    /// Updates what only this game shows.
+    virtual void sync() {}
 
-    virtual void togglePlayPause() = 0;
+    /// The game in the words of assistive technology.
+    [[nodiscard]] virtual QString name() const = 0;
+
+    /// While it is being played.
+    [[nodiscard]] virtual Box boxWhilePlaying() const;
+
+    /// What only this game counts.
+    [[nodiscard]] virtual GameNumber ownNumber() const = 0;
 
 private:
-    [[nodiscard]] QList<GameControl> controlsOf(Course course) const;
+    struct Numbers {
+        GameNumber own;
+        GameNumber level;
+        GameNumber best;
+        bool operator==(const Numbers&) const = default;
+    };
+
+    void show();
+    [[nodiscard]] Box box() const;
+    [[nodiscard]] std::vector<GameControl> controlsNow() const;
 
     const std::vector<Steering> steering_;
+    GameModel* game_ = nullptr;
     Box box_;
     QString score_ = "0";
+    Numbers numbers_;
     bool over_ = false;
-    QList<GameControl> controls_;
+    RowList<GameControl> controls_;
+    Connection changed_;
 };
 
 }  // namespace tidewatch
