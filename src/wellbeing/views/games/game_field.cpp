@@ -11,6 +11,17 @@ namespace {
 
 constexpr double groundRadius = 4;
 
+/// The least number of points that is a whole number of screen pixels; 0 if it is more than a few. What is
+/// repainted must not end within a pixel, which would keep a part of what was there.
+int pointsOfWholePixels(double ratio) {
+    constexpr int most = 8;
+    for (int points = 1; points <= most; ++points) {
+        const double pixels = points * ratio;
+        if (std::abs(pixels - std::round(pixels)) < 1e-6) return points;
+    }
+    return 0;
+}
+
 }  // namespace
 
 GameField::GameField(QQuickItem* parent) : QQuickPaintedItem(parent) {
@@ -44,20 +55,23 @@ void GameField::setEdge(const QColor& color) {
 void GameField::paint(QPainter* painter) {
     painter->setPen(Qt::NoPen);
     if (ground_.alpha() > 0) {
+        const auto line = onPixels({0, 0, 1, 1}).width();
         painter->setBrush(ground_);
-        painter->setPen(QPen(edge_, 1));
-        painter->drawRoundedRect(QRectF(QPointF(), size()).adjusted(0.5, 0.5, -0.5, -0.5), groundRadius,
-                                 groundRadius);
+        painter->setPen(QPen(edge_, line));
+        painter->drawRoundedRect(QRectF(QPointF(), size()).adjusted(line / 2, line / 2, -line / 2, -line / 2),
+                                 groundRadius, groundRadius);
         painter->setPen(Qt::NoPen);
     }
     paintField(*painter, painter->hasClipping() ? painter->clipBoundingRect() : QRectF(QPointF(), size()));
 }
 
+double GameField::pixelRatio() const {
+    return window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
+}
+
 QRectF GameField::onPixels(const QRectF& rect) const {
-    const double ratio = window() != nullptr ? window()->effectiveDevicePixelRatio() : 1;
-    const auto nearest = [ratio](double edge) { return std::round(edge * ratio) / ratio; };
-    const QPointF topLeft(nearest(rect.left()), nearest(rect.top()));
-    return {topLeft, QPointF(nearest(rect.right()), nearest(rect.bottom()))};
+    const auto nearest = [ratio = pixelRatio()](double length) { return std::round(length * ratio) / ratio; };
+    return {nearest(rect.x()), nearest(rect.y()), nearest(rect.width()), nearest(rect.height())};
 }
 
 QColor GameField::colorAt(int index, const QColor& otherwise) const {
@@ -65,7 +79,15 @@ QColor GameField::colorAt(int index, const QColor& otherwise) const {
 }
 
 void GameField::repaint(const QRectF& area) {
-    update(area.adjusted(-1, -1, 1, 1).toAlignedRect());
+    const int step = pointsOfWholePixels(pixelRatio());
+    if (step == 0) {
+        update();
+        return;
+    }
+    const auto down = [step](double edge) { return static_cast<int>(std::floor((edge - 1) / step)) * step; };
+    const auto up = [step](double edge) { return static_cast<int>(std::ceil((edge + 1) / step)) * step; };
+    const QPoint topLeft(down(area.left()), down(area.top()));
+    update(QRect(topLeft, QSize(up(area.right()) - topLeft.x(), up(area.bottom()) - topLeft.y())));
 }
 
 void GameField::geometryChange(const QRectF& to, const QRectF& from) {

@@ -42,7 +42,8 @@ protected:
     /// Paints what touches `dirty`, in the item's coordinates, over the ground.
     virtual void paintField(QPainter& painter, const QRectF& dirty) = 0;
 
-    /// `rect`, its edges moved to the nearest screen pixels.
+    /// `rect` moved to the nearest screen pixels and of the nearest size in whole pixels, so that equal
+    /// rectangles stay equal.
     [[nodiscard]] QRectF onPixels(const QRectF& rect) const;
 
     /// The theme's colour for `index`, from 0; `otherwise` if the theme has none.
@@ -55,6 +56,8 @@ protected:
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
+    [[nodiscard]] double pixelRatio() const;
+
     template <class Value>
     void changeLook(Value& value, const Value& to);
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 
+#include "wellbeing/views/games/game_colors.h"
 #include "wellbeing/views/games/game_field.h"
 #include "wellbeing/views/games/tetris_presenter.h"
 
@@ -45,6 +46,9 @@ private:
 
     [[nodiscard]] Looks looksOf(const TetrisModel& model) const;
     [[nodiscard]] QRectF place(int row, int column) const;
+    /// What is drawn there.
+    [[nodiscard]] QRectF square(int row, int column) const;
+    void drawMark(QPainter& painter, PieceMark mark, const QRectF& cell, const QColor& color) const;
     void sync();
 
     QPointer<TetrisPresenter> presenter_;

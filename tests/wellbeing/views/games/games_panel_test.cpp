@@ -6,7 +6,6 @@
 #include <QtTest/QTest>
 #include <chrono>
 
-#include "wellbeing/views/games/game_field.h"
 #include "wellbeing/views/games/games_scene.h"
 
 namespace tidewatch {
@@ -30,6 +29,17 @@ struct GamesPanelTest : testing::Test, GamesScene {
     }
     [[nodiscard]] const TetrisModel& tetris() { return presenter_.tetris()->model(); }
     [[nodiscard]] const BreakoutModel& bricks() { return presenter_.breakout()->model(); }
+
+    /// The colour of the board's cell, beside the mark in its middle.
+    [[nodiscard]] QColor colorOfCell(int row, int column) { return colorInCell(row, column, 0.25); }
+    [[nodiscard]] QColor colorInCell(int row, int column, double place) {
+        constexpr double cell = 15;
+        const auto at = the("tetrisField").mapToScene({(column + place) * cell, (row + place) * cell});
+        const auto seen = picture();
+        // Not rounded, so that the middle of an odd number of pixels is the one in the middle.
+        const auto pixel = at * seen.devicePixelRatio();
+        return seen.pixelColor(static_cast<int>(pixel.x()), static_cast<int>(pixel.y()));
+    }
 
     /// What is on the screen must be what a fresh drawing of everything gives.
     void expectNothingStale(const char* field) {
@@ -205,12 +215,8 @@ TEST_F(GamesPanelTest, FewColoursWrapAndWithoutAnyThePiecesArePlain) {
     random_.addPieces("IIZT");
     play();
     showPanel();
-    auto& field = static_cast<GameField&>(the("tetrisField"));
-    const auto colorOfThePiece = [&] {
-        const auto place = field.mapToScene({3.5 * 15, 0.5 * 15}).toPoint();
-        const auto seen = picture();
-        return seen.pixelColor(place * seen.devicePixelRatio());
-    };
+    auto& field = the("tetrisField");
+    const auto colorOfThePiece = [&] { return colorOfCell(0, 3); };
     field.setProperty("pieceColors", QVariant::fromValue(QList<QColor>{Qt::red, Qt::green, Qt::blue}));
     EXPECT_EQ(colorOfThePiece(), QColor(Qt::red)) << "the seventh of three";
     field.setProperty("pieceColors", QVariant::fromValue(QList<QColor>{}));
@@ -224,14 +230,27 @@ TEST_F(GamesPanelTest, EveryThemeDrawsItsOwnColours) {
     showPanel();
     for (const auto& theme : themes_.themes()) {
         theme_.switchTo(theme.id);
-        const auto place = the("tetrisField").mapToScene({3.5 * 15, 0.5 * 15}).toPoint();
-        const auto seen = picture();
         const auto& piece = theme.dashboard.gamePieces[3];
-        const auto color = seen.pixelColor(place * seen.devicePixelRatio());
+        const auto color = colorOfCell(0, 3);
         EXPECT_NEAR(color.redF(), piece.red, 0.01) << theme.id;
         EXPECT_NEAR(color.greenF(), piece.green, 0.01) << theme.id;
         EXPECT_NEAR(color.blueF(), piece.blue, 0.01) << theme.id;
     }
+}
+
+TEST_F(GamesPanelTest, PiecesOfSimilarColoursCarryMarks) {
+    random_.addPieces("JJISOO");
+    play();
+    showPanel();
+    const auto isMarked = [&](int row, int column) {
+        return colorInCell(row, column, 0.5) != colorOfCell(row, column);
+    };
+    EXPECT_FALSE(isMarked(1, 3)) << "the bar";
+    pressKeys("_");
+    EXPECT_TRUE(isMarked(1, 3)) << "S";
+    pressKeys("_");
+    EXPECT_TRUE(isMarked(1, 3)) << "the square";
+    EXPECT_FALSE(isMarked(14, 3)) << "its ghost";
 }
 
 TEST_F(GamesPanelTest, EverythingFitsIntoTheWidget) {
