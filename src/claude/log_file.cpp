@@ -1,6 +1,9 @@
 #include "claude/log_file.h"
 
+#include <simdjson.h>
+
 #include <algorithm>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <span>
@@ -21,6 +24,9 @@ constexpr std::size_t maxLineSize = std::size_t(1) << 30;
 // place: log lines end in identifiers and times.
 constexpr std::uint64_t maxOverlap = 64;
 
+// More models than a log usually has.
+constexpr std::size_t maxKnownModels = 16;
+
 std::size_t overlapOf(std::uint64_t offset) {
     return static_cast<std::size_t>(std::min(offset, maxOverlap));
 }
@@ -33,8 +39,10 @@ bool isUtf8(std::string_view text) {
     return simdjson::validate_utf8(text.data(), text.size());
 }
 
-std::string_view wholeLines(std::string_view text) {
-    return text.substr(0, text.rfind('\n') + 1);
+// The position after the last newline. Lines are long, and rfind() is slow.
+std::size_t lastLineBegin(std::string_view text) {
+    const auto* newline = static_cast<const char*>(::memrchr(text.data(), '\n', text.size()));
+    return newline ? static_cast<std::size_t>(newline - text.data()) + 1 : 0;
 }
 
 bool hasGrown(const LogFile& file, const FileInfo& found) {
@@ -95,9 +103,11 @@ bool LogFileReader::readPieces(platform::FileReader& reader, std::uint64_t lengt
         if (!std::exchange(isCompared, true) && fingerprintOf(text.substr(0, overlap)) != file.fingerprint) {
             return false;
         }
-        const auto lines = wholeLines(text.substr(overlap));
-        file.isText = addLines(lines, file.rows);
+        const auto unread = text.substr(overlap);
+        const auto lines = unread.substr(0, lastLineBegin(unread));
+        file.isText = isUtf8(lines);
         if (!file.isText) return true;
+        addLines(lines, file.rows);
         file.offset += lines.size();
         const auto end = overlap + lines.size();
         overlap = overlapOf(file.offset);
@@ -107,7 +117,7 @@ bool LogFileReader::readPieces(platform::FileReader& reader, std::uint64_t lengt
     }
     const auto rest = std::string_view(buffer_.data(), used).substr(overlap);
     file.isText = isUtf8(rest);
-    if (findUsage(rest, 0) != std::string_view::npos) file.unfinished = rowOf(rest);
+    if (file.isText && findUsage(rest, 0) != std::string_view::npos) file.unfinished = rowOf(rest);
     return true;
 }
 
@@ -122,39 +132,31 @@ bool LogFileReader::makeRoom(std::size_t used) {
     return true;
 }
 
-bool LogFileReader::addLines(std::string_view lines, std::vector<UsageRow>& rows) {
-    std::size_t begin = 0;
-    std::size_t unchecked = 0;  // what comes before is UTF-8
-    for (auto hit = findUsage(lines, 0); hit != std::string_view::npos; hit = findUsage(lines, begin)) {
-        auto end = lines.find('\n', begin);
-        while (end < hit) {
-            begin = end + 1;
-            end = lines.find('\n', begin);
-        }
+void LogFileReader::addLines(std::string_view lines, std::vector<UsageRow>& rows) {
+    for (auto hit = findUsage(lines, 0); hit != std::string_view::npos;) {
+        const auto begin = lastLineBegin(lines.substr(0, hit));
+        const auto end = lines.find('\n', hit);
         if (const auto row = rowOf(lines.substr(begin, end - begin))) merging_.add(*row, rows);
-        // The parser has checked the line.
-        if (lineReader_.wasJson()) {
-            if (!isUtf8(lines.substr(unchecked, begin - unchecked))) return false;
-            unchecked = end;
-        }
-        begin = end + 1;
+        hit = findUsage(lines, end + 1);
     }
-    return isUtf8(lines.substr(unchecked));
+}
+
+const LogFileReader::Model& LogFileReader::knownModel(std::string_view name) {
+    const auto known = std::ranges::find(knownModels_, name, &Model::name);
+    if (known != knownModels_.end()) return *known;
+    if (knownModels_.size() == maxKnownModels) knownModels_.clear();
+    return knownModels_.emplace_back(Model{std::string(name), models_.idOf(name), &pricingOf(name)});
 }
 
 std::optional<UsageRow> LogFileReader::rowOf(std::string_view line) {
     const auto read = lineReader_.read(line);
     if (!read) return std::nullopt;
-    if (!modelId_ || model_ != read->model) {
-        model_ = read->model;
-        modelId_ = models_.idOf(model_);
-        pricing_ = &pricingOf(model_);
-    }
+    const auto& model = knownModel(read->model);
     UsageRow row;
     row.first = read->date;
-    row.model = *modelId_;
+    row.model = model.id;
     row.tokens = read->tokens;
-    row.cost.add(costUsd(read->tokens, *pricing_));
+    row.cost.add(costUsd(read->tokens, *model.pricing));
     row.lines = 1;
     if (read->tokens.output > 0) {
         row.linesWithOutput = 1;

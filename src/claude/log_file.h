@@ -51,14 +51,19 @@ public:
 
 private:
     enum class Start { atBegin, atOffset };
+    struct Model {
+        std::string name;
+        std::uint32_t id;
+        const ModelPricing* pricing;
+    };
 
     [[nodiscard]] bool tryUpdate(const std::string& path, const platform::FileInfo& found, Start start,
                                  LogFile& file);
     [[nodiscard]] bool readPieces(platform::FileReader& reader, std::uint64_t length, std::size_t overlap,
                                   LogFile& file);
     [[nodiscard]] bool makeRoom(std::size_t used);
-    // Returns whether the lines are UTF-8.
-    [[nodiscard]] bool addLines(std::string_view lines, std::vector<UsageRow>& rows);
+    void addLines(std::string_view lines, std::vector<UsageRow>& rows);
+    [[nodiscard]] const Model& knownModel(std::string_view name);
     [[nodiscard]] std::optional<UsageRow> rowOf(std::string_view line);
 
     const platform::FileSystem& files_;
@@ -67,9 +72,7 @@ private:
     UsageMerging merging_;
     LogLineReader lineReader_;
     std::vector<char> buffer_;
-    std::string model_;  // of the last line, with its id and prices
-    std::optional<std::uint32_t> modelId_;
-    const ModelPricing* pricing_ = nullptr;
+    std::vector<Model> knownModels_;  // of late
 };
 
 }  // namespace tidewatch

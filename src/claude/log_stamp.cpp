@@ -1,6 +1,5 @@
 #include "claude/log_stamp.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "base/characters.h"
@@ -15,14 +14,19 @@ bool isDigit(char c) {
 }
 
 bool hasStampForm(std::string_view text) {
-    return std::ranges::equal(text, stampForm, [](char c, char form) {
-        return form == '0' ? isDigit(c) : c == form || (c == ' ' && form == 'T');
-    });
+    if (text.size() != stampForm.size()) return false;
+    bool fits = true;
+    for (std::size_t i = 0; i < stampForm.size(); ++i) {
+        const char form = stampForm[i];
+        fits &= form == '0' ? isDigit(text[i]) : text[i] == form || (form == 'T' && text[i] == ' ');
+    }
+    return fits;
 }
 
-unsigned numberAt(std::string_view text, std::size_t position, std::size_t length) {
+template <std::size_t Length>
+unsigned numberAt(const char* digits) {
     unsigned number = 0;
-    for (const char c : text.substr(position, length)) number = number * 10 + static_cast<unsigned>(c - '0');
+    for (std::size_t i = 0; i < Length; ++i) number = number * 10 + static_cast<unsigned>(digits[i] - '0');
     return number;
 }
 
@@ -34,12 +38,12 @@ std::optional<std::chrono::sys_seconds> parseLogStamp(std::string_view stamp) {
     // An accent after the 19th byte belongs to the 19th character, which is then no digit.
     const bool mayGoOn = stamp.size() > text.size() && static_cast<unsigned char>(stamp[text.size()]) >= 0x80;
     if (mayGoOn && firstCharacters(stampForm.size(), stamp).size() != text.size()) return std::nullopt;
-    const std::chrono::year_month_day date(std::chrono::year(static_cast<int>(numberAt(text, 0, 4))),
-                                           std::chrono::month(numberAt(text, 5, 2)),
-                                           std::chrono::day(numberAt(text, 8, 2)));
-    const auto hour = numberAt(text, 11, 2);
-    const auto minute = numberAt(text, 14, 2);
-    const auto second = numberAt(text, 17, 2);
+    const std::chrono::year_month_day date(std::chrono::year(static_cast<int>(numberAt<4>(text.data() + 0))),
+                                           std::chrono::month(numberAt<2>(text.data() + 5)),
+                                           std::chrono::day(numberAt<2>(text.data() + 8)));
+    const auto hour = numberAt<2>(text.data() + 11);
+    const auto minute = numberAt<2>(text.data() + 14);
+    const auto second = numberAt<2>(text.data() + 17);
     if (!date.ok() || static_cast<int>(date.year()) < 1 || hour > 23 || minute > 59 || second > 59)
         return std::nullopt;
     return std::chrono::sys_days(date) + std::chrono::hours(hour) + std::chrono::minutes(minute) +

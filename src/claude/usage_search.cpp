@@ -1,6 +1,9 @@
 #include "claude/usage_search.h"
 
-#include "claude/byte_vector.h"
+#include <algorithm>
+#include <bit>
+
+#include "claude/text_blocks.h"
 
 namespace tidewatch {
 namespace {
@@ -8,50 +11,57 @@ namespace {
 constexpr std::string_view usageKey = "\"usage\"";
 // The letters of the key, escaped, are \u0061, \u0065, \u0067, \u0073 and \u0075.
 constexpr std::string_view escape = "\\u00";
-constexpr std::size_t blockSize = 4 * byteVectorSize;
+constexpr std::size_t longestBeforeEnd = 30;  // of the key with all its letters escaped
 
-bool beginsWithUsage(std::string_view text) {
-    if (text.starts_with(usageKey)) return true;
-    return text.starts_with(escape) && text.size() > escape.size() &&
-           (text[escape.size()] == '6' || text[escape.size()] == '7');
+// What is searched for is the end of the key, because a text in a string has a backslash there: a g or the
+// last digit but one of an escaped e, an e or the last digit, and the quote.
+constexpr std::size_t endLength = 3;
+constexpr std::size_t beforeEnd = usageKey.size() - endLength;
+
+bool isUsageEnd(std::string_view end) {
+    return end.size() >= endLength && (end[0] == 'g' || end[0] == '6' || end[0] == '7') &&
+           (end[1] == 'e' || end[1] == '5') && end[2] == '"';
 }
 
-// Of each byte whether a quote or a backslash stands there, and a u after it. Reads one byte past the vector.
-ByteVector possibleIn(const char* text) {
-    const auto first = loadBytes(text);
-    return ((first == '"') | (first == '\\')) & (loadBytes(text + 1) == 'u');
+// The position of a key that ends at `end`, or one in it; npos if there is none after `from`.
+std::size_t keyAt(std::string_view lines, std::size_t from, std::size_t end) {
+    if (!isUsageEnd(lines.substr(end))) return std::string_view::npos;
+    const auto before = lines.substr(from, end - from);
+    if (before.ends_with(usageKey.substr(0, beforeEnd)) && lines[end] == 'g' && lines[end + 1] == 'e') {
+        return end - beforeEnd;
+    }
+    const auto longest = before.substr(before.size() - std::min(before.size(), longestBeforeEnd));
+    return longest.find(escape) != std::string_view::npos ? end : std::string_view::npos;
 }
 
-// Of these, whether "us begins there, or \u0 and a letter of the key. Reads four bytes past the vector.
-ByteVector likelyIn(const char* text) {
-    const auto first = loadBytes(text);
-    const auto third = loadBytes(text + 2);
-    const auto key = (first == '"') & (third == 's');
-    const auto escaped = (first == '\\') & (third == '0') & ((loadBytes(text + 4) | 1) == '7');
-    return (key | escaped) & (loadBytes(text + 1) == 'u');
+template <class Blocks>
+[[gnu::always_inline]] inline std::size_t findIn(std::string_view lines, std::size_t from) {
+    auto i = from;
+    for (; i + textBlockSize + endLength <= lines.size(); i += textBlockSize) {
+        if (!Blocks::mayEndUsage(lines.data() + i)) continue;
+        for (auto mask = Blocks::usageEnds(lines.data() + i); mask != 0; mask &= mask - 1) {
+            const auto end = i + static_cast<std::size_t>(std::countr_zero(mask));
+            if (const auto key = keyAt(lines, from, end); key != std::string_view::npos) return key;
+        }
+    }
+    for (; i < lines.size(); ++i) {
+        if (const auto key = keyAt(lines, from, i); key != std::string_view::npos) return key;
+    }
+    return std::string_view::npos;
 }
 
-template <class Search>
-bool isAnyInBlock(const char* block, Search search) {
-    return isAnySet(search(block) | search(block + byteVectorSize) | search(block + 2 * byteVectorSize) |
-                    search(block + 3 * byteVectorSize));
+#if defined(__x86_64__)
+[[gnu::target("avx2")]]
+#endif
+std::size_t
+findWide(std::string_view lines, std::size_t from) {
+    return findIn<WideBlocks>(lines, from);
 }
 
 }  // namespace
 
 std::size_t findUsage(std::string_view lines, std::size_t from) {
-    auto i = from;
-    for (; i + blockSize + usageKey.size() <= lines.size(); i += blockSize) {
-        const auto* begin = lines.data() + i;
-        if (!isAnyInBlock(begin, possibleIn) || !isAnyInBlock(begin, likelyIn)) continue;
-        for (auto at = lines.find('u', i + 1); at <= i + blockSize; at = lines.find('u', at + 1)) {
-            if (beginsWithUsage(lines.substr(at - 1))) return at - 1;
-        }
-    }
-    for (; i < lines.size(); ++i) {
-        if (beginsWithUsage(lines.substr(i))) return i;
-    }
-    return std::string_view::npos;
+    return WideBlocks::isSupported() ? findWide(lines, from) : findIn<PlainBlocks>(lines, from);
 }
 
 }  // namespace tidewatch

@@ -175,7 +175,7 @@ private:
             result.replace(result.find(from), from.size(), to);
             return result;
         };
-        switch (below(32)) {
+        switch (below(50)) {
             case 0:
                 return "";
             case 1:
@@ -240,9 +240,57 @@ private:
                        usage + "}";
             case 30:
                 return "{" + stamped + R"(,"text":"\"usage" ,)" + usage + R"(,"model":"\u00e9"})";
-            default:
+            case 31:
                 return "\xEF\xBB\xBF" + text;
+            // Of strings a quick reader looks for the end only, in blocks that begin anywhere.
+            case 32:
+                return "{" + stamped + R"(,"text":")" + filler() + R"(\q",)" + usage + "}";
+            case 33:
+                return "{" + stamped + R"(,"text":")" + filler() + "\t\"," + usage + "}";
+            case 34:
+                return "{" + stamped + R"(,"text":")" + filler() + R"(\u00e9 \" \\\" \/",)" + usage + "}";
+            case 35:
+                return "{" + stamped + R"(,"text":")" + filler() + R"(\ud83d\ude42",)" + usage + "}";
+            case 36:
+                return "{" + stamped + R"(,"text":")" + filler() + R"(\udc00",)" + usage + "}";
+            case 37:
+                return "{" + stamped + R"(,"text":")" + filler() + R"(\u12g4",)" + usage + "}";
+            case 38:
+                return "{" + stamped + R"(,"text":")" + filler() +
+                       std::string(static_cast<std::size_t>(below(9)), '\\') + "\"," + usage + "}";
+            case 39:
+                return "{" + stamped + R"(,"text":")" + filler() + usage + "}";
+            case 40:
+                return "{" + stamped + R"(,"text":")" + filler() + R"(é — 日本語",)" + usage + "}";
+            // The same keys in other spellings, which count as duplicates.
+            case 41:
+                return "{" + stamped + "," + usage + R"(,"usag\u0065":{"output_tokens":11}})";
+            case 42:
+                return "{" + stamped + R"(,"usage":{"output_tokens":3,"output_\u0074okens":12}})";
+            case 43:
+                return "{" + stamped + R"(,"t\u0069mestamp":"2020-01-01T00:00:00",)" + usage + "}";
+            case 44:
+                return R"({"timestamp":")" + entry.stamp.substr(0, 16) + R"(:\u0030\u0031",)" + usage + "}";
+            case 45:
+                return "{" + stamped + "," + usage + R"(,"model":"claude-\u006fpus"})";
+            case 46:
+                return "{" + stamped + R"(,"x":)" + std::string(70, '[') + std::string(70, ']') + "," +
+                       usage + "}";
+            case 47:
+                return "{" + stamped + R"(,"x":[)" + manyStrings() + "]," + usage + "}";
+            case 48:
+                return "{" + stamped + R"(,"x":[-0,0.5e+3,-12,true,false,null,{},[],""],)" + usage + "}";
+            default:
+                return "{" + stamped + R"(,"x":[-0,0.5e+,"y"],)" + usage + "}";
         }
+    }
+
+    std::string filler() { return std::string(static_cast<std::size_t>(below(150)), 'x'); }
+
+    std::string manyStrings() {
+        std::string strings = R"("")";
+        for (int i = 1500 + below(1200); i > 0; --i) strings += R"(,"")";
+        return strings;
     }
 
     ClaudeWorld& world_;

@@ -19,8 +19,8 @@ TEST(UsageSearch, FindsTheKeyAtEveryPosition) {
 }
 
 TEST(UsageSearch, FindsAKeyWithAnEscapedLetter) {
-    for (const auto* key :
-         {R"("\u0075sage")", R"("u\u0073age")", R"("us\u0061ge")", R"("usa\u0067e")", R"("usag\u0065")"}) {
+    for (const auto* key : {R"("\u0075sage")", R"("u\u0073age")", R"("us\u0061ge")", R"("usa\u0067e")",
+                            R"("usag\u0065")", R"("\u0075\u0073\u0061\u0067\u0065")"}) {
         for (std::size_t before = 0; before < 130; ++before) {
             EXPECT_NE(findUsage(std::string(before, ' ') + key, 0), std::string::npos) << key << before;
         }
@@ -28,8 +28,9 @@ TEST(UsageSearch, FindsAKeyWithAnEscapedLetter) {
 }
 
 TEST(UsageSearch, PassesOverEscapedTextAndOtherWords) {
-    for (const auto* text : {R"(\"usage\")", R"("usages")", R"("Usage")", R"("us age")", R"(\u001b[0m)",
-                             R"("usage)", R"(\u00)"}) {
+    for (const auto* text :
+         {R"(\"usage\")", R"("usages")", R"("Usage")", R"("us age")", R"(\u001b[0m)", R"("usage)", R"(\u00)",
+          R"("message")", R"("cage")", R"("usa6e")", R"("usag5")"}) {
         for (std::size_t before = 0; before < 130; ++before) {
             EXPECT_EQ(findUsage(std::string(before, ' ') + text, 0), std::string::npos) << text << before;
         }

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "claude/log_file.h"
+#include "claude/quick_line.h"
+#include "claude/strict_line.h"
 #include "platform/fake/fake_time_zone.h"
 #include "platform/fake/memory_file_system.h"
 #include "tests/fuzz/fuzz_target.h"
@@ -107,11 +109,23 @@ Sums readGrowing(std::string_view content) {
     return sums;
 }
 
+// The quick reading of a line may be uncertain, but says nothing else than the strict one.
+void checkQuickReading(std::string_view line) {
+    const auto padded =
+        std::string(line) + std::string(StrictLineReader::padding, line.empty() ? 'x' : line[0]);
+    const auto text = std::string_view(padded).substr(0, line.size());
+    const auto quick = QuickLineReader().read(text);
+    if (!quick) return;
+    StrictLineReader strict;
+    require(quick == strict.read(text), "the quick reading says what the strict one does");
+}
+
 void checkLines(std::string_view content) {
     Sums read;
     for (std::size_t begin = 0; begin <= content.size();) {
         const auto end = std::min(content.find('\n', begin), content.size());
         const auto line = content.substr(begin, end - begin);
+        checkQuickReading(line);
         if (isDeep(line)) return;
         const auto sums = readWhole(line);
         const auto output = outputOf(line);
