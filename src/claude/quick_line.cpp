@@ -14,11 +14,10 @@ bool hasEscapes(std::string_view text) {
     return text.find('\\') != std::string_view::npos;
 }
 
-// Whether `text` is an integer without a sign that fits into 64 bits by its length alone.
+// Whether a value is an integer without a sign that fits into 64 bits by its length alone.
 bool isShortInteger(std::string_view text) {
     constexpr std::size_t maxLength = 18;
-    return text.size() <= maxLength && (text.size() == 1 || text[0] != '0') &&
-           std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
+    return text.size() <= maxLength && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
 }
 
 std::int64_t shortInteger(std::string_view text) {

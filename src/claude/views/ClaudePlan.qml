@@ -16,6 +16,8 @@ Card {
         Heading {
             Layout.fillWidth: true
             text: root.presenter.planTitle
+            // Its unit stays in lower case.
+            font: Style.tracked(Style.sans(11, Style.Semibold), 1.8)
         }
         RowLayout {
             Layout.fillWidth: true

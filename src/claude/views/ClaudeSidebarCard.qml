@@ -42,29 +42,18 @@ Card {
         LimitLine {
             objectName: "session"
             Layout.fillWidth: true
-            title: root.presenter.sessionTitle
-            figures: root.presenter.sessionPercent
-            fraction: root.presenter.sessionFraction
-            color: root.presenter.sessionColor
-            remark: root.presenter.sessionEnd
-            reset: root.presenter.sessionReset
+            limit: root.presenter.session
         }
         LimitLine {
             objectName: "week"
             Layout.fillWidth: true
-            title: root.presenter.weekTitle
-            figures: root.presenter.weekFigures + " " + root.presenter.weekPercent
-            fraction: root.presenter.weekFraction
-            color: root.presenter.weekColor
-            remark: ""
-            reset: root.presenter.weekReset
+            limit: root.presenter.week
         }
         RowLayout {
             Layout.fillWidth: true
             spacing: 6
             Accessible.role: Accessible.StaticText
-            Accessible.name: root.presenter.todayTitle + ": " + root.presenter.todayConversations + " "
-                             + root.presenter.todayTokens
+            Accessible.name: root.presenter.today.accessibleText
 
             Symbol {
                 name: "bubble.left.and.bubble.right"
@@ -72,20 +61,14 @@ Card {
                 color: Style.palette.mute
             }
             PlainText {
-                text: root.presenter.todayTitle
+                text: root.presenter.today.label
                 font: Style.sans(12, Style.Medium)
                 color: Style.palette.primaryText
                 Accessible.ignored: true
             }
             PlainText {
-                text: root.presenter.todayConversations
-                font: Style.sans(11, Style.Regular)
-                color: Style.palette.secondaryText
-                Accessible.ignored: true
-            }
-            PlainText {
                 Layout.fillWidth: true
-                text: root.presenter.todayTokens
+                text: root.presenter.today.value
                 elide: Text.ElideRight
                 font: Style.sans(11, Style.Regular)
                 color: Style.palette.secondaryText

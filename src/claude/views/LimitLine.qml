@@ -1,34 +1,30 @@
 import QtQuick
 import QtQuick.Layouts
+import Tidewatch.Claude
 import Tidewatch.Ui
 
-/*! A limit of the plan: title and share, a bar, and two remarks below it. */
+/*! A limit of the plan: its name and use, a bar, and below it when it begins anew. */
 ColumnLayout {
     id: root
 
-    required property string title
-    required property string figures
-    required property real fraction
-    required property color color
-    required property string remark
-    required property string reset
+    required property claudeLimit limit
 
     spacing: 5
     Accessible.role: Accessible.StaticText
-    Accessible.name: title + ": " + figures + ", " + remark + " " + reset
+    Accessible.name: limit.accessibleText
 
     RowLayout {
         Layout.fillWidth: true
 
         PlainText {
             Layout.fillWidth: true
-            text: root.title
+            text: root.limit.label
             font: Style.sans(12, Style.Medium)
             color: Style.palette.primaryText
             Accessible.ignored: true
         }
         PlainText {
-            text: root.figures
+            text: root.limit.value
             font: Style.sans(11, Style.Regular)
             color: Style.palette.secondaryText
             Accessible.ignored: true
@@ -36,14 +32,13 @@ ColumnLayout {
     }
     Meter {
         Layout.fillWidth: true
-        fraction: root.fraction
-        color: root.color
+        fraction: root.limit.fraction
+        color: root.limit.color
         track: Style.palette.stroke
     }
     PlainText {
         Layout.fillWidth: true
-        visible: text !== ""
-        text: root.remark
+        text: root.limit.reset
         wrapMode: Text.WordWrap
         font: Style.sans(11, Style.Regular)
         color: Style.palette.secondaryText
@@ -51,7 +46,8 @@ ColumnLayout {
     }
     PlainText {
         Layout.fillWidth: true
-        text: root.reset
+        visible: text !== ""
+        text: root.limit.remark
         wrapMode: Text.WordWrap
         font: Style.sans(11, Style.Regular)
         color: Style.palette.secondaryText

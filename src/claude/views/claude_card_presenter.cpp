@@ -11,6 +11,28 @@ namespace {
 
 constexpr std::chrono::seconds sessionLength(18000);
 
+ClaudeLimit weekOf(const ClaudeSnapshot& snap, Instant now) {
+    constexpr auto limit = ClaudeCardPresenter::limitWeeklyTokens;
+    const auto output = snap.week.outputTokens;
+    ClaudeLimit week;
+    week.label = "Semana";
+    week.fraction = std::min(static_cast<double>(output) / static_cast<double>(limit), 1.0);
+    week.value = text(fmtK(output)) + " / " + text(fmtK(limit)) + " (" + wholePercent(week.fraction) + ")";
+    week.color = limitColor(week.fraction);
+    week.reset = nextMondayLabel(now);
+    return week;
+}
+
+ClaudeFigure figureOf(const ClaudeUsagePeriod& today) {
+    ClaudeFigure figure;
+    figure.id = "today";
+    figure.label = "Hoy";
+    figure.value =
+        QString::number(today.requests) + " convs · " + text(fmtK(today.outputTokens)) + " tok out";
+    figure.accessibleText = figure.label + ": " + figure.value;
+    return figure;
+}
+
 }  // namespace
 
 ClaudeCardPresenter::ClaudeCardPresenter(const platform::Clock& clock, platform::MainLoop& mainLoop,
@@ -32,36 +54,29 @@ void ClaudeCardPresenter::update() {
     const auto now = clock_.now();
     title_ = "CLAUDE · " + text(snap.plan).toUpper();
     cost_ = "~" + text(snap.month.displayCost()) + " API";
-    updateSession(snap, now);
-    updateWeek(snap, now);
-    todayConversations_ = QString::number(snap.today.requests) + " convs";
-    todayTokens_ = "· " + text(fmtK(snap.today.outputTokens)) + " tok out";
+    session_ = sessionOf(snap, now);
+    week_ = weekOf(snap, now);
+    today_ = figureOf(snap.today);
     Q_EMIT figuresChanged();
 }
 
-void ClaudeCardPresenter::updateSession(const ClaudeSnapshot& snap, Instant now) {
+ClaudeLimit ClaudeCardPresenter::sessionOf(const ClaudeSnapshot& snap, Instant now) const {
+    ClaudeLimit session;
+    session.label = "Límite 5 h";
+    QString reset;
     if (!snap.windowStarted) {
-        sessionFraction_ = 0;
-        sessionEnd_ = "ventana fresca · sin actividad reciente";
-        sessionReset_ = "· nueva sesión disponible";
+        session.remark = "ventana fresca · sin actividad reciente";
+        reset = "nueva sesión disponible";
     } else {
         const auto end = *snap.windowStarted + sessionLength;
         const std::chrono::duration<double> elapsed = now - *snap.windowStarted;
-        sessionFraction_ = std::clamp(elapsed / sessionLength, 0.0, 1.0);
-        sessionEnd_ = "termina " + endTimeLabel(end, *clock_.timeZone());
-        sessionReset_ = "· reinicia en " + remainingTime(end - now);
+        session.fraction = std::clamp(elapsed / sessionLength, 0.0, 1.0);
+        session.remark = "termina " + endTimeLabel(end, *clock_.timeZone());
+        reset = "reinicia en " + remainingTime(end - now);
     }
-    sessionPercent_ = wholePercent(sessionFraction_);
-    sessionColor_ = limitColor(sessionFraction_);
-}
-
-void ClaudeCardPresenter::updateWeek(const ClaudeSnapshot& snap, Instant now) {
-    const auto output = snap.week.outputTokens;
-    weekFraction_ = std::min(static_cast<double>(output) / static_cast<double>(limitWeeklyTokens), 1.0);
-    weekFigures_ = text(fmtK(output)) + " / " + text(fmtK(limitWeeklyTokens));
-    weekPercent_ = "(" + wholePercent(weekFraction_) + ")";
-    weekColor_ = limitColor(weekFraction_);
-    weekReset_ = nextMondayLabel(now);
+    session.reset = wholePercent(session.fraction) + " · " + reset;
+    session.color = limitColor(session.fraction);
+    return session;
 }
 
 }  // namespace tidewatch

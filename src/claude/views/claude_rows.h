@@ -53,4 +53,29 @@ public:
     bool operator==(const ClaudeBar&) const = default;
 };
 
+/// A limit of the plan, and how much of it is used.
+class ClaudeLimit final {
+    Q_GADGET
+    QML_VALUE_TYPE(claudeLimit)
+    Q_PROPERTY(QString label MEMBER label FINAL)
+    Q_PROPERTY(QString value MEMBER value FINAL)
+    Q_PROPERTY(double fraction MEMBER fraction FINAL)
+    Q_PROPERTY(QColor color MEMBER color FINAL)
+    Q_PROPERTY(QString reset MEMBER reset FINAL)
+    Q_PROPERTY(QString remark MEMBER remark FINAL)
+    Q_PROPERTY(QString accessibleText READ accessibleText FINAL)
+
+public:
+    QString label;
+    QString value;        ///< beside the label; may be empty
+    double fraction = 0;  ///< 0 to 1
+    QColor color;
+    QString reset;   ///< when it begins anew
+    QString remark;  ///< may be empty
+
+    [[nodiscard]] QString accessibleText() const;
+
+    bool operator==(const ClaudeLimit&) const = default;
+};
+
 }  // namespace tidewatch

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <cstdio>
+#include <functional>
 
 #include "tests/claude/views/claude_scene.h"
 #include "ui/style/fonts.h"
@@ -28,17 +29,16 @@ int paintAll(const QString& path) {
     const QDir folder(path);
     if (!folder.mkpath(".")) return 1;
     QStringList warnings;
-    {
+    const auto paintState = [&](const QString& state, const std::function<void(ClaudeScene&)>& prepare) {
         ClaudeScene scene;
+        prepare(scene);
         scene.ClaudeViewsWorld::show();
-        paint(scene, folder, "empty");
+        paint(scene, folder, state);
         warnings += scene.viewWarnings_;
-    }
-    ClaudeScene scene;
-    scene.useForMonths();
-    scene.ClaudeViewsWorld::show();
-    paint(scene, folder, "used");
-    warnings += scene.viewWarnings_;
+    };
+    paintState("empty", [](ClaudeScene&) {});
+    paintState("quiet", [](ClaudeScene& scene) { scene.useLastMonth(); });
+    paintState("used", [](ClaudeScene& scene) { scene.useForMonths(); });
     for (const auto& warning : warnings) std::fprintf(stderr, "%s\n", qPrintable(warning));
     return warnings.isEmpty() ? 0 : 1;
 }

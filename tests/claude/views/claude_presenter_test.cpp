@@ -74,7 +74,7 @@ TEST_F(ClaudePresenterTest, WithoutLogs) {
 }
 
 TEST_F(ClaudePresenterTest, WithoutLogsOfThisMonth) {
-    machine_.putLog("a.jsonl", LogEntry{"2026-02-11T11:00:00", 5, 60000}.line());
+    useLastMonth();
     show();
     EXPECT_FALSE(tab_.hasNoLogs());
     EXPECT_FALSE(tab_.hasModels());
@@ -257,46 +257,43 @@ TEST_F(ClaudePresenterTest, AnUnknownRangeHasNoEffect) {
 TEST_F(ClaudePresenterTest, ASessionOlderThanFiveHoursIsFullRedAndHasNothingLeft) {
     machine_.putLog("a.jsonl", LogEntry{"2026-03-11T08:00:00", 1, 1}.line());
     show();
-    EXPECT_EQ(card_.sessionPercent(), "80%");
-    EXPECT_EQ(card_.sessionColor(), amber);
-    EXPECT_EQ(card_.sessionReset(), "· reinicia en 1h 0m");
-    EXPECT_EQ(card_.sessionEnd(), "termina 1:00 pm");
+    EXPECT_EQ(card_.session().reset, "80% · reinicia en 1h 0m");
+    EXPECT_EQ(card_.session().color, amber);
+    EXPECT_EQ(card_.session().remark, "termina 1:00 pm");
     machine_.mainLoop.runFor(hours(2));
-    EXPECT_EQ(card_.sessionPercent(), "100%");
-    EXPECT_EQ(card_.sessionColor(), red);
-    EXPECT_EQ(card_.sessionReset(), "· reinicia en 0m 0s");
+    EXPECT_EQ(card_.session().reset, "100% · reinicia en 0m 0s");
+    EXPECT_EQ(card_.session().color, red);
 }
 
 TEST_F(ClaudePresenterTest, TheSessionMovesWithTheClock) {
     machine_.putLog("a.jsonl", LogEntry{"2026-03-11T11:00:00", 1, 1}.line());
     show();
-    EXPECT_EQ(card_.sessionPercent(), "20%");
+    EXPECT_EQ(card_.session().reset, "20% · reinicia en 4h 0m");
     machine_.mainLoop.runFor(minutes(60));
-    EXPECT_EQ(card_.sessionPercent(), "40%");
+    EXPECT_EQ(card_.session().reset, "40% · reinicia en 3h 0m");
     machine_.clock.setNow(utc("2026-03-11T10:00:00"));
     machine_.mainLoop.runFor(seconds(1));
-    EXPECT_EQ(card_.sessionPercent(), "0%");
+    EXPECT_TRUE(card_.session().reset.startsWith("0% · ")) << qPrintable(card_.session().reset);
 }
 
 TEST_F(ClaudePresenterTest, WithoutASessionTheCardOffersANewOne) {
     machine_.putLog("a.jsonl", "");
     show();
-    EXPECT_EQ(card_.sessionPercent(), "0%");
-    EXPECT_EQ(card_.sessionEnd(), "ventana fresca · sin actividad reciente");
-    EXPECT_EQ(card_.sessionReset(), "· nueva sesión disponible");
+    EXPECT_EQ(card_.session().fraction, 0);
+    EXPECT_EQ(card_.session().reset, "0% · nueva sesión disponible");
+    EXPECT_EQ(card_.session().remark, "ventana fresca · sin actividad reciente");
 }
 
 TEST_F(ClaudePresenterTest, TheWeekIsMeasuredAgainstItsLimit) {
     machine_.putLog("a.jsonl", LogEntry{"2026-03-11T11:00:00", 1, 7875000}.line());
     show();
-    EXPECT_EQ(card_.weekFigures(), "7.9M / 8.8M");
-    EXPECT_EQ(card_.weekPercent(), "(90%)");
-    EXPECT_EQ(card_.weekColor(), red);
+    EXPECT_EQ(card_.week().value, "7.9M / 8.8M (90%)");
+    EXPECT_EQ(card_.week().color, red);
     machine_.appendToLog("a.jsonl", LogEntry{"2026-03-11T11:00:00", 1, 90000000}.line());
     usage_.monitor.forceRefresh();
     machine_.mainLoop.run();
-    EXPECT_EQ(card_.weekPercent(), "(100%)");
-    EXPECT_EQ(card_.weekFraction(), 1);
+    EXPECT_EQ(card_.week().value, "97.9M / 8.8M (100%)");
+    EXPECT_EQ(card_.week().fraction, 1);
 }
 
 TEST_F(ClaudePresenterTest, RemainingTimeHasHoursOrSeconds) {

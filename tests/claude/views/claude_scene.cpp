@@ -63,6 +63,10 @@ void ClaudeViewsWorld::useForMonths() {
                        serializeMonthHistory({{"2025-12", 61, 155, 20, 700, 8000, 100}}).value());
 }
 
+void ClaudeViewsWorld::useLastMonth() {
+    machine_.putLog("a.jsonl", test::LogEntry{"2026-02-11T11:00:00", 5, 60000}.line());
+}
+
 void ClaudeViewsWorld::show() {
     tab_.setVisible(true);
     card_.setVisible(true);

@@ -17,6 +17,9 @@ public:
     /// Months of believable usage, in logs and, of a month whose logs are gone, in the history's file.
     void useForMonths();
 
+    /// One line, of the month before.
+    void useLastMonth();
+
     /// Shows tab and card, and lets the scans that this starts end.
     void show();
 
