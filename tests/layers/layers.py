@@ -16,6 +16,8 @@ from pathlib import Path
 LIBRARIES = {
     "fmt": r"fmt/.*",
     "simdjson": r"simdjson\.h",
+    # The compiler's, for instructions that only some processors have.
+    "intrinsics": r"immintrin\.h",
     "utf8proc": r"utf8proc\.h",
     "qt": r"Q(t\w*|[A-Z]\w*)(/.*)?|q[a-z]+\.h|qt\w+\.h",
     "xcb": r"xcb/.*|X11/.*",
@@ -76,7 +78,7 @@ def rooms():
     below = "base platform/api"
     domain, domain_views = "", ""
     for name in DOMAIN:
-        plan[name] = room(below, "fmt simdjson")
+        plan[name] = room(below, "fmt simdjson intrinsics" if name == "claude" else "fmt simdjson")
         plan[f"{name}/views"] = room(f"{below} {name} shell/themes ui", "fmt qt")
         below += f" {name}"
         domain += f" {name}"
