@@ -48,8 +48,15 @@ public:
     virtual void requestFrame(WindowHandle window) = 0;
 
     /// The margins of the frame that the window has or, before it is shown, will get, as far as the desktop
-    /// has reported them; waits a few milliseconds at most.
+    /// has reported them; waits a few milliseconds at most. An estimate for a window that is not shown yet
+    /// on desktops that report nothing before.
     [[nodiscard]] virtual FrameMargins frameMargins(WindowHandle window) = 0;
+
+    /// Calls `changed` when the desktop has reported the window's margins, also after it is shown.
+    virtual Connection onFrameReported(WindowHandle window, std::function<void()> changed) = 0;
+
+    /// Whether the desktop may maximise the window, by itself or for the user; initially it may.
+    virtual void setMaximizable(WindowHandle window, bool maximizable) = 0;
 
     /// Requests a light or dark frame. Effective when the window is next shown at the latest; ignored by
     /// desktops whose frames have only one appearance.

@@ -22,11 +22,20 @@ public:
     }
     void requestFrame(WindowHandle) override {}
     [[nodiscard]] FrameMargins frameMargins(WindowHandle) override { return margins_; }
+    Connection onFrameReported(WindowHandle, std::function<void()> changed) override {
+        return frameReported_.connect(std::move(changed));
+    }
+    void setMaximizable(WindowHandle, bool maximizable) override { maximizable_ = maximizable; }
     void setFrameVariant(WindowHandle, FrameVariant shade) override { shade_ = shade; }
     void activate(WindowHandle) override { ++activated_; }
 
     void setFrameMargins(FrameMargins margins) { margins_ = margins; }
+    void reportFrame(FrameMargins margins) {
+        margins_ = margins;
+        frameReported_.emit();
+    }
     [[nodiscard]] std::optional<FrameVariant> frameVariant() const { return shade_; }
+    [[nodiscard]] bool maximizable() const { return maximizable_; }
     /// How often a window was activated.
     [[nodiscard]] int activated() const { return activated_; }
 
@@ -48,10 +57,12 @@ private:
     int joinedWorkspaces_ = 0;
     Rectangle inputRegion_;
     FrameMargins margins_;
+    bool maximizable_ = true;
     std::optional<FrameVariant> shade_;
     int activated_ = 0;
     Signal<> compositingChanged_;
     Signal<bool> covered_;
+    Signal<> frameReported_;
 };
 
 }  // namespace tidewatch::platform

@@ -28,6 +28,17 @@ constexpr std::uint32_t actsForTheUser = 2;
 /// Far more than a healthy desktop needs, and too short to be noticed.
 constexpr auto frameTimeout = std::chrono::milliseconds(10);
 
+/// Covers the title bars of most desktops. A window that is a few pixels too small for a moment goes
+/// unnoticed; one that is too large for its screen would be maximised.
+constexpr FrameMargins usualFrame{.top = 40};
+
+// _MOTIF_WM_HINTS
+constexpr std::size_t motifHintsSize = 5;
+constexpr std::uint32_t motifHasFunctions = 1;
+constexpr std::uint32_t allButMaximizing = 2 | 4 | 8 | 32;  // resize, move, minimise, close
+
+constexpr std::uint32_t frameAndEnd = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+
 xcb_window_t xWindow(WindowHandle window) {
     return static_cast<xcb_window_t>(window);
 }
@@ -46,7 +57,8 @@ X11WindowSystem::X11WindowSystem()
       requestFrameExtentsAtom_(connection_.atom("_NET_REQUEST_FRAME_EXTENTS")),
       activeWindowAtom_(connection_.atom("_NET_ACTIVE_WINDOW")),
       themeVariantAtom_(connection_.atom("_GTK_THEME_VARIANT")),
-      utf8Atom_(connection_.atom("UTF8_STRING")) {
+      utf8Atom_(connection_.atom("UTF8_STRING")),
+      motifHintsAtom_(connection_.atom("_MOTIF_WM_HINTS")) {
     if (!connection_.alive()) return;
     watchCompositor();
     updateCompositing();
@@ -90,23 +102,24 @@ Connection X11WindowSystem::onOcclusionChanged(WindowHandle window,
     auto& signal = covered_[xWindow(window)];
     if (!signal) signal = std::make_unique<Signal<bool>>();
     if (connection_.alive()) {
-        setWatched(xWindow(window), XCB_EVENT_MASK_VISIBILITY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+        watch(xWindow(window), XCB_EVENT_MASK_VISIBILITY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
     }
     return signal->connect(std::move(changed));
 }
 
 void X11WindowSystem::requestFrame(WindowHandle window) {
     if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return;
-    setWatched(xWindow(window), XCB_EVENT_MASK_PROPERTY_CHANGE);
+    watch(xWindow(window), frameAndEnd);
     sendToRoot(xWindow(window), requestFrameExtentsAtom_, {});
     xcb_flush(connection_.get());
 }
 
 FrameMargins X11WindowSystem::frameMargins(WindowHandle window) {
-    if (!connection_.alive() || !supports(requestFrameExtentsAtom_)) return {};
+    if (!connection_.alive()) return {};
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + frameTimeout;
     auto extents = connection_.cardinals(xWindow(window), frameExtentsAtom_);
+    if (extents.empty() && !supports(requestFrameExtentsAtom_)) return estimatedFrame();
     // Any event may announce that the property has been set.
     for (auto now = Clock::now(); extents.empty() && now < end; now = Clock::now()) {
         pollfd server{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
@@ -116,7 +129,42 @@ FrameMargins X11WindowSystem::frameMargins(WindowHandle window) {
     waitForServer();
     if (extents.size() < 4) return {};
     const auto side = [&](std::size_t index) { return static_cast<int>(extents[index]); };
-    return {.left = side(0), .right = side(1), .top = side(2), .bottom = side(3)};
+    lastFrame_ = {.left = side(0), .right = side(1), .top = side(2), .bottom = side(3)};
+    return *lastFrame_;
+}
+
+FrameMargins X11WindowSystem::estimatedFrame() const {
+    if (!supports(frameExtentsAtom_)) return {};
+    return lastFrame_.value_or(usualFrame);
+}
+
+Connection X11WindowSystem::onFrameReported(WindowHandle window, std::function<void()> changed) {
+    auto& signal = frameReported_[xWindow(window)];
+    if (!signal) signal = std::make_unique<Signal<>>();
+    if (connection_.alive()) watch(xWindow(window), frameAndEnd);
+    return signal->connect(std::move(changed));
+}
+
+void X11WindowSystem::setMaximizable(WindowHandle window, bool maximizable) {
+    if (!connection_.alive()) return;
+    const auto id = xWindow(window);
+    if (!maximizable) {
+        auto hints = connection_.cardinals(id, motifHintsAtom_);
+        motifHints_.emplace(id, hints);
+        hints.resize(motifHintsSize);
+        hints[0] |= motifHasFunctions;
+        hints[1] = allButMaximizing;
+        setMotifHints(id, hints);
+    } else if (const auto found = motifHints_.find(id); found != motifHints_.end()) {
+        setMotifHints(id, found->second);
+        motifHints_.erase(found);
+    }
+    waitForServer();
+}
+
+void X11WindowSystem::setMotifHints(xcb_window_t window, const std::vector<std::uint32_t>& hints) {
+    xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window, motifHintsAtom_, motifHintsAtom_,
+                        32, static_cast<std::uint32_t>(hints.size()), hints.data());
 }
 
 void X11WindowSystem::setFrameVariant(WindowHandle window, FrameVariant shade) {
@@ -156,16 +204,28 @@ void X11WindowSystem::readEvents() {
             if (const auto found = covered_.find(change.window); found != covered_.end()) {
                 found->second->emit(change.state == XCB_VISIBILITY_FULLY_OBSCURED);
             }
+        } else if (type == XCB_PROPERTY_NOTIFY) {
+            const auto& change = *reinterpret_cast<const xcb_property_notify_event_t*>(event.get());
+            const auto found = frameReported_.find(change.window);
+            const bool reported = change.atom == frameExtentsAtom_ && change.state == XCB_PROPERTY_NEW_VALUE;
+            if (reported && found != frameReported_.end()) found->second->emit();
         } else if (type == XCB_DESTROY_NOTIFY) {
-            covered_.erase(reinterpret_cast<const xcb_destroy_notify_event_t*>(event.get())->window);
+            const auto window = reinterpret_cast<const xcb_destroy_notify_event_t*>(event.get())->window;
+            covered_.erase(window);
+            frameReported_.erase(window);
+            motifHints_.erase(window);
         }
     }
     if (!connection_.alive()) notifier_->setEnabled(false);
 }
 
-void X11WindowSystem::setWatched(xcb_window_t window, std::uint32_t events) {
+void X11WindowSystem::watch(xcb_window_t window, std::uint32_t events) {
+    const auto cookie = xcb_get_window_attributes(connection_.get(), window);
+    const XcbReply<xcb_get_window_attributes_reply_t> former(
+        xcb_get_window_attributes_reply(connection_.get(), cookie, nullptr));
+    if (former) events |= former->your_event_mask;
     xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
-    xcb_flush(connection_.get());
+    waitForServer();
 }
 
 void X11WindowSystem::updateCompositing() {

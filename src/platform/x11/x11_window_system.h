@@ -3,6 +3,8 @@
 #include <array>
 #include <map>
 #include <memory>
+#include <optional>
+#include <vector>
 
 #include "platform/api/window_system.h"
 #include "platform/x11/x11_connection.h"
@@ -25,14 +27,19 @@ public:
     Connection onOcclusionChanged(WindowHandle window, std::function<void(bool covered)> changed) override;
     void requestFrame(WindowHandle window) override;
     [[nodiscard]] FrameMargins frameMargins(WindowHandle window) override;
+    Connection onFrameReported(WindowHandle window, std::function<void()> changed) override;
+    void setMaximizable(WindowHandle window, bool maximizable) override;
     void setFrameVariant(WindowHandle window, FrameVariant shade) override;
     void activate(WindowHandle window) override;
 
 private:
     void watchCompositor();
     void readEvents();
-    void setWatched(xcb_window_t window, std::uint32_t events);
+    /// In addition to what is already watched.
+    void watch(xcb_window_t window, std::uint32_t events);
     void updateCompositing();
+    [[nodiscard]] FrameMargins estimatedFrame() const;
+    void setMotifHints(xcb_window_t window, const std::vector<std::uint32_t>& hints);
     void keepOutOfTaskbar(xcb_window_t window);
     void waitForServer();
     [[nodiscard]] bool supports(xcb_atom_t feature) const;
@@ -52,10 +59,15 @@ private:
     xcb_atom_t activeWindowAtom_;
     xcb_atom_t themeVariantAtom_;
     xcb_atom_t utf8Atom_;
+    xcb_atom_t motifHintsAtom_;
     int selectionEvent_ = -1;
     bool compositing_ = false;
     Signal<> compositingChanged_;
     std::map<xcb_window_t, std::unique_ptr<Signal<bool>>> covered_;
+    std::map<xcb_window_t, std::unique_ptr<Signal<>>> frameReported_;
+    /// The properties of windows that must not be maximised, as they were.
+    std::map<xcb_window_t, std::vector<std::uint32_t>> motifHints_;
+    std::optional<FrameMargins> lastFrame_;  ///< of any window, in its normal size
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

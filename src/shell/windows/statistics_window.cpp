@@ -19,7 +19,8 @@ constexpr QSize minSize(820, 560);  // what the user can make of it
 /// The window itself, which exists while the statistics are open.
 class QuickStatisticsWindow::Frame final : public QQuickWindow {
 public:
-    explicit Frame(std::function<void()> askedToClose) : askedToClose_(std::move(askedToClose)) {
+    Frame(std::function<void()> askedToClose, std::function<void()> exposed)
+        : askedToClose_(std::move(askedToClose)), exposed_(std::move(exposed)) {
         setTitle("FATHOM · Estadísticas");
         setMinimumSize(minSize);
     }
@@ -32,6 +33,11 @@ public:
     }
 
 protected:
+    void exposeEvent(QExposeEvent* event) override {
+        QQuickWindow::exposeEvent(event);
+        if (isExposed()) exposed_();
+    }
+
     void closeEvent(QCloseEvent* event) override {
         event->ignore();
         askedToClose_();
@@ -45,6 +51,7 @@ protected:
 private:
     std::unique_ptr<QQuickItem> view_;
     std::function<void()> askedToClose_;
+    std::function<void()> exposed_;
 };
 
 QuickStatisticsWindow::QuickStatisticsWindow(const Dependencies& dependencies, Content content)
@@ -56,14 +63,19 @@ QuickStatisticsWindow::~QuickStatisticsWindow() = default;
 
 void QuickStatisticsWindow::showWindow() {
     if (!window_) {
-        auto window = std::make_unique<Frame>([this] { close(); });
+        auto& system = dependencies_.windowSystem;
+        auto window = std::make_unique<Frame>([this] { close(); }, [this] { becomeMaximizable(); });
         window->create();
+        // Some desktops maximise a new window that covers most of the screen.
+        system.setMaximizable(window->winId(), false);
         // The desktop can answer while the view is being created.
-        dependencies_.windowSystem.requestFrame(window->winId());
+        system.requestFrame(window->winId());
+        frameReports_ = system.onFrameReported(window->winId(), [this] { correctForFrame(); });
         auto view = content_.makeView();
         if (!view) return;
         window->setView(std::move(view));
         window_ = std::move(window);
+        awaitsFrame_ = true;
     }
     applyTheme();
     const auto target = placement();
@@ -101,15 +113,28 @@ void QuickStatisticsWindow::applyTheme() {
 QRect QuickStatisticsWindow::placement() {
     const auto frame = statisticsFrame(dependencies_.screens);
     // A maximised window has a different frame until the window manager has restored it.
-    const auto filling = Qt::WindowMaximized | Qt::WindowFullScreen;
-    if ((window_->windowStates() & filling) == 0 || !margins_) {
-        margins_ = dependencies_.windowSystem.frameMargins(window_->winId());
-    }
+    if (!fillsScreen() || !margins_) margins_ = dependencies_.windowSystem.frameMargins(window_->winId());
     const auto& margins = *margins_;
     const double ratio = window_->devicePixelRatio();
     return QRectF(frame.x, frame.y, frame.width, frame.height)
         .adjusted(margins.left / ratio, margins.top / ratio, -margins.right / ratio, -margins.bottom / ratio)
         .toRect();
+}
+
+void QuickStatisticsWindow::becomeMaximizable() {
+    if (window_) dependencies_.windowSystem.setMaximizable(window_->winId(), true);
+}
+
+/// Some desktops report a frame only once the window is shown. Afterwards the window is the user's.
+void QuickStatisticsWindow::correctForFrame() {
+    if (!isVisible() || !std::exchange(awaitsFrame_, false) || fillsScreen()) return;
+    const auto assumed = margins_;
+    const auto corrected = placement();
+    if (margins_ != assumed) window_->setGeometry(corrected);
+}
+
+bool QuickStatisticsWindow::fillsScreen() const {
+    return (window_->windowStates() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
 }
 
 void QuickStatisticsWindow::destroyRetired() {

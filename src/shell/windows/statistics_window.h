@@ -48,8 +48,12 @@ private:
     class Frame;
 
     void applyTheme();
+    /// Whether it is maximised or in full screen.
+    [[nodiscard]] bool fillsScreen() const;
     /// The window's geometry, without its frame.
     [[nodiscard]] QRect placement();
+    void becomeMaximizable();
+    void correctForFrame();
     void destroyRetired();
 
     const Dependencies dependencies_;
@@ -57,6 +61,8 @@ private:
     Connection themeChanges_;
     std::unique_ptr<Frame> window_;
     std::optional<platform::FrameMargins> margins_;  ///< of the window at its normal size, once known
+    bool awaitsFrame_ = false;                       ///< shown, and its frame not reported since
+    Connection frameReports_;
     /// A closed window, kept until its own view, which may have closed it, has returned.
     std::unique_ptr<Frame> retired_;
     QObject retirement_;

@@ -78,6 +78,40 @@ TEST_F(StatisticsWindowTest, TheDesktopsFrameStaysWithinItsPlace) {
     EXPECT_EQ(shown()->geometry(), QRect(281, 77, 1358, 973));
 }
 
+TEST_F(StatisticsWindowTest, AFrameThatIsReportedAfterTheShowingCorrectsItsSizeOnce) {
+    window_.showWindow();
+    machine_.windowSystem.reportFrame({.left = 1, .right = 1, .top = 22, .bottom = 5});
+    EXPECT_EQ(shown()->geometry(), QRect(281, 77, 1358, 973));
+    shown()->setGeometry(3, 4, 850, 600);
+    machine_.windowSystem.reportFrame({.left = 1, .right = 1, .top = 44, .bottom = 5});
+    EXPECT_EQ(shown()->geometry(), QRect(3, 4, 850, 600));
+    window_.showWindow();
+    EXPECT_EQ(shown()->geometry(), QRect(281, 99, 1358, 951));
+}
+
+TEST_F(StatisticsWindowTest, AFrameThatIsAsExpectedLeavesItToTheUser) {
+    window_.showWindow();
+    shown()->setGeometry(3, 4, 850, 600);
+    machine_.windowSystem.reportFrame({});
+    EXPECT_EQ(shown()->geometry(), QRect(3, 4, 850, 600));
+}
+
+TEST_F(StatisticsWindowTest, OneThatFillsTheScreenIsNotCorrected) {
+    window_.showWindow();
+    shown()->setWindowStates(Qt::WindowFullScreen);
+    const auto filling = shown()->geometry();
+    machine_.windowSystem.reportFrame({.left = 1, .right = 1, .top = 22, .bottom = 5});
+    EXPECT_EQ(shown()->windowStates(), Qt::WindowFullScreen);
+    EXPECT_EQ(shown()->geometry(), filling);
+}
+
+TEST_F(StatisticsWindowTest, OnlyOnceItIsSeenItMayBeMaximised) {
+    window_.showWindow();
+    EXPECT_FALSE(machine_.windowSystem.maximizable());
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(shown(), 60'000));
+    EXPECT_TRUE(machine_.windowSystem.maximizable());
+}
+
 TEST_F(StatisticsWindowTest, TheViewFillsItAndHasTheFocus) {
     window_.showWindow();
     QCoreApplication::processEvents();
