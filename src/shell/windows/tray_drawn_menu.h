@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QHash>
+#include <QIcon>
 #include <QMenu>
 #include <QSystemTrayIcon>
 #include <functional>
@@ -13,6 +15,9 @@ namespace tidewatch {
 class TrayDrawnMenu final {
 public:
     explicit TrayDrawnMenu(std::function<MenuRows()> rows);
+    ~TrayDrawnMenu();
+    TrayDrawnMenu(const TrayDrawnMenu&) = delete;
+    TrayDrawnMenu& operator=(const TrayDrawnMenu&) = delete;
 
     /// Offers it to the tray; does nothing if the tray is not on the bus. `icon` must not outlive this
     /// object.
@@ -20,8 +25,12 @@ public:
 
 private:
     void refill();
+    void addRows(QMenu& menu, const MenuRows& rows);
+    void addRow(QMenu& menu, const MenuRow& row);
+    const QIcon& swatch(const RgbColor& color);
 
     const std::function<MenuRows()> rows_;
+    QHash<QRgb, QIcon> swatches_;
     QMenu menu_;
 };
 
