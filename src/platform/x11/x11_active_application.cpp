@@ -65,12 +65,15 @@ xcb_window_t X11ActiveApplication::activeWindow() {
     return active ? *active : focusedWindow();
 }
 
-/// The window with the focus is often one inside the application's: the one that has a class is meant.
+/// The window with the focus is often one inside the application's: the one that has a class is meant. The
+/// root window has the focus after the focused window is gone; the window below the pointer then gets the
+/// keys.
 xcb_window_t X11ActiveApplication::focusedWindow() const {
     const XcbReply<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(connection_.get(), xcb_get_input_focus(connection_.get()), nullptr));
     auto window = focus ? focus->focus : xcb_window_t{XCB_WINDOW_NONE};
-    if (window == XCB_INPUT_FOCUS_POINTER_ROOT) window = connection_.childBelowPointer(connection_.root());
+    const bool followsPointer = window == XCB_INPUT_FOCUS_POINTER_ROOT || window == connection_.root();
+    if (followsPointer) window = connection_.childBelowPointer(connection_.root());
     while (window != XCB_WINDOW_NONE && window != connection_.root()) {
         if (!connection_.texts(window, XCB_ATOM_WM_CLASS).empty()) return window;
         window = connection_.parentOf(window);

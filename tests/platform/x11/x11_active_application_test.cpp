@@ -79,6 +79,18 @@ TEST_F(X11ActiveApplicationTest, WithoutAnAnnouncementTheInputFocusIsAsked) {
     EXPECT_EQ(active_.current(), std::nullopt);
     give(window);
     EXPECT_EQ(active_.current(), AppId("own"));
+    // As it is after a focused window is gone: the keys go to the window below the pointer.
+    const auto pointAt = [this](std::int16_t x, std::int16_t y) {
+        xcb_warp_pointer(server_.client(), XCB_WINDOW_NONE, server_.root(), 0, 0, 0, 0, x, y);
+        server_.sync();
+    };
+    for (const xcb_window_t focused : {server_.root(), xcb_window_t{XCB_INPUT_FOCUS_POINTER_ROOT}}) {
+        give(focused);
+        pointAt(300, 300);
+        EXPECT_EQ(active_.current(), std::nullopt);
+        pointAt(50, 50);
+        EXPECT_EQ(active_.current(), AppId("own"));
+    }
     // A window manager has come.
     focus(XCB_WINDOW_NONE);
     EXPECT_EQ(active_.current(), std::nullopt);
