@@ -24,7 +24,7 @@ public:
     struct Dependencies {
         Settings& settings;
         const Broadcaster& broadcaster;
-        const platform::Screens& screens;
+        platform::Screens& screens;
         const ThemeController& theme;
         Surfaces& surfaces;
         /// Opens the program's menu, when requested on the clock.

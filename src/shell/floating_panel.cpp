@@ -4,9 +4,12 @@
 
 namespace tidewatch {
 
-FloatingPanel::FloatingPanel(FloatingWindow& window, const platform::Screens& screens, Owner owner)
-    : window_(window), owner_(std::move(owner)) {
-    place(screens);
+FloatingPanel::FloatingPanel(FloatingWindow& window, platform::Screens& screens, Owner owner)
+    : window_(window),
+      screens_(screens),
+      owner_(std::move(owner)),
+      screenChanges_(screens.onChanged([this] { adaptToScreens(); })) {
+    if (const auto place = wantedPlace()) window_.setOrigin(*place);
     window_.setGestures({
         .mouseDown = [this](platform::Point position) { mouseDown(position); },
         .mouseDragged = [this](platform::Point position) { mouseDragged(position); },
@@ -15,10 +18,17 @@ FloatingPanel::FloatingPanel(FloatingWindow& window, const platform::Screens& sc
     });
 }
 
-void FloatingPanel::place(const platform::Screens& screens) {
-    auto origin = placeOnScreen(owner_.place, screens);
-    if (!origin) origin = owner_.defaultPlace(window_.panelSize());
-    if (origin) window_.setOrigin(*origin);
+std::optional<platform::Point> FloatingPanel::wantedPlace() const {
+    const auto stored = placeOnScreen(owner_.place, screens_);
+    return stored ? stored : owner_.defaultPlace(window_.panelSize());
+}
+
+/// The stored position is kept: the screen that showed it may come back.
+void FloatingPanel::adaptToScreens() {
+    window_.fitToScreens();
+    if (const auto place = wantedPlace()) {
+        window_.setOrigin(heldOnScreen(*place, window_.panelSize(), screens_));
+    }
 }
 
 void FloatingPanel::resize(PanelSize size) {

@@ -25,9 +25,9 @@ public:
         std::function<void()> menuRequested;  ///< may be empty
     };
 
-    /// Positions the window and handles its gestures. `window` must outlive this object; `screens` is only
-    /// used here.
-    FloatingPanel(FloatingWindow& window, const platform::Screens& screens, Owner owner);
+    /// Positions the window and handles its gestures; when the screens change, restores its position as far
+    /// as they show it. Both references must outlive this object.
+    FloatingPanel(FloatingWindow& window, platform::Screens& screens, Owner owner);
 
     void orderFrontRegardless() { window_.orderFrontRegardless(); }
     void orderOut() { window_.orderOut(); }
@@ -37,7 +37,8 @@ public:
     void resize(PanelSize size);
 
 private:
-    void place(const platform::Screens& screens);
+    [[nodiscard]] std::optional<platform::Point> wantedPlace() const;
+    void adaptToScreens();
     void mouseDown(platform::Point position);
     /// The window follows the mouse from `dragDistance` on.
     void mouseDragged(platform::Point position);
@@ -45,7 +46,9 @@ private:
     void mouseUp(platform::Point position);
 
     FloatingWindow& window_;
+    platform::Screens& screens_;
     Owner owner_;
+    Connection screenChanges_;
     PointerDrag drag_{dragDistance};
 };
 

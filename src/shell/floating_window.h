@@ -24,6 +24,9 @@ public:
     /// Resizes, keeping the top left corner; animated if the window is visible.
     virtual void resize(PanelSize size) = 0;
 
+    /// Adapts the size last requested and the resolution to the screens, after these have changed.
+    virtual void fitToScreens() = 0;
+
     /// Shows it in front of its layer, without activating it.
     virtual void orderFrontRegardless() = 0;
     virtual void orderOut() = 0;

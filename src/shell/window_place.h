@@ -19,6 +19,11 @@ struct StoredPlace {
 [[nodiscard]] std::optional<platform::Point> placeOnScreen(const StoredPlace& stored,
                                                            const platform::Screens& screens);
 
+/// `origin` if a screen shows the middle of a window of `size` there; else the nearest position at which the
+/// screen that contains `origin` shows all of it, as far as it fits. Outside of all screens `origin` itself.
+[[nodiscard]] platform::Point heldOnScreen(platform::Point origin, PanelSize size,
+                                           const platform::Screens& screens);
+
 /// The position of a window of `size` in the top right corner of the main screen's visible frame, with this
 /// margin in points; nullopt without a screen.
 [[nodiscard]] std::optional<platform::Point> topRightCorner(const platform::Screens& screens, PanelSize size,

@@ -27,6 +27,7 @@ public:
         size_ = size;
         log_.push_back("resize");
     }
+    void fitToScreens() override { log_.push_back("fit"); }
     void orderFrontRegardless() override {
         visible_ = true;
         log_.push_back("show panel");

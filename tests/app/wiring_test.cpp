@@ -50,6 +50,14 @@ TEST_F(WiringTest, AChangeOfSizeIsHandedOn) {
     EXPECT_EQ(panelSize(), (PanelSize{220, 124}));
 }
 
+TEST_F(WiringTest, ScreensThatChangeAreHandedOnToTheClock) {
+    const platform::Screen left{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}};
+    machine_.screens.set({left, {{1920, 0, 1280, 1024}, {1920, 0, 1280, 1024}}});
+    program_->services.counting.settings.setWindowOrigin(platform::Point{2000, 500});
+    machine_.screens.set({left});
+    EXPECT_EQ(surfaces_.panel().origin(), (platform::Point{1920 - 55 - 24, 24}));
+}
+
 TEST_F(WiringTest, ASizeThatIsStoredSilentlyWaitsForTheNextChange) {
     program_->services.counting.settings.setSizeScale(1);
     runFor(5s);

@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     const std::string path = argc > 1 ? argv[1] : "";
     tidewatch::platform::X11WindowSystem windowSystem;
-    const tidewatch::platform::QtScreens screens;
+    tidewatch::platform::QtScreens screens;
     auto item = std::make_unique<Note>();
     auto& note = *item;
     tidewatch::QuickFloatingWindow window(windowSystem, tidewatch::WindowLayer::below,

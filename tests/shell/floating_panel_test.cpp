@@ -68,6 +68,69 @@ TEST_F(FloatingPanelTest, WithoutAScreenItStaysWhereItIs) {
     EXPECT_EQ(window_.origin(), (Point{7, 7}));
 }
 
+TEST_F(FloatingPanelTest, AScreenThatIsDetachedSendsItToTheCornerAndItsReturnBack) {
+    const platform::Screen left{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}};
+    const platform::Screen right{{1920, 0, 1280, 1024}, {1920, 0, 1280, 1024}};
+    screens_.set({left, right});
+    settings_.setWindowOrigin(Point{2000, 500});
+    panel();
+    screens_.set({left});
+    EXPECT_EQ(window_.origin(), (Point{1676, 24}));
+    EXPECT_EQ(settings_.windowOrigin(), (Point{2000, 500})) << "nobody has put it elsewhere";
+    screens_.set({left, right});
+    EXPECT_EQ(window_.origin(), (Point{2000, 500}));
+}
+
+TEST_F(FloatingPanelTest, AScreenThatShrinksKeepsItInReach) {
+    settings_.setWindowOrigin(Point{1200, 650});
+    panel();
+    screens_.set({{{0, 0, 1280, 720}, {0, 0, 1280, 720}}});
+    EXPECT_EQ(window_.origin(), (Point{1280 - 220, 720 - 124}));
+    screens_.set({{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}});
+    EXPECT_EQ(window_.origin(), (Point{1200, 650}));
+}
+
+TEST_F(FloatingPanelTest, OneThatReachesOverTheEdgeStaysIfItsMiddleIsSeen) {
+    settings_.setWindowOrigin(Point{1169, 650});
+    panel();
+    screens_.set({{{0, 0, 1280, 713}, {0, 0, 1280, 713}}});
+    EXPECT_EQ(window_.origin(), (Point{1169, 650}));
+    screens_.set({{{0, 0, 1279, 713}, {0, 0, 1279, 713}}});
+    EXPECT_EQ(window_.origin(), (Point{1279 - 220, 713 - 124}));
+    screens_.set({{{0, 0, 1279, 713}, {0, 0, 1279, 713}}, {{1279, 0, 1279, 713}, {1279, 0, 1279, 713}}});
+    EXPECT_EQ(window_.origin(), (Point{1169, 650})) << "the other screen shows its middle";
+}
+
+TEST_F(FloatingPanelTest, OneThatIsLargerThanItsScreenShowsItsTopLeftCorner) {
+    settings_.setWindowOrigin(Point{90, 60});
+    panel();
+    screens_.set({{{0, 0, 160, 90}, {0, 0, 160, 90}}});
+    EXPECT_EQ(window_.origin(), (Point{0, 0}));
+}
+
+TEST_F(FloatingPanelTest, WithoutAStoredOriginItFollowsTheCorner) {
+    panel();
+    screens_.set({{{0, 0, 1280, 720}, {0, 40, 1280, 680}}});
+    EXPECT_EQ(window_.origin(), (Point{1280 - 220 - 24, 40 + 24}));
+    EXPECT_EQ(settings_.windowOrigin(), std::nullopt);
+}
+
+TEST_F(FloatingPanelTest, ItsSizeIsFittedToTheScreensBeforeItsPlace) {
+    panel();
+    log_.clear();
+    screens_.set({{{0, 0, 1280, 720}, {0, 40, 1280, 680}}});
+    EXPECT_EQ(log_, ScreenLog{"fit"});
+}
+
+TEST_F(FloatingPanelTest, WithoutAnyScreenItWaitsForOne) {
+    settings_.setWindowOrigin(Point{1200, 650});
+    panel();
+    screens_.set({});
+    EXPECT_EQ(window_.origin(), (Point{1200, 650}));
+    screens_.set({{{0, 0, 1920, 1080}, {0, 0, 1920, 1080}}});
+    EXPECT_EQ(window_.origin(), (Point{1200, 650}));
+}
+
 TEST_F(FloatingPanelTest, ATravelOf4Point9IsAClick) {
     panel();
     mouseDown({100, 100});

@@ -18,6 +18,7 @@ public:
     explicit ScreensWithoutMain(std::vector<Screen> screens) : screens_(std::move(screens)) {}
     [[nodiscard]] std::vector<Screen> all() const override { return screens_; }
     [[nodiscard]] std::optional<Screen> main() const override { return std::nullopt; }
+    Connection onChanged(std::function<void()>) override { return {}; }
 
 private:
     std::vector<Screen> screens_;

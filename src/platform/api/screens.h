@@ -1,7 +1,10 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
+
+#include "base/signal.h"
 
 namespace tidewatch::platform {
 
@@ -41,6 +44,10 @@ public:
 
     /// Returns nullopt if no screen is attached.
     [[nodiscard]] virtual std::optional<Screen> main() const = 0;
+
+    /// Calls `changed` after screens were attached, detached, moved, resized or scaled, or their panels have
+    /// changed: once for all changes that come together, and after the desktop has reacted by itself.
+    virtual Connection onChanged(std::function<void()> changed) = 0;
 };
 
 }  // namespace tidewatch::platform

@@ -14,11 +14,19 @@ public:
         return screens_.empty() ? std::nullopt : std::optional(screens_.front());
     }
 
+    Connection onChanged(std::function<void()> changed) override {
+        return changed_.connect(std::move(changed));
+    }
+
     /// The first is the main one.
-    void set(std::vector<Screen> screens) { screens_ = std::move(screens); }
+    void set(std::vector<Screen> screens) {
+        screens_ = std::move(screens);
+        changed_.emit();
+    }
 
 private:
     std::vector<Screen> screens_{{{0, 0, 1920, 1080}, {0, 30, 1920, 1050}}};
+    Signal<> changed_;
 };
 
 }  // namespace tidewatch::platform

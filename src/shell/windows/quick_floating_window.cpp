@@ -45,6 +45,7 @@ QuickFloatingWindow::QuickFloatingWindow(platform::WindowSystem& windowSystem, W
                                          Content content, PanelSize size)
     : windowSystem_(windowSystem),
       content_(std::move(content)),
+      wanted_(size),
       panel_(withinScreens(size)),
       outline_(*this, windowSystem) {
     setTitle(content_.title);
@@ -83,6 +84,7 @@ void QuickFloatingWindow::setOrigin(platform::Point origin) {
 }
 
 void QuickFloatingWindow::resize(PanelSize wanted) {
+    wanted_ = wanted;
     const auto size = withinScreens(wanted);
     growth_.stop();
     if (!isVisible()) {
@@ -93,6 +95,12 @@ void QuickFloatingWindow::resize(PanelSize wanted) {
     growth_.setStartValue(QSizeF(panel_.width, panel_.height));
     growth_.setEndValue(QSizeF(size.width, size.height));
     growth_.start();
+}
+
+void QuickFloatingWindow::fitToScreens() {
+    growth_.stop();
+    panel_ = withinScreens(wanted_);
+    layOut(origin());
 }
 
 void QuickFloatingWindow::orderFrontRegardless() {
@@ -137,7 +145,18 @@ bool QuickFloatingWindow::event(QEvent* event) {
         default:
             break;
     }
+    followResolution();
     return handled;
+}
+
+/// A window keeps its device pixels and its shape when its screen gets another scale factor, or when it comes
+/// to a screen that has one.
+void QuickFloatingWindow::followResolution() {
+    if (devicePixelRatio() == ratio_) return;
+    // After the toolkit's own steps on this change.
+    QTimer::singleShot(0, this, [this] {
+        if (devicePixelRatio() != ratio_) fitToScreens();
+    });
 }
 
 void QuickFloatingWindow::mousePressed(const QMouseEvent& event) {
@@ -186,6 +205,7 @@ void QuickFloatingWindow::adaptToCompositor() {
 
 void QuickFloatingWindow::layOut(platform::Point origin) {
     shownAt_.reset();
+    ratio_ = devicePixelRatio();
     outline_.layOut(*content_.item, origin, panel_, content_.cornerRadius(panel_));
 }
 

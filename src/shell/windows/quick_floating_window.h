@@ -36,6 +36,7 @@ public:
     [[nodiscard]] platform::Point origin() const override;
     void setOrigin(platform::Point origin) override;
     void resize(PanelSize size) override;
+    void fitToScreens() override;
     void orderFrontRegardless() override;
     void orderOut() override;
     [[nodiscard]] bool isVisible() const override;
@@ -51,6 +52,7 @@ private:
     void mousePressed(const QMouseEvent& event);
     void mouseMoved(const QMouseEvent& event);
     void mouseReleased(const QMouseEvent& event);
+    void followResolution();
     void adaptToCompositor();
     void layOut(platform::Point origin);
     void updateOnScreen();
@@ -58,7 +60,9 @@ private:
     platform::WindowSystem& windowSystem_;
     Content content_;
     Gestures gestures_;
-    PanelSize panel_;
+    PanelSize wanted_;  ///< as last requested
+    PanelSize panel_;   ///< as the screens allow, and at this moment of its growth
+    double ratio_ = 0;  ///< device pixels per point that the window is laid out for
     WindowOutline outline_;
     QVariantAnimation growth_;
     std::optional<QPoint> shownAt_;  ///< the window's place when it was shown, until it is first moved

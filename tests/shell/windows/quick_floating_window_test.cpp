@@ -109,6 +109,30 @@ TEST_F(QuickFloatingWindowTest, EachLayerHasItsFlagsAndNoneTakesTheFocus) {
     }
 }
 
+TEST_F(QuickFloatingWindowTest, ItIsPreparedBeforeEachShowingAndAfterwardsAsksForAllWorkspaces) {
+    const auto window = make({220, 124});
+    EXPECT_EQ(machine_.windowSystem.prepared(), 0);
+    EXPECT_EQ(machine_.windowSystem.joinedWorkspaces(), 0);
+    for (const int showings : {1, 2}) {
+        window->orderFrontRegardless();
+        EXPECT_EQ(machine_.windowSystem.prepared(), showings);
+        EXPECT_EQ(machine_.windowSystem.joinedWorkspaces(), showings);
+        window->orderOut();
+    }
+}
+
+TEST_F(QuickFloatingWindowTest, FittedToTheScreensItHasTheSizeThatWasLastRequested) {
+    const auto window = make({110, 62});
+    window->setOrigin({100, 80});
+    window->orderFrontRegardless();
+    window->resize({220, 124});  // grows for a while
+    EXPECT_LT(window->panelSize().width, 220);
+    window->fitToScreens();
+    EXPECT_EQ(window->panelSize(), (PanelSize{220, 124}));
+    EXPECT_EQ(window->size(), QSize(220, 124));
+    EXPECT_EQ(window->origin(), (platform::Point{100, 80}));
+}
+
 TEST_F(QuickFloatingWindowTest, ACompositorThatComesGivesAMarginAndATranslucentGroundAtTheSamePlace) {
     const auto note = make({240, 160}, WindowLayer::below);
     note->setOrigin({100, 80});
