@@ -3,6 +3,7 @@
 import time
 import unittest
 
+from harness.menu import TOGGLE_VISIBLE, Menu
 from harness.screen import difference
 from harness.user_input import LEFT
 from harness.waiting import stays, wait_until
@@ -50,6 +51,18 @@ class Place(unittest.TestCase):
                 x, y = place(world)
                 world.input.drag((x + spot[0], y + spot[1]), (x + spot[0] + 40, y + spot[1] + 20))
                 wait_until(lambda: place(world) == (x + 40, y + 20), f"the clock dragged at {spot}")
+
+    def test_at_each_showing_it_asks_not_to_be_activated(self):
+        with World("panel-showing") as world:
+            world.home.write_settings(sizeScale=1.0, windowOriginX=300, windowOriginY=200)
+            world.start_program()
+            menu = Menu(world)
+            for _ in range(2):
+                self.assertEqual(world.screen.property(world.clock().id, "_NET_WM_USER_TIME"), [0])
+                for shown in (False, True):
+                    menu.open_from_tray()
+                    menu.choose(TOGGLE_VISIBLE)
+                    wait_until(lambda: bool(world.clock()) == shown, "the clock to hide and to come back")
 
     def test_a_place_off_the_screen_is_ignored(self):
         with World("panel-missing-screen") as world:

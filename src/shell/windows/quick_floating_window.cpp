@@ -50,6 +50,8 @@ QuickFloatingWindow::QuickFloatingWindow(platform::WindowSystem& windowSystem, W
       outline_(*this, windowSystem) {
     setTitle(content_.title);
     setFlags(flagsOf(layer));
+    // As for the toolkit's own tool tips: some window managers activate a new window whatever its flags say.
+    setProperty("_q_showWithoutActivating", true);
     setColor(Qt::transparent);
     content_.item->setParentItem(contentItem());
     growth_.setDuration(growthMilliseconds);
