@@ -1,5 +1,6 @@
 """The application in front by what its window tells: each kind of window that a desktop has."""
 
+import os
 import time
 import unittest
 
@@ -10,6 +11,28 @@ from harness.waiting import wait_until
 from harness.world import World, sleep_until
 
 SECONDS = 4
+
+# A file system of its own for the command that follows, with what a sandbox says of its application.
+ENTER_SANDBOX = """
+set -e
+root=$1; application=$2; shift 2
+mount -t tmpfs none "$root"
+printf '[Application]\nname=%s\n' "$application" >"$root/.flatpak-info"
+for each in /*; do
+    if [ -L "$each" ]; then cp -P "$each" "$root$each"
+    elif [ -d "$each" ]; then mkdir "$root$each"; mount --rbind "$each" "$root$each"
+    fi
+done
+exec chroot "$root" "$@"
+"""
+
+
+def sandbox(world, application):
+    """The launcher of an application that is packaged in a sandbox; it needs no rights of the system's."""
+    root = world.folder / "sandbox"
+    root.mkdir()
+    namespaces = ("--mount",) if os.geteuid() == 0 else ("--mount", "--user", "--map-root-user")
+    return ("unshare", *namespaces, "sh", "-c", ENTER_SANDBOX, "sandbox", str(root), application)
 
 
 class FakeWindow:
@@ -66,6 +89,8 @@ class Front(unittest.TestCase):
                 "org.example.QtProgram": FakeWindow(world, "org.example.QtProgram"),
                 "org.example.Wrapped": FakeWindow(world, "InnerClass"),
                 "Unregistered": FakeWindow(world, "Unregistered"),
+                "org.example.Sandboxed": world.open_terminal("InnerTerm", sandbox(world, "org.example.Sandboxed")),
+                "Somedesktop": FakeWindow(world, "Somedesktop", window_type="DESKTOP"),
             }
             names = list(windows)
             world.input.focus(windows[names[0]].id)
@@ -82,8 +107,9 @@ class Front(unittest.TestCase):
                     Elapsed.between(begin, end).assert_counted(booked[name])
                     self.assertGreaterEqual(booked[name], SECONDS - EDGE)
             self.assertEqual(world.home.all_application_seconds(), sum(booked.values()))
-            for name in names[1:]:
-                windows[name].close()
+            for window in windows.values():
+                if isinstance(window, FakeWindow):
+                    window.close()
 
     def test_a_panel_and_a_lock_screen_leave_the_seconds_to_the_application_in_front(self):
         with World("front-others") as world:

@@ -27,6 +27,8 @@ class Desktop:
     """Their settings by path below the configuration folder."""
     workspaces: tuple = ((), ())
     """A command each that shows the first and another workspace; by default the window manager is asked as by a pager."""
+    compositor: tuple = ()
+    """A command each that switches its own compositor, which is on at first, off and on."""
     tiles: bool = False
     """Whether an ordinary window gets its place and size from the window manager alone."""
 
@@ -61,7 +63,10 @@ _XFCE_PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 </channel>
 """
 
-_MATE_PANEL = """[org/mate/panel/general]
+_MATE = """[org/mate/marco/general]
+compositing-manager=true
+
+[org/mate/panel/general]
 toplevel-id-list=['bottom']
 object-id-list=['tray']
 
@@ -103,6 +108,11 @@ DESKTOPS = {
             Tray(("xfce4-panel", "--disable-wm-check"), "Xfce4-panel", embeds=False, part="Wrapper-2.0"),
             environment={"XDG_CURRENT_DESKTOP": "XFCE", **_NO_ACCESSIBILITY},
             files={"xfce4/xfconf/xfce-perchannel-xml/xfce4-panel.xml": _XFCE_PANEL},
+            compositor=tuple(
+                ("xfconf-query", "--channel", "xfwm4", "--property", "/general/use_compositing",
+                 "--create", "--type", "bool", "--set", value)
+                for value in ("false", "true")
+            ),
         ),
         Desktop(
             "kwin",
@@ -113,13 +123,28 @@ DESKTOPS = {
                 "QT_QUICK_BACKEND": "software", "LIBGL_ALWAYS_SOFTWARE": "1",
             },
             files={"kwinrc": "[Desktops]\nNumber=2\nRows=1\n"},
+            compositor=tuple(
+                ("gdbus", "call", "--session", "--dest", "org.kde.KWin", "--object-path", "/Compositor",
+                 "--method", f"org.kde.kwin.Compositing.{command}")
+                for command in ("suspend", "resume")
+            ),
         ),
         Desktop(
             "mate",
-            ("marco", "--composite"),
+            ("marco",),
             Tray(("mate-panel",), "Mate-panel", embeds=False, part="Notification-area-applet"),
             environment={"XDG_CURRENT_DESKTOP": "MATE", "GSETTINGS_BACKEND": "keyfile", **_NO_ACCESSIBILITY},
-            files={"glib-2.0/settings/keyfile": _MATE_PANEL},
+            files={"glib-2.0/settings/keyfile": _MATE},
+            compositor=tuple(
+                ("gsettings", "set", "org.mate.Marco.general", "compositing-manager", value)
+                for value in ("false", "true")
+            ),
+        ),
+        Desktop(
+            "mutter",
+            ("mutter", "--x11", "--sm-disable"),
+            environment={"XDG_CURRENT_DESKTOP": "GNOME", "GSETTINGS_BACKEND": "memory", "LIBGL_ALWAYS_SOFTWARE": "1",
+                         **_NO_ACCESSIBILITY},
         ),
         Desktop(
             "i3",

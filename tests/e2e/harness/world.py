@@ -56,6 +56,8 @@ class World:
         self.programs = []
         self.desktop = desktop
         self.window_manager = None
+        self.tray = None
+        self.panel_frame = self.panel_without_icon = None
         self._size = size
         self._wants_tray = tray
         self._wants_session_bus = session_bus
@@ -199,12 +201,13 @@ class World:
 
     def start_tray(self):
         kind = self.desktop.tray
-        tray = self.start(*kind.command)
+        tray = self.tray = self.start(*kind.command)
         wait_until(lambda: self.screen.selection_owner("_NET_SYSTEM_TRAY_S0"), "the tray")
         if not kind.embeds:
             wait_until(self._has_item_host, "the tray on the bus")
             wait_until(lambda: self.screen.window(window_class=kind.part), "the last part of the tray")
-            self.panel_frame, self.panel_without_icon = self._settled_panel(kind.window_class)
+            if self.panel_without_icon is None:
+                self.panel_frame, self.panel_without_icon = self._settled_panel(kind.window_class)
         return tray
 
     def _has_item_host(self):
@@ -233,6 +236,13 @@ class World:
         wait_until(stands_still, "the panel to be drawn", every=0.5)
         return looks[-1]
 
+    def switch_compositor(self, on):
+        """The desktop's own."""
+        subprocess.run(
+            self.desktop.compositor[on], env=self.env, check=True, capture_output=True, timeout=DEFAULT_TIMEOUT
+        )
+        wait_until(lambda: bool(self.screen.selection_owner("_NET_WM_CM_S0")) == on, "the compositor")
+
     def start_compositor(self):
         compositor = self.start("picom", "--backend", "xrender", "--no-fading-openclose", "--config", "/dev/null")
         wait_until(lambda: self.screen.selection_owner("_NET_WM_CM_S0"), "the compositor")
@@ -249,10 +259,10 @@ class World:
         self._processes.append(process)
         return process
 
-    def open_terminal(self, window_class="WorkTerm"):
-        """Opens a terminal that ignores input; returns its window once it is focused."""
+    def open_terminal(self, window_class="WorkTerm", launcher=()):
+        """Opens a terminal that ignores input, through the launcher's command; returns its window once it is focused."""
         self.start(
-            "xterm", "-class", window_class, "-name", window_class.lower(), "-geometry", "60x10+40+60",
+            *launcher, "xterm", "-class", window_class, "-name", window_class.lower(), "-geometry", "60x10+40+60",
             "-e", "sh", "-c", "cat > /dev/null",
         )
         window = wait_until(lambda: self._managed_window(window_class), "the terminal")
