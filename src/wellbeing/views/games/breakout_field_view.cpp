@@ -12,12 +12,16 @@ namespace {
 constexpr double brickRadius = 2;
 constexpr double paddleRadius = 3;
 
+QRectF rectOf(const breakout::Brick& brick) {
+    return {brick.rect.x, brick.rect.y, brick.rect.width, brick.rect.height};
+}
+
 static_assert(breakout::brickRows * breakout::brickColumns <= 32);
 
 }  // namespace
 
 BreakoutFieldView::BreakoutFieldView(QQuickItem* parent) : GameField(parent) {
-    setImplicitSize(breakout::fieldWidth, breakout::fieldHeight);
+    setDrawingSize({breakout::fieldWidth, breakout::fieldHeight});
     setAcceptedMouseButtons(Qt::LeftButton);
     setKeepMouseGrab(true);
 }
@@ -38,18 +42,13 @@ void BreakoutFieldView::setBallColor(const QColor& color) {
     Q_EMIT ballColorChanged();
 }
 
-QRectF BreakoutFieldView::scaled(const breakout::Rect& rect) const {
-    const double factor = scaleFactor();
-    return {rect.x * factor, rect.y * factor, rect.width * factor, rect.height * factor};
-}
-
 BreakoutFieldView::Shown BreakoutFieldView::shownOf(const BreakoutModel& model) const {
     const auto& ball = model.ball();
     const double paddle = breakout::paddleWidth(model.level());
     Shown shown{
-        .ball = scaled({ball.x - breakout::ballRadius, ball.y - breakout::ballRadius,
-                        2 * breakout::ballRadius, 2 * breakout::ballRadius}),
-        .paddle = scaled({model.paddleX() - paddle / 2, breakout::paddleTop, paddle, breakout::paddleHeight}),
+        .ball = QRectF(ball.x - breakout::ballRadius, ball.y - breakout::ballRadius, 2 * breakout::ballRadius,
+                       2 * breakout::ballRadius),
+        .paddle = QRectF(model.paddleX() - paddle / 2, breakout::paddleTop, paddle, breakout::paddleHeight),
     };
     for (const auto& brick : model.bricks()) {
         if (brick.alive) shown.livingBricks |= 1U << brick.id;
@@ -71,7 +70,7 @@ void BreakoutFieldView::sync() {
     if (shown.paddle != shown_.paddle) repaint(shown_.paddle | shown.paddle);
     if (const auto changed = shown.livingBricks ^ shown_.livingBricks; changed != 0) {
         for (const auto& brick : presenter_->model().bricks()) {
-            if ((changed >> brick.id & 1U) != 0) repaint(scaled(brick.rect));
+            if ((changed >> brick.id & 1U) != 0) repaint(rectOf(brick));
         }
     }
     shown_ = shown;
@@ -90,7 +89,7 @@ void BreakoutFieldView::paintField(QPainter& painter, const QRectF& dirty) {
         painter.drawRoundedRect(rect, radius, radius);
     };
     for (const auto& brick : model.bricks()) {
-        if (brick.alive) fill(onPixels(scaled(brick.rect)), brickRadius, brickColor(brick));
+        if (brick.alive) fill(onPixels(rectOf(brick)), brickRadius, brickColor(brick));
     }
     const auto shown = shownOf(model);
     fill(onPixels(shown.paddle), paddleRadius, plainColor());
@@ -106,7 +105,7 @@ void BreakoutFieldView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BreakoutFieldView::dragTo(double x) {
-    if (presenter_) presenter_->setPaddle(x / scaleFactor());
+    if (presenter_) presenter_->setPaddle(x);
 }
 
 }  // namespace tidewatch

@@ -9,7 +9,7 @@
 
 namespace tidewatch {
 
-/// The brick game's board: bricks, paddle and ball, scaled to the item's width. While the pointer is pressed
+/// The brick game's board: bricks, paddle and ball. While the pointer is pressed
 /// the paddle follows it.
 class BreakoutFieldView : public tidewatch::GameField {
     Q_OBJECT
@@ -37,15 +37,13 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
-    /// What is on the screen, in the item's coordinates.
+    /// What is on the screen.
     struct Shown {
         QRectF ball;
         QRectF paddle;
         std::uint32_t livingBricks = 0;  ///< a bit a brick
     };
 
-    [[nodiscard]] double scaleFactor() const { return width() / breakout::fieldWidth; }
-    [[nodiscard]] QRectF scaled(const breakout::Rect& rect) const;
     [[nodiscard]] Shown shownOf(const BreakoutModel& model) const;
     [[nodiscard]] QColor brickColor(const breakout::Brick& brick) const;
     void sync();

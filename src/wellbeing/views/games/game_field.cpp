@@ -2,9 +2,9 @@
 
 #include <QPainter>
 #include <QQuickWindow>
+#include <QSGTransformNode>
+#include <algorithm>
 #include <cmath>
-
-#include "ui/backgrounds/pixel_picture.h"
 
 namespace tidewatch {
 namespace {
@@ -58,8 +58,9 @@ void GameField::paint(QPainter* painter) {
         const auto line = onPixels({0, 0, 1, 1}).width();
         painter->setBrush(ground_);
         painter->setPen(QPen(edge_, line));
-        painter->drawRoundedRect(QRectF(QPointF(), size()).adjusted(line / 2, line / 2, -line / 2, -line / 2),
-                                 groundRadius, groundRadius);
+        painter->drawRoundedRect(
+            QRectF(QPointF(), drawingSize_).adjusted(line / 2, line / 2, -line / 2, -line / 2), groundRadius,
+            groundRadius);
         painter->setPen(Qt::NoPen);
     }
     paintField(*painter, painter->hasClipping() ? painter->clipBoundingRect() : QRectF(QPointF(), size()));
@@ -90,14 +91,36 @@ void GameField::repaint(const QRectF& area) {
     update(QRect(topLeft, QSize(up(area.right()) - topLeft.x(), up(area.bottom()) - topLeft.y())));
 }
 
-void GameField::geometryChange(const QRectF& to, const QRectF& from) {
-    QQuickPaintedItem::geometryChange(to, from);
-    if (to.size() != from.size()) setPictureSize(*this);
+void GameField::setDrawingSize(const QSizeF& size) {
+    drawingSize_ = size;
+    coverWholePixels();
+    update();
+}
+
+void GameField::coverWholePixels() {
+    const int step = std::max(pointsOfWholePixels(pixelRatio()), 1);
+    const auto up = [step](double length) { return std::ceil(length / step) * step; };
+    setImplicitSize(up(drawingSize_.width()), up(drawingSize_.height()));
+}
+
+QSGNode* GameField::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) {
+    auto* place = old != nullptr ? static_cast<QSGTransformNode*>(old) : new QSGTransformNode;
+    auto* const before = place->firstChild();
+    auto* const drawing = QQuickPaintedItem::updatePaintNode(before, data);
+    if (drawing != nullptr && drawing != before) place->appendChildNode(drawing);
+    const auto corner = mapToScene({0, 0});
+    const auto aside = onPixels({corner, size()}).topLeft() - corner;
+    QMatrix4x4 matrix;
+    matrix.translate(static_cast<float>(aside.x()), static_cast<float>(aside.y()));
+    if (place->matrix() != matrix) place->setMatrix(matrix);
+    return place;
 }
 
 void GameField::itemChange(ItemChange change, const ItemChangeData& data) {
     QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) setPictureSize(*this);
+    if (change != ItemSceneChange && change != ItemDevicePixelRatioHasChanged) return;
+    coverWholePixels();
+    update();
 }
 
 }  // namespace tidewatch

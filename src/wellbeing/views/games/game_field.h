@@ -8,7 +8,9 @@
 
 namespace tidewatch {
 
-/// The base of the games' drawings, which repaint only what has changed. Edges lie on whole screen pixels.
+/// The base of the games' drawings, which repaint only what has changed. Edges lie on whole screen pixels:
+/// where the scale factor is no whole number, the item is a little larger than its drawing and shown a
+/// fraction of a pixel aside.
 class GameField : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -33,6 +35,9 @@ public:
     [[nodiscard]] QColor edge() const { return edge_; }
     void setEdge(const QColor& color);
 
+    /// What is drawn on, from the top left corner.
+    [[nodiscard]] QSizeF drawingSize() const { return drawingSize_; }
+
     void paint(QPainter* painter) final;
 
 Q_SIGNALS:
@@ -52,7 +57,10 @@ protected:
     /// Repaints this area, in the item's coordinates, with its antialiased edges.
     void repaint(const QRectF& area);
 
-    void geometryChange(const QRectF& to, const QRectF& from) override;
+    /// Makes the item as large as necessary.
+    void setDrawingSize(const QSizeF& size);
+
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
@@ -61,6 +69,9 @@ private:
     template <class Value>
     void changeLook(Value& value, const Value& to);
 
+    void coverWholePixels();
+
+    QSizeF drawingSize_;
     QList<QColor> pieceColors_;
     QColor plainColor_ = Qt::white;
     QColor ground_ = Qt::transparent;

@@ -15,7 +15,7 @@ constexpr int previewRows = 2;
 }  // namespace
 
 NextPiece::NextPiece(QQuickItem* parent) : GameField(parent) {
-    setImplicitSize(previewColumns * previewStep, previewRows * previewStep);
+    setDrawingSize({previewColumns * previewStep, previewRows * previewStep});
 }
 
 void NextPiece::setPresenter(TetrisPresenter* presenter) {

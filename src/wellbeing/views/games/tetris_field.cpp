@@ -24,7 +24,7 @@ auto& lookAt(auto& looks, const tetris::Cell& cell) {
 }  // namespace
 
 TetrisField::TetrisField(QQuickItem* parent) : GameField(parent) {
-    setImplicitSize(cell_ * tetris::columns, cell_ * tetris::rows);
+    setDrawingSize({cell_ * tetris::columns, cell_ * tetris::rows});
 }
 
 void TetrisField::setPresenter(TetrisPresenter* presenter) {
@@ -39,8 +39,7 @@ void TetrisField::setPresenter(TetrisPresenter* presenter) {
 void TetrisField::setCell(double cell) {
     if (cell == cell_) return;
     cell_ = cell;
-    setImplicitSize(cell_ * tetris::columns, cell_ * tetris::rows);
-    update();
+    setDrawingSize({cell_ * tetris::columns, cell_ * tetris::rows});
     Q_EMIT cellChanged();
 }
 

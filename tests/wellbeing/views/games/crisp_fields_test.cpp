@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 #include <set>
 #include <vector>
@@ -12,18 +13,29 @@
 namespace tidewatch {
 namespace {
 
+using namespace std::chrono_literals;
+
 struct CrispFields : testing::Test, GamesScene {
     void SetUp() override {
         const double factor = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
         ASSERT_EQ(window_.effectiveDevicePixelRatio(), factor);
     }
 
+    /// What is on the screen must be what a fresh drawing of everything gives.
+    void expectNothingStale(const char* field) {
+        const auto repainted = picture();
+        item(field)->update();
+        EXPECT_EQ(repainted, picture());
+    }
+
     /// A line of the field's pixels at this place in points, without the field's edge.
     [[nodiscard]] std::vector<QRgb> line(const char* field, QPointF from, QPointF to) {
         const auto seen = picture();
         const double ratio = window_.effectiveDevicePixelRatio();
-        const auto begin = item(field)->mapToScene(from) * ratio;
-        const auto end = item(field)->mapToScene(to) * ratio;
+        // It is shown at the nearest pixel.
+        const QPointF corner = (item(field)->mapToScene({0, 0}) * ratio).toPoint();
+        const auto begin = corner + from * ratio;
+        const auto end = corner + to * ratio;
         std::vector<QRgb> pixels;
         const auto count = static_cast<int>((end - begin).manhattanLength());
         for (int i = 0; i < count; ++i)
@@ -69,7 +81,7 @@ TEST_F(CrispFields, TheCellsAreSharpAndOfOneSize) {
     EXPECT_EQ(colors(across), 2u) << "the bar and the ground, and nothing in between";
     EXPECT_EQ(runs(across, piece(0)), std::vector(4, pixels(13)));
     pressKeys("^");
-    const auto down = line("tetrisField", {82.5, 1}, {82.5, 268});
+    const auto down = line("tetrisField", {82.5, 1.4}, {82.5, 268});
     EXPECT_EQ(colors(down), 3u) << "the bar, its ghost, and the ground";
     EXPECT_EQ(runs(down, piece(0)), std::vector(4, pixels(13)));
 }
@@ -97,6 +109,26 @@ TEST_F(CrispFields, ThePaddleKeepsItsSizeWhereverItIs) {
         EXPECT_EQ(runs(across, toQColor(theme_.active().dashboard.primaryText).rgb()),
                   std::vector{pixels(40)})
             << at;
+    }
+}
+
+TEST_F(CrispFields, NothingStaleIsLeftWithinPixels) {
+    playSomeTetris();
+    showPanel();
+    static_cast<void>(picture());
+    for (const char* presses : {"<", "^", ">>", "v", "_", "v>", "_"}) {
+        pressKeys(presses);
+        expectNothingStale("tetrisField");
+    }
+}
+
+TEST_F(CrispFields, NothingStaleIsLeftWhereTheBallWas) {
+    playSomeBricks();
+    showPanel();
+    static_cast<void>(picture());
+    for (int i = 0; i < 20; ++i) {
+        wait(100ms);
+        expectNothingStale("breakoutField");
     }
 }
 
