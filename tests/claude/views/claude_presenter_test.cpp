@@ -111,7 +111,9 @@ TEST_F(ClaudePresenterTest, TheAgeOfTheFiguresIsToldWhileTheTabIsShown) {
     EXPECT_EQ(tab_.updated(), "actualizado hace 0s");
     machine_.mainLoop.runFor(seconds(59));
     EXPECT_EQ(tab_.updated(), "actualizado hace 59s");
-    machine_.mainLoop.runFor(seconds(61));
+    machine_.mainLoop.runFor(seconds(1));
+    EXPECT_EQ(tab_.updated(), "actualizado hace 1min");
+    machine_.mainLoop.runFor(seconds(60));
     EXPECT_EQ(tab_.updated(), "actualizado hace 2min");
     tab_.setVisible(false);
     card_.setVisible(false);
@@ -219,13 +221,14 @@ TEST_F(ClaudePresenterTest, EditingBeginsWithThePresentPriceAndSavingStoresIt) {
 }
 
 TEST_F(ClaudePresenterTest, WhatIsNoPriceEndsEditingAndChangesNothing) {
+    usage_.settings.setSubscriptionUsd(80);
     show();
     for (const auto* wrong : {"", "0", "-5", " 20", "20 ", "20x", "1,5", "x"}) {
         tab_.editBudget();
         tab_.setBudgetText(wrong);
         tab_.saveBudget();
         EXPECT_FALSE(tab_.editingBudget()) << wrong;
-        EXPECT_EQ(usage_.settings.subscriptionUsd(), 100) << wrong;
+        EXPECT_EQ(usage_.settings.subscriptionUsd(), 80) << wrong;
     }
 }
 
