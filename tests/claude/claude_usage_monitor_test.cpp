@@ -4,6 +4,7 @@
 
 #include "claude/claude_usage.h"
 #include "tests/claude/claude_world.h"
+#include "tests/claude/watched_files.h"
 
 namespace tidewatch {
 namespace {
@@ -13,6 +14,7 @@ using std::chrono::seconds;
 using test::ClaudeWorld;
 using test::LogEntry;
 using test::utc;
+using test::WatchedFiles;
 using testing::ElementsAre;
 using Field = ClaudeUsageMonitor::Field;
 
@@ -170,6 +172,19 @@ TEST_F(ClaudeUsageMonitorTest, MayBeDestroyedDuringAScan) {
     world.mainLoop.run();
     EXPECT_THAT(changes, ElementsAre(Field::isScanning));
     EXPECT_EQ(world.files.writeCount(), 0);
+}
+
+TEST_F(ClaudeUsageMonitorTest, DestroyingItEndsARunningScanEarly) {
+    putLine();
+    WatchedFiles files(world.files);
+    auto with = dependencies();
+    usage.emplace(
+        ClaudeUsage::Dependencies{with.clock, with.mainLoop, files, with.log, with.queues, with.preferences});
+    world.queues.hold();
+    monitor().refresh();
+    world.mainLoop.run();
+    usage.reset();
+    EXPECT_THAT(files.takeOpened(), testing::IsEmpty());
 }
 
 TEST(ClaudeSettings, TheSubscriptionIsAHundredUnlessAboveZero) {

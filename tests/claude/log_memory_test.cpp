@@ -4,12 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <utility>
-#include <vector>
-
 #include "claude/log_scanner.h"
 #include "tests/claude/claude_world.h"
+#include "tests/claude/watched_files.h"
 
 namespace tidewatch {
 namespace {
@@ -17,55 +14,7 @@ namespace {
 using test::ClaudeWorld;
 using test::LogEntry;
 using test::utc;
-
-/// Forwards to another file system and notes which files are opened where.
-class WatchedFiles final : public platform::FileSystem {
-public:
-    explicit WatchedFiles(platform::MemoryFileSystem& files) : files_(files) {}
-
-    // The offsets at which files were opened since the last call.
-    std::vector<std::uint64_t> takeOpened() { return std::exchange(opened_, {}); }
-
-    // Runs once, before the next file is opened.
-    mutable std::function<void()> beforeOpening;
-
-    [[nodiscard]] std::string homeDirectory() const override { return files_.homeDirectory(); }
-    platform::FileResult<std::unique_ptr<platform::FileReader>> openForReading(
-        const std::string& path, std::uint64_t offset) const override {
-        opened_.push_back(offset);
-        if (beforeOpening) std::exchange(beforeOpening, nullptr)();
-        return files_.openForReading(path, offset);
-    }
-    platform::FileStatus enumerate(const std::string& directory, platform::HiddenFiles hidden,
-                                   const platform::FileVisitor& visit) const override {
-        return files_.enumerate(directory, hidden, visit);
-    }
-    Status createDirectories(const std::string& path) override { return files_.createDirectories(path); }
-    platform::FileResult<std::string> readFile(const std::string& path) const override {
-        return files_.readFile(path);
-    }
-    platform::FileResult<platform::FileInfo> inspect(const std::string& path) const override {
-        return files_.inspect(path);
-    }
-    platform::RecordLock ensureRecordLock(const std::string& directory) override {
-        return files_.ensureRecordLock(directory);
-    }
-    Result<platform::FileInfo> replaceAtomically(const std::string& path,
-                                                 const platform::ContentWriter& content) override {
-        return files_.replaceAtomically(path, content);
-    }
-    Result<std::optional<std::string>> setAside(const std::string& path, std::string_view mark) override {
-        return files_.setAside(path, mark);
-    }
-    std::optional<platform::ExportError> exportFile(const std::string& path,
-                                                    std::string_view content) override {
-        return files_.exportFile(path, content);
-    }
-
-private:
-    platform::MemoryFileSystem& files_;
-    mutable std::vector<std::uint64_t> opened_;
-};
+using test::WatchedFiles;
 
 struct LogMemoryTest : testing::Test {
     ClaudeWorld world;
@@ -119,6 +68,14 @@ TEST_F(LogMemoryTest, AReplacedFileIsReadAnewThoughItIsLarger) {
     EXPECT_EQ(scan(), 1);
     world.putLog("p/a.jsonl", LogEntry{"2026-03-10T11:00:00", 1, 1}.line() + line + line);
     EXPECT_EQ(scan(), 3);
+}
+
+TEST_F(LogMemoryTest, AReplacedFileIsReadAnewThoughItsBytesBeforeTheOffsetAreTheSame) {
+    const auto blanks = std::string(100, ' ') + "\n";
+    world.putLog("p/a.jsonl", line + blanks);
+    EXPECT_EQ(scan(), 1);
+    world.putLog("p/a.jsonl", std::string(line.size() - 1, ' ') + "\n" + blanks + line);
+    EXPECT_EQ(scan(), 1);
 }
 
 TEST_F(LogMemoryTest, AFileRewrittenInPlaceIsReadAnewThoughItIsLarger) {
