@@ -191,11 +191,24 @@ class Core(unittest.TestCase):
             self.assertEqual(self.outer_frame(), self.expected_frame())
             self.world.screenshot("statistics")
             if DESKTOP.window_manager:
+                self.assert_title_bar_is_complete()
                 # It is the desktop alone that must not maximise it.
                 self.world.screen.add_states(window.id, *MAXIMIZED)
                 wait_until(lambda: MAXIMIZED <= self.world.screen.states(window.id), "the window to fill the screen")
         self.world.input.key("ctrl+w")
         wait_until(lambda: self.world.statistics() is None, "the statistics window to close")
+
+    def assert_title_bar_is_complete(self):
+        """A title, even the same one, makes the window manager draw the bar with the buttons anew."""
+        window, frame = self.world.statistics(), self.outer_frame()
+        edge = 4  # which a new drawing may shade in another way
+        bar = Rectangle(frame.x, frame.y + edge, frame.width, window.frame.y - frame.y - edge)
+        self.assertGreater(bar.height, 10)
+        time.sleep(1)
+        before = self.world.screen.grab(bar)
+        self.world.screen.set_title(window.id, window.title)
+        time.sleep(1)
+        self.assertIsNone(difference(before, self.world.screen.grab(bar)))
 
     @needs("tray")
     def test_a_tray_that_crashes_and_comes_back_has_the_icon_and_its_menu_again(self):

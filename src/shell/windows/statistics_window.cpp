@@ -35,7 +35,8 @@ public:
 protected:
     void exposeEvent(QExposeEvent* event) override {
         QQuickWindow::exposeEvent(event);
-        if (isExposed()) exposed_();
+        if (!isExposed()) return;
+        if (const auto first = std::exchange(exposed_, nullptr)) first();
     }
 
     void closeEvent(QCloseEvent* event) override {
@@ -122,7 +123,10 @@ QRect QuickStatisticsWindow::placement() {
 }
 
 void QuickStatisticsWindow::becomeMaximizable() {
-    if (window_) dependencies_.windowSystem.setMaximizable(window_->winId(), true);
+    if (!window_) return;
+    dependencies_.windowSystem.setMaximizable(window_->winId(), true);
+    // One window manager draws the button only with the next change of the title bar.
+    window_->setTitle(window_->title());
 }
 
 /// Some desktops report a frame only once the window is shown. Afterwards the window is the user's.

@@ -185,6 +185,13 @@ class Screen:
         window = self._display.create_resource_object("window", window_id)
         self._ask_window_manager(window, "_NET_WM_STATE", [add, *(atoms + [0])[:2], from_a_pager, 0])
 
+    def set_title(self, window_id, title):
+        """Only for tests: gives a window a title, as its application does."""
+        window = self._display.create_resource_object("window", window_id)
+        utf8 = self._display.intern_atom("UTF8_STRING")
+        window.change_property(self._display.intern_atom("_NET_WM_NAME"), utf8, 8, title.encode())
+        self._display.flush()
+
     def place(self, window_id, x, y, width, height):
         """Only for tests: requests a place and size for a window, as its application does."""
         window = self._display.create_resource_object("window", window_id)
