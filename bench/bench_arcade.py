@@ -90,13 +90,13 @@ class Arcade:
         self._world.input.key("Return")
 
     def play(self, seconds):
-        """Drags the paddle along below the ball, and launches the next one if one is lost."""
+        """Drags the paddle along below the ball, and launches the next one if one is lost; returns how many were."""
         frame = self.window.frame
         board = moved(BOARD, frame)
         self._move(board.centre[0], board.bottom - 20)
         xtest.fake_input(self._display, X.ButtonPress, 1)
         until = time.monotonic() + seconds
-        seen = time.monotonic()
+        seen, lost = time.monotonic(), 0
         while time.monotonic() < until:
             ball = self._ball()
             if ball is not None:
@@ -104,10 +104,11 @@ class Arcade:
                 self._move(ball, board.bottom - 20)
             elif time.monotonic() - seen > 1.5:
                 self.launch()
-                seen = time.monotonic()
+                seen, lost = time.monotonic(), lost + 1
             time.sleep(BACK_AND_FORTH_SECONDS)
         xtest.fake_input(self._display, X.ButtonRelease, 1)
         self._display.sync()
+        return lost
 
     def lose(self):
         """Leaves the paddle at the side until no ball is left."""
@@ -189,12 +190,13 @@ def measure_play(report, world):
 
     with arcade.damages() as drawn:
         before = program.processor_seconds()
-        arcade.play(MEASURED_SECONDS)
+        lost = arcade.play(MEASURED_SECONDS)
         spent = (program.processor_seconds() - before) * 1000
     late, longest, frames = late_frames(drawn)
     report.remark("frames a second", frames / MEASURED_SECONDS, "")
     report.remark("the longest time between two frames", longest, "ms")
-    report.line(f"frames late by more than {LATE_MILLISECONDS} ms", late, LATE_LIMIT, "")
+    # Nothing moves while the next ball waits.
+    report.line(f"frames late by more than {LATE_MILLISECONDS} ms", late - lost, LATE_LIMIT, "")
     report.remark("at play", spent / MEASURED_SECONDS / 10, "% of a core")
     frame = spent / MEASURED_SECONDS / FRAMES_A_SECOND
     report.line("processor time of a frame", frame, FRAME_LIMIT * redrawing, "ms")

@@ -6,6 +6,7 @@
 
 #include "wellbeing/views/games/breakout_field_view.h"
 #include "wellbeing/views/games/games_scene.h"
+#include "wellbeing/views/games/next_piece.h"
 #include "wellbeing/views/games/tetris_field.h"
 
 namespace tidewatch {
@@ -101,6 +102,17 @@ TEST_F(GameFieldsTest, APieceThatMovesRepaintsItsColumnsAlone) {
     EXPECT_TRUE(painted.contains(QRectF(2 * 15, 0, 3 * 15, 2 * 15)));
     EXPECT_TRUE(painted.contains(QRectF(2 * 15, 16 * 15, 3 * 15, 2 * 15))) << "the ghost";
     EXPECT_LE(painted.width(), 3 * 15 + 4);
+}
+
+TEST_F(GameFieldsTest, TheNextPieceIsRepaintedWhenItChanges) {
+    random_.addPieces("JJOTZ");
+    play();
+    Recording<NextPiece> field;
+    showField(field, presenter_.tetris());
+    pressKeys("<");
+    EXPECT_TRUE(paintedBy(field).isEmpty());
+    pressKeys("_");
+    EXPECT_FALSE(paintedBy(field).isEmpty());
 }
 
 TEST_F(GameFieldsTest, ABoardAtRestRepaintsNothing) {
