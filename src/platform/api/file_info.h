@@ -35,9 +35,10 @@ struct FileInfo {
 
 /// One entry found by FileSystem::enumerate().
 struct FoundFile {
-    std::string_view path;  ///< absolute; valid during the visitor's call
-    FileInfo info;          ///< of a symbolic link itself, not of its target
-    FileTime accessed;      ///< last access, if the file system records it
+    std::string_view path;         ///< absolute; valid during the visitor's call
+    FileInfo info;                 ///< of a symbolic link itself, not of its target
+    FileTime accessed;             ///< last access; the epoch if the file system does not know it
+    bool accessIsRecorded = true;  ///< false if the volume is mounted without recording accesses
 };
 
 /// What the enumeration does after an entry.

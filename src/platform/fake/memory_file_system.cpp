@@ -88,7 +88,7 @@ FileResult<FileInfo> MemoryFileSystem::inspectLocked(const std::string& path) co
     }
     const auto file = files_.find(path);
     if (file == files_.end()) return absent("inspect", path);
-    info.size = file->second.content.size();
+    info.size = file->second.sparseSize.value_or(file->second.content.size());
     info.modified = file->second.modified;
     info.identity.inode = file->second.inode;
     return info;
@@ -112,7 +112,7 @@ FileStatus MemoryFileSystem::enumerate(const std::string& directory, HiddenFiles
         }
         const auto info = inspect(path);
         if (!info) continue;  // removed meanwhile
-        const auto next = visit({path, info.value(), info.value().modified});
+        const auto next = visit({path, info.value(), accessedAt(path, info.value()), recordsAccesses_});
         if (next == VisitAction::stop) break;
         if (next == VisitAction::skip) closed.insert(path);
     }
@@ -198,6 +198,22 @@ void MemoryFileSystem::put(const std::string& path, std::string_view content) {
         directories_.insert(directory);
     }
     replace(path, content);
+}
+
+void MemoryFileSystem::putSparse(const std::string& path, std::uint64_t size, FileTime accessed,
+                                 FileTime modified) {
+    put(path, "");
+    const std::lock_guard lock(mutex_);
+    auto& file = files_.at(path);
+    file.sparseSize = size;
+    file.accessed = accessed;
+    file.modified = modified;
+}
+
+FileTime MemoryFileSystem::accessedAt(const std::string& path, const FileInfo& info) const {
+    const std::lock_guard lock(mutex_);
+    const auto file = files_.find(path);
+    return file == files_.end() ? info.modified : file->second.accessed.value_or(info.modified);
 }
 
 void MemoryFileSystem::touch(const std::string& path) {

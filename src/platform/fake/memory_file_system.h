@@ -38,6 +38,12 @@ public:
     /// new identity.
     void put(const std::string& path, std::string_view content);
 
+    /// Creates or replaces a file that reports this size, without content, and these times.
+    void putSparse(const std::string& path, std::uint64_t size, FileTime accessed, FileTime modified);
+
+    /// From now on the disk does not record accesses.
+    void stopRecordingAccesses() { recordsAccesses_ = false; }
+
     /// Changes the modification time of an existing file: to a later one than that of all files, or to
     /// `time`.
     void touch(const std::string& path);
@@ -94,12 +100,15 @@ private:
         std::string content;
         std::uint64_t inode;
         FileTime modified;
+        std::optional<std::uint64_t> sparseSize{};
+        std::optional<FileTime> accessed{};
     };
 
     void replace(const std::string& path, std::string_view content);
     [[nodiscard]] std::optional<Error> fault(std::string_view content);
     [[nodiscard]] Status write(const std::string& path, std::string_view content);
     [[nodiscard]] FileResult<FileInfo> inspectLocked(const std::string& path) const;
+    [[nodiscard]] FileTime accessedAt(const std::string& path, const FileInfo& info) const;
     [[nodiscard]] FileTime nextTime();
     [[nodiscard]] bool makeDirectories(const std::string& path);
     [[nodiscard]] std::vector<std::string> pathsBelow(const std::string& directory) const;
@@ -118,6 +127,7 @@ private:
     std::vector<std::string> exports_;
     std::string day_ = "2026-01-15";
     RecordLock recordLock_ = RecordLock::held;
+    bool recordsAccesses_ = true;
     std::size_t failingWrite_ = 0;
     Disk disk_ = Disk::roomy;
 };

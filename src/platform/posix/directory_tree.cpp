@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 
 #include <memory>
 #include <utility>
@@ -75,15 +76,26 @@ private:
             if (::fstatat(::dirfd(&directory), entry->d_name, &status, ofTheEntryItself) != 0) continue;
             path.resize(length);
             path += name;
-            const auto next = visit_({path, fileInfo(status), fileTime(status.st_atim)});
+            if (S_ISREG(status.st_mode) && status.st_dev != device_) enterDevice(directory, status.st_dev);
+            const auto next = visit_({path, fileInfo(status), fileTime(status.st_atim), accessIsRecorded_});
             if (next == VisitAction::proceed && S_ISDIR(status.st_mode)) pending_.push_back(path);
             stopped_ = next == VisitAction::stop;
             if (stopped_) return;
         }
     }
 
+    // Asked once a volume, since on a share each question is one to its server.
+    void enterDevice(DIR& directory, dev_t device) {
+        struct statvfs status {};
+        device_ = device;
+        accessIsRecorded_ =
+            ::fstatvfs(::dirfd(&directory), &status) != 0 || (status.f_flag & ST_NOATIME) == 0;
+    }
+
     const HiddenFiles hidden_;
     const FileVisitor& visit_;
+    dev_t device_ = 0;  // of the last regular file
+    bool accessIsRecorded_ = true;
     std::vector<std::string> pending_;  // directories still to be read
     bool stopped_ = false;
 };
