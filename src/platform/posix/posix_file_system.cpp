@@ -23,6 +23,7 @@
 #include "platform/posix/posix_file_reader.h"
 #include "platform/posix/private_directory.h"
 #include "platform/posix/regular_file.h"
+#include "platform/posix/rename_to_free.h"
 #include "platform/posix/stat_file_info.h"
 #include "platform/posix/system_error.h"
 
@@ -60,19 +61,6 @@ std::string today() {
     std::tm day{};
     ::localtime_r(&now, &day);
     return fmt::format("{:04}-{:02}-{:02}", day.tm_year + 1900, day.tm_mon + 1, day.tm_mday);
-}
-
-// False, with EEXIST, if the name is taken.
-bool renameToFree(const std::string& from, const std::string& to) {
-    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return true;
-    if (errno != EINVAL) return false;
-    // Some file systems do not support RENAME_NOREPLACE.
-    struct stat status {};
-    if (::lstat(to.c_str(), &status) == 0) {
-        errno = EEXIST;
-        return false;
-    }
-    return std::rename(from.c_str(), to.c_str()) == 0;
 }
 
 ExportErrorKind faultOf(int code) {
