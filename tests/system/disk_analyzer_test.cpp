@@ -144,6 +144,11 @@ TEST_F(DiskAnalyzerTest, AFileThatWasReadLatelyIsNotOldHoweverLongAgoItWasChange
     EXPECT_FALSE(analyzer->result().lacksAccessTimes);
 }
 
+TEST_F(DiskAnalyzerTest, AFileThatWasOnlyWrittenLatelyIsOld) {
+    put(downloads + "/written", large, cutOff - days(1), now);
+    EXPECT_TRUE(scan().largeOld[0].isOld);
+}
+
 TEST_F(DiskAnalyzerTest, WhereAccessesAreNotRecordedTheLaterTimeCounts) {
     world.files.stopRecordingAccesses();
     put(downloads + "/changed", large + 1, cutOff - days(1), now);
@@ -180,6 +185,12 @@ TEST_F(DiskAnalyzerTest, WhatLiesDirectlyInARootIsAnItemWithAllBelowIt) {
     EXPECT_THAT(folderTexts(), ElementsAre(documents + "/folder=50000", downloads + "/file=4000",
                                            downloads + "/folder=321"));
     EXPECT_EQ(analyzer->result().topFolders[1].name, "file");
+}
+
+TEST_F(DiskAnalyzerTest, ARootInsideAnotherOneHasItemsOfItsOwn) {
+    addRoot(UserFolder::documents, downloads + "/docs");
+    put(downloads + "/docs/folder/a", 5, now);
+    EXPECT_THAT(folderTexts(), ElementsAre(downloads + "/docs=5", downloads + "/docs/folder=5"));
 }
 
 TEST_F(DiskAnalyzerTest, ARootPathInsideADeeperPathIsRemovedThereToo) {
@@ -292,6 +303,16 @@ TEST_F(DiskAnalyzerTest, TheResultOfAScanThatIsNotWaitedForIsDropped) {
     analyzer->scan();
     analyzer.reset();
     world.mainLoop.run();
+}
+
+TEST(DiskScanTest, OneVolumeWithoutAccessTimesIsEnoughToSaySo) {
+    DiskScan scan{Instant(days(20'000))};
+    scan.enterRoot("/r");
+    platform::FoundFile found{.path = "/r/a", .info = {}, .accessed = {}, .accessIsRecorded = false};
+    scan.add(found);
+    found.accessIsRecorded = true;
+    scan.add(found);
+    EXPECT_TRUE(std::move(scan).result().lacksAccessTimes);
 }
 
 TEST(DaysAgo, IsInDaysMonthsAndYears) {
