@@ -10,6 +10,7 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -91,10 +92,15 @@ double peakMegabytes(const std::function<void()>& work) {
     return status("VmHWM") - before;
 }
 
+// Of all threads; the best of several, since others may use the caches as well.
 double processorMilliseconds(const std::function<void()>& work) {
-    const auto begin = std::clock();
-    work();
-    return 1e3 * static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    auto best = std::numeric_limits<std::clock_t>::max();
+    for (int round = 0; round < 5; ++round) {
+        const auto begin = std::clock();
+        work();
+        best = std::min(best, std::clock() - begin);
+    }
+    return 1e3 * static_cast<double>(best) / CLOCKS_PER_SEC;
 }
 
 // The best of several, since others may use the machine as well.
