@@ -11,7 +11,8 @@ namespace {
 constexpr std::string_view usageKey = "\"usage\"";
 // The letters of the key, escaped, are \u0061, \u0065, \u0067, \u0073 and \u0075.
 constexpr std::string_view escape = "\\u00";
-constexpr std::size_t longestBeforeEnd = 30;  // of the key with all its letters escaped
+// The last escape in a key that has one begins at most so far before what is searched for: \u0075sage.
+constexpr std::size_t escapeBeforeEnd = 8;
 
 // What is searched for is the end of the key, because a text in a string has a backslash there: a g or the
 // last digit but one of an escaped e, an e or the last digit, and the quote.
@@ -30,8 +31,8 @@ std::size_t keyAt(std::string_view lines, std::size_t from, std::size_t end) {
     if (before.ends_with(usageKey.substr(0, beforeEnd)) && lines[end] == 'g' && lines[end + 1] == 'e') {
         return end - beforeEnd;
     }
-    const auto longest = before.substr(before.size() - std::min(before.size(), longestBeforeEnd));
-    return longest.find(escape) != std::string_view::npos ? end : std::string_view::npos;
+    const auto last = before.substr(before.size() - std::min(before.size(), escapeBeforeEnd));
+    return last.find(escape) != std::string_view::npos ? end : std::string_view::npos;
 }
 
 template <class Blocks>
