@@ -96,15 +96,6 @@ TEST_F(StatisticsWindowTest, AFrameThatIsAsExpectedLeavesItToTheUser) {
     EXPECT_EQ(shown()->geometry(), QRect(3, 4, 850, 600));
 }
 
-TEST_F(StatisticsWindowTest, OneThatFillsTheScreenIsNotCorrected) {
-    window_.showWindow();
-    shown()->setWindowStates(Qt::WindowFullScreen);
-    const auto filling = shown()->geometry();
-    machine_.windowSystem.reportFrame({.left = 1, .right = 1, .top = 22, .bottom = 5});
-    EXPECT_EQ(shown()->windowStates(), Qt::WindowFullScreen);
-    EXPECT_EQ(shown()->geometry(), filling);
-}
-
 TEST_F(StatisticsWindowTest, OnlyOnceItIsSeenItMayBeMaximised) {
     window_.showWindow();
     EXPECT_FALSE(machine_.windowSystem.maximizable());
