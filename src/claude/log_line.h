@@ -16,8 +16,8 @@ namespace tidewatch {
 struct LogLine {
     std::chrono::sys_seconds date;
     TokenCounts tokens;
-    std::string_view
-        model;  ///< "unknown" if not logged; valid until the reader's next call and as long as the line
+    /// "unknown" if not logged; valid until the reader's next call and as long as the line.
+    std::string_view model;
 };
 
 /// Parses log lines, one JSON object each. Keys are read as follows: of duplicates the last one counts; a
