@@ -79,7 +79,7 @@ void AppDelegate::refreshStatusBarTitle() {
 
 void AppDelegate::refreshTimerFired() {
     refreshStatusBarTitle();
-    dependencies_.record.setDayUnderCurrentKey();
+    dependencies_.record.setDayAfterTick();
     dependencies_.notifications.checkDailyMilestones();
     dependencies_.record.flushCategories();
     dependencies_.statusBar.secondPassed();

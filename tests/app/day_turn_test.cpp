@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEventLoop>
+#include <utility>
 
 #include "app/program_world.h"
 #include "platform/qt/qt_main_loop.h"
@@ -67,6 +68,15 @@ TEST_P(DayTurn, AtMidnightWhileActiveEachDayKeepsItsOwnSeconds) {
     EXPECT_EQ(program_->services.engine.todaySeconds(), Seconds(3));
     EXPECT_EQ(program_->services.engine.liveSeconds(), Seconds(3));
     EXPECT_EQ(todayAtTheEnd(), "{\n  \"2026-01-15\" : 5002,\n  \"2026-01-16\" : 3\n}");
+}
+
+TEST_P(DayTurn, MidnightBetweenATickAndItsRefreshLeavesTheNewDayToTheNextTick) {
+    startAt(the16th - 1500ms, R"({"2026-01-15": 5000, "2026-01-16": 40})");
+    surfaces_.statusItem().onTitle([this, slow = true]() mutable {
+        if (std::exchange(slow, false)) machine_.clock.advance(600ms);
+    });
+    secondsPass(3);
+    EXPECT_EQ(todayAtTheEnd(), "{\n  \"2026-01-15\" : 5001,\n  \"2026-01-16\" : 42\n}");
 }
 
 TEST_P(DayTurn, AtMidnightWhileIdleTheNewDayStartsAtZero) {
