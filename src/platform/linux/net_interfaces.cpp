@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 
 #include "platform/linux/kernel_file.h"
 #include "platform/linux/text_fields.h"
@@ -77,8 +78,7 @@ InterfaceBytes totalBytes(std::string_view netDev, const std::string& netDirecto
     const auto isHardware = [&](const NetInterface& each) {
         return ::access((netDirectory + "/" + each.name + "/device").c_str(), F_OK) == 0;
     };
-    const auto virtualOnes = std::ranges::stable_partition(interfaces, isHardware);
-    if (virtualOnes.begin() != interfaces.begin()) interfaces.erase(virtualOnes.begin(), interfaces.end());
+    if (std::ranges::any_of(interfaces, isHardware)) std::erase_if(interfaces, std::not_fn(isHardware));
     InterfaceBytes sum;
     for (const auto& [name, bytes] : interfaces) {
         if (!isUp(netDirectory + "/" + name)) continue;
