@@ -168,6 +168,7 @@ class Silent(unittest.TestCase):
             wait_until(lambda: world.screen.selection_owner("CLIPBOARD") != X.NONE, "something copied", SOON)
             world.screen.hold_selection("CLIPBOARD_MANAGER")
             asked = EventTime.of(lambda: program.send(signal.SIGTERM))
+            wait_until(lambda: world.clock() is None, "the clock to go", SOON)
             successor = world.start_program()
             ended = world.stop_program(successor)
             self.assertEqual(program.wait(SOON), 0)
