@@ -61,9 +61,6 @@ public:
     /// Seconds booked to the current day.
     [[nodiscard]] Seconds todaySeconds() const { return todaySeconds_; }
 
-    /// The day that the last tick booked to, or the first one will.
-    [[nodiscard]] const DayKey& currentDay() const { return currentDay_; }
-
     [[nodiscard]] Status status() const { return status_; }
 
     /// Emitted at the end of a tick or a reset that changed one of the three values above.

@@ -78,8 +78,9 @@ void AppDelegate::refreshStatusBarTitle() {
 }
 
 void AppDelegate::refreshTimerFired() {
+    // First, right after the tick: drawing takes time, in which the day may change.
+    dependencies_.record.setDayUnderCurrentKey();
     refreshStatusBarTitle();
-    dependencies_.record.setDayAfterTick();
     dependencies_.notifications.checkDailyMilestones();
     dependencies_.record.flushCategories();
     dependencies_.statusBar.secondPassed();

@@ -2,12 +2,6 @@
 
 namespace tidewatch {
 
-void RecordWriter::setDayAfterTick() {
-    if (const auto day = counters_.daily.today(); day == engine_.currentDay()) {
-        counters_.daily.set(engine_.todaySeconds(), day);
-    }
-}
-
 void RecordWriter::setDayUnderCurrentKey() {
     counters_.daily.set(engine_.todaySeconds(), counters_.daily.today());
 }

@@ -14,9 +14,8 @@ public:
                  CategoryStore& categories)
         : engine_(engine), counters_(counters), projectTime_(projectTime), categories_(categories) {}
 
-    /// Stores the day's total in memory, unless the day has changed since the tick: then the total is still
-    /// the old day's, which the next tick stores.
-    void setDayAfterTick();
+    /// Stores the day's total in memory under the current day.
+    void setDayUnderCurrentKey();
 
     /// Flushes days, applications and hours, as before showing the statistics on a reopen request.
     void flushForReopening();
@@ -28,8 +27,6 @@ public:
     void flushCategories() { categories_.flushRegistered(); }
 
 private:
-    void setDayUnderCurrentKey();
-
     const TimerEngine& engine_;
     CounterStores counters_;
     ProjectTimeStore& projectTime_;
