@@ -1,6 +1,7 @@
 #include "platform/linux/kernel_file.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -56,6 +57,14 @@ std::optional<std::string_view> KernelFile::read() {
         if (length == buffer_.size()) buffer_.resize(2 * length);
     }
     return std::string_view(buffer_.data(), length);
+}
+
+bool KernelFile::mayHaveChanged() const {
+    if (!file_.isOpen()) return true;
+    pollfd poll{.fd = file_.get(), .events = POLLIN | POLLOUT | POLLPRI, .revents = 0};
+    if (::poll(&poll, 1, 0) < 0) return true;
+    // A file without announcements is always ready for everything.
+    return (poll.revents & (POLLERR | POLLPRI | POLLOUT)) != 0;
 }
 
 std::vector<std::string> namesIn(const std::string& directory, std::string_view prefix) {

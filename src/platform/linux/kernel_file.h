@@ -25,6 +25,10 @@ public:
     /// The whole content of the moment; valid until the next call. Nullopt if it cannot be read.
     [[nodiscard]] std::optional<std::string_view> read();
 
+    /// Whether the content may differ from the last one: false only for a file with which the kernel
+    /// announces changes, such as the mount table. Much cheaper than reading.
+    [[nodiscard]] bool mayHaveChanged() const;
+
 private:
     const std::string path_;
     FileDescriptor file_{-1};

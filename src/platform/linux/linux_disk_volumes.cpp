@@ -31,9 +31,11 @@ public:
           sizeOf_(sources.sizeOf) {}
 
     std::optional<std::vector<MountedVolume>> read() {
-        const auto text = mountInfo_.read();
-        if (!text) return std::nullopt;
-        if (described_ != *text) describe(*text);
+        if (described_.empty() || mountInfo_.mayHaveChanged()) {
+            const auto text = mountInfo_.read();
+            if (!text) return std::nullopt;
+            if (described_ != *text) describe(*text);
+        }
         std::vector<MountedVolume> volumes;
         for (const auto& [volume, kind] : volumes_) {
             auto sized = volume;

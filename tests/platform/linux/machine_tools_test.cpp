@@ -71,6 +71,19 @@ TEST(MachineTools, DfTellsTheSameSizes) {
     EXPECT_NEAR(static_cast<double>(size.free), available, 0.05 * total);
 }
 
+TEST(KernelFileTest, TheMountTableAnnouncesItsChangesAndOtherFilesMayChangeAnyTime) {
+    KernelFile mountTable("/proc/self/mountinfo");
+    EXPECT_TRUE(mountTable.mayHaveChanged());
+    EXPECT_TRUE(mountTable.read());
+    // Others may mount something meanwhile, but not every time.
+    bool isQuiet = false;
+    for (int attempt = 0; attempt < 100 && !isQuiet; ++attempt) isQuiet = !mountTable.mayHaveChanged();
+    EXPECT_TRUE(isQuiet);
+    KernelFile statistics("/proc/self/stat");
+    EXPECT_TRUE(statistics.read());
+    EXPECT_TRUE(statistics.mayHaveChanged());
+}
+
 TEST(MachineTools, PsTellsTheSameOfThisProcess) {
     LinuxMachineCounters counters;
     const auto loads = counters.busiestProcesses(100'000);
