@@ -71,9 +71,11 @@ struct LinuxDiskVolumesTest : testing::Test {
     ~LinuxDiskVolumesTest() override { sizes->hang(""); }
 
     std::map<std::string, std::optional<std::int64_t>> read() {
-        const auto before = readings;
+        mainLoop.run();
+        // A reading may be under way that began before this call: only the second one is certain to be new.
+        const auto enough = readings + 2;
         // The thread may still be busy with leaving its last job.
-        while (readings == before) {
+        while (readings < enough) {
             volumes->refresh();
             mainLoop.run();
             std::this_thread::yield();
