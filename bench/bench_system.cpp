@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -29,10 +30,14 @@ constexpr int processes = 300;
 class IdleProcesses final {
 public:
     explicit IdleProcesses(int count) {
+        const auto parent = ::getpid();
         for (int index = 0; index < count; ++index) {
             const auto child = ::fork();
             if (child == 0) {
-                while (true) ::pause();
+                // They end with the benchmark, even if it is killed.
+                ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+                while (::getppid() == parent) ::pause();
+                ::_exit(0);
             }
             if (child < 0) giveUp("no process could be started");
             children_.push_back(child);

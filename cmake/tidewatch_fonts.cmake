@@ -1,6 +1,6 @@
 # tidewatch_fonts(<program>)
 #
-# Puts the folder "Fonts" with the brand's typefaces beside the program, and into the package. They are fetched
+# Puts the folder "Fonts" with the brand's typefaces beside the program. They are fetched
 # once into the build tree, in the weights in use, through npm if it is installed; without it, or without a network,
 # the folder is empty and text uses packaged fallbacks.
 function(tidewatch_fonts program)
@@ -18,7 +18,6 @@ function(tidewatch_fonts program)
             COMMENT "Fetching typefaces"
             VERBATIM)
         add_custom_target(tidewatch_fonts DEPENDS ${stamp})
-        install(DIRECTORY ${folder} DESTINATION share/tidewatch OPTIONAL)
     endif()
     add_dependencies(${program} tidewatch_fonts)
     add_custom_command(TARGET ${program} POST_BUILD

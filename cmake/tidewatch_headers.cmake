@@ -39,7 +39,8 @@ endfunction()
 
 # Targets that use the toolkit call it more than they compute, so that an optimised build optimises them less. The tests
 # need not be fast, but should build quickly.
-set(TIDEWATCH_toolkit_OPTIONS $<$<CONFIG:Release>:-O1>)
+set(TIDEWATCH_domain_OPTIONS ${TIDEWATCH_FORTIFY})
+set(TIDEWATCH_toolkit_OPTIONS $<$<CONFIG:Release>:-O1> ${TIDEWATCH_FORTIFY})
 set(TIDEWATCH_tests_OPTIONS -O0)
 # Checks that cost a third of the compile time and find hardly anything; the address sanitizer reports a null pointer too.
 if(TIDEWATCH_SANITIZE MATCHES undefined)
@@ -50,7 +51,7 @@ set(TIDEWATCH_toolkit_tests_OPTIONS ${TIDEWATCH_tests_OPTIONS})
 
 if(TIDEWATCH_UNITY)
     find_package(fmt REQUIRED)
-    _tidewatch_header_set(domain LINKS fmt::fmt)
+    _tidewatch_header_set(domain LINKS fmt::fmt OPTIONS ${TIDEWATCH_domain_OPTIONS})
     if(TIDEWATCH_TESTS)
         find_package(GTest REQUIRED)
         _tidewatch_header_set(tests LINKS GTest::gmock OPTIONS ${TIDEWATCH_tests_OPTIONS})

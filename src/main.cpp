@@ -8,7 +8,12 @@
 int main(int, char* arguments[]) {
     const tidewatch::platform::ProcessEnvironment environment;
     if (!environment.hasDisplay()) return EXIT_FAILURE;
-    tidewatch::Application application(arguments[0]);
-    tidewatch::platform::NativePlatform machine(environment);
-    return application.run(machine.platform());
+    int code = EXIT_FAILURE;
+    {
+        tidewatch::Application application(arguments[0]);
+        tidewatch::platform::NativePlatform machine(environment);
+        code = application.run(machine.platform());
+    }
+    // What is left are threads that look up the names of hosts, for as long as name servers are silent.
+    std::_Exit(code);
 }

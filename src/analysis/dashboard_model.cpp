@@ -37,6 +37,12 @@ std::string_view rawValue(DashboardTab tab) {
     return tabNames[static_cast<std::size_t>(tab)];
 }
 
+std::optional<DashboardTab> dashboardTab(std::string_view label) {
+    const auto* const found = std::ranges::find(tabNames, label);
+    if (found == tabNames.end()) return std::nullopt;
+    return static_cast<DashboardTab>(found - tabNames.begin());
+}
+
 DashboardModel::DashboardModel(const Sources& sources)
     : sources_(sources),
       namingZone_(sources.clock.timeZone()),
@@ -154,9 +160,7 @@ DayKey DashboardModel::keyOf(Instant instant) const {
 }
 
 AppEntry DashboardModel::entry(const AppSeconds& app) const {
-    const auto& info = sources_.appInfo.info(app.app);
-    const auto category = sources_.categories.category(app.app);
-    return {app.app, app.seconds, info.name, info.icon, category, sources_.categories.tier(category)};
+    return appEntry(app, sources_.appInfo, sources_.categories);
 }
 
 std::vector<AppEntry> DashboardModel::readApps(const DayKey& day) const {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "analysis/app_entry.h"
 #include "base/instant.h"
 #include "base/seconds.h"
 #include "base/signal.h"
@@ -35,16 +36,8 @@ enum class DashboardTab { overview, goals, details, timesheet, projects, system,
 /// Its label in the tab bar.
 [[nodiscard]] std::string_view rawValue(DashboardTab tab);
 
-/// One application in one day.
-struct AppEntry {
-    AppId app;
-    Seconds seconds;
-    std::string name;
-    std::optional<AppIcon> icon;
-    Category category = Category::uncategorized;
-    Tier tier = Tier::uncategorized;
-    bool operator==(const AppEntry&) const = default;
-};
+/// The tab with that label; nullopt if there is none.
+[[nodiscard]] std::optional<DashboardTab> dashboardTab(std::string_view label);
 
 /// The time of one project in one day or, without a project, the untagged time.
 struct ProjectRow {

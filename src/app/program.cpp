@@ -38,6 +38,17 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .surfaces = screen.surfaces,
           .openMenu = [this] { statusBar_.openMenu(); },
       }),
+      widgetDependencies_({
+          .hub = services.widgets.hub,
+          .mainLoop = platform.mainLoop,
+          .broadcaster = services.broadcaster,
+          .statistics = screen.statistics,
+          .windows = {.store = services.widgets.store,
+                      .broadcaster = services.broadcaster,
+                      .screens = platform.screens,
+                      .surfaces = screen.surfaces,
+                      .openMenu = [this] { statusBar_.openMenu(); }},
+      }),
       delegate_({
           .mainLoop = platform.mainLoop,
           .broadcaster = services.broadcaster,
@@ -48,6 +59,7 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .clock = clock_,
           .statusBar = statusBar_,
           .statistics = screen.statistics,
+          .widgets = [this]() -> WidgetManager& { return widgets(); },
       }),
       commands_({
           .settings = services.counting.settings,
@@ -71,6 +83,11 @@ StatusTitle Program::statusTitle() const {
                                   services_.projects.store.activeProject());
 }
 
+WidgetManager& Program::widgets() {
+    if (!widgets_) widgets_.emplace(widgetDependencies_);
+    return *widgets_;
+}
+
 MenuGroups Program::makeMenu(const platform::Platform& platform) {
     const auto& settings = services_.counting.settings;
     const auto& days = services_.counting.days;
@@ -83,6 +100,7 @@ MenuGroups Program::makeMenu(const platform::Platform& platform) {
             appearanceSection(services_.themes, services_.theme, settings, commands_),
             countingRuleSection(settings, commands_),
             projectSection(services_.projects.store, projectCommands_, exports_),
+            widgetSection([this]() -> WidgetManager& { return widgets(); }),
             clockSection(settings, commands_),
         },
         {recordSection(commands_, exports_)},

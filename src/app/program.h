@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "app/services.h"
@@ -15,6 +16,7 @@
 #include "shell/status_menu.h"
 #include "shell/status_title.h"
 #include "shell/surfaces.h"
+#include "shell/widgets/widget_manager.h"
 
 namespace tidewatch {
 
@@ -39,6 +41,8 @@ public:
 
 private:
     [[nodiscard]] StatusTitle statusTitle() const;
+    /// Builds the manager on first use: it observes after the delegate.
+    [[nodiscard]] WidgetManager& widgets();
     [[nodiscard]] MenuGroups makeMenu(const platform::Platform& platform);
 
     Services& services_;
@@ -47,6 +51,8 @@ private:
     RecordWriter record_;
     StatusBar statusBar_;
     FloatingClock clock_;
+    const WidgetManager::Dependencies widgetDependencies_;
+    std::optional<WidgetManager> widgets_;
     AppDelegate delegate_;
     StatusCommands commands_;
     MenuGroups menu_;

@@ -14,6 +14,8 @@
 #include "projects/project_tracking.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
+#include "shell/widgets/desktop_widgets.h"
+#include "system/machine_overview.h"
 #include "wellbeing/wellbeing.h"
 
 namespace tidewatch {
@@ -33,6 +35,8 @@ struct Services final {
     GoalTracking goals;
     Wellbeing wellbeing;
     ClaudeUsage claude;
+    MachineOverview machine;
+    DesktopWidgets widgets;
     SmallFiles smallFiles;
     /// Writes the stores; destroyed before any of them.
     std::unique_ptr<JobQueue> disk;

@@ -24,19 +24,54 @@ public:
     }
 
     [[nodiscard]] std::size_t size() const { return size_; }
-    [[nodiscard]] std::string_view text() const { return {text_.data(), size_}; }
 
-    /// Copies it to `target`, which has room for one more stride; returns the end of the copy.
-    char* copyTo(char* target) const {
-        std::memcpy(target, text_.data(), stride);
-        if (size_ > stride) std::memcpy(target + stride, text_.data() + stride, size_ - stride);
-        return target + size_;
+    /// Copies it, or what follows its first `skipped` bytes, to `target`, which has room for one more stride;
+    /// returns the end of the copy.
+    char* copyTo(char* target, std::size_t skipped = 0) const {
+        std::memcpy(target, text_.data() + skipped, stride);
+        const auto size = size_ - skipped;
+        if (size > stride) std::memcpy(target + stride, text_.data() + skipped + stride, size - stride);
+        return target + size;
     }
 
 private:
     std::size_t size_;
     std::string text_;
 };
+
+using Word = std::uint64_t;
+
+Word wordAt(const char* bytes) {
+    Word word = 0;
+    std::memcpy(&word, bytes, sizeof word);
+    return word;
+}
+
+constexpr Word eightTimes(unsigned char byte) {
+    return 0x0101010101010101U * Word(byte);
+}
+
+// Whether one of the eight bytes is less than `limit`, which is at most 0x80.
+constexpr bool hasLess(Word word, unsigned char limit) {
+    return ((word - eightTimes(limit)) & ~word & eightTimes(0x80)) != 0;
+}
+
+constexpr bool hasByte(Word word, unsigned char byte) {
+    return hasLess(word ^ eightTimes(byte), 1);
+}
+
+constexpr bool mustBeEscaped(Word word) {
+    return hasLess(word, 0x20) || hasByte(word, '"') || hasByte(word, '\\') || hasByte(word, '/');
+}
+
+bool mustBeEscaped(std::string_view text) {
+    if (text.size() < sizeof(Word)) return std::ranges::any_of(text, mustBeEscapedInJson);
+    const auto* last = text.data() + text.size() - sizeof(Word);
+    for (const auto* next = text.data(); next < last; next += sizeof(Word)) {
+        if (mustBeEscaped(wordAt(next))) return true;
+    }
+    return mustBeEscaped(wordAt(last));
+}
 
 // Collects short texts into pieces for a sink.
 class PieceBuffer final {
@@ -47,16 +82,26 @@ public:
         makeRoomFor(1);
         *next_++ = c;
     }
-    void text(std::string_view text) {
-        makeRoomFor(text.size());
-        next_ = std::ranges::copy(text, next_).out;
+
+    void text(const PaddedText& text, std::size_t skipped = 0) {
+        makeRoomFor(text.size() + stride);
+        next_ = text.copyTo(next_, skipped);
     }
 
-    /// A text and a number behind it.
-    void counter(const PaddedText& text, std::int64_t number) {
-        constexpr std::size_t maxDigits = 20;
+    void text(const PaddedText& before, std::string_view text, const PaddedText& after) {
+        makeRoomFor(before.size() + text.size() + after.size() + stride);
+        next_ = std::ranges::copy(text, before.copyTo(next_)).out;
+        next_ = after.copyTo(next_);
+    }
+
+    /// A text, or what follows its first `skipped` bytes, and a number behind it.
+    void counter(const PaddedText& text, std::size_t skipped, std::int64_t counter) {
         makeRoomFor(text.size() + stride + maxDigits);
-        next_ = text.copyTo(next_);
+        next_ = std::to_chars(text.copyTo(next_, skipped), end_, counter).ptr;
+    }
+
+    void number(std::int64_t number) {
+        makeRoomFor(maxDigits);
         next_ = std::to_chars(next_, end_, number).ptr;
     }
 
@@ -71,6 +116,7 @@ public:
 private:
     // Small enough to stay in a processor's cache until it is written.
     static constexpr std::size_t pieceSize = std::size_t(128) * 1024;
+    static constexpr std::size_t maxDigits = 20;
 
     void makeRoomFor(std::size_t size) {
         if (static_cast<std::size_t>(end_ - next_) >= size) return;
@@ -93,11 +139,12 @@ class Writer final {
 public:
     explicit Writer(const CounterRecord& record) : record_(record), leaves_(record) {
         for (std::size_t level = 0; level < record.depth(); ++level) {
-            indents_.push_back(std::string("\n").append(2 * (level + 1), ' '));
+            ends_.emplace_back(lineStart(level) + "}");
             memberStarts_.emplace_back();
             // Names recur hundreds of thousands of times; each is escaped once.
             for (std::uint32_t name = 0; level > 0 && name < record.nameCount(); ++name) {
-                memberStarts_.back().emplace_back(indents_.back() + quoted(record.name(name)) + " : ");
+                memberStarts_.back().emplace_back(nextMember(level + 1) + escaped(record.name(name)) +
+                                                  "\" : ");
             }
         }
     }
@@ -109,10 +156,20 @@ public:
     }
 
 private:
-    static std::string quoted(std::string_view key) {
-        std::string result = "\"";
+    static std::string escaped(std::string_view key) {
+        std::string result;
         appendJsonEscaped(result, key);
-        return result + '"';
+        return result;
+    }
+
+    static std::string lineStart(std::size_t level) { return std::string("\n").append(2 * level, ' '); }
+
+    // What separates a member from the name of the next one.
+    static std::string nextMember(std::size_t level) {
+        std::string text(",");
+        text += lineStart(level);
+        text += '"';
+        return text;
     }
 
     void writeObject(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) {
@@ -124,57 +181,47 @@ private:
         } else {
             writeNames(buffer, level, members);
         }
-        buffer.text(level == 0 ? "\n" : std::string_view(indents_[level - 1]));
-        buffer.character('}');
+        buffer.text(ends_[level]);
     }
 
     void writeKeys(PieceBuffer& buffer, CounterRecord::Range keys) {
+        const PaddedText first(lineStart(1) + '"');
+        const PaddedText next(nextMember(1));
+        const PaddedText end("\" : ");
         for (auto node = keys.begin; node < keys.end && buffer.isOpen(); ++node) {
-            if (node != keys.begin) buffer.character(',');
-            buffer.text(indents_[0]);
-            writeKey(buffer, record_.text(0, node));
-            buffer.text(" : ");
+            const auto key = record_.text(0, node);
+            const auto& start = node == keys.begin ? first : next;
+            if (mustBeEscaped(key)) {
+                buffer.text(start, escaped(key), end);
+            } else {
+                buffer.text(start, key, end);
+            }
             if (record_.depth() == 1) {
-                buffer.text(std::to_string(record_.seconds(node).count()));
+                buffer.number(record_.seconds(node).count());
             } else {
                 writeObject(buffer, 1, record_.children(0, node));
             }
         }
     }
 
-    static void writeKey(PieceBuffer& buffer, std::string_view key) {
-        if (std::ranges::any_of(key, mustBeEscapedInJson)) {
-            buffer.text(quoted(key));
-        } else {
-            buffer.character('"');
-            buffer.text(key);
-            buffer.character('"');
-        }
-    }
-
     void writeNames(PieceBuffer& buffer, std::size_t level, CounterRecord::Range members) {
         const auto& starts = memberStarts_[level];
-        bool isFirst = true;
-        const auto separate = [&] {
-            if (!std::exchange(isFirst, false)) buffer.character(',');
-        };
+        std::size_t skipped = 1;  // no comma before the first member
         if (level + 1 == record_.depth()) {
             leaves_.forEach(members, [&](std::uint32_t name, Seconds seconds) {
-                separate();
-                buffer.counter(starts[name], seconds.count());
+                buffer.counter(starts[name], std::exchange(skipped, 0), seconds.count());
             });
             return;
         }
         for (auto node = members.begin; node < members.end; ++node) {
-            separate();
-            buffer.text(starts[record_.nameId(level, node)].text());
+            buffer.text(starts[record_.nameId(level, node)], std::exchange(skipped, 0));
             writeObject(buffer, level + 1, record_.children(level, node));
         }
     }
 
     const CounterRecord& record_;
     LeafReader leaves_;
-    std::vector<std::string> indents_;                   // a level: from the end of a line to the quote
+    std::vector<PaddedText> ends_;                       // of the objects on a level
     std::vector<std::vector<PaddedText>> memberStarts_;  // a level and a name
 };
 

@@ -9,9 +9,14 @@
 #include "platform/freedesktop/autostart_login_item.h"
 #include "platform/freedesktop/desktop_entries.h"
 #include "platform/freedesktop/desktop_notifications.h"
-#include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/message_bus.h"
+#include "platform/freedesktop/udisks_ejection.h"
 #include "platform/freedesktop/xdg_applications.h"
 #include "platform/freedesktop/xdg_desktop.h"
+#include "platform/freedesktop/xdg_trash.h"
+#include "platform/freedesktop/xdg_user_folders.h"
+#include "platform/linux/linux_disk_volumes.h"
+#include "platform/linux/linux_machine_counters.h"
 #include "platform/linux/linux_process_memory.h"
 #include "platform/posix/directory_lock.h"
 #include "platform/posix/locked_single_instance.h"
@@ -22,12 +27,14 @@
 #include "platform/posix/system_randomness.h"
 #include "platform/posix/threaded_job_queue_factory.h"
 #include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_http_client.h"
 #include "platform/qt/qt_main_loop.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_screens.h"
 #include "platform/x11/x11_active_application.h"
 #include "platform/x11/x11_clipboard_guard.h"
 #include "platform/x11/x11_input_activity.h"
+#include "platform/x11/x11_running_applications.h"
 #include "platform/x11/x11_window_system.h"
 
 namespace tidewatch::platform {
@@ -38,6 +45,10 @@ constexpr char ownIdentifier[] = "com.brightlooms.tidewatch";
 
 std::string configDirectory() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation).toStdString();
+}
+
+std::string dataDirectory() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString();
 }
 
 // A file from an earlier version, or one that was copied here, may be readable by others.
@@ -57,7 +68,7 @@ struct NativePlatform::Impl {
     DirectoryLock recordLock{log};
     PosixFileSystem files{&recordLock};
     QtPreferences preferences{configDirectory(), log};
-    SessionBus sessionBus{environment.sessionBusAddress()};
+    MessageBus sessionBus{environment.sessionBusAddress()};
     X11Connection idleConnection;
     X11InputActivity inputActivity{idleConnection};
     X11Connection focusConnection;
@@ -76,6 +87,13 @@ struct NativePlatform::Impl {
     DesktopNotifications notifications{sessionBus, log};
     LinuxProcessMemory memory;
     ThreadedJobQueueFactory queues{mainLoop};
+    LinuxMachineCounters counters;
+    LinuxDiskVolumes volumes{mainLoop};
+    UdisksEjection ejection{queues, UdisksEjection::standardAddress()};
+    X11RunningApplications running{entries, applications, ::getpid(), [] { QCoreApplication::quit(); }};
+    QtHttpClient http{mainLoop};
+    XdgUserFolders userFolders{files.homeDirectory(), configDirectory()};
+    XdgTrash trash{clock, dataDirectory()};
     Platform all{
         .log = log,
         .clock = clock,
@@ -95,6 +113,13 @@ struct NativePlatform::Impl {
         .notifications = notifications,
         .memory = memory,
         .queues = queues,
+        .counters = counters,
+        .volumes = volumes,
+        .ejection = ejection,
+        .running = running,
+        .http = http,
+        .userFolders = userFolders,
+        .trash = trash,
     };
 };
 

@@ -1,10 +1,11 @@
 #include "shell/app_delegate.h"
 
 #include <chrono>
+#include <utility>
 
 namespace tidewatch {
 
-AppDelegate::AppDelegate(const Dependencies& dependencies) : dependencies_(dependencies) {}
+AppDelegate::AppDelegate(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
@@ -13,6 +14,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     dependencies_.statusBar.begin([this](StatusItem::Click click) { handleStatusClick(click); });
     observeBroadcasts();
     dependencies_.engine.start();
+    dependencies_.widgets().restoreVisible();
     dependencies_.notifications.requestAuthorization();
     // Posted, like the engine's tick, so that each second's tick has run before.
     menuRefreshTimer_ =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "shell/record_writer.h"
 #include "shell/status_bar.h"
 #include "shell/surfaces.h"
+#include "shell/widgets/widget_manager.h"
 #include "wellbeing/notification_manager.h"
 
 namespace tidewatch {
@@ -30,9 +32,11 @@ public:
         FloatingClock& clock;
         StatusBar& statusBar;
         StatisticsWindow& statistics;
+        /// Builds the manager on its first call.
+        std::function<WidgetManager&()> widgets;
     };
 
-    explicit AppDelegate(const Dependencies& dependencies);
+    explicit AppDelegate(Dependencies dependencies);
     ~AppDelegate();
 
     /// Called once, before the main loop runs.

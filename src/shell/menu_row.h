@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "projects/color_hex.h"
@@ -19,6 +20,7 @@ struct MenuRow {
     bool checked = false;
     std::optional<char> keyEquivalent{};
     std::optional<RgbColor> swatch{};  ///< a dot of this colour before the title
+    std::string_view symbol{};         ///< one of the symbol table before the title; empty for none
     std::function<void()> action{};
     MenuRows children{};
     bool separates = false;  ///< a separator, without any of the above

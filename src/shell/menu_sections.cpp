@@ -134,6 +134,19 @@ MenuSection projectSection(const ProjectStore& projects, ProjectCommands& comman
     return [&](MenuRows& rows) { rows.push_back(projectMenu(projects, commands, exports)); };
 }
 
+MenuSection widgetSection(std::function<WidgetManager&()> manager) {
+    return [manager = std::move(manager)](MenuRows& rows) {
+        MenuRow menu{.title = "Widgets de escritorio"};
+        for (const auto kind : allWidgetKinds()) {
+            auto row = choice(std::string(title(kind)), manager().isVisible(kind),
+                              [manager, kind] { manager().toggle(kind); });
+            row.symbol = menuIcon(kind);
+            menu.children.push_back(std::move(row));
+        }
+        rows.push_back(std::move(menu));
+    };
+}
+
 MenuSection clockSection(const Settings& settings, StatusCommands& commands) {
     return [&](MenuRows& rows) {
         rows.push_back(command(

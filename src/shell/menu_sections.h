@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "classification/productivity_score.h"
 #include "core/daily_store.h"
 #include "core/settings.h"
@@ -13,6 +15,7 @@
 #include "shell/status_menu.h"
 #include "shell/themes/theme_controller.h"
 #include "shell/themes/theme_registry.h"
+#include "shell/widgets/widget_manager.h"
 
 namespace tidewatch {
 
@@ -38,6 +41,9 @@ namespace tidewatch {
 /// The submenu of projects.
 [[nodiscard]] MenuSection projectSection(const ProjectStore& projects, ProjectCommands& commands,
                                          ExportCommands& exports);
+
+/// The submenu of widgets. `manager` is called for each use.
+[[nodiscard]] MenuSection widgetSection(std::function<WidgetManager&()> manager);
 
 /// Showing, hiding and resetting the floating clock.
 [[nodiscard]] MenuSection clockSection(const Settings& settings, StatusCommands& commands);

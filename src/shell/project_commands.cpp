@@ -56,8 +56,8 @@ void ProjectCommands::deleteProject(const Uuid& id) {
     if (!project) return;
     const Confirmation question{
         .title = {"Borrar \"", project->name, "\""},
-        .text =
-            "Esto elimina el proyecto y su tiempo asociado del historial. Esta acción no se puede deshacer.",
+        .text = {"Esto elimina el proyecto y su tiempo asociado del historial. Esta acción no se puede "
+                 "deshacer."},
         .accept = "Borrar",
     };
     dialogs_.confirm(question, [this, id] { projects_.deleteProject(id); });

@@ -9,6 +9,7 @@
 #include "shell/menu_row.h"
 #include "shell/status_title.h"
 #include "shell/themes/theme.h"
+#include "shell/widgets/widget_kind.h"
 
 namespace tidewatch {
 
@@ -37,6 +38,7 @@ public:
 };
 
 /// A sentence that contains a user-defined name of any length: when it is displayed, only the name is elided.
+/// More lines may follow it.
 struct TextWithName {
     std::string before;
     std::string name{};
@@ -58,7 +60,7 @@ struct TextPrompt {
 /// A yes/no question.
 struct Confirmation {
     TextWithName title;
-    std::string text;
+    TextWithName text;
     std::string accept;  ///< label of the accept button
 };
 
@@ -79,7 +81,7 @@ public:
     virtual void warn(const std::string& title, const std::string& text) = 0;
     virtual void ask(const TextPrompt& prompt, std::function<void(std::string)> accepted) = 0;
 
-    /// For irreversible actions.
+    /// For actions that a user does not want to happen by accident.
     virtual void confirm(const Confirmation& question, std::function<void()> accepted) = 0;
 
     /// Asks for the path of a file to write, and for confirmation to replace an existing one. `accepted` gets
@@ -118,6 +120,9 @@ public:
     virtual void registerFonts() = 0;
     /// The floating clock's window, above the others; shows today's time.
     [[nodiscard]] virtual std::unique_ptr<FloatingWindow> makeClockWindow(PanelSize size) = 0;
+    /// The window of a widget, below the others; its content refreshes by itself while it is visible.
+    [[nodiscard]] virtual std::unique_ptr<FloatingWindow> makeWidgetWindow(WidgetKind kind,
+                                                                           PanelSize size) = 0;
     [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
     [[nodiscard]] virtual Dialogs& dialogs() = 0;
 

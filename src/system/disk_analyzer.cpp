@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "system/disk_scan.h"
+#include "system/last_component.h"
 
 namespace tidewatch {
 
@@ -20,9 +21,7 @@ constexpr auto scannedFolders =
 
 }  // namespace
 
-DiskAnalyzer::DiskAnalyzer(const Dependencies& dependencies)
-    : dependencies_(dependencies),
-      queue_(dependencies.queues.makeQueue("disk-analyzer", platform::JobPriority::low)) {}
+DiskAnalyzer::DiskAnalyzer(const Dependencies& dependencies) : dependencies_(dependencies) {}
 
 DiskAnalyzer::~DiskAnalyzer() {
     isEnding_ = true;
@@ -33,8 +32,28 @@ void DiskAnalyzer::scan() {
     isScanning_ = true;
     result_ = {};
     changed.emit();
-    queue_->run([this, now = dependencies_.clock.now()] { return run(now); },
+    queue().run([this, now = dependencies_.clock.now()] { return run(now); },
                 [this](const DiskScanResult& result) { finish(result); });
+}
+
+void DiskAnalyzer::lookUpFolderNames() {
+    queue().run(
+        [this] {
+            auto names = roots();
+            for (auto& name : names) name = lastComponent(name);
+            return names;
+        },
+        [this](const std::vector<std::string>& names) {
+            if (folderNames_ == names) return;
+            folderNames_ = names;
+            changed.emit();
+        });
+}
+
+// No thread before somebody asks.
+JobQueue& DiskAnalyzer::queue() {
+    if (!queue_) queue_ = dependencies_.queues.makeQueue("disk-analyzer", platform::JobPriority::low);
+    return *queue_;
 }
 
 std::vector<std::string> DiskAnalyzer::roots() const {
@@ -55,7 +74,7 @@ DiskScanResult DiskAnalyzer::run(Instant now) {
         return isEnding_ ? VisitAction::stop : VisitAction::proceed;
     };
     for (const auto& root : roots()) {
-        queue_->deliver([this, name = root.substr(root.rfind('/') + 1)] {
+        queue_->deliver([this, name = lastComponent(root)] {
             progressLabel_ = "Analizando " + name + "…";
             changed.emit();
         });

@@ -50,6 +50,11 @@ public:
     [[nodiscard]] bool isScanning() const { return isScanning_; }
     /// What is being scanned; empty otherwise.
     [[nodiscard]] const std::string& progressLabel() const { return progressLabel_; }
+    /// The names of the folders that a scan reads, in its order; empty until they have been looked up.
+    [[nodiscard]] const std::vector<std::string>& folderNames() const { return folderNames_; }
+
+    /// Looks the folder names up in the background.
+    void lookUpFolderNames();
 
     /// Starts a scan in the background; ignored while one is running.
     void scan();
@@ -66,6 +71,7 @@ public:
 private:
     [[nodiscard]] DiskScanResult run(Instant now);
     [[nodiscard]] std::vector<std::string> roots() const;
+    [[nodiscard]] JobQueue& queue();
     void finish(DiskScanResult result);
     [[nodiscard]] Uuid newId();
 
@@ -73,8 +79,9 @@ private:
     DiskScanResult result_;
     bool isScanning_ = false;
     std::string progressLabel_;
+    std::vector<std::string> folderNames_;
     std::atomic<bool> isEnding_ = false;
-    const std::unique_ptr<JobQueue> queue_;  // last: its jobs use the rest
+    std::unique_ptr<JobQueue> queue_;  // last: its jobs use the rest
 };
 
 }  // namespace tidewatch

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/lower_case.h"
+#include "system/last_component.h"
 
 namespace tidewatch {
 
@@ -16,10 +17,6 @@ using platform::FileTime;
 
 constexpr std::size_t maxFiles = 60;
 constexpr std::size_t maxFolders = 15;
-
-std::string lastPart(std::string_view path) {
-    return std::string(path.substr(path.rfind('/') + 1));
-}
 
 // `text` without any occurrence of `part`.
 std::string without(std::string_view text, std::string_view part) {
@@ -63,7 +60,7 @@ void DiskScan::enterRoot(const std::string& root) {
     rootPrefix_ = root + "/";
     directory_.clear();
     directorySize_ = nullptr;
-    result_.scannedRoots.push_back(lastPart(root));
+    result_.scannedRoots.push_back(lastComponent(root));
 }
 
 std::int64_t& DiskScan::topLevelSize(std::string_view path) {
@@ -73,7 +70,7 @@ std::int64_t& DiskScan::topLevelSize(std::string_view path) {
     const auto relative = without(path, rootPrefix_);
     const auto begin = std::min(relative.find_first_not_of('/'), relative.size());
     const auto end = std::min(relative.find('/', begin), relative.size());
-    const auto item = begin == end ? lastPart(path) : relative.substr(begin, end - begin);
+    const auto item = begin == end ? lastComponent(path) : relative.substr(begin, end - begin);
     auto& size = sizes_[rootPrefix_ + item];
     directory_ = directory;
     // The item of a file that lies directly in the root is that file.
@@ -90,7 +87,7 @@ void DiskScan::add(const platform::FoundFile& found) {
     if (size < largeBytes) return;
     const auto accessed = lastAccess(found);
     result_.largeOld.push_back({.path = std::string(found.path),
-                                .name = lastPart(found.path),
+                                .name = lastComponent(found.path),
                                 .size = size,
                                 .lastAccess = accessed,
                                 .isOld = accessed < cutOff_});
@@ -104,7 +101,7 @@ DiskScanResult DiskScan::result() && {
     keepFirst(files, maxFiles);
     auto& folders = result_.topFolders;
     for (const auto& [path, size] : sizes_)
-        folders.push_back({.path = path, .name = lastPart(path), .size = size});
+        folders.push_back({.path = path, .name = lastComponent(path), .size = size});
     // By path where sizes are equal, so that the list does not depend on the table.
     std::ranges::sort(folders, [](const FolderSize& a, const FolderSize& b) {
         return a.size != b.size ? a.size > b.size : a.path < b.path;

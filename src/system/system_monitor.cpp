@@ -2,8 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
 #include <utility>
+
+#include "system/last_component.h"
 
 namespace tidewatch {
 
@@ -25,12 +26,6 @@ double grown(std::uint64_t before, std::uint64_t now) {
     return static_cast<double>(now - before);
 }
 
-std::string lastComponent(std::string_view path) {
-    while (path.size() > 1 && path.ends_with('/')) path.remove_suffix(1);
-    if (path == "/") return "/";
-    return std::string(path.substr(path.rfind('/') + 1));
-}
-
 // A figure above 1 is a percentage.
 double gpuFraction(double figure) {
     return std::min(figure > 1 ? figure / 100 : figure, 1.0);
@@ -38,8 +33,9 @@ double gpuFraction(double figure) {
 
 }  // namespace
 
-SystemMonitor::SystemMonitor(const Dependencies& dependencies)
+SystemMonitor::SystemMonitor(const Dependencies& dependencies, ProcessLists lists)
     : dependencies_(dependencies),
+      lists_(lists),
       volumesRefreshed_(dependencies.volumes.refreshed.connect([this] { showFirstDisks(); })) {}
 
 void SystemMonitor::start(std::chrono::milliseconds interval) {
@@ -66,7 +62,7 @@ void SystemMonitor::sample(Processes processes) {
     readNetwork(snap);
     readLink(snap);
     readGpu(snap);
-    if (processes == Processes::refresh) readProcesses(snap);
+    if (processes == Processes::refresh && lists_ == ProcessLists::sampled) readProcesses(snap);
     publish(std::move(snap));
 }
 
@@ -121,6 +117,7 @@ void SystemMonitor::readDisks(SystemSnapshot& snap) {
         if (!volume.isBrowsable || volume.totalBytes.value_or(0) < 1) continue;
         snap.disks.push_back({.id = newId(),
                               .name = volume.name ? *volume.name : lastComponent(volume.path),
+                              .path = volume.path,
                               .totalBytes = *volume.totalBytes,
                               .freeBytes = volume.freeBytes.value_or(0),
                               .isInternal = volume.isInternal.value_or(true)});

@@ -29,7 +29,11 @@ public:
 
     static constexpr std::chrono::milliseconds defaultInterval{2000};
 
-    explicit SystemMonitor(const Dependencies& dependencies);
+    /// Whether it lists processes. Only one running monitor should: each list is measured since the last one,
+    /// whoever asked for that.
+    enum class ProcessLists { none, sampled };
+
+    explicit SystemMonitor(const Dependencies& dependencies, ProcessLists lists = ProcessLists::sampled);
     SystemMonitor(const SystemMonitor&) = delete;
     SystemMonitor& operator=(const SystemMonitor&) = delete;
 
@@ -62,6 +66,7 @@ private:
     [[nodiscard]] Uuid newId();
 
     Dependencies dependencies_;
+    const ProcessLists lists_;
     SystemSnapshot snap_;
     std::optional<platform::CpuTicks> lastTicks_;
     platform::InterfaceBytes lastBytes_;

@@ -19,6 +19,7 @@ struct SysProc {
 struct DiskVolume {
     Uuid id{};  ///< new in each sample
     std::string name{};
+    std::string path{};  ///< mount point, absolute; stays the same while it is mounted
     std::int64_t totalBytes = 0;
     std::int64_t freeBytes = 0;
     bool isInternal = true;

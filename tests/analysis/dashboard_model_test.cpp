@@ -15,6 +15,14 @@ using testing::SizeIs;
 
 using Field = DashboardModel::Field;
 
+TEST(DashboardTab, IsFoundByItsLabel) {
+    for (const auto tab : {DashboardTab::overview, DashboardTab::disk, DashboardTab::claude}) {
+        EXPECT_EQ(dashboardTab(rawValue(tab)), tab);
+    }
+    EXPECT_EQ(dashboardTab("Otro"), std::nullopt);
+    EXPECT_EQ(dashboardTab(""), std::nullopt);
+}
+
 TEST_F(DashboardModelTest, IsEmptyUntilItIsReloadedAndListsEveryTier) {
     book(editor, "2026-01-15", 60);
     EXPECT_EQ(model_.tab(), DashboardTab::overview);

@@ -8,6 +8,7 @@
 
 #include "app/desktop/statistics.h"
 #include "app/program_world.h"
+#include "tests/wellbeing/games/scripted_keys.h"
 
 namespace tidewatch {
 namespace {
@@ -151,7 +152,8 @@ const std::vector<Occasion> occasions{
     {.name = "TheReloadOfTheStatistics",
      .happens =
          [](MidnightWorld& world) {
-             Statistics statistics(world.platform(), world.services(), {});
+             test::ScriptedKeys keys;
+             Statistics statistics(world.platform(), world.services(), keys, {});
              auto& presenter = statistics.presenter();
              world.services().broadcaster.post(DashboardWillShow());
              presenter.disappear();
@@ -269,6 +271,7 @@ public:
         goals.dailyHours = 5;
         services().goals.store.setSettings(goals);
         services().goals.store.save();
+        services().widgets.store.update(WidgetKind::goals, [](WidgetState& state) { state.x = 5; });
         pass(1s);
         for (const auto& name : allFiles) before_[name] = file(name);
         for (const auto& name : smallFiles_) before_[name] = file(name);
@@ -289,7 +292,7 @@ protected:
     }
 
     const std::vector<std::string> smallFiles_{"projects.json", "categories.json", "registered.json",
-                                               "goals.json"};
+                                               "goals.json", "widgets.json"};
     std::map<std::string, std::string> before_;
 };
 

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/program.h"
@@ -18,7 +21,9 @@ using ScreenLog = std::vector<std::string>;
 
 class FakeFloatingWindow final : public FloatingWindow {
 public:
-    FakeFloatingWindow(PanelSize size, ScreenLog& log) : size_(size), log_(log) {}
+    /// `name` is the one in the log.
+    FakeFloatingWindow(PanelSize size, ScreenLog& log, std::string name = "panel")
+        : size_(size), log_(log), name_(std::move(name)) {}
 
     [[nodiscard]] PanelSize panelSize() const override { return size_; }
     [[nodiscard]] platform::Point origin() const override { return origin_; }
@@ -30,11 +35,11 @@ public:
     void fitToScreens() override { log_.push_back("fit"); }
     void orderFrontRegardless() override {
         visible_ = true;
-        log_.push_back("show panel");
+        log_.push_back("show " + name_);
     }
     void orderOut() override {
         visible_ = false;
-        log_.push_back("hide panel");
+        log_.push_back("hide " + name_);
     }
     [[nodiscard]] bool isVisible() const override { return visible_; }
     void setGestures(Gestures gestures) override { gestures_ = std::move(gestures); }
@@ -44,6 +49,7 @@ public:
 private:
     PanelSize size_;
     ScreenLog& log_;
+    const std::string name_;
     platform::Point origin_{7, 7};
     bool visible_ = false;
     Gestures gestures_;
@@ -108,6 +114,14 @@ public:
         panel_ = window.get();
         return window;
     }
+    [[nodiscard]] std::unique_ptr<FloatingWindow> makeWidgetWindow(WidgetKind kind, PanelSize size) override {
+        const std::string name(rawValue(kind));
+        log_.push_back("make " + name);
+        if (widgetMade_) widgetMade_(kind);
+        auto window = std::make_unique<FakeFloatingWindow>(size, log_, name);
+        widgets_[kind] = window.get();
+        return window;
+    }
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override {
         log_.push_back("status item");
         auto item = std::make_unique<FakeStatusItem>();
@@ -119,6 +133,10 @@ public:
     void showHint(const std::string& text) override { hints_.push_back(text); }
 
     [[nodiscard]] FakeFloatingWindow& panel() { return *panel_; }
+    /// The window last made for the widget; dangling once the widget is hidden.
+    [[nodiscard]] FakeFloatingWindow& widget(WidgetKind kind) { return *widgets_.at(kind); }
+    void onWidgetMade(std::function<void(WidgetKind)> made) { widgetMade_ = std::move(made); }
+    void clearLog() { log_.clear(); }
     [[nodiscard]] FakeStatusItem& statusItem() { return *statusItem_; }
     [[nodiscard]] const ScreenLog& log() const { return log_; }
     [[nodiscard]] const std::vector<std::string>& hints() const { return hints_; }
@@ -156,6 +174,8 @@ private:
 
     ScreenLog log_;
     FakeFloatingWindow* panel_ = nullptr;
+    std::map<WidgetKind, FakeFloatingWindow*> widgets_;
+    std::function<void(WidgetKind)> widgetMade_;
     FakeStatusItem* statusItem_ = nullptr;
     MenuRows poppedUp_;
     std::vector<std::string> hints_;

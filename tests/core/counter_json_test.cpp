@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/json_writer.h"
+
 namespace tidewatch {
 namespace {
 
@@ -86,6 +88,23 @@ TEST(CounterJson, KeysBelowTheFirstLevelAreEscapedTheSameWay) {
     CounterRecord record(2);
     set(record, {"d", "a/\"\n"}, 1);
     EXPECT_EQ(serializeCounters(record), "{\n  \"d\" : {\n    \"a\\/\\\"\\n\" : 1\n  }\n}");
+}
+
+TEST(CounterJson, AKeyIsEscapedWhereverACharacterStandsInIt) {
+    for (std::size_t size = 1; size <= 20; ++size) {
+        for (std::size_t place = 0; place < size; ++place) {
+            for (int c = 0; c < 0x80; ++c) {
+                std::string key(size, 'k');
+                key[place] = static_cast<char>(c);
+                CounterRecord record(1);
+                set(record, {key}, 1);
+                std::string escaped;
+                appendJsonEscaped(escaped, key);
+                ASSERT_EQ(serializeCounters(record), "{\n  \"" + escaped + "\" : 1\n}")
+                    << size << " " << place;
+            }
+        }
+    }
 }
 
 TEST(CounterJson, NonAsciiIsKept) {

@@ -9,6 +9,7 @@
 #include "analysis/goal_settings_json.h"
 #include "base/calendar_day.h"
 #include "core/counter_json.h"
+#include "shell/widgets/widget_state.h"
 #include "tests/support/temporary_directory.h"
 #include "tools/demo/demo_applications.h"
 #include "tools/demo/demo_home.h"
@@ -57,6 +58,24 @@ TEST(DemoRecord, EveryFileOfTheHomeCanBeReadAndHoldsTheRecord) {
     EXPECT_EQ(parseProjects(home.read(".tidewatch/projects.json")), record.projects);
     EXPECT_EQ(parseCategoryOverrides(home.read(".tidewatch/categories.json")), record.overrides);
     EXPECT_EQ(parseGoalSettings(home.read(".tidewatch/goals.json")), record.goals);
+}
+
+TEST(DemoRecord, AllWidgetsAreOnTheDesktopAndNoneCoversAnother) {
+    const test::TemporaryDirectory home;
+    writeDemoHome(makeDemoRecord(afternoon), home.path(), "/icons");
+    const auto states = parseWidgetStates(home.read(".tidewatch/widgets.json"));
+    ASSERT_TRUE(states.has_value());
+    const auto overlap = [&](WidgetKind one, WidgetKind other) {
+        const auto a = states->at(one).place().value();
+        const auto b = states->at(other).place().value();
+        return a.x < b.x + defaultSize(other).width && b.x < a.x + defaultSize(one).width &&
+               a.y < b.y + defaultSize(other).height && b.y < a.y + defaultSize(one).height;
+    };
+    for (const auto one : allWidgetKinds()) {
+        EXPECT_TRUE(states->at(one).visible) << rawValue(one);
+        for (const auto other : allWidgetKinds())
+            EXPECT_TRUE(one == other || !overlap(one, other)) << rawValue(one) << " " << rawValue(other);
+    }
 }
 
 TEST(DemoRecord, TheFilesAgreeOnEveryDay) {

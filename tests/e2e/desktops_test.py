@@ -105,8 +105,10 @@ class Core(unittest.TestCase):
             self.start_again()
             return
         for shown in (False, True):
-            self.menu.click_row(self.open_menu(), rows.TOGGLE_VISIBLE)
-            wait_until(lambda: bool(self.world.clock()) == shown, "the clock to hide and to come back")
+            self.menu.click_row_until(
+                self.open_menu, rows.TOGGLE_VISIBLE, lambda: bool(self.world.clock()) == shown,
+                "the clock to come back" if shown else "the clock to hide",
+            )
 
     def test_work_is_booked_to_the_application_in_front_and_absence_is_not(self):
         self.start(idleThresholdSeconds=THRESHOLD)
@@ -128,8 +130,9 @@ class Core(unittest.TestCase):
         popup = self.open_menu()
         self.world.screenshot("menu")
         self.menu.close()
-        self.menu.click_row(self.open_menu(), rows.TOGGLE_VISIBLE)
-        wait_until(lambda: self.world.clock() is None, "the clock to hide")
+        self.menu.click_row_until(
+            self.open_menu, rows.TOGGLE_VISIBLE, lambda: self.world.clock() is None, "the clock to hide"
+        )
         wait_until(lambda: self.world.home.setting("windowVisible") == "false", "the setting")
 
     @needs("window_manager")

@@ -46,10 +46,14 @@ def offered_menu(name):
                 yield world, menu
 
 
+def texts(rows):
+    return [each.label for each in rows]
+
+
 def row(rows, label):
     found = [each for each in rows if each.label == label]
     if len(found) != 1:
-        raise AssertionError(f"{len(found)} rows {label!r} among {[each.label for each in rows]}")
+        raise AssertionError(f"{len(found)} rows {label!r} among {texts(rows)}")
     return found[0]
 
 
@@ -60,8 +64,8 @@ class DrawnMenu(unittest.TestCase):
             choices = [each.label for each in rows if each.enabled and not each.separates]
             self.assertEqual(
                 choices,
-                ["Tema", "Tamaño", "Idle", "El día empieza", "Proyecto", "Ocultar ventana", "Reiniciar día",
-                 "Estadísticas…", "Revelar archivo de datos", "Exportar día (CSV)…", "Iniciar al arrancar", "Salir"],
+                ["Tema", "Tamaño", "Idle", "El día empieza", "Proyecto", "Widgets de escritorio", "Ocultar ventana",
+                 "Reiniciar día", "Estadísticas…", "Revelar archivo de datos", "Exportar día (CSV)…", "Iniciar al arrancar", "Salir"],
             )
             told = [each.label.split(":")[0].split(" · ")[0] for each in rows if not each.enabled and not each.separates]
             self.assertEqual(told, ["Hoy", "Sesión", "Hoy", "Productivo", "Neutral", "Distrayendo"])
@@ -109,6 +113,14 @@ class DrawnMenu(unittest.TestCase):
                 return now != shown
 
             wait_until(has_counted, "the session's time to go on", every=0.5)
+
+    def test_a_row_of_an_earlier_drawing_takes_a_click_when_the_next_opening_is_prepared(self):
+        with offered_menu("drawn-earlier") as (world, menu):
+            first = menu.open()
+            world.input.key("shift")
+            wait_until(lambda: texts(menu.open()) != texts(first), "another time in the rows", every=0.5)
+            menu.click(row(first, "Ocultar ventana"))
+            wait_until(lambda: world.clock() is None, "the clock to hide")
 
     def test_two_hundred_openings_take_no_memory(self):
         with offered_menu("memory") as (world, menu):

@@ -2,13 +2,13 @@
 
 import json
 import subprocess
-import time
 import unittest
 from contextlib import contextmanager
 
 from harness import menu as rows
 from harness.home import today
 from harness.menu import Menu
+from harness.statistics_window import GOALS, StatisticsWindow
 from harness.waiting import stays, wait_until
 from harness.world import World
 
@@ -19,8 +19,8 @@ PROJECTS = '{"projects": [{"id": "%s", "name": "Corto", "colorHex": "#7BD88F", "
 
 
 @contextmanager
-def running(name):
-    with World(f"export-{name}") as world:
+def running(name, **options):
+    with World(f"export-{name}", **options) as world:
         world.home.write_settings(sizeScale=0.5)
         world.home.write("today.json", '{"%s": 120}' % today())
         world.home.write("apps.json", '{"%s": {"a,b": 90, "writer": 30}}' % today())
@@ -117,13 +117,11 @@ def popups(world):
 
 
 def asked_for_report(world, _=None):
-    world.start_program(wait_for_clock=False).wait()
-    window = wait_until(world.statistics, "the statistics window")
-    wait_until(lambda: world.screen.active_window() == window.id, "the focus")
-    # The last thing of the tab of goals is the button that asks for the report.
-    world.input.key("ctrl+2")
-    time.sleep(0.5)
-    world.input.key("shift+Tab", "Return")
+    window = StatisticsWindow(world, world.program)
+    window.open()
+    window.select(GOALS)
+    window.tab_to("push button", "Generar reporte PDF del mes…")
+    world.input.key("Return")
     return dialog(world, "Guardar reporte")
 
 
@@ -142,7 +140,7 @@ def written(world):
 
 class Cancelled(unittest.TestCase):
     def test_each_export_writes_nothing_and_says_nothing(self):
-        with running("cancelled") as (world, menu):
+        with running("cancelled", accessibility=True) as (world, menu):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             for ask in (exported_day, export_project, asked_for_report):
                 window = ask(world, menu)
@@ -203,7 +201,7 @@ class Project(unittest.TestCase):
 
 class Report(unittest.TestCase):
     def test_the_month_is_written_as_a_page_and_shown_in_the_file_manager(self):
-        with running("report") as (world, _):
+        with running("report", accessibility=True) as (world, _):
             monitor = world.start("dbus-monitor", "--session", "member=ShowItems")
             asked_for_report(world)
             world.input.key("Return")

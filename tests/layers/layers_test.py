@@ -204,6 +204,16 @@ class Bans(Tree):
     def test_starting_a_process(self):
         self.assert_banned("QProcess process;")
 
+    def test_reaching_the_network(self):
+        for code in ("QNetworkAccessManager manager;", "QTcpSocket socket;", "platform::HttpClient& http;"):
+            self.assert_banned(code, "shell/windows/a.cpp")
+
+    def test_the_speed_test_reaches_it_through_the_seam(self):
+        self.write("system/a.h", "platform::HttpClient& http;")
+        self.write("platform/api/http_client.h", "class HttpClient {};")
+        self.write("shell/windows/no_network.cpp", "class Refusing : public QNetworkAccessManager {};")
+        self.assertEqual(self.violations(), [])
+
     def test_the_shell_is_bound_as_well(self):
         self.assert_banned("auto t = std::chrono::steady_clock::now();", "shell/a.cpp")
 

@@ -136,7 +136,7 @@ TEST_F(ProjectMenuTest, DeletingAsksWithTheExactWords) {
     ASSERT_TRUE(choose("Borrar…"));
     EXPECT_EQ(surfaces_.question().title.whole(), "Borrar \"Uno\"");
     EXPECT_EQ(
-        surfaces_.question().text,
+        surfaces_.question().text.whole(),
         "Esto elimina el proyecto y su tiempo asociado del historial. Esta acción no se puede deshacer.");
     EXPECT_EQ(surfaces_.question().accept, "Borrar");
     EXPECT_EQ(projects().projects().size(), 1U);

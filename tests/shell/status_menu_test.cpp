@@ -53,6 +53,7 @@ TEST_F(StatusMenuTest, HasItsRowsInOrder) {
                                       "Idle",
                                       "El día empieza",
                                       "Proyecto",
+                                      "Widgets de escritorio",
                                       "Ocultar ventana",
                                       "Reiniciar día",
                                       "-",

@@ -97,6 +97,21 @@ TEST_F(DiskAnalyzerTest, RootsAreScannedInTheirOrderEachOnce) {
     EXPECT_THAT(scan().scannedRoots, ElementsAre("Descargas", "Escritorio", "Vídeos"));
 }
 
+TEST_F(DiskAnalyzerTest, TheFolderNamesAreThoseThatAScanReads) {
+    addRoot(UserFolder::videos, "/home/user/Vídeos");
+    folders.paths[UserFolder::documents] = "/home/user/absent";
+    int changes = 0;
+    const auto connection = analyzer->changed.connect([&] { ++changes; });
+    EXPECT_THAT(analyzer->folderNames(), IsEmpty());
+    analyzer->lookUpFolderNames();
+    world.mainLoop.run();
+    EXPECT_THAT(analyzer->folderNames(), ElementsAre("Descargas", "Vídeos"));
+    EXPECT_EQ(changes, 1);
+    analyzer->lookUpFolderNames();
+    world.mainLoop.run();
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(DiskAnalyzerTest, ARootThatIsAFileOrDoesNotExistIsLeftOut) {
     folders.paths[UserFolder::documents] = documents;
     folders.paths[UserFolder::videos] = "/home/user/file";

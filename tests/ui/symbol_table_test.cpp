@@ -38,7 +38,8 @@ TEST(SymbolTable, DrawingsOfOurOwnTouchTheSquare) {
 }
 
 TEST(SymbolTable, GlyphsStandInTheMiddleOfTheirSquare) {
-    for (const QString name : {"plus", "xmark", "clock", "checkmark.circle.fill", "app"}) {
+    for (const QString name :
+         {"plus", "xmark", "clock", "checkmark.circle.fill", "app", "square.grid.2x2.fill"}) {
         SCOPED_TRACE(name.toStdString());
         const auto middle = symbolShape(name)->boundingRect().center();
         EXPECT_NEAR(middle.x(), 0.5, 0.01);

@@ -1,12 +1,8 @@
-// Paints every component of the windows in every theme, and every symbol, into pictures: ui_gallery FOLDER
-
-#include <QDir>
-#include <QGuiApplication>
-#include <cstdio>
+// Every component of the windows, and every symbol.
 
 #include "platform/fake/fake_clock.h"
 #include "ui/backgrounds/wall_clock.h"
-#include "ui/style/fonts.h"
+#include "ui/gallery.h"
 #include "ui/symbols/symbol_table.h"
 #include "ui/ui_scene.h"
 
@@ -40,8 +36,8 @@ Item {
                         font: Style.mono(34, Style.Light); color: Style.palette.primaryText
                     }
                 }
-                Text { text: "+12% vs ayer"; font: Style.sans(13, Style.Medium); color: Style.legible(Style.palette.tierProductive) }
-                Text { text: "-8% vs prom 7d"; font: Style.sans(13, Style.Medium); color: Style.legible(Style.palette.tierDistracting) }
+                Text { text: "+12% vs ayer"; font: Style.sans(13, Style.Medium); color: Style.legibleOn(Style.palette.textGround, Style.palette.tierProductive) }
+                Text { text: "-8% vs prom 7d"; font: Style.sans(13, Style.Medium); color: Style.legibleOn(Style.palette.textGround, Style.palette.tierDistracting) }
                 Text { text: "Cuerpo de texto, primario"; font: Style.sans(14, Style.Regular); color: Style.palette.primaryText }
                 Text { text: "Texto secundario"; font: Style.sans(13, Style.Regular); color: Style.palette.secondaryText }
                 Text { text: "strongMute"; font: Style.sans(13, Style.Regular); color: Style.palette.strongMute }
@@ -161,36 +157,21 @@ Rectangle {
 }
 )";
 
-int paintAll(const QString& path) {
-    const QDir folder(path);
-    if (!folder.mkpath(".")) return 1;
+}  // namespace
+
+void paint(Gallery& gallery) {
     UiScene scene;
     platform::FakeClock clock{Instant(std::chrono::seconds(1'764'000'000))};
     WallClock time(clock);
-    for (const auto& theme : scene.themes_.themes()) {
-        scene.theme_.switchTo(theme.id);
+    gallery.paintThemes(scene, [&](const QString& theme) {
         scene.show(components, componentsSize);
         scene.view_->setProperty("time", QVariant::fromValue(&time));
-        scene.picture().save(folder.filePath(QString::fromStdString(theme.id) + ".png"));
-    }
+        gallery.save(scene.picture(), theme);
+    });
     scene.theme_.switchTo("ochre");
     scene.show(symbols, symbolsSize);
     scene.view_->setProperty("names", symbolNames());
-    scene.picture().save(folder.filePath("symbols.png"));
-    for (const auto& warning : scene.viewWarnings_) std::fprintf(stderr, "%s\n", qPrintable(warning));
-    return scene.viewWarnings_.isEmpty() ? 0 : 1;
+    gallery.save(scene.picture(), "symbols");
 }
 
-}  // namespace
 }  // namespace tidewatch
-
-int main(int argc, char* argv[]) {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QGuiApplication application(argc, argv);
-    if (application.arguments().size() != 2) {
-        std::fprintf(stderr, "usage: ui_gallery FOLDER\n");
-        return 2;
-    }
-    tidewatch::registerFonts();
-    return tidewatch::paintAll(application.arguments().at(1));
-}

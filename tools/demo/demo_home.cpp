@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -9,6 +10,7 @@
 
 #include "analysis/goal_settings_json.h"
 #include "core/counter_json.h"
+#include "shell/widgets/widget_state.h"
 #include "tools/demo/demo_applications.h"
 
 namespace tidewatch::demo {
@@ -21,6 +23,29 @@ constexpr std::string_view settings =
     "[General]\n"
     "activeThemeID=ochre\n"
     "windowVisible=true\n";
+
+/// All of them, in columns at the left of the screen.
+WidgetStates widgets() {
+    constexpr double margin = 32;
+    constexpr double gap = 20;
+    constexpr double column = 226 + gap;
+    constexpr std::array columns{
+        std::array{WidgetKind::productivity, WidgetKind::system, WidgetKind::goals},
+        std::array{WidgetKind::streak, WidgetKind::topApps, WidgetKind::speed},
+        std::array{WidgetKind::project, WidgetKind::arcade, WidgetKind::arcade},
+    };
+    WidgetStates states;
+    double x = margin;
+    for (const auto& kinds : columns) {
+        double y = margin;
+        for (const auto kind : kinds) {
+            if (!states.try_emplace(kind, WidgetState{.visible = true, .x = x, .y = y}).second) continue;
+            y += defaultSize(kind).height + gap;
+        }
+        x += column;
+    }
+    return states;
+}
 
 void write(const fs::path& path, std::string_view content) {
     fs::create_directories(path.parent_path());
@@ -52,6 +77,7 @@ void writeDemoHome(const DemoRecord& record, const std::string& home, const std:
     write(data / "projects.json", serializeProjects(record.projects));
     write(data / "categories.json", serializeCategoryOverrides(record.overrides));
     write(data / "goals.json", serializeGoalSettings(record.goals).value());
+    write(data / "widgets.json", serializeWidgetStates(widgets()));
     write(fs::path(home) / ".config/brightlooms/tidewatch.conf", settings);
     for (const auto& app : demoApplications()) {
         write(fs::path(home) / ".local/share/applications" / (std::string(app.id) + ".desktop"),

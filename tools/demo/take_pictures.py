@@ -19,16 +19,18 @@ from harness.screen import Rectangle  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
 from harness.world import World  # noqa: E402
 
-TABS = ("overview", "goals", "details", "timesheet", "projects", "claude")
+TABS = ("overview", "goals", "details", "timesheet", "projects", "system", "disk", "claude")
+OF_THE_MACHINE = "system", "disk"
 WIDE, LEAST = (1360, 1000), (820, 560)
 SCREEN = (1480, 1100)
 AFTERNOON = 16  # o'clock in the pictures, so that today has something to show
 GROUND = ("#3c5a6c", "#26394a")
 CLOCK_ORIGIN = (40, 40)
 CLOCK_MARGIN = 40
+WIDGETS = (770, 614)  # what they cover, with a margin
 
-# What stands in the documents: the first theme with all its tabs, the others with the first tab.
-DOCUMENTED = [(rows.THEMES[0], tab) for tab in TABS] + [(theme, TABS[0]) for theme in rows.THEMES[1:]]
+# What stands in the documents: the first theme with all tabs of the made-up record, the others with the first tab.
+DOCUMENTED = [(rows.THEMES[0], tab) for tab in TABS if tab not in OF_THE_MACHINE] + [(theme, TABS[0]) for theme in rows.THEMES[1:]]
 
 
 def paint_desktop(name):
@@ -64,6 +66,10 @@ class Studio:
         icons = world.folder / "icons"
         self._make("draw_demo_icons", icons, QT_QPA_PLATFORM="offscreen")
         self._make("make_demo_record", world.home.path, icons)
+        # They are in a picture of their own.
+        self._widgets = world.home.data / "widgets.json"
+        self._all_widgets = self._widgets.read_text()
+        self._widgets.unlink()
         return self
 
     def __exit__(self, *what):
@@ -105,6 +111,15 @@ class Studio:
         time.sleep(1.5)
         return self.world.screen.grab(self.world.statistics().frame)
 
+    def picture_of_widgets(self, theme):
+        self._widgets.write_text(self._all_widgets)
+        program = self.start(activeThemeID=theme, windowVisible="false")
+        time.sleep(6)
+        picture = self.world.screen.grab(Rectangle(0, 0, *WIDGETS))
+        self.stop(program)
+        self._widgets.unlink()
+        return picture
+
     def picture_of_clock(self):
         """The clock, its menu, and the themes in it."""
         program = self.start(activeThemeID=rows.THEMES[0], windowOriginX=CLOCK_ORIGIN[0], windowOriginY=CLOCK_ORIGIN[1])
@@ -137,6 +152,7 @@ def save(picture, path):
 
 def take_documented(studio, folder):
     save(studio.picture_of_clock(), folder / "clock.png")
+    save(studio.picture_of_widgets(rows.THEMES[0]), folder / "widgets.png")
     for theme in rows.THEMES:
         program = studio.statistics(theme, WIDE)
         for documented, tab in DOCUMENTED:
@@ -147,6 +163,7 @@ def take_documented(studio, folder):
 
 def take_all(studio, folder):
     for theme in rows.THEMES:
+        save(studio.picture_of_widgets(theme), folder / f"{theme}-widgets.png")
         for size in (WIDE, LEAST):
             program = studio.statistics(theme, size)
             for tab in TABS:

@@ -40,10 +40,7 @@ QString Dashboard::selectedTab() const {
 }
 
 void Dashboard::selectTab(const QString& id) {
-    for (int tab = 0; tab <= static_cast<int>(DashboardTab::claude); ++tab) {
-        const auto which = static_cast<DashboardTab>(tab);
-        if (text(rawValue(which)) == id) model_.setTab(which);
-    }
+    if (const auto tab = dashboardTab(id.toStdString())) model_.setTab(*tab);
 }
 
 }  // namespace tidewatch

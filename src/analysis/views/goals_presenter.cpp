@@ -7,12 +7,12 @@
 #include "base/duration_format.h"
 #include "shell/themes/dashboard_style.h"
 #include "ui/style/qt_color.h"
+#include "ui/symbols/stars.h"
 #include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {
 
-constexpr int starCount = 5;
 constexpr double unfinishedOpacity = 0.6;
 
 QString figures(const GoalProgress& goal) {
@@ -71,13 +71,12 @@ void GoalsPresenter::update() {
 
 void GoalsPresenter::updateReward() {
     const int earned = std::clamp(sources_.rewards.starsToday(), 0, starCount);
-    stars_.clear();
+    stars_ = starSymbols(earned);
     starColors_.clear();
     for (int star = 0; star < starCount; ++star) {
-        stars_.append(star < earned ? "star.fill" : "star");
         starColors_.append(toQColor(DashboardStyle::amber.at(star < earned ? 1 : unfinishedOpacity)));
     }
-    starsAccessibleText_ = QString("%1 de %2 estrellas").arg(earned).arg(starCount);
+    starsAccessibleText_ = starsText(earned);
     streak_ = QString::number(sources_.rewards.currentStreak()) + " días";
     monthStars_ = "★ " + QString::number(sources_.rewards.starsThisMonth());
     Q_EMIT rewardChanged();

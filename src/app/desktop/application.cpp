@@ -44,6 +44,11 @@ Application::Application(char* programPath)
     if (toolkitTranslator_.load()) QCoreApplication::installTranslator(&toolkitTranslator_);
 }
 
+Application::~Application() {
+    // The toolkit would wait here for the look-ups of hosts' names, for as long as name servers are silent.
+    QObject::disconnect(&toolkit_, &QObject::destroyed, nullptr, nullptr);
+}
+
 int Application::run(const platform::Platform& platform, const Addition& addition) {
     const auto directory = dataDirectory(platform.files);
     if (const auto made = platform.files.createDirectories(directory); !made) {

@@ -18,6 +18,9 @@ class Application final {
 public:
     /// Sets up the toolkit; `programPath` is the process's first argument and must outlive this object.
     explicit Application(char* programPath);
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+    ~Application();
 
     /// Builds what a program has beside the ordinary one. It is destroyed before the composition.
     using Addition = std::function<std::shared_ptr<void>(DesktopComposition&)>;

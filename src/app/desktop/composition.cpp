@@ -17,6 +17,7 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
           .desktop = platform.desktop,
           .theme = services_.theme,
           .clock = clock_,
+          .widgetContent = [this](WidgetKind kind) { return widgets().content(kind); },
       }),
       report_(
           {
@@ -47,13 +48,20 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
                }) {}
 
 GamesPresenter::Sources DesktopComposition::games() {
-    return {
-        .mainLoop = platform_.mainLoop,
-        .preferences = platform_.preferences,
-        .randomness = platform_.randomness,
-        .keys = keys_,
-        .gate = services_.wellbeing.gameGate,
-    };
+    return gamesSources(platform_, services_, keys_);
+}
+
+WidgetViews& DesktopComposition::widgets() {
+    if (!widgets_) {
+        widgets_ = std::make_unique<WidgetViews>(
+            services_.widgets.hub, games(),
+            [this](QObject& presenter) { return surfaces_.makeView("WidgetContainer", presenter); },
+            [this] {
+                surfaces_.clearViewCache();
+                platform_.memory.releaseUnused();
+            });
+    }
+    return *widgets_;
 }
 
 QuickStatisticsWindow::Content DesktopComposition::statisticsContent() {
@@ -69,15 +77,29 @@ QuickStatisticsWindow::Content DesktopComposition::statisticsContent() {
 }
 
 std::unique_ptr<Statistics> DesktopComposition::makeStatistics() {
+    auto& dialogs = surfaces_.dialogs();
     return std::make_unique<Statistics>(
-        platform_, services_,
-        Dashboard::Commands{
-            .exportReport = [this] { program_.exports().exportReport(); },
-            .reclassify =
-                [this](DashboardModel& model, const AppId& app, QPointF at) {
-                    surfaces_.popUpMenu(reclassifyMenu(app, services_.classification.categories, model),
-                                        {at.x(), at.y()});
-                },
+        platform_, services_, keys_,
+        Statistics::Commands{
+            .dashboard = {
+                .exportReport = [this] { program_.exports().exportReport(); },
+                .reclassify =
+                    [this](DashboardModel& model, const AppId& app, QPointF at) {
+                        surfaces_.popUpMenu(reclassifyMenu(app, services_.classification.categories, model),
+                                            {at.x(), at.y()});
+                    },
+            },
+            .system = {
+                .confirm =
+                    [&dialogs](const SystemQuestion& question, std::function<void()> accepted) {
+                        dialogs.confirm({.title = {question.title},
+                                         .text = {"", question.name, question.afterName},
+                                         .accept = question.accept},
+                                        std::move(accepted));
+                    },
+                .warn = [&dialogs](const std::string& title,
+                                   const std::string& text) { dialogs.warn(title, text); },
+            },
         });
 }
 

@@ -5,6 +5,7 @@
 
 #include "analysis/report/pdf_report.h"
 #include "app/desktop/statistics.h"
+#include "app/desktop/widget_views.h"
 #include "app/program.h"
 #include "app/services.h"
 #include "platform/api/platform.h"
@@ -34,6 +35,7 @@ public:
 private:
     [[nodiscard]] QuickStatisticsWindow::Content statisticsContent();
     [[nodiscard]] std::unique_ptr<Statistics> makeStatistics();
+    [[nodiscard]] WidgetViews& widgets();
 
     const platform::Platform& platform_;
     Services services_;
@@ -41,7 +43,8 @@ private:
     WindowKeyMonitor keys_;
     QtSurfaces surfaces_;
     PdfReport report_;
-    std::unique_ptr<Statistics> shown_;  ///< created when the statistics window is first shown
+    std::unique_ptr<Statistics> shown_;     ///< created when the statistics window is first shown
+    std::unique_ptr<WidgetViews> widgets_;  ///< created when the first widget is shown
     QuickStatisticsWindow statistics_;
     Program program_;
 };

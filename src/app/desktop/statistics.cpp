@@ -4,7 +4,8 @@
 
 namespace tidewatch {
 
-Statistics::Statistics(const platform::Platform& platform, Services& services, Dashboard::Commands commands)
+Statistics::Statistics(const platform::Platform& platform, Services& services, KeyMonitor& keys,
+                       Commands commands)
     : dashboard_(
           {
               .model =
@@ -26,8 +27,10 @@ Statistics::Statistics(const platform::Platform& platform, Services& services, D
               .goalEvaluator = services.goals.evaluator,
               .rewards = services.goals.rewards,
           },
-          std::move(commands)),
+          std::move(commands.dashboard)),
       claude_(platform.clock, platform.mainLoop, services.claude),
+      games_(gamesSources(platform, services, keys)),
+      system_(platform.clock, services.machine, std::move(commands.system), inSidebar()),
       presenter_({
           .clock = platform.clock,
           .broadcaster = services.broadcaster,
@@ -35,19 +38,35 @@ Statistics::Statistics(const platform::Platform& platform, Services& services, D
           .breakReminder = services.wellbeing.breakReminder,
           .dashboard = dashboard_,
           .claude = services.claude.monitor,
+          .machine = system_.watch(),
           .tabs = tabs(),
-          .besideTabs = besideTabs(),
+          .besideTabs = {system_.sidebar()},
       }) {}
 
 std::vector<Pane> Statistics::tabs() {
     std::vector<Pane> all;
-    for (const auto& room : {dashboard_.tabs(), claude_.tabs()})
+    for (const auto& room : {dashboard_.tabs(), system_.tabs(), claude_.tabs()})
         all.insert(all.end(), room.begin(), room.end());
     return all;
 }
 
-std::vector<Pane> Statistics::besideTabs() {
-    return {};
+std::vector<Pane> Statistics::inSidebar() {
+    return {claude_.card(),
+            {.id = "games",
+             .title = games_.accessibleText(),
+             .view = viewUrl("Tidewatch.Wellbeing", "GamesCard"),
+             .presenter = &games_}};
+}
+
+GamesPresenter::Sources gamesSources(const platform::Platform& platform, Services& services,
+                                     KeyMonitor& keys) {
+    return {
+        .mainLoop = platform.mainLoop,
+        .preferences = platform.preferences,
+        .randomness = platform.randomness,
+        .keys = keys,
+        .gate = services.wellbeing.gameGate,
+    };
 }
 
 }  // namespace tidewatch

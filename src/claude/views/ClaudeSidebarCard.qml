@@ -9,6 +9,9 @@ Card {
 
     required property ClaudeCardPresenter presenter
 
+    /*! Given by a pane. */
+    property string title
+
     padding: 12
 
     ColumnLayout {
@@ -28,6 +31,9 @@ Card {
                 objectName: "title"
                 Layout.fillWidth: true
                 text: root.presenter.title
+                // Beside the sums of a heavy month it has to be a little smaller.
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 9
                 elide: Text.ElideRight
                 font: Style.sans(11, Style.Bold)
                 color: Style.palette.strongMute

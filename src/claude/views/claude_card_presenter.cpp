@@ -4,7 +4,7 @@
 #include <chrono>
 
 #include "claude/views/claude_texts.h"
-#include "ui/texts/qt_text.h"
+#include "ui/texts/display_text.h"
 
 namespace tidewatch {
 namespace {
@@ -52,12 +52,14 @@ void ClaudeCardPresenter::visibilityChanged() {
 void ClaudeCardPresenter::update() {
     const auto& snap = monitor_.snap();
     const auto now = clock_.now();
-    title_ = "CLAUDE · " + text(snap.plan).toUpper();
-    cost_ = "~" + text(snap.month.displayCost()) + " API";
-    session_ = sessionOf(snap, now);
-    week_ = weekOf(snap, now);
-    today_ = figureOf(snap.today);
-    Q_EMIT figuresChanged();
+    const Figures figures{
+        .title = "CLAUDE · " + text(snap.plan).toUpper(),
+        .cost = "~" + text(snap.month.displayCost()) + " API",
+        .session = sessionOf(snap, now),
+        .week = weekOf(snap, now),
+        .today = figureOf(snap.today),
+    };
+    change(this, figures_, figures, &ClaudeCardPresenter::figuresChanged);
 }
 
 ClaudeLimit ClaudeCardPresenter::sessionOf(const ClaudeSnapshot& snap, Instant now) const {

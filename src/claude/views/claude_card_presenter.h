@@ -34,16 +34,25 @@ public:
     ClaudeCardPresenter(const platform::Clock& clock, platform::MainLoop& mainLoop,
                         ClaudeUsageMonitor& monitor);
 
-    [[nodiscard]] QString title() const { return title_; }
-    [[nodiscard]] QString cost() const { return cost_; }
-    [[nodiscard]] const ClaudeLimit& session() const { return session_; }
-    [[nodiscard]] const ClaudeLimit& week() const { return week_; }
-    [[nodiscard]] const ClaudeFigure& today() const { return today_; }
+    [[nodiscard]] QString title() const { return figures_.title; }
+    [[nodiscard]] QString cost() const { return figures_.cost; }
+    [[nodiscard]] const ClaudeLimit& session() const { return figures_.session; }
+    [[nodiscard]] const ClaudeLimit& week() const { return figures_.week; }
+    [[nodiscard]] const ClaudeFigure& today() const { return figures_.today; }
 
 Q_SIGNALS:
     void figuresChanged();
 
 private:
+    struct Figures {
+        QString title;
+        QString cost;
+        ClaudeLimit session;
+        ClaudeLimit week;
+        ClaudeFigure today;
+        bool operator==(const Figures&) const = default;
+    };
+
     void update() override;
     void visibilityChanged() override;
     [[nodiscard]] ClaudeLimit sessionOf(const ClaudeSnapshot& snap, Instant now) const;
@@ -51,11 +60,7 @@ private:
     const platform::Clock& clock_;
     platform::MainLoop& mainLoop_;
     ClaudeUsageMonitor& monitor_;
-    QString title_;
-    QString cost_;
-    ClaudeLimit session_;
-    ClaudeLimit week_;
-    ClaudeFigure today_;
+    Figures figures_;
     std::unique_ptr<platform::RepeatingTimer> timer_;
     Connection monitorChanged_;
 };

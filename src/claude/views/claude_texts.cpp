@@ -22,10 +22,6 @@ QString wholeDollars(double usd) {
     return text(fmt::format("${:.0f}", usd));
 }
 
-QString wholePercent(double fraction) {
-    return text(fmt::format("{:.0f}%", fraction * 100));
-}
-
 QString relativeTime(Instant since, Instant now) {
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now - since).count();
     if (seconds < 60) return text(fmt::format("hace {}s", seconds));

@@ -13,9 +13,6 @@ namespace tidewatch {
 /// "$12"
 [[nodiscard]] QString wholeDollars(double usd);
 
-/// "64%"
-[[nodiscard]] QString wholePercent(double fraction);
-
 /// "hace 59s" below a minute, "hace 2min" from there on. Seconds are truncated.
 [[nodiscard]] QString relativeTime(Instant since, Instant now);
 

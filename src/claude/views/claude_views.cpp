@@ -6,12 +6,20 @@
 namespace tidewatch {
 
 ClaudeViews::ClaudeViews(const platform::Clock& clock, platform::MainLoop& mainLoop, ClaudeUsage& usage)
-    : tab_({.clock = clock, .mainLoop = mainLoop, .monitor = usage.monitor, .settings = usage.settings}) {}
+    : tab_({.clock = clock, .mainLoop = mainLoop, .monitor = usage.monitor, .settings = usage.settings}),
+      card_(clock, mainLoop, usage.monitor) {}
 
 std::vector<Pane> ClaudeViews::tabs() {
     const auto name = text(rawValue(DashboardTab::claude));
     return {
         {.id = name, .title = name, .view = viewUrl("Tidewatch.Claude", "ClaudeTab"), .presenter = &tab_}};
+}
+
+Pane ClaudeViews::card() {
+    return {.id = "claude-card",
+            .title = text(rawValue(DashboardTab::claude)),
+            .view = viewUrl("Tidewatch.Claude", "ClaudeSidebarCard"),
+            .presenter = &card_};
 }
 
 }  // namespace tidewatch

@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "claude/claude_usage.h"
+#include "claude/views/claude_card_presenter.h"
 #include "claude/views/claude_presenter.h"
 #include "platform/api/clock.h"
 #include "platform/api/main_loop.h"
@@ -18,10 +19,14 @@ public:
 
     [[nodiscard]] std::vector<Pane> tabs();
 
+    /// For a narrow column.
+    [[nodiscard]] Pane card();
+
     [[nodiscard]] ClaudePresenter& tab() { return tab_; }
 
 private:
     ClaudePresenter tab_;
+    ClaudeCardPresenter card_;
 };
 
 }  // namespace tidewatch

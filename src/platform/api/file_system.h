@@ -59,11 +59,12 @@ public:
     /// The metadata of a path; symbolic links are followed, a dangling one is an error.
     [[nodiscard]] virtual FileResult<FileInfo> inspect(const std::string& path) const = 0;
 
-    /// Calls `visit` on this thread for everything below `directory`, recursively: a directory before its
-    /// entries, otherwise in no particular order. Symbolic links are reported but not followed, except
-    /// `directory` itself. What cannot be read, or is removed meanwhile, is skipped; it is an error only if
-    /// `directory` itself cannot be read. A skipped hidden directory is skipped with everything below it.
-    /// Memory use depends on the number of directories, not of files.
+    /// Calls `visit` for everything below `directory`, recursively: a directory before its entries, otherwise
+    /// in no particular order. One call at a time, but not always on this thread: a large tree is read by
+    /// two. Symbolic links are reported but not followed, except `directory` itself. What cannot be read, or
+    /// is removed meanwhile, is skipped; it is an error only if `directory` itself cannot be read. A skipped
+    /// hidden directory is skipped with everything below it. Memory use depends on the number of directories,
+    /// not of files.
     [[nodiscard]] virtual FileStatus enumerate(const std::string& directory, HiddenFiles hidden,
                                                const FileVisitor& visit) const = 0;
 

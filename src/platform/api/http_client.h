@@ -37,8 +37,8 @@ class HttpClient {
 public:
     virtual ~HttpClient() = default;
 
-    /// Requests `url`, HTTPS. Fails if nothing arrives for `timeOut`. Returns nullptr, and tells nothing, if
-    /// `url` is not a URL.
+    /// Requests `url`. Fails if nothing arrives for `timeOut`. Returns nullptr, and tells nothing, if `url`
+    /// is not an HTTPS URL.
     [[nodiscard]] virtual std::unique_ptr<HttpTransfer> get(const std::string& url,
                                                             std::chrono::milliseconds timeOut,
                                                             HttpListener listener) = 0;

@@ -40,7 +40,7 @@ struct InterfaceBytes {
 /// A wireless network that an interface is connected to.
 struct WirelessLink {
     std::string networkName;
-    std::int64_t signal = 0;  ///< dBm
+    std::optional<std::int64_t> signal{};  ///< dBm; nullopt if the driver does not tell
 };
 
 /// The interface of the default route.

@@ -6,19 +6,26 @@ class Applications;
 class JobQueueFactory;
 class Clock;
 class Desktop;
+class DiskVolumes;
 class FileSystem;
 class FrontmostApplication;
+class HttpClient;
 class InputActivity;
 class Log;
 class LoginItem;
+class MachineCounters;
 class MainLoop;
 class Preferences;
 class ProcessTermination;
 class ProcessMemory;
 class Randomness;
+class RunningApplications;
 class SingleInstance;
 class Screens;
+class Trash;
+class UserFolders;
 class UserNotifications;
+class VolumeEjection;
 class WindowSystem;
 
 /// All platform services, for the composition root to distribute. Owns nothing; the referenced objects must
@@ -42,6 +49,13 @@ struct Platform {
     UserNotifications& notifications;
     ProcessMemory& memory;
     JobQueueFactory& queues;
+    MachineCounters& counters;
+    DiskVolumes& volumes;
+    VolumeEjection& ejection;
+    RunningApplications& running;
+    HttpClient& http;
+    UserFolders& userFolders;
+    Trash& trash;
 };
 
 }  // namespace tidewatch::platform

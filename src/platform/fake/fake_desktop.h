@@ -16,12 +16,16 @@ public:
         done(revealStatus_);
     }
 
+    [[nodiscard]] DesktopWords words() const override { return words_; }
+
+    void setWords(DesktopWords words) { words_ = std::move(words); }
     void setRevealStatus(Status status) { revealStatus_ = std::move(status); }
 
     /// All paths passed to reveal().
     [[nodiscard]] const std::vector<std::string>& revealed() const { return revealed_; }
 
 private:
+    DesktopWords words_{.revealInFileManager = "Revelar en Archivos", .unnamedVolume = "Sistema"};
     Status revealStatus_ = success();
     std::vector<std::string> revealed_;
 };

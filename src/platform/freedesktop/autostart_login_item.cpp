@@ -24,6 +24,16 @@ std::string quotedForExec(const std::string& path) {
     return quoted + '"';
 }
 
+/// A string value of an entry.
+std::string escaped(const std::string& value) {
+    std::string text;
+    for (const char c : value) {
+        if (c == '\\') text += c;
+        text += c;
+    }
+    return text;
+}
+
 }  // namespace
 
 AutostartLoginItem::AutostartLoginItem(FileSystem& files, const std::string& configDirectory,
@@ -45,14 +55,17 @@ bool AutostartLoginItem::isEnabled() const {
 
 Status AutostartLoginItem::registerItem() {
     if (auto made = files_.createDirectories(directory_); !made) return made;
-    const auto failure = files_.exportFile(path_, fmt::format("[Desktop Entry]\n"
-                                                              "Type=Application\n"
-                                                              "Name=Tidewatch\n"
-                                                              "Comment=Marca tu tiempo.\n"
-                                                              "Exec={}\n"
-                                                              "Icon=com.brightlooms.tidewatch\n"
-                                                              "X-GNOME-Autostart-enabled=true\n",
-                                                              quotedForExec(program_)));
+    const auto failure =
+        files_.exportFile(path_, fmt::format("[Desktop Entry]\n"
+                                             "Type=Application\n"
+                                             "Name=Tidewatch\n"
+                                             "Comment=Marca tu tiempo.\n"
+                                             "Exec={}\n"
+                                             // Nothing is started once the program is uninstalled.
+                                             "TryExec={}\n"
+                                             "Icon=com.brightlooms.tidewatch\n"
+                                             "X-GNOME-Autostart-enabled=true\n",
+                                             quotedForExec(program_), escaped(program_)));
     return failure ? Status(Error{failure->message}) : success();
 }
 

@@ -55,7 +55,7 @@ Status statusOf(const QDBusPendingCall& call) {
 
 }  // namespace
 
-DesktopNotifications::DesktopNotifications(SessionBus& bus, Log& log, std::chrono::milliseconds timeout)
+DesktopNotifications::DesktopNotifications(MessageBus& bus, Log& log, std::chrono::milliseconds timeout)
     : bus_(bus), log_(log), timeout_(timeout) {
     qDBusRegisterMetaType<NotificationPicture>();
 }

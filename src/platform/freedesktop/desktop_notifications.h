@@ -6,7 +6,7 @@
 
 #include "platform/api/log.h"
 #include "platform/api/user_notifications.h"
-#include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/message_bus.h"
 
 namespace tidewatch::platform {
 
@@ -16,7 +16,7 @@ class DesktopNotifications final : public UserNotifications {
 public:
     /// A delivery fails without a bus, or if the service does not reply within `timeout`; if it shows the
     /// notification later nevertheless, that appears twice. `bus` and `log` must outlive this object.
-    DesktopNotifications(SessionBus& bus, Log& log,
+    DesktopNotifications(MessageBus& bus, Log& log,
                          std::chrono::milliseconds timeout = std::chrono::seconds(3));
 
     /// A service may start and stop at any time, so this is only known at each delivery.
@@ -28,7 +28,7 @@ public:
     void setLegacyService(std::function<void(const UserNotification&)> show) override;
 
 private:
-    SessionBus& bus_;
+    MessageBus& bus_;
     Log& log_;
     const std::chrono::milliseconds timeout_;
     std::function<void(const UserNotification&)> showLegacy_;

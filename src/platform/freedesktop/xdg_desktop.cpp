@@ -1,5 +1,6 @@
 #include "platform/freedesktop/xdg_desktop.h"
 
+#include <QByteArray>
 #include <QDBusConnection>
 #include <QDBusError>
 #include <QDBusMessage>
@@ -8,7 +9,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QUrl>
 #include <algorithm>
 #include <utility>
 
@@ -19,15 +19,20 @@ namespace tidewatch::platform {
 
 namespace {
 
-constexpr char fileManager[] = "org.freedesktop.FileManager1";
+constexpr char fileManagerService[] = "org.freedesktop.FileManager1";
 constexpr char fileManagerPath[] = "/org/freedesktop/FileManager1";
 constexpr char fileManagerCategory[] = "FileManager";
 constexpr int fileManagerTimeout = 10'000;          // milliseconds: it may have to be started first
 constexpr std::size_t maxListLength = 1024 * 1024;  // bytes
 
+// A path need not be valid text, which the toolkit's own addresses are.
+QString fileUri(const std::string& path) {
+    return "file://" + QByteArray::fromStdString(path).toPercentEncoding("/");
+}
+
 }  // namespace
 
-XdgDesktop::XdgDesktop(SessionBus& bus, const Applications& applications,
+XdgDesktop::XdgDesktop(MessageBus& bus, const Applications& applications,
                        const QProcessEnvironment& inherited)
     : bus_(bus), applications_(applications), inherited_(inherited) {}
 
@@ -42,9 +47,9 @@ std::string XdgDesktop::documentsDirectory() const {
 }
 
 void XdgDesktop::reveal(const std::string& path, std::function<void(const Status&)> done) {
-    const auto file = QString::fromStdString(path);
-    auto message = QDBusMessage::createMethodCall(fileManager, fileManagerPath, fileManager, "ShowItems");
-    message << QStringList{QUrl::fromLocalFile(file).toString()} << QString();
+    auto message =
+        QDBusMessage::createMethodCall(fileManagerService, fileManagerPath, fileManagerService, "ShowItems");
+    message << QStringList{fileUri(path)} << QString();
     const auto bus = bus_.connection();
     const auto call =
         bus.isConnected()
@@ -52,36 +57,44 @@ void XdgDesktop::reveal(const std::string& path, std::function<void(const Status
             : QDBusPendingCall::fromError(QDBusError(QDBusError::Disconnected, "no session bus"));
     auto* watcher = new QDBusPendingCallWatcher(call, &pendingCalls_);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher,
-                     [this, watcher, file, done = std::move(done)] {
+                     [this, watcher, path, done = std::move(done)] {
                          watcher->deleteLater();
-                         done(watcher->isError() ? openFolderOf(file) : success());
+                         done(watcher->isError() ? openFolderOf(path) : success());
                      });
 }
 
-Status XdgDesktop::openFolderOf(const QString& file) const {
-    if (!foldersOpenInFileManager()) return Error{"no file manager is registered for folders"};
+DesktopWords XdgDesktop::words() const {
+    const auto manager = fileManager();
+    return {.revealInFileManager = manager ? "Revelar en " + manager->name : "Mostrar en la carpeta",
+            .unnamedVolume = "Sistema"};
+}
+
+Status XdgDesktop::openFolderOf(const std::string& path) const {
+    if (!fileManager()) return Error{"no file manager is registered for folders"};
     QProcess opener;
     opener.setProgram("xdg-open");
-    opener.setArguments({QUrl::fromLocalFile(QFileInfo(file).absolutePath()).toString()});
+    opener.setArguments({fileUri(path.substr(0, std::max<std::size_t>(path.rfind('/'), 1)))});
     opener.setProcessEnvironment(inherited_);
     opener.setStandardOutputFile(QProcess::nullDevice());
     opener.setStandardErrorFile(QProcess::nullDevice());
     return opener.startDetached() ? success() : Error{"xdg-open could not be started"};
 }
 
-/// Without a file manager, desktops open folders in any application for files, often a web browser.
-bool XdgDesktop::foldersOpenInFileManager() const {
+/// The application registered for folders. Without a file manager, that may be any application for files,
+/// often a web browser.
+std::optional<ApplicationInfo> XdgDesktop::fileManager() const {
     for (const auto& list : standardRegistrationLists()) {
         const auto text = readRegularFile(list, maxListLength);
         if (!text) continue;
         for (const auto& id : folderHandlers(text.value())) {
-            if (const auto handler = applications_.info(AppId(id))) {
-                return std::ranges::find(handler->categories, fileManagerCategory) !=
-                       handler->categories.end();
-            }
+            auto handler = applications_.info(AppId(id));
+            if (!handler) continue;
+            const bool isFileManager =
+                std::ranges::find(handler->categories, fileManagerCategory) != handler->categories.end();
+            return isFileManager ? std::move(handler) : std::nullopt;
         }
     }
-    return false;
+    return std::nullopt;
 }
 
 }  // namespace tidewatch::platform

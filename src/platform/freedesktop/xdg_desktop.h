@@ -2,10 +2,11 @@
 
 #include <QObject>
 #include <QProcessEnvironment>
+#include <optional>
 
 #include "platform/api/applications.h"
 #include "platform/api/desktop.h"
-#include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/message_bus.h"
 
 namespace tidewatch::platform {
 
@@ -14,7 +15,7 @@ class XdgDesktop final : public Desktop {
 public:
     /// `bus` and `applications` must outlive this object; `inherited` is the environment for programs that it
     /// starts.
-    XdgDesktop(SessionBus& bus, const Applications& applications, const QProcessEnvironment& inherited);
+    XdgDesktop(MessageBus& bus, const Applications& applications, const QProcessEnvironment& inherited);
 
     [[nodiscard]] std::string documentsDirectory() const override;
 
@@ -22,11 +23,13 @@ public:
     /// registered for folders.
     void reveal(const std::string& path, std::function<void(const Status&)> done) override;
 
-private:
-    [[nodiscard]] Status openFolderOf(const QString& file) const;
-    [[nodiscard]] bool foldersOpenInFileManager() const;
+    [[nodiscard]] DesktopWords words() const override;
 
-    SessionBus& bus_;
+private:
+    [[nodiscard]] Status openFolderOf(const std::string& path) const;
+    [[nodiscard]] std::optional<ApplicationInfo> fileManager() const;
+
+    MessageBus& bus_;
     const Applications& applications_;
     const QProcessEnvironment inherited_;
     QObject pendingCalls_;  // owns the watchers of pending calls

@@ -38,11 +38,12 @@ std::optional<std::string> readKernelFile(const std::string& path) {
     return readKernelFile(AT_FDCWD, path.c_str());
 }
 
-KernelFile::KernelFile(std::string path) : path_(std::move(path)), buffer_(firstBuffer) {}
+KernelFile::KernelFile(std::string path) : path_(std::move(path)) {}
 
 std::optional<std::string_view> KernelFile::read() {
     if (!file_.isOpen()) file_ = FileDescriptor(openForReading(AT_FDCWD, path_.c_str()));
     if (!file_.isOpen()) return std::nullopt;
+    if (buffer_.empty()) buffer_.resize(firstBuffer);
     std::size_t length = 0;
     while (length < maxContent) {
         const auto got = ::pread(file_.get(), buffer_.data() + length, buffer_.size() - length,

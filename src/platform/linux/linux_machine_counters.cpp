@@ -1,28 +1,50 @@
 #include "platform/linux/linux_machine_counters.h"
 
-#include <algorithm>
+#include <unistd.h>
+
+#include <memory>
 #include <utility>
 
 #include "platform/linux/net_interfaces.h"
+#include "platform/linux/nl80211.h"
+#include "platform/linux/nvml.h"
 #include "platform/linux/proc_meminfo.h"
-#include "platform/linux/text_fields.h"
 
 namespace tidewatch::platform {
 
-LinuxMachineCounters::LinuxMachineCounters() : LinuxMachineCounters("/proc", "/sys", processorTimeOf) {}
+namespace {
 
-LinuxMachineCounters::LinuxMachineCounters(const std::string& procDirectory, const std::string& sysDirectory)
-    : LinuxMachineCounters(procDirectory, sysDirectory, nullptr) {}
+WirelessLinks::Ask kernel() {
+    return [subsystem = std::make_shared<Nl80211>()](const std::string& interfaceName) {
+        return subsystem->link(interfaceName);
+    };
+}
+
+GpuFigures::AskLibrary managementLibrary() {
+    return [library = std::make_shared<Nvml>()] { return library->utilization(); };
+}
+
+}  // namespace
+
+LinuxMachineCounters::LinuxMachineCounters()
+    : LinuxMachineCounters("/proc", "/sys", processorTimeOf, kernel()) {}
 
 LinuxMachineCounters::LinuxMachineCounters(const std::string& procDirectory, const std::string& sysDirectory,
-                                           ProcProcesses::ProcessorTimeOf timeOf)
+                                           WirelessLinks::Ask askWireless)
+    : LinuxMachineCounters(procDirectory, sysDirectory, nullptr, std::move(askWireless)) {}
+
+LinuxMachineCounters::LinuxMachineCounters(const std::string& procDirectory, const std::string& sysDirectory,
+                                           ProcProcesses::ProcessorTimeOf timeOf,
+                                           WirelessLinks::Ask askWireless)
     : sysDirectory_(sysDirectory),
       stat_(procDirectory + "/stat"),
       meminfo_(procDirectory + "/meminfo"),
       netDev_(procDirectory + "/net/dev"),
       routes_(procDirectory + "/net/route"),
       routes6_(procDirectory + "/net/ipv6_route"),
-      processes_(procDirectory, std::move(timeOf)) {}
+      processes_(procDirectory, std::move(timeOf)),
+      wirelessLinks_(std::move(askWireless)),
+      gpus_(sysDirectory, managementLibrary()) {}
 
 std::optional<CpuTicks> LinuxMachineCounters::cpuTicks() {
     const auto text = stat_.read();
@@ -66,22 +88,17 @@ std::optional<PrimaryLink> LinuxMachineCounters::primaryLink() {
         name = routes6 ? defaultInterface6(*routes6) : std::nullopt;
     }
     if (!name) return std::nullopt;
-    return PrimaryLink{*name, std::nullopt};
+    if (!isWireless(*name)) return PrimaryLink{*name, std::nullopt};
+    const auto wireless = wirelessLinks_.latest(*name);
+    return wireless ? std::optional(PrimaryLink{*name, *wireless}) : std::nullopt;
+}
+
+bool LinuxMachineCounters::isWireless(const std::string& interfaceName) const {
+    return ::access((sysDirectory_ + "/class/net/" + interfaceName + "/phy80211").c_str(), F_OK) == 0;
 }
 
 std::vector<double> LinuxMachineCounters::gpuFigures() {
-    std::vector<double> figures;
-    const auto cards = sysDirectory_ + "/class/drm";
-    for (const auto& name : namesIn(cards, "card")) {
-        // A connector's name has a dash.
-        if (name.find('-') != std::string::npos) continue;
-        const auto text = readKernelFile(cards + "/" + name + "/device/gpu_busy_percent");
-        if (!text) continue;
-        const auto percent = wholeNumber<int>(std::string_view(*text).substr(0, text->find('\n')));
-        // As a fraction: one percent would be taken for all of it.
-        if (percent) figures.push_back(std::clamp(*percent / 100.0, 0.0, 1.0));
-    }
-    return figures;
+    return gpus_.read();
 }
 
 std::vector<ProcessLoad> LinuxMachineCounters::busiestProcesses(std::size_t limit) {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <functional>
 
 #include "platform/linux/kernel_file.h"
 #include "platform/linux/text_fields.h"
@@ -78,7 +77,8 @@ InterfaceBytes totalBytes(std::string_view netDev, const std::string& netDirecto
     const auto isHardware = [&](const NetInterface& each) {
         return ::access((netDirectory + "/" + each.name + "/device").c_str(), F_OK) == 0;
     };
-    if (std::ranges::any_of(interfaces, isHardware)) std::erase_if(interfaces, std::not_fn(isHardware));
+    const auto virtualOnes = std::stable_partition(interfaces.begin(), interfaces.end(), isHardware);
+    if (virtualOnes != interfaces.begin()) interfaces.erase(virtualOnes, interfaces.end());
     InterfaceBytes sum;
     for (const auto& [name, bytes] : interfaces) {
         if (!isUp(netDirectory + "/" + name)) continue;

@@ -39,6 +39,16 @@ std::string linkTarget(int directory, const std::string& path) {
     return {target.data(), length > 0 ? static_cast<std::size_t>(length) : 0};
 }
 
+// Of a process whose short name is this; `directory` is that of all processes.
+std::string nameOf(int directory, int process, std::string_view shortName) {
+    if (shortName.size() < maxShortName) return std::string(trimmed(shortName));
+    const auto own = std::to_string(process);
+    const auto commandLine = readKernelFile(directory, (own + "/cmdline").c_str());
+    const auto name =
+        wholeProcessName(shortName, commandLine.value_or(""), linkTarget(directory, own + "/exe"));
+    return std::string(trimmed(name));
+}
+
 }  // namespace
 
 std::optional<ProcessStat> parseProcessStat(std::string_view text) {
@@ -77,6 +87,14 @@ std::string wholeProcessName(std::string_view shortName, std::string_view comman
         if (whole.starts_with(shortName)) return std::string(whole);
     }
     return std::string(shortName);
+}
+
+std::string processName(int process) {
+    const FileDescriptor directory(::open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    std::array<char, 1024> buffer{};
+    const auto stat =
+        parseProcessStat(readInto(buffer, directory.get(), (std::to_string(process) + "/stat").c_str()));
+    return stat ? nameOf(directory.get(), process, stat->name) : "";
 }
 
 std::optional<double> parseUptime(std::string_view text) {
@@ -176,20 +194,11 @@ std::optional<ProcessLoad> ProcProcesses::loadOf(const Process& process) const {
     const auto directory = std::to_string(process.id);
     const auto stat = parseProcessStat(readInto(buffer, directory_.get(), (directory + "/stat").c_str()));
     if (!stat || stat->startTicks != process.startTicks) return std::nullopt;
-    auto name = nameOf(process.id, stat->name);
+    auto name = nameOf(directory_.get(), process.id, stat->name);
     if (name.empty()) return std::nullopt;
     return ProcessLoad{.name = std::move(name),
                        .cpuPercent = process.cpuPercent,
                        .resident = stat->residentPages * pageSize_};
-}
-
-std::string ProcProcesses::nameOf(int id, std::string_view shortName) const {
-    if (shortName.size() < maxShortName) return std::string(trimmed(shortName));
-    const auto directory = std::to_string(id);
-    const auto commandLine = readKernelFile(directory_.get(), (directory + "/cmdline").c_str());
-    const auto name = wholeProcessName(shortName, commandLine.value_or(""),
-                                       linkTarget(directory_.get(), directory + "/exe"));
-    return std::string(trimmed(name));
 }
 
 }  // namespace tidewatch::platform

@@ -30,6 +30,9 @@ struct ProcessStat {
 [[nodiscard]] std::string wholeProcessName(std::string_view shortName, std::string_view commandLine,
                                            std::string_view executable);
 
+/// The name of a running process, as in ProcessLoad; empty if it has ended.
+[[nodiscard]] std::string processName(int process);
+
 /// Seconds since the machine started, from the content of /proc/uptime.
 [[nodiscard]] std::optional<double> parseUptime(std::string_view text);
 
@@ -66,7 +69,6 @@ private:
     [[nodiscard]] const Process* lastOf(int id) const;
     void rate(Process& process, const Process* last, double uptime) const;
     [[nodiscard]] std::optional<ProcessLoad> loadOf(const Process& process) const;
-    [[nodiscard]] std::string nameOf(int id, std::string_view shortName) const;
 
     const std::string directoryPath_;
     const ProcessorTimeOf timeOf_;

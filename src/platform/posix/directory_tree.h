@@ -7,8 +7,8 @@
 
 namespace tidewatch::platform {
 
-/// See FileSystem::enumerate(). Keeps one directory open at a time, whatever the depth; skips paths longer
-/// than PATH_MAX.
+/// See FileSystem::enumerate(). Keeps one directory a thread open at a time, whatever the depth; skips paths
+/// longer than PATH_MAX.
 [[nodiscard]] FileStatus enumerateDirectoryTree(const std::string& root, HiddenFiles hidden,
                                                 const FileVisitor& visit);
 

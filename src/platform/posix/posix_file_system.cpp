@@ -94,7 +94,7 @@ NewFile makeHiddenNeighbour(const std::string& target, mode_t mode) {
     NewFile file{-1, {}};
     do {
         std::uint64_t random = 0;
-        static_cast<void>(::getrandom(&random, sizeof random, 0));
+        if (::getrandom(&random, sizeof random, 0) < 0) break;
         file.path = fmt::format("{}.tidewatch-{:016x}", directory, random);
         file.descriptor = ::open(file.path.c_str(), newFileFlags, mode);
     } while (file.descriptor < 0 && errno == EEXIST);

@@ -5,7 +5,7 @@
 #include <QSocketNotifier>
 #include <utility>
 
-#include "platform/linux/process_identity.h"
+#include "platform/x11/x11_window_identity.h"
 
 namespace tidewatch::platform {
 
@@ -127,22 +127,12 @@ void X11ActiveApplication::setWatched(xcb_window_t window, std::uint32_t events)
 std::optional<AppId> X11ActiveApplication::identify(xcb_window_t window) {
     const auto owner = connection_.processOf(window);
     if (owner == getpid()) return own_;
-    if (const auto ids = connection_.texts(window, applicationIdAtom_);
-        !ids.empty() && !ids.front().empty()) {
-        return AppId(ids.front());
-    }
-    if (owner) {
-        if (auto id = sandboxedApplication(*owner)) return AppId(std::move(*id));
-    }
-    const auto names = connection_.texts(window, XCB_ATOM_WM_CLASS);
-    const std::string instance = names.empty() ? "" : names[0];
-    const std::string windowClass = names.size() < 2 ? "" : names[1];
-    if (auto id = entries_.idForWindow(instance, windowClass)) return AppId(std::move(*id));
+    if (auto id = registeredApplication(connection_, entries_, window, owner)) return id;
     // Better no application for a moment than one application's time under two names.
     stale_ = entries_.isReading();
     if (stale_) return std::nullopt;
-    const auto& name = windowClass.empty() ? instance : windowClass;
-    return name.empty() ? std::nullopt : std::optional(AppId(name));
+    auto name = windowClass(connection_, window);
+    return name.empty() ? std::nullopt : std::optional(AppId(std::move(name)));
 }
 
 }  // namespace tidewatch::platform

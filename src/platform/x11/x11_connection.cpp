@@ -92,6 +92,11 @@ std::optional<pid_t> X11Connection::processOf(xcb_window_t window) const {
     return std::nullopt;
 }
 
+void X11Connection::sync() const {
+    const XcbReply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));
+}
+
 XcbReply<xcb_generic_event_t> X11Connection::pollEvent() const {
     while (alive()) {
         XcbReply<xcb_generic_event_t> event(xcb_poll_for_event(get()));

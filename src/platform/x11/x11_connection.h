@@ -50,6 +50,9 @@ public:
     /// The process that a window belongs to; nullopt if the server does not know or cannot tell.
     [[nodiscard]] std::optional<pid_t> processOf(xcb_window_t window) const;
 
+    /// Waits until the server has carried out all requests.
+    void sync() const;
+
     /// The next event without blocking, ignoring errors; null if there is none.
     [[nodiscard]] XcbReply<xcb_generic_event_t> pollEvent() const;
 

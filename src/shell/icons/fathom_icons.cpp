@@ -11,9 +11,6 @@ namespace tidewatch::fathom {
 
 namespace {
 
-/// The side of the application icon's drawing, in points.
-constexpr double appIconUnits = 160;
-
 QColor colour(const Color& from) {
     return QColor::fromRgbF(static_cast<float>(from.red), static_cast<float>(from.green),
                             static_cast<float>(from.blue), static_cast<float>(from.alpha));
@@ -53,9 +50,14 @@ ClapperMetrics appIconMetrics() {
 
 }  // namespace
 
-QPainterPath menubarIconShape() {
-    const auto upsideDown = QTransform::fromScale(1, -1) * QTransform::fromTranslate(0, menubarIconHeight);
-    return upsideDown.map(drawClapper(menubarMetrics()).whole());
+const QPainterPath& menubarIconShape() {
+    // Joining the parts takes milliseconds, and the tray's icon needs them in every size.
+    static const auto shape = [] {
+        const auto upsideDown =
+            QTransform::fromScale(1, -1) * QTransform::fromTranslate(0, menubarIconHeight);
+        return upsideDown.map(drawClapper(menubarMetrics()).whole());
+    }();
+    return shape;
 }
 
 QImage menubarIcon(double scale, const QColor& tint) {
@@ -67,21 +69,27 @@ QImage menubarIcon(double scale, const QColor& tint) {
     });
 }
 
+std::vector<FilledShape> appIconShapes() {
+    QPainterPath square;
+    square.addRoundedRect(QRectF(0, 0, appIconUnits, appIconUnits), 36, 36);
+    QLinearGradient ground(0, appIconUnits, appIconUnits, 0);
+    ground.setColorAt(0, QColor(0x2E, 0x2E, 0x2C));
+    ground.setColorAt(1, colour(ink));
+    const auto drawing = drawClapper(appIconMetrics());
+    return {
+        {square, ground},
+        {drawing.slate, colour(paper)},
+        {drawing.bar, colour(paper)},
+        {drawing.hands, colour(green)},
+        {drawing.dot, colour(green)},
+    };
+}
+
 QImage appIcon(int pixels) {
     return paintedImage({pixels, pixels}, [&](QPainter& painter) {
         painter.translate(0, pixels);
         painter.scale(pixels / appIconUnits, -pixels / appIconUnits);
-        QLinearGradient ground(0, appIconUnits, appIconUnits, 0);
-        ground.setColorAt(0, QColor(0x2E, 0x2E, 0x2C));
-        ground.setColorAt(1, colour(ink));
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(ground);
-        painter.drawRoundedRect(QRectF(0, 0, appIconUnits, appIconUnits), 36, 36);
-        const auto drawing = drawClapper(appIconMetrics());
-        painter.fillPath(drawing.slate, colour(paper));
-        painter.fillPath(drawing.bar, colour(paper));
-        painter.fillPath(drawing.hands, colour(green));
-        painter.fillPath(drawing.dot, colour(green));
+        for (const auto& [path, fill] : appIconShapes()) painter.fillPath(path, fill);
     });
 }
 

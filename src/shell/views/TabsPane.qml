@@ -28,13 +28,30 @@ Item {
             Layout.topMargin: 20
             presenter: root.presenter.header
         }
-        TabBar {
-            objectName: "tabs"
-            Layout.leftMargin: 28
+        Item {
+            Layout.fillWidth: true
             Layout.topMargin: 8
-            labels: root.presenter.tabs
-            currentIndex: root.presenter.tabIndex
-            onActivated: index => root.presenter.selectTab(index)
+            implicitHeight: tabs.implicitHeight
+
+            TabBar {
+                id: tabs
+
+                objectName: "tabs"
+                x: 28
+                labels: root.presenter.tabs
+                currentIndex: root.presenter.tabIndex
+                onActivated: index => root.presenter.selectTab(index)
+            }
+            IconButton {
+                objectName: "fold"
+                anchors.right: parent.right
+                anchors.rightMargin: 20
+                anchors.verticalCenter: parent.verticalCenter
+                visible: root.presenter.isFolded
+                symbol: "sidebar.right"
+                accessibleName: root.presenter.foldText
+                onClicked: root.presenter.toggleBeside()
+            }
         }
         Rectangle {
             id: line

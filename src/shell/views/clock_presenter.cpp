@@ -6,12 +6,12 @@
 #include "base/duration_format.h"
 #include "ui/style/fonts.h"
 #include "ui/style/qt_color.h"
+#include "ui/symbols/stars.h"
 #include "ui/texts/qt_text.h"
 
 namespace tidewatch {
 namespace {
 
-constexpr int starCount = 5;
 constexpr double filledStarOpacity = 0.7;
 constexpr double emptyStarOpacity = 0.22;
 
@@ -105,11 +105,10 @@ void ClockPresenter::updateDot() {
 
 void ClockPresenter::updateStars() {
     filledStars_ = std::clamp(starsToday_(), 0, starCount);
-    QStringList names;
+    const auto names = starSymbols(filledStars_);
     QList<QColor> colors;
     for (int i = 0; i < starCount; ++i) {
         const bool filled = i < filledStars_;
-        names.append(filled ? "star.fill" : "star");
         colors.append(toQColor(filled ? active().accentActive.at(filledStarOpacity)
                                       : active().secondaryText.at(emptyStarOpacity)));
     }
@@ -122,11 +121,9 @@ void ClockPresenter::updateStars() {
 void ClockPresenter::updateAccessibleText() {
     const bool isActive = engine_.status() == TimerEngine::Status::active;
     change(accessibleText_,
-           QString("Hoy %1, sesión %2, %3, %4 de %5 estrellas")
+           QString("Hoy %1, sesión %2, %3, %4")
                .arg(clockText(engine_.todaySeconds()), clockText(engine_.liveSeconds()),
-                    isActive ? "activo" : "inactivo")
-               .arg(filledStars_)
-               .arg(starCount),
+                    isActive ? "activo" : "inactivo", starsText(filledStars_)),
            &ClockPresenter::accessibleTextChanged);
 }
 

@@ -7,29 +7,49 @@
 
 namespace tidewatch {
 
-namespace {
-
-void setVisible(const Pane& pane, bool visible) {
-    if (auto* presenter = qobject_cast<TabPresenter*>(pane.presenter)) presenter->setVisible(visible);
-}
-
-}  // namespace
-
 StatsPresenter::StatsPresenter(Content content)
     : counters_(content.counters),
       dashboard_(content.dashboard),
       claude_(content.claude),
+      machine_(content.machine),
       tabs_(std::move(content.tabs)),
       besideTabs_(std::move(content.besideTabs)),
       wallClock_(content.clock),
       breakAlert_(content.breakReminder),
       willShow_(content.broadcaster.observe<DashboardWillShow>([this](const auto&) { reloadAll(); })) {}
 
-QList<Pane> StatsPresenter::panes() {
-    QList<Pane> row{
-        {.id = "tabs", .title = "", .view = viewUrl("Tidewatch.Shell", "TabsPane"), .presenter = this}};
-    for (const auto& pane : besideTabs_) row.append(pane);
-    return row;
+Pane StatsPresenter::tabsPane() {
+    return {.id = "tabs", .title = "", .view = viewUrl("Tidewatch.Shell", "TabsPane"), .presenter = this};
+}
+
+bool StatsPresenter::isFolded() const {
+    constexpr double separator = 1;
+    double needed = tabsWidth;
+    for (const auto& pane : besideTabs_) needed += separator + pane.width;
+    return !besideTabs_.empty() && width_ < needed;
+}
+
+void StatsPresenter::setWidth(double width) {
+    if (width == width_) return;
+    width_ = width;
+    setOpened(isOpened_ && isFolded());
+}
+
+void StatsPresenter::toggleBeside() {
+    if (isFolded()) setOpened(!isOpened_);
+}
+
+void StatsPresenter::setOpened(bool opened) {
+    isOpened_ = opened;
+    updateVisibleTab();
+    Q_EMIT besideChanged();
+}
+
+void StatsPresenter::setMinimized(bool minimized) {
+    if (minimized == minimized_) return;
+    minimized_ = minimized;
+    machine_.setPaused(minimized);
+    Q_EMIT minimizedChanged();
 }
 
 QStringList StatsPresenter::tabs() const {
@@ -60,7 +80,8 @@ void StatsPresenter::selectTab(int index) {
 void StatsPresenter::disappear() {
     appeared_ = false;
     dashboard_.model().stopLiveRefresh();
-    updateVisibleTab();
+    setOpened(false);
+    setMinimized(false);
 }
 
 void StatsPresenter::reloadAll() {
@@ -77,8 +98,8 @@ void StatsPresenter::reloadAll() {
 
 void StatsPresenter::updateVisibleTab() {
     const auto selected = dashboard_.selectedTab();
-    for (const auto& tab : tabs_) setVisible(tab, appeared_ && tab.id == selected);
-    for (const auto& pane : besideTabs_) setVisible(pane, appeared_);
+    for (const auto& tab : tabs_) setPaneVisible(tab, appeared_ && tab.id == selected);
+    for (const auto& pane : besideTabs_) setPaneVisible(pane, appeared_ && besideShown());
 }
 
 }  // namespace tidewatch

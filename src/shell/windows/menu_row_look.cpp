@@ -1,10 +1,12 @@
 #include "shell/windows/menu_row_look.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPixmap>
 #include <array>
 
 #include "shell/windows/elided_text.h"
+#include "ui/symbols/symbol_table.h"
 #include "ui/texts/display_text.h"
 
 namespace tidewatch {
@@ -37,6 +39,26 @@ QIcon menuSwatch(const RgbColor& color, bool checked) {
         painter.drawPolyline(mark.data(), static_cast<int>(mark.size()));
     }
     return dot;
+}
+
+QIcon menuSymbol(std::string_view name, const MenuInk& ink, bool checked) {
+    const auto shape = symbolShape(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    if (!shape) return {};
+    constexpr int side = 48;
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side, side);
+    if (checked) {
+        QPainterPath plate;
+        plate.addRoundedRect(QRectF(0, 0, 1, 1), 0.24, 0.24);
+        painter.fillPath(plate, ink.symbol);
+        painter.translate(0.12, 0.12);
+        painter.scale(0.76, 0.76);
+    }
+    painter.fillPath(*shape, checked ? ink.ground : ink.symbol);
+    return picture;
 }
 
 QKeySequence menuShortcut(char keyEquivalent) {

@@ -5,8 +5,10 @@
 #include <QKeySequence>
 #include <QString>
 #include <string>
+#include <string_view>
 
 #include "shell/menu_row.h"
+#include "shell/windows/menu_style.h"
 
 namespace tidewatch {
 
@@ -15,6 +17,10 @@ namespace tidewatch {
 
 /// A round dot of one colour, on request with a check mark on it.
 [[nodiscard]] QIcon menuSwatch(const RgbColor& color, bool checked);
+
+/// A symbol of the symbol table, on request cut out of a plate, as the mark of a checked row. Null for an
+/// unknown name.
+[[nodiscard]] QIcon menuSymbol(std::string_view name, const MenuInk& ink, bool checked);
 
 /// Ctrl and the key equivalent of a row.
 [[nodiscard]] QKeySequence menuShortcut(char keyEquivalent);

@@ -31,6 +31,10 @@ QString menuStyleSheet(const DashboardStyle& style) {
              shade(style.mute));
 }
 
+MenuInk menuInk(const DashboardStyle& style) {
+    return {.symbol = over(style.bg, style.primaryText), .ground = over(style.bg, style.card)};
+}
+
 QString hintStyleSheet(const DashboardStyle& style) {
     const auto shade = [&](const Color& colour) { return over(style.bg, colour).name(); };
     return QStringLiteral(

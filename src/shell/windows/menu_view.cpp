@@ -16,13 +16,13 @@ QString rowTitle(const std::string& text, const QFont& font) {
 
 }  // namespace
 
-MenuView::MenuView(const MenuRows& rows, const DashboardStyle& style) : MenuView(nullptr) {
+MenuView::MenuView(const MenuRows& rows, const DashboardStyle& style) : MenuView(nullptr, menuInk(style)) {
     setAttribute(Qt::WA_DeleteOnClose);
     setStyleSheet(menuStyleSheet(style));
     addRows(rows);
 }
 
-MenuView::MenuView(QWidget* parent) : QMenu(parent) {}
+MenuView::MenuView(QWidget* parent, const MenuInk& ink) : QMenu(parent), ink_(ink) {}
 
 void MenuView::addRows(const MenuRows& rows) {
     // The titles are measured in the font that the style sheet gives.
@@ -42,13 +42,14 @@ void MenuView::addRow(const MenuRow& row) {
         action = addAction(rowTitle(row.title, font()));
         if (row.action) QObject::connect(action, &QAction::triggered, action, row.action);
     } else {
-        auto* submenu = new MenuView(this);
+        auto* submenu = new MenuView(this, ink_);
         submenu->setTitle(rowTitle(row.title, font()));
         submenu->addRows(row.children);
         action = addMenu(submenu);
     }
     // The icon takes the place that the menu's own check mark would have.
     if (row.swatch) action->setIcon(menuSwatch(*row.swatch, row.checked));
+    if (!row.symbol.empty()) action->setIcon(menuSymbol(row.symbol, ink_, row.checked));
     action->setEnabled(row.isEnabled());
     action->setCheckable(row.checked);
     action->setChecked(row.checked);

@@ -4,6 +4,7 @@
 
 #include "shell/menu_row.h"
 #include "shell/themes/theme.h"
+#include "shell/windows/menu_style.h"
 
 namespace tidewatch {
 
@@ -18,12 +19,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    explicit MenuView(QWidget* parent);
+    MenuView(QWidget* parent, const MenuInk& ink);
 
     void addRows(const MenuRows& rows);
     void addRow(const MenuRow& row);
     [[nodiscard]] MenuView& outermost();
     [[nodiscard]] QAction* actionFor(const QKeyEvent& event) const;
+
+    const MenuInk ink_;
 };
 
 }  // namespace tidewatch

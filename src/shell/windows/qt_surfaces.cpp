@@ -28,7 +28,7 @@ constexpr int hintGap = 8;
 
 }  // namespace
 
-QtSurfaces::QtSurfaces(const Dependencies& dependencies) : dependencies_(dependencies) {
+QtSurfaces::QtSurfaces(Dependencies dependencies) : dependencies_(std::move(dependencies)) {
     engine_.setNetworkAccessManagerFactory(&noNetwork_);
 }
 
@@ -57,6 +57,11 @@ std::unique_ptr<FloatingWindow> QtSurfaces::makeClockWindow(PanelSize size) {
                                                         std::move(content), size);
     clockWindow_ = window.get();
     return window;
+}
+
+std::unique_ptr<FloatingWindow> QtSurfaces::makeWidgetWindow(WidgetKind kind, PanelSize size) {
+    return std::make_unique<QuickFloatingWindow>(dependencies_.windowSystem, WindowLayer::below,
+                                                 dependencies_.widgetContent(kind), size);
 }
 
 std::unique_ptr<StatusItem> QtSurfaces::makeStatusItem() {
@@ -129,8 +134,7 @@ void QtSurfaces::ask(const TextPrompt& prompt, std::function<void(std::string)> 
 }
 
 void QtSurfaces::confirm(const Confirmation& question, std::function<void()> accepted) {
-    auto* dialog =
-        new QuestionDialog(question.title, {question.text}, dependencies_.theme.active().dashboard);
+    auto* dialog = new QuestionDialog(question.title, question.text, dependencies_.theme.active().dashboard);
     dialog->addButtons(text(question.accept), QuestionDialog::Cancel::offered);
     QObject::connect(dialog, &QDialog::accepted, dialog, accepted);
     dialog->present();

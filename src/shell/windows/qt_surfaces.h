@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <functional>
 #include <memory>
 
 #include "platform/api/desktop.h"
@@ -28,13 +29,16 @@ public:
         const platform::Desktop& desktop;
         ThemeController& theme;
         ClockPresenter& clock;
+        /// What is shown in the window of a widget.
+        std::function<QuickFloatingWindow::Content(WidgetKind)> widgetContent;
     };
 
-    explicit QtSurfaces(const Dependencies& dependencies);
+    explicit QtSurfaces(Dependencies dependencies);
     ~QtSurfaces() override;
 
     void registerFonts() override;
     [[nodiscard]] std::unique_ptr<FloatingWindow> makeClockWindow(PanelSize size) override;
+    [[nodiscard]] std::unique_ptr<FloatingWindow> makeWidgetWindow(WidgetKind kind, PanelSize size) override;
     [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
     [[nodiscard]] Dialogs& dialogs() override { return *this; }
     void popUpMenu(const MenuRows& rows, platform::Point at) override;

@@ -54,7 +54,8 @@ QString fitted(const TextWithName& text, const QFont& font) {
     const QFontMetricsF metrics(font);
     const auto before = tidewatch::text(text.before);
     const auto after = tidewatch::text(text.after);
-    const double free = textWidth - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after);
+    const double free =
+        textWidth - metrics.horizontalAdvance(before) - metrics.horizontalAdvance(after.section(u'\n', 0, 0));
     if (!text.name.empty()) return before + elidedLine(text.name, font, free) + after;
     auto paragraphs = (before + after).split(u'\n');
     auto words = paragraphs.front().split(u' ');

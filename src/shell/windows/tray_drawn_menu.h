@@ -11,7 +11,8 @@
 namespace tidewatch {
 
 /// The menu of a tray icon for trays that draw it themselves, from what the session bus tells them of it
-/// (com.canonical.dbusmenu). Its rows are made anew each time before it opens.
+/// (com.canonical.dbusmenu). Its rows are brought up to date each time before it opens; while only their
+/// texts change, they stay the same ones to the tray.
 class TrayDrawnMenu final {
 public:
     explicit TrayDrawnMenu(std::function<MenuRows()> rows);
@@ -26,10 +27,12 @@ public:
 private:
     void refill();
     void addRows(QMenu& menu, const MenuRows& rows);
-    void addRow(QMenu& menu, const MenuRow& row);
+    void updateRows(QMenu& menu, const MenuRows& rows);
+    void applyRow(QAction& action, const MenuRow& row);
     const QIcon& swatch(const RgbColor& color);
 
     const std::function<MenuRows()> rows_;
+    MenuRows filledWith_;
     QHash<QRgb, QIcon> swatches_;
     QMenu menu_;
 };

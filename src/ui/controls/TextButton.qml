@@ -10,6 +10,8 @@ PressButton {
     /*! Whether it is the view's primary action. */
     property bool primary: false
 
+    property real textSize: 14
+
     readonly property color ink: {
         if (primary)
             return Style.palette.onFill;
@@ -37,7 +39,7 @@ PressButton {
         PlainText {
             anchors.verticalCenter: parent.verticalCenter
             text: root.text
-            font: Style.sans(14, root.primary ? Style.Semibold : Style.Medium)
+            font: Style.sans(root.textSize, root.primary ? Style.Semibold : Style.Medium)
             color: root.ink
             Accessible.ignored: true
         }

@@ -34,6 +34,7 @@ void PaneView::makeView() {
         view_->setParentItem(nullptr);
         view_.release()->deleteLater();
     }
+    setImplicitSize(0, 0);
     if (pane_.view.isEmpty()) return;
     QQmlComponent component(qmlEngine(this), pane_.view);
     auto* object = component.beginCreate(qmlContext(this));
@@ -49,6 +50,14 @@ void PaneView::makeView() {
     view_->setParentItem(this);
     view_->setSize(size());
     component.completeCreate();
+    for (const auto changed : {&QQuickItem::implicitWidthChanged, &QQuickItem::implicitHeightChanged}) {
+        connect(view_.get(), changed, this, &PaneView::followImplicitSize);
+    }
+    followImplicitSize();
+}
+
+void PaneView::followImplicitSize() {
+    if (view_) setImplicitSize(view_->implicitWidth(), view_->implicitHeight());
 }
 
 }  // namespace tidewatch

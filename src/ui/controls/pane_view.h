@@ -8,12 +8,15 @@
 
 namespace tidewatch {
 
-/// Shows a pane: creates its view, as large as itself, and destroys the previous one. Not the toolkit's
+/// Shows a pane: creates its view, as large as itself, and destroys the previous one. Its implicit size is
+/// that of the view. Not the toolkit's
 /// Loader, which is a focus scope and would keep the focus of a destroyed view.
 class PaneView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tidewatch::Pane pane READ pane WRITE setPane NOTIFY paneChanged FINAL)
+    /// The pane's view; null if there is none.
+    Q_PROPERTY(QQuickItem* view READ view NOTIFY paneChanged FINAL)
 
 public:
     explicit PaneView(QQuickItem* parent = nullptr);
@@ -22,6 +25,7 @@ public:
     [[nodiscard]] Pane pane() const { return pane_; }
     /// A view that cannot be created is an engine warning, and nothing is shown.
     void setPane(const Pane& pane);
+    [[nodiscard]] QQuickItem* view() const { return view_.get(); }
 
 Q_SIGNALS:
     void paneChanged();
@@ -32,6 +36,7 @@ protected:
 
 private:
     void makeView();
+    void followImplicitSize();
 
     Pane pane_;
     std::unique_ptr<QQuickItem> view_;

@@ -13,4 +13,8 @@ void TabPresenter::updateIfVisible() {
     if (visible_) update();
 }
 
+void setPaneVisible(const Pane& pane, bool visible) {
+    if (auto* presenter = qobject_cast<TabPresenter*>(pane.presenter)) presenter->setVisible(visible);
+}
+
 }  // namespace tidewatch

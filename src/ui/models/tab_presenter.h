@@ -3,6 +3,8 @@
 #include <qqmlregistration.h>
 #include <QObject>
 
+#include "ui/models/pane.h"
+
 namespace tidewatch {
 
 /// The base of all tab presenters: follows its model only while the tab is visible. Main thread only.
@@ -37,5 +39,8 @@ protected:
 private:
     bool visible_ = false;
 };
+
+/// Tells the presenter of `pane`, if it is a TabPresenter.
+void setPaneVisible(const Pane& pane, bool visible);
 
 }  // namespace tidewatch

@@ -12,6 +12,9 @@ constexpr Color brightestLiquid = Color::whiteLevel(0.8);
 /// Dense enough for the theme's faintest text to be legible.
 constexpr double liquidCover = 0.75;
 
+/// Of a widget on the desktop.
+constexpr double widgetOpacity = 0.88;
+
 QColor groundOf(const DashboardStyle& style) {
     return toQColor(style.decoration == Decoration::liquid ? style.nsBackground.at(liquidCover)
                                                            : Color::blackAt(0));
@@ -39,7 +42,9 @@ Palette::Palette(const DashboardStyle& style)
       ground(groundOf(style)),
       textGround(blendedOver(
           card,
-          blendedOver(ground, style.decoration == Decoration::liquid ? toQColor(brightestLiquid) : bg))) {
+          blendedOver(ground, style.decoration == Decoration::liquid ? toQColor(brightestLiquid) : bg))),
+      widget(toQColor(style.bg.at(widgetOpacity))),
+      widgetTextGround(blendedOver(widget, style.nsAppearance == Appearance::dark ? Qt::white : Qt::black)) {
     for (const auto& piece : style.gamePieces) gamePieces.append(toQColor(piece));
 }
 

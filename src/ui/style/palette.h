@@ -32,6 +32,8 @@ class Palette final {
     Q_PROPERTY(QColor onFill MEMBER onFill FINAL)
     Q_PROPERTY(QColor ground MEMBER ground FINAL)
     Q_PROPERTY(QColor textGround MEMBER textGround FINAL)
+    Q_PROPERTY(QColor widget MEMBER widget FINAL)
+    Q_PROPERTY(QColor widgetTextGround MEMBER widgetTextGround FINAL)
 
 public:
     Palette() = default;
@@ -53,9 +55,11 @@ public:
     QColor tierDistracting;
     QColor tierOther;
     QColor amber;
-    QColor onFill;      ///< of text and symbols on a fill of one of the tiers' colours
-    QColor ground;      ///< below cards and text on busy backgrounds; else transparent
-    QColor textGround;  ///< the brightest opaque background of text on a card
+    QColor onFill;            ///< of text and symbols on a fill of one of the tiers' colours
+    QColor ground;            ///< below cards and text on busy backgrounds; else transparent
+    QColor textGround;        ///< the brightest opaque background of text on a card
+    QColor widget;            ///< of a widget on the desktop, translucent
+    QColor widgetTextGround;  ///< the same, opaque, over the wallpaper that leaves the least contrast
 
     bool operator==(const Palette&) const = default;
 };

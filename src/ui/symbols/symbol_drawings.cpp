@@ -81,6 +81,17 @@ QPainterPath filledCircle() {
     return circle({0.5, 0.5}, 0.5);
 }
 
+QPainterPath fourSquares() {
+    constexpr double first = 0.125;
+    constexpr double second = 0.54;
+    constexpr double side = 0.335;
+    QPainterPath path;
+    for (const double x : {first, second}) {
+        for (const double y : {first, second}) path.addRoundedRect(x, y, side, side, 0.05, 0.05);
+    }
+    return path;
+}
+
 QPainterPath bomb() {
     // In hundredths: set operations flatten curves, and would do so visibly in a unit square.
     const QPointF middle(40, 61);

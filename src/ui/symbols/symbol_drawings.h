@@ -14,6 +14,9 @@ namespace tidewatch {
 /// A window with a title bar and three buttons: an application without an icon.
 [[nodiscard]] QPainterPath appWindow();
 
+/// Two rows of two squares, with the margin of the icon font's glyphs.
+[[nodiscard]] QPainterPath fourSquares();
+
 /// A round bomb with a light on its body and a burning fuse.
 [[nodiscard]] QPainterPath bomb();
 

@@ -48,6 +48,10 @@ constexpr std::array table = {
     Row{u"chart.bar.fill", U'\uF20C'},
     Row{u"trophy.fill", U'\uEA23'},
     Row{u"leaf.fill", U'\uEA35'},
+    Row{u"chart.pie.fill", U'\uE6C4'},
+    Row{u"target", U'\uE39E'},
+    Row{u"folder.fill", U'\uE2C7'},
+    Row{u"square.grid.2x2.fill", fourSquares},
     // Games.
     Row{u"hourglass", U'\uE88C'},
     Row{u"lock.fill", U'\uE897'},
@@ -62,6 +66,20 @@ constexpr std::array table = {
     // Claude.
     Row{u"sparkle", U'\uE65F'},
     Row{u"bubble.left.and.bubble.right", U'\uE0BF'},
+    // The machine.
+    Row{u"cpu", U'\uE322'},
+    Row{u"memorychip", U'\uE30D'},
+    Row{u"wifi", U'\uE63E'},
+    Row{u"network", U'\uEB2F'},
+    Row{u"cube.transparent", U'\uE9FE'},
+    Row{u"speedometer", U'\uE9E4'},
+    Row{u"internaldrive", U'\uE1DB'},
+    Row{u"externaldrive", U'\uE1E0'},
+    Row{u"eject.fill", U'\uE8FB'},
+    Row{u"folder", U'\uE2C7'},
+    Row{u"arrow.right.circle", U'\uEAAA'},
+    Row{u"xmark.circle", U'\uE888'},
+    Row{u"sidebar.right", U'\uF114'},
     // Exercises.
     Row{u"figure.mind.and.body", U'\uEA78'},
     Row{u"figure.arms.open", U'\uE92C'},

@@ -60,4 +60,8 @@ QString percentText(double fraction) {
     return text(fmt::format("{}%", std::llround(fraction * 100)));
 }
 
+QString wholePercent(double fraction) {
+    return text(fmt::format("{:.0f}%", fraction * 100));
+}
+
 }  // namespace tidewatch

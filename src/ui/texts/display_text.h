@@ -27,4 +27,7 @@ namespace tidewatch {
 /// "84%": a fraction as a whole percentage, halves away from zero.
 [[nodiscard]] QString percentText(double fraction);
 
+/// The same, with exact halves to even.
+[[nodiscard]] QString wholePercent(double fraction);
+
 }  // namespace tidewatch

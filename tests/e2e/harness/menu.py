@@ -1,5 +1,6 @@
 """The program's tray icon and its menu, operated like a user does."""
 
+import sys
 import time
 from dataclasses import dataclass
 
@@ -10,8 +11,8 @@ from harness.world import CLOCK_CLASS
 
 # The rows that can be chosen, from the top.
 (
-    THEME, SIZE, IDLE, DAY_START, PROJECT, TOGGLE_VISIBLE, RESET, STATISTICS, REVEAL, EXPORT_DAY, LOGIN_ITEM, QUIT,
-) = range(12)
+    THEME, SIZE, IDLE, DAY_START, PROJECT, WIDGETS, TOGGLE_VISIBLE, RESET, STATISTICS, REVEAL, EXPORT_DAY, LOGIN_ITEM, QUIT,
+) = range(13)
 
 THEMES = ("ochre", "editorial", "minimal", "hacker", "liquid")
 SIZES = (0.1, 0.25, 0.5, 0.75, 1.0, 5.0)
@@ -161,16 +162,33 @@ class Menu:
             user.key("Return")
         wait_until(lambda: not self.popups(), "the menu to close")
 
-    def row_frame(self, popup, row):
-        """The screen rectangle of a row of the open menu, from its highlight by keyboard."""
+    def row_centre(self, popup, row):
+        """The middle of a row of the open menu on the screen, from its highlight by keyboard."""
         plain = self._settled_picture(popup)
         self.go_down(row + 1)
-        lit = difference(plain, self._settled_picture(popup))
+        lit = difference(_left_part(plain), _left_part(self._settled_picture(popup)))
         if lit is None:
             raise AssertionError(f"row {row} does not light up")
-        return popup.frame.x + lit.x + lit.width // 2, popup.frame.y + lit.y + lit.height // 2
+        return popup.frame.x + popup.frame.width // 2, popup.frame.y + lit.y + lit.height // 2
 
     def click_row(self, popup, row):
         """Chooses a row of the open menu with the mouse."""
-        place = self.row_frame(popup, row)
+        place = self.row_centre(popup, row)
         self._world.input.click(*place, LEFT)
+
+    def click_row_until(self, open_menu, row, condition, what):
+        """The same in the menu that `open_menu()` opens, by a user who tries again where a busy tray lost the click."""
+
+        def click():
+            if self.popups():
+                self._world.screenshot("lost-click")
+                print(f"{what}: the menu is still open, trying again", file=sys.stderr)
+            self.close()
+            self.click_row(open_menu(), row)
+
+        repeat_until(click, condition, what)
+
+
+def _left_part(picture):
+    """Where a highlight shows, but never a submenu that is about to disappear."""
+    return picture.crop((0, 0, picture.width // 3, picture.height))

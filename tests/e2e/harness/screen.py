@@ -192,6 +192,18 @@ class Screen:
         window.change_property(self._display.intern_atom("_NET_WM_NAME"), utf8, 8, title.encode())
         self._display.flush()
 
+    def open_desk(self, width, height):
+        """Only for tests: a window like that in which a file manager draws the icons of the desktop; returns its id."""
+        desk = self._root.create_window(
+            0, 0, width, height, 0, X.CopyFromParent, background_pixel=0x2F4858, event_mask=X.ButtonPressMask
+        )
+        kind = self._display.intern_atom("_NET_WM_WINDOW_TYPE_DESKTOP")
+        desk.change_property(self._display.intern_atom("_NET_WM_WINDOW_TYPE"), Xatom.ATOM, 32, [kind])
+        desk.set_wm_class("desk", "Desk")
+        desk.map()
+        self._display.flush()
+        return desk.id
+
     def place(self, window_id, x, y, width, height):
         """Only for tests: requests a place and size for a window, as its application does."""
         window = self._display.create_resource_object("window", window_id)

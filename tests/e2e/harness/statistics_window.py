@@ -5,8 +5,8 @@ from harness.user_input import LEFT
 from harness.waiting import wait_until
 from harness.world import STATISTICS_TITLE
 
-TABS = OVERVIEW, GOALS, DETAILS, TIMESHEET, PROJECTS, CLAUDE = (
-    "Overview", "Metas", "Detalle", "Timesheet", "Proyectos", "Claude")
+TABS = OVERVIEW, GOALS, DETAILS, TIMESHEET, PROJECTS, SYSTEM, DISK, CLAUDE = (
+    "Overview", "Metas", "Detalle", "Timesheet", "Proyectos", "Sistema", "Disco", "Claude")
 
 
 class StatisticsWindow:

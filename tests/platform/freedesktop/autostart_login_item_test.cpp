@@ -1,5 +1,6 @@
 #include "platform/freedesktop/autostart_login_item.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/posix/posix_file_system.h"
@@ -26,6 +27,11 @@ TEST_F(AutostartLoginItemTest, RegisteringWritesAnEntryThatStartsTheProgram) {
     EXPECT_TRUE(item_.isEnabled());
     EXPECT_NE(config_.read(entry).find("Exec=\"/opt/tide \\\\\"w\\\\\"/tidewatch\"\n"), std::string::npos)
         << config_.read(entry);
+}
+
+TEST_F(AutostartLoginItemTest, TheEntryStartsNothingOnceTheProgramIsUninstalled) {
+    EXPECT_TRUE(item_.registerItem().ok());
+    EXPECT_THAT(config_.read(entry), testing::HasSubstr("\nTryExec=/opt/tide \"w\"/tidewatch\n"));
 }
 
 TEST_F(AutostartLoginItemTest, UnregisteringTakesTheEntryAway) {

@@ -76,7 +76,7 @@ protected:
     FakeLog log_{[](const std::string& complaint) { ADD_FAILURE() << complaint; }};
     PrivateBus bus_;
     // What follows the path identifies one run of the bus.
-    SessionBus session_{bus_.address().section(',', 0, 0)};
+    MessageBus session_{bus_.address().section(',', 0, 0)};
 };
 
 TEST_F(DesktopNotificationsTest, TheServiceIsHandedTitleBodyIconAndSound) {
@@ -150,7 +150,7 @@ TEST_F(DesktopNotificationsTest, AMissingServiceIsReported) {
 }
 
 TEST_F(DesktopNotificationsTest, AMissingBusIsReported) {
-    SessionBus none("disabled:");
+    MessageBus none("disabled:");
     DesktopNotifications notifications(none, log_);
     const auto status = deliver(notifications);
     ASSERT_TRUE(status);

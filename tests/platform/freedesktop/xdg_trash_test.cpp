@@ -23,11 +23,16 @@ struct XdgTrashTest : testing::Test {
     XdgTrash trash{clock, home.path() + "/data"};
 
     std::string at(const std::string& name) const { return home.path() + "/" + name; }
+
+    // Makes a file and moves it to the trash.
+    Status trashNew(const std::string& name, const std::string& content) {
+        home.write(name, content);
+        return trash.moveToTrash(at(name));
+    }
 };
 
 TEST_F(XdgTrashTest, AFileGoesToTheUsersTrashWithItsInformation) {
-    home.write("Descargas/Año nuevo.mkv", "film");
-    ASSERT_TRUE(trash.moveToTrash(at("Descargas/Año nuevo.mkv")));
+    ASSERT_TRUE(trashNew("Descargas/Año nuevo.mkv", "film"));
     EXPECT_FALSE(home.exists("Descargas/Año nuevo.mkv"));
     EXPECT_EQ(home.read("data/Trash/files/Año nuevo.mkv"), "film");
     EXPECT_EQ(home.read("data/Trash/info/Año nuevo.mkv.trashinfo"),
@@ -36,8 +41,7 @@ TEST_F(XdgTrashTest, AFileGoesToTheUsersTrashWithItsInformation) {
 }
 
 TEST_F(XdgTrashTest, TheTrashIsTheUsersAlone) {
-    home.write("a", "");
-    ASSERT_TRUE(trash.moveToTrash(at("a")));
+    ASSERT_TRUE(trashNew("a", ""));
     struct stat status {};
     ASSERT_EQ(::stat(at("data/Trash/files").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0700);
@@ -46,10 +50,7 @@ TEST_F(XdgTrashTest, TheTrashIsTheUsersAlone) {
 }
 
 TEST_F(XdgTrashTest, NothingInTheTrashIsOverwritten) {
-    for (const char* content : {"first", "second", "third"}) {
-        home.write("a.txt", content);
-        ASSERT_TRUE(trash.moveToTrash(at("a.txt")));
-    }
+    for (const char* content : {"first", "second", "third"}) ASSERT_TRUE(trashNew("a.txt", content));
     EXPECT_EQ(home.read("data/Trash/files/a.txt"), "first");
     EXPECT_EQ(home.read("data/Trash/files/a.txt.2"), "second");
     EXPECT_EQ(home.read("data/Trash/files/a.txt.3"), "third");
@@ -58,8 +59,7 @@ TEST_F(XdgTrashTest, NothingInTheTrashIsOverwritten) {
 
 TEST_F(XdgTrashTest, AFileInTheTrashWithoutInformationIsNotOverwrittenEither) {
     home.write("data/Trash/files/a", "lost");
-    home.write("a", "new");
-    ASSERT_TRUE(trash.moveToTrash(at("a")));
+    ASSERT_TRUE(trashNew("a", "new"));
     EXPECT_EQ(home.read("data/Trash/files/a"), "lost");
     EXPECT_EQ(home.read("data/Trash/files/a.2"), "new");
     EXPECT_FALSE(home.exists("data/Trash/info/a.trashinfo"));
@@ -83,8 +83,7 @@ TEST_F(XdgTrashTest, WhatIsNotThereIsAFailureAndLeavesNothingBehind) {
 
 TEST_F(XdgTrashTest, ATrashThatCannotBeUsedIsAFailureAndTheFileStays) {
     home.write("data/Trash/files", "a file");
-    home.write("a", "kept");
-    EXPECT_FALSE(trash.moveToTrash(at("a")));
+    EXPECT_FALSE(trashNew("a", "kept"));
     EXPECT_EQ(home.read("a"), "kept");
     EXPECT_FALSE(home.exists("data/Trash/info/a.trashinfo"));
 }

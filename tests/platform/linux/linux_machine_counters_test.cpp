@@ -2,6 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <future>
+#include <optional>
+#include <thread>
+
 #include "tests/platform/linux/recorded_machine.h"
 
 namespace tidewatch::platform {
@@ -12,13 +17,27 @@ using testing::IsEmpty;
 
 constexpr std::uint64_t kilobyte = 1024;
 
-LinuxMachineCounters countersOf(const RecordedMachine& machine) {
-    return LinuxMachineCounters(machine.proc(), machine.sys());
-}
+/// The counters of a recorded machine.
+class LinuxMachineCountersTest : public testing::Test {
+protected:
+    LinuxMachineCounters& on(const std::string& name, const WirelessLinks::Ask& askWireless = nullptr) {
+        machine_.emplace(name);
+        if (askWireless) machine_->write("sys/class/net/wlp2s0/phy80211/name", "phy0\n");
+        return counters_.emplace(machine_->proc(), machine_->sys(), askWireless);
+    }
+    // Once the driver of the radio has answered.
+    PrimaryLink waitForLink() {
+        std::optional<PrimaryLink> link;
+        while (!(link = counters_->primaryLink())) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        return *link;
+    }
 
-TEST(LinuxMachineCountersTest, ADesktop) {
-    const RecordedMachine machine("desktop");
-    auto counters = countersOf(machine);
+    std::optional<RecordedMachine> machine_;
+    std::optional<LinuxMachineCounters> counters_;
+};
+
+TEST_F(LinuxMachineCountersTest, ADesktop) {
+    auto& counters = on("desktop");
     const auto ticks = counters.cpuTicks().value();
     EXPECT_EQ(ticks.user, 846342);
     EXPECT_EQ(ticks.nice, 1893);
@@ -42,9 +61,8 @@ TEST(LinuxMachineCountersTest, ADesktop) {
     EXPECT_THAT(counters.gpuFigures(), ElementsAre(0.37));
 }
 
-TEST(LinuxMachineCountersTest, ALaptopOnAWirelessNetwork) {
-    const RecordedMachine machine("laptop");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, ALaptopOnAWirelessNetwork) {
+    auto& counters = on("laptop");
     // The cable is out, and a tunnel runs over the radio.
     EXPECT_EQ(counters.interfaceBytes()->received, 123456789);
     EXPECT_EQ(counters.interfaceBytes()->sent, 2345678);
@@ -57,9 +75,31 @@ TEST(LinuxMachineCountersTest, ALaptopOnAWirelessNetwork) {
     EXPECT_THAT(counters.gpuFigures(), IsEmpty());
 }
 
-TEST(LinuxMachineCountersTest, AVirtualMachineWhoseHostTakesTimeAway) {
-    const RecordedMachine machine("virtual_machine");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, AWirelessInterfaceTellsItsNetworkOnceItsDriverHasAnswered) {
+    std::promise<void> permission;
+    const auto permitted = permission.get_future().share();
+    auto& counters = on("laptop", [permitted](const std::string& name) {
+        permitted.wait();
+        return std::optional(WirelessLink{.networkName = name + "-net", .signal = -61});
+    });
+    // A driver that takes its time keeps nobody waiting.
+    EXPECT_FALSE(counters.primaryLink());
+    EXPECT_FALSE(counters.primaryLink());
+    permission.set_value();
+    const auto link = waitForLink();
+    EXPECT_EQ(link.interfaceName, "wlp2s0");
+    ASSERT_TRUE(link.wireless);
+    EXPECT_EQ(link.wireless->networkName, "wlp2s0-net");
+    EXPECT_EQ(link.wireless->signal, -61);
+}
+
+TEST_F(LinuxMachineCountersTest, AWirelessInterfaceThatTellsNoNetworkIsALinkLikeAnyOther) {
+    on("laptop", [](const std::string&) { return std::nullopt; });
+    EXPECT_FALSE(waitForLink().wireless);
+}
+
+TEST_F(LinuxMachineCountersTest, AVirtualMachineWhoseHostTakesTimeAway) {
+    auto& counters = on("virtual_machine");
     const auto ticks = counters.cpuTicks().value();
     EXPECT_EQ(ticks.user, 5000);
     EXPECT_EQ(ticks.system, 3030);
@@ -70,9 +110,8 @@ TEST(LinuxMachineCountersTest, AVirtualMachineWhoseHostTakesTimeAway) {
     EXPECT_EQ(counters.memory().swapUsed, 0);
 }
 
-TEST(LinuxMachineCountersTest, AContainerWithoutHardware) {
-    const RecordedMachine machine("container");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, AContainerWithoutHardware) {
+    auto& counters = on("container");
     EXPECT_EQ(counters.interfaceBytes()->received, 77000);
     EXPECT_EQ(counters.interfaceBytes()->sent, 99000);
     EXPECT_EQ(counters.primaryLink()->interfaceName, "eth0");
@@ -81,9 +120,8 @@ TEST(LinuxMachineCountersTest, AContainerWithoutHardware) {
     EXPECT_EQ(counters.memory().usage->active, 200000 * kilobyte);
 }
 
-TEST(LinuxMachineCountersTest, CompressedMemoryDisks) {
-    const RecordedMachine machine("zram");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, CompressedMemoryDisks) {
+    auto& counters = on("zram");
     constexpr std::uint64_t compressed = 614400000 + 102400;
     EXPECT_EQ(counters.memory().usage->compressed, compressed);
     EXPECT_EQ(counters.memory().usage->active, 2900000 * kilobyte - compressed);
@@ -93,9 +131,8 @@ TEST(LinuxMachineCountersTest, CompressedMemoryDisks) {
     EXPECT_EQ(counters.interfaceBytes()->received, 0);
 }
 
-TEST(LinuxMachineCountersTest, ManyProcessorsAndCountersNearTheirLimits) {
-    const RecordedMachine machine("many_processors");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, ManyProcessorsAndCountersNearTheirLimits) {
+    auto& counters = on("many_processors");
     const auto ticks = counters.cpuTicks().value();
     EXPECT_EQ(ticks.user, 4294967290);
     EXPECT_EQ(ticks.nice, 4294967295);
@@ -107,26 +144,24 @@ TEST(LinuxMachineCountersTest, ManyProcessorsAndCountersNearTheirLimits) {
     EXPECT_EQ(counters.memory().swapUsed, 18014398509481983 * kilobyte);
 }
 
-TEST(LinuxMachineCountersTest, ReadsWhatChangesMeanwhile) {
-    const RecordedMachine machine("desktop");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, ReadsWhatChangesMeanwhile) {
+    auto& counters = on("desktop");
     EXPECT_EQ(counters.cpuTicks()->user, 846342);
-    machine.write("proc/stat", "cpu  1000000 0 0 30000000 0 0 0 0 0 0\nintr 1\n");
+    machine_->write("proc/stat", "cpu  1000000 0 0 30000000 0 0 0 0 0 0\nintr 1\n");
     EXPECT_EQ(counters.cpuTicks()->user, 1000000);
 }
 
-TEST(LinuxMachineCountersTest, IdleTimeThatGoesBackALittleStandsStill) {
-    const RecordedMachine machine("desktop");
-    auto counters = countersOf(machine);
-    machine.write("proc/stat", "cpu  1 0 0 1000 500\nintr 1\n");
+TEST_F(LinuxMachineCountersTest, IdleTimeThatGoesBackALittleStandsStill) {
+    auto& counters = on("desktop");
+    machine_->write("proc/stat", "cpu  1 0 0 1000 500\nintr 1\n");
     EXPECT_EQ(counters.cpuTicks()->idle, 1500);
-    machine.write("proc/stat", "cpu  1 0 0 1001 497\nintr 1\n");
+    machine_->write("proc/stat", "cpu  1 0 0 1001 497\nintr 1\n");
     EXPECT_EQ(counters.cpuTicks()->idle, 1500);
-    machine.write("proc/stat", "cpu  1 0 0 1010 497\nintr 1\n");
+    machine_->write("proc/stat", "cpu  1 0 0 1010 497\nintr 1\n");
     EXPECT_EQ(counters.cpuTicks()->idle, 1507);
 }
 
-TEST(LinuxMachineCountersTest, WithoutSourcesThereAreNoFigures) {
+TEST_F(LinuxMachineCountersTest, WithoutSourcesThereAreNoFigures) {
     const test::TemporaryDirectory empty;
     LinuxMachineCounters counters(empty.path() + "/proc", empty.path() + "/sys");
     EXPECT_FALSE(counters.cpuTicks());
@@ -139,11 +174,10 @@ TEST(LinuxMachineCountersTest, WithoutSourcesThereAreNoFigures) {
     EXPECT_THAT(counters.busiestProcesses(8), IsEmpty());
 }
 
-TEST(LinuxMachineCountersTest, AGraphicsFigureIsAFraction) {
-    const RecordedMachine machine("desktop");
-    auto counters = countersOf(machine);
+TEST_F(LinuxMachineCountersTest, AGraphicsFigureIsAFraction) {
+    auto& counters = on("desktop");
     const auto figuresFor = [&](const char* content) {
-        machine.write("sys/class/drm/card0/device/gpu_busy_percent", content);
+        machine_->write("sys/class/drm/card0/device/gpu_busy_percent", content);
         return counters.gpuFigures();
     };
     EXPECT_THAT(figuresFor("1\n"), ElementsAre(0.01));
@@ -155,7 +189,7 @@ TEST(LinuxMachineCountersTest, AGraphicsFigureIsAFraction) {
 }
 
 // Every beginning of every file, as if it had been cut off there.
-TEST(LinuxMachineCountersTest, TruncatedFilesGiveWholeFiguresOrNone) {
+TEST(ParseCpuTimes, TruncatedFilesGiveWholeFiguresOrNone) {
     const std::string stat = "cpu  1111 2222 3333 4444 5555 6666 7777 8888 0 0\nintr 1\n";
     for (std::size_t length = 0; length < stat.size(); ++length) {
         const auto times = parseCpuTimes(std::string_view(stat).substr(0, length));

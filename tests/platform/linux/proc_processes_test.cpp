@@ -29,6 +29,8 @@ struct ProcProcessesTest : testing::Test {
                                 return time == times.end() ? std::nullopt : std::optional(time->second);
                             }};
 
+    ProcProcessesTest() { setUptime(1000); }
+
     void setUptime(double seconds) { proc.write("uptime", fmt::format("{:.2f} 1.00\n", seconds)); }
 
     // Processor time and start in seconds.
@@ -50,7 +52,6 @@ struct ProcProcessesTest : testing::Test {
 };
 
 TEST_F(ProcProcessesTest, TheFirstListIsOverTheLifeOfEachProcess) {
-    setUptime(1000);
     put(10, "old", 100, 0);
     put(20, "new", 100, 800);
     const auto list = processes.busiest(8);
@@ -62,7 +63,6 @@ TEST_F(ProcProcessesTest, TheFirstListIsOverTheLifeOfEachProcess) {
 }
 
 TEST_F(ProcProcessesTest, LaterListsAreOverTheTimeSinceTheLastOne) {
-    setUptime(1000);
     put(10, "busy then", 500, 0);
     put(20, "busy now", 0, 0);
     EXPECT_THAT(names(), ElementsAre("busy then", "busy now"));
@@ -76,7 +76,6 @@ TEST_F(ProcProcessesTest, LaterListsAreOverTheTimeSinceTheLastOne) {
 }
 
 TEST_F(ProcProcessesTest, AProcessThatIsNewIsMeasuredOverItsLife) {
-    setUptime(1000);
     EXPECT_THAT(names(), IsEmpty());
     setUptime(1006);
     put(30, "new", 1, 1004);
@@ -84,7 +83,6 @@ TEST_F(ProcProcessesTest, AProcessThatIsNewIsMeasuredOverItsLife) {
 }
 
 TEST_F(ProcProcessesTest, ANumberThatAnotherProcessHasTakenIsANewProcess) {
-    setUptime(1000);
     put(30, "first", 900, 0);
     EXPECT_THAT(names(), ElementsAre("first"));
     setUptime(1006);
@@ -93,7 +91,6 @@ TEST_F(ProcProcessesTest, ANumberThatAnotherProcessHasTakenIsANewProcess) {
 }
 
 TEST_F(ProcProcessesTest, AProcessThatEndsIsGone) {
-    setUptime(1000);
     put(10, "a", 5, 0);
     put(20, "b", 9, 0);
     EXPECT_THAT(names(), ElementsAre("b", "a"));
@@ -102,32 +99,27 @@ TEST_F(ProcProcessesTest, AProcessThatEndsIsGone) {
 }
 
 TEST_F(ProcProcessesTest, OfEquallyBusyOnesTheLowerNumberComesFirst) {
-    setUptime(1000);
     for (const int id : {30, 9, 100}) put(id, fmt::format("p{}", id), 0, 0);
     EXPECT_THAT(names(), ElementsAre("p9", "p30", "p100"));
 }
 
 TEST_F(ProcProcessesTest, OnlyAsManyAsAskedForAreListed) {
-    setUptime(1000);
     for (int id = 1; id <= 20; ++id) put(id, fmt::format("p{}", id), id, 0);
     EXPECT_THAT(names(3), ElementsAre("p20", "p19", "p18"));
     EXPECT_THAT(names(100), SizeIs(20));
 }
 
 TEST_F(ProcProcessesTest, TheSizeIsWhatIsResident) {
-    setUptime(1000);
     put(10, "a", 5, 0, 3000);
     EXPECT_EQ(processes.busiest(8).at(0).resident, 3000 * pageSize);
 }
 
 TEST_F(ProcProcessesTest, ANameWithBlanksAndParenthesesStaysWhole) {
-    setUptime(1000);
     put(10, "Web (a) b) (c", 5, 0);
     EXPECT_THAT(names(), ElementsAre("Web (a) b) (c"));
 }
 
 TEST_F(ProcProcessesTest, ANameOfBlanksIsLeftOutAndOthersAreTrimmed) {
-    setUptime(1000);
     put(10, "  ", 5, 0);
     put(11, "", 5, 0);
     put(12, " a b ", 5, 0);
@@ -135,14 +127,12 @@ TEST_F(ProcProcessesTest, ANameOfBlanksIsLeftOutAndOthersAreTrimmed) {
 }
 
 TEST_F(ProcProcessesTest, ANameThatMayHaveBeenCutOffIsCompletedFromTheCommandLine) {
-    setUptime(1000);
     put(10, "fifteen-letters", 5, 0);
     proc.write("10/cmdline", "/usr/lib/fifteen-letters-and-more\0--option\0"s);
     EXPECT_THAT(names(), ElementsAre("fifteen-letters-and-more"));
 }
 
 TEST_F(ProcProcessesTest, OrFromItsExecutable) {
-    setUptime(1000);
     put(10, "fifteen-letters", 5, 0);
     proc.write("10/cmdline", "other\0"s);
     std::filesystem::create_symlink("/usr/lib/fifteen-letters-and-more", proc.path() + "/10/exe");
@@ -150,7 +140,6 @@ TEST_F(ProcProcessesTest, OrFromItsExecutable) {
 }
 
 TEST_F(ProcProcessesTest, WhatIsNoProcessIsPassedOver) {
-    setUptime(1000);
     put(10, "a", 5, 0);
     proc.write("sys/stat", "1 (kernel) S\n");
     proc.write("11x/stat", proc.read("10/stat"));
@@ -160,6 +149,7 @@ TEST_F(ProcProcessesTest, WhatIsNoProcessIsPassedOver) {
 }
 
 TEST_F(ProcProcessesTest, WithoutAnUptimeThereIsNoList) {
+    std::filesystem::remove(proc.path() + "/uptime");
     put(10, "a", 5, 0);
     EXPECT_THAT(names(), IsEmpty());
     proc.write("uptime", "soon\n");
@@ -167,7 +157,6 @@ TEST_F(ProcProcessesTest, WithoutAnUptimeThereIsNoList) {
 }
 
 TEST_F(ProcProcessesTest, AListAtTheSameMomentHasNoLoad) {
-    setUptime(1000);
     put(10, "a", 5, 0);
     EXPECT_THAT(names(), ElementsAre("a"));
     put(10, "a", 6, 0);
@@ -175,7 +164,6 @@ TEST_F(ProcProcessesTest, AListAtTheSameMomentHasNoLoad) {
 }
 
 TEST_F(ProcProcessesTest, TimeThatGoesBackIsNoLoad) {
-    setUptime(1000);
     put(10, "a", 5, 0);
     EXPECT_THAT(names(), ElementsAre("a"));
     setUptime(1006);
@@ -184,7 +172,6 @@ TEST_F(ProcProcessesTest, TimeThatGoesBackIsNoLoad) {
 }
 
 TEST_F(ProcProcessesTest, TheClockOfAProcessTellsItsTimeWithoutItsFile) {
-    setUptime(1000);
     put(10, "a", 5, 0);
     put(20, "b", 5, 0);
     times = {{10, seconds(100)}, {20, seconds(200)}};
@@ -198,7 +185,6 @@ TEST_F(ProcProcessesTest, TheClockOfAProcessTellsItsTimeWithoutItsFile) {
 }
 
 TEST_F(ProcProcessesTest, AClockThatStartsAnewIsThatOfANewProcess) {
-    setUptime(1000);
     put(10, "first", 0, 0);
     times = {{10, seconds(100)}};
     EXPECT_THAT(names(), ElementsAre("first"));
@@ -212,7 +198,6 @@ TEST_F(ProcProcessesTest, AClockThatStartsAnewIsThatOfANewProcess) {
 }
 
 TEST_F(ProcProcessesTest, AProcessIsNotTakenForAnotherOneThatHadItsNumber) {
-    setUptime(1000);
     put(10, "first", 0, 0);
     times = {{10, seconds(100)}};
     EXPECT_THAT(names(), ElementsAre("first"));

@@ -1,18 +1,15 @@
-// Paints the clock in every theme at every size, active, idle and opaque, and the dashboards'
-// backgrounds, into pictures: clock_gallery FOLDER
+// The clock at every size, active, idle and opaque, and the dashboards' backgrounds.
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QQuickPaintedItem>
-#include <cstdio>
 
 #include "core/size_option.h"
 #include "shell/views/clock_scene.h"
 #include "ui/backgrounds/decorations.h"
 #include "ui/backgrounds/liquid_background.h"
-#include "ui/style/fonts.h"
+#include "ui/gallery.h"
 #include "ui/style/qt_color.h"
 
 namespace tidewatch {
@@ -34,22 +31,21 @@ public:
     }
 };
 
-void paintTheme(ClockScene& scene, const Theme& theme, const QDir& folder) {
-    scene.theme_.switchTo(theme.id);
-    for (const auto size : allSizeOptions()) {
-        scene.show(rawValue(size), margin);
-        Wallpaper wallpaper(scene.window_.contentItem());
-        wallpaper.setZ(-1);
-        wallpaper.setSize(scene.window_.size());
-        const auto name = QString("%1-%2.png")
-                              .arg(QString::fromStdString(theme.id))
-                              .arg(rawValue(size) * 100, 3, 'f', 0, '0');
-        scene.picture().save(folder.filePath(name));
-    }
+void paintSizes(Gallery& gallery, ClockScene& scene, const QString& state) {
+    gallery.paintThemes(scene, [&](const QString& theme) {
+        for (const auto size : allSizeOptions()) {
+            scene.show(rawValue(size), margin);
+            Wallpaper wallpaper(scene.window_.contentItem());
+            wallpaper.setZ(-1);
+            wallpaper.setSize(scene.window_.size());
+            gallery.save(scene.picture(),
+                         QString("%1/%2-%3").arg(state, theme).arg(rawValue(size) * 100, 3, 'f', 0, '0'));
+        }
+    });
 }
 
 /// The background of a theme's dashboard.
-void paintDecoration(const Theme& theme, QQuickItem& decoration, const QDir& folder) {
+void paintDecoration(Gallery& gallery, const Theme& theme, QQuickItem& decoration) {
     QQuickWindow window;
     window.setColor(toQColor(theme.dashboard.bg));
     window.resize(dashboardSize);
@@ -57,54 +53,38 @@ void paintDecoration(const Theme& theme, QQuickItem& decoration, const QDir& fol
     decoration.setSize(dashboardSize);
     window.show();
     QGuiApplication::processEvents();
-    window.grabWindow().save(folder.filePath(QString::fromStdString(theme.id) + "-decoration.png"));
+    gallery.save(window.grabWindow(), QString::fromStdString(theme.id) + "-decoration");
     decoration.setParentItem(nullptr);
 }
 
-void paintDecorations(ClockScene& scene, const QDir& folder) {
+void paintDecorations(Gallery& gallery, ClockScene& scene) {
     EditorialPaperGrain grain;
-    paintDecoration(scene.themes_.theme("editorial"), grain, folder);
+    paintDecoration(gallery, scene.themes_.theme("editorial"), grain);
     HackerScanlines lines;
-    paintDecoration(scene.themes_.theme("hacker"), lines, folder);
+    paintDecoration(gallery, scene.themes_.theme("hacker"), lines);
     LiquidBackground liquid;
     liquid.setTime(scene.presenter_->wallClock());
     liquid.setIntensity(liquidDecorationIntensity);
     liquid.setReduction(9);
-    paintDecoration(scene.themes_.theme("liquid"), liquid, folder);
+    paintDecoration(gallery, scene.themes_.theme("liquid"), liquid);
 }
 
-int paintAll(const QString& path) {
-    const QDir folder(path);
-    if (!folder.mkpath("active") || !folder.mkpath("idle") || !folder.mkpath("opaque")) return 1;
+}  // namespace
+
+void paint(Gallery& gallery) {
     ClockScene scene;
     scene.startAt(Seconds(4 * 3600 + 58 * 60 + 36));
     scene.stars_ = 3;
     scene.runFor(std::chrono::seconds(1));
     scene.runFor(std::chrono::seconds(754));
-    for (const auto& theme : scene.themes_.themes())
-        paintTheme(scene, theme, QDir(folder.filePath("active")));
+    paintSizes(gallery, scene, "active");
     scene.presenter_->setTranslucent(false);
-    for (const auto& theme : scene.themes_.themes())
-        paintTheme(scene, theme, QDir(folder.filePath("opaque")));
+    paintSizes(gallery, scene, "opaque");
     scene.presenter_->setTranslucent(true);
     scene.machine_.inputActivity.set(400);
     scene.runFor(std::chrono::seconds(2));
-    for (const auto& theme : scene.themes_.themes()) paintTheme(scene, theme, QDir(folder.filePath("idle")));
-    paintDecorations(scene, folder);
-    for (const auto& warning : scene.viewWarnings_) std::fprintf(stderr, "%s\n", qPrintable(warning));
-    return scene.viewWarnings_.isEmpty() ? 0 : 1;
+    paintSizes(gallery, scene, "idle");
+    paintDecorations(gallery, scene);
 }
 
-}  // namespace
 }  // namespace tidewatch
-
-int main(int argc, char* argv[]) {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QGuiApplication application(argc, argv);
-    if (application.arguments().size() != 2) {
-        std::fprintf(stderr, "usage: clock_gallery FOLDER\n");
-        return 2;
-    }
-    tidewatch::registerFonts();
-    return tidewatch::paintAll(application.arguments().at(1));
-}

@@ -185,7 +185,7 @@ TEST_F(FiguresTest, ADayThatIsOneApplicationIsAHundredPerCent) {
 TEST_F(FiguresTest, ApplicationsWithoutASecondHaveNoShareOfADayWithoutOne) {
     machine_.files.put(machine_.appsJson, R"({"2026-01-15":{"code":0}})");
     Services nextStart(machine_.platform);
-    Statistics statistics(machine_.platform, nextStart, {});
+    Statistics statistics(machine_.platform, nextStart, keys_, {});
     statistics.presenter().selectTab(detailsTab);
     nextStart.broadcaster.post(DashboardWillShow());
     const auto rows = rowsOf<AppDetails>(statistics.dashboard().details()->rows());

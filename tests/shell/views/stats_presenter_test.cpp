@@ -89,9 +89,9 @@ TEST_F(StatsPresenterTest, ALongNameOfManyLinesIsOneShortLineInEveryTab) {
 }
 
 TEST_F(StatsPresenterTest, TheTabsAreThoseThatExist) {
-    EXPECT_EQ(presenter_.tabs(),
-              QStringList({"Overview", "Metas", "Detalle", "Timesheet", "Proyectos", "Claude"}));
-    presenter_.selectTab(7);
+    EXPECT_EQ(presenter_.tabs(), QStringList({"Overview", "Metas", "Detalle", "Timesheet", "Proyectos",
+                                              "Sistema", "Disco", "Claude"}));
+    presenter_.selectTab(8);
     presenter_.selectTab(-1);
     EXPECT_EQ(presenter_.tabIndex(), 0);
 }

@@ -1,6 +1,7 @@
 #include "shell/views/stats_scene.h"
 
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QQmlComponent>
 #include <QVariantMap>
 #include <array>
@@ -36,10 +37,11 @@ constexpr std::array knownApps = {
 }  // namespace
 
 StatsWorld::StatsWorld()
-    : statistics_(machine_.platform, services_,
-                  {.exportReport = [this] { ++reportsAsked_; },
-                   .reclassify = [this](DashboardModel&, const AppId& app,
-                                        QPointF) { menusAsked_.push_back(app.text()); }}) {
+    : statistics_(machine_.platform, services_, keys_,
+                  {.dashboard = {.exportReport = [this] { ++reportsAsked_; },
+                                 .reclassify = [this](DashboardModel&, const AppId& app,
+                                                      QPointF) { menusAsked_.push_back(app.text()); }},
+                   .system = {}}) {
     registerApplications();
 }
 
@@ -142,7 +144,13 @@ void StatsScene::show(QSize size) {
     window_.resize(size);
     view_->setParentItem(window_.contentItem());
     view_->setSize(size);
+    // What is beside the tabs is created after the first frame.
+    bool isPainted = false;
+    const auto painted =
+        QObject::connect(&window_, &QQuickWindow::frameSwapped, &window_, [&] { isPainted = true; });
     window_.show();
+    while (!isPainted) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QObject::disconnect(painted);
     QCoreApplication::processEvents();
 }
 

@@ -15,6 +15,7 @@
 #include "shell/themes/theme_registry.h"
 #include "shell/views/stats_presenter.h"
 #include "tests/support/fake_world.h"
+#include "tests/wellbeing/games/scripted_keys.h"
 
 namespace tidewatch {
 
@@ -24,7 +25,9 @@ inline constexpr int goalsTab = 1;
 inline constexpr int detailsTab = 2;
 inline constexpr int timesheetTab = 3;
 inline constexpr int projectsTab = 4;
-inline constexpr int claudeTab = 5;
+inline constexpr int systemTab = 5;
+inline constexpr int diskTab = 6;
+inline constexpr int claudeTab = 7;
 
 /// The statistics window's models on a fake machine; initially nothing is booked.
 class StatsWorld {
@@ -50,6 +53,7 @@ public:
     ThemeController& theme_ = services_.theme;
     int reportsAsked_ = 0;
     std::vector<std::string> menusAsked_;  ///< the applications whose menus were requested
+    test::ScriptedKeys keys_;
     Statistics statistics_;
     StatsPresenter& presenter_ = statistics_.presenter();
     Dashboard& dashboard_ = statistics_.dashboard();

@@ -124,6 +124,26 @@ TEST_F(MenuViewTest, ARowWithoutATitleIsARow) {
     EXPECT_EQ(chosen, 1);
 }
 
+TEST_F(MenuViewTest, ASymbolStandsBeforeItsTitleAndShowsWhetherTheRowIsChecked) {
+    open({{.title = "Sistema", .symbol = "cpu", .action = nothing()},
+          {.title = "Sistema", .checked = true, .symbol = "cpu", .action = nothing()},
+          {.title = "Nada", .symbol = "no.such.symbol", .action = nothing()}});
+    const auto picture = [this](int row) { return menu_->actions()[row]->icon().pixmap(48).toImage(); };
+    const auto ink = [&](int row) {
+        int pixels = 0;
+        for (int y = 0; y < 48; ++y) {
+            for (int x = 0; x < 48; ++x) pixels += picture(row).pixelColor(x, y).alpha() > 128 ? 1 : 0;
+        }
+        return pixels;
+    };
+    EXPECT_GT(ink(0), 200);
+    EXPECT_LT(ink(0), 1200);
+    EXPECT_GT(ink(1), 1800) << "the symbol lies on a plate";
+    EXPECT_EQ(picture(0).pixelColor(0, 24).alpha(), 0);
+    EXPECT_TRUE(menu_->actions()[1]->isChecked());
+    EXPECT_TRUE(menu_->actions()[2]->icon().isNull());
+}
+
 TEST_F(MenuViewTest, ATitleWithNothingToSeeSaysTheSameAsTheTabs) {
     for (const std::string title : {"", "  ", "\u200b\u200e", "\n"}) {
         open({{.title = title, .action = nothing()}});

@@ -88,7 +88,8 @@ struct QtSurfacesTest : testing::Test, ClockWorld {
                           .windowSystem = machine_.windowSystem,
                           .desktop = machine_.desktop,
                           .theme = theme_,
-                          .clock = *presenter_}};
+                          .clock = *presenter_,
+                          .widgetContent = nullptr}};
 };
 
 TEST_F(QtSurfacesTest, ViewsHaveNoNetwork) {

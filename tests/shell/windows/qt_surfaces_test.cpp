@@ -52,7 +52,8 @@ protected:
                           .windowSystem = machine_.windowSystem,
                           .desktop = machine_.desktop,
                           .theme = theme_,
-                          .clock = clock_}};
+                          .clock = clock_,
+                          .widgetContent = nullptr}};
     QObject presenter_;
     Answers answers_;
 };
@@ -88,13 +89,15 @@ TEST_F(QtSurfacesTest, CancelarAnswersNothing) {
     ask(240);
     press("Cancelar");
     bool agreed = false;
-    surfaces_.dialogs().confirm({.title = {"Borrar \"", "Corto", "\""}, .text = "Esto…", .accept = "Borrar"},
-                                [&] { agreed = true; });
+    surfaces_.dialogs().confirm(
+        {.title = {"Borrar \"", "Corto", "\""}, .text = {"Esto…"}, .accept = "Borrar"},
+        [&] { agreed = true; });
     press("Cancelar");
     EXPECT_EQ(answers_, Answers{});
     EXPECT_FALSE(agreed);
-    surfaces_.dialogs().confirm({.title = {"Borrar \"", "Corto", "\""}, .text = "Esto…", .accept = "Borrar"},
-                                [&] { agreed = true; });
+    surfaces_.dialogs().confirm(
+        {.title = {"Borrar \"", "Corto", "\""}, .text = {"Esto…"}, .accept = "Borrar"},
+        [&] { agreed = true; });
     press("Borrar");
     EXPECT_TRUE(agreed);
 }

@@ -1,11 +1,8 @@
-// Paints the break alert in every theme, with another exercise in each, into pictures: break_gallery FOLDER
+// The break alert, with another exercise in each theme.
 
-#include <QDir>
-#include <QGuiApplication>
 #include <QtTest/QTest>
-#include <cstdio>
 
-#include "ui/style/fonts.h"
+#include "ui/gallery.h"
 #include "wellbeing/views/break_scene.h"
 
 namespace tidewatch {
@@ -14,13 +11,12 @@ namespace {
 constexpr QSize smallestWindow(820, 560);
 constexpr QSize largeWindow(1100, 720);
 
-int paintAll(const QString& path) {
-    const QDir folder(path);
-    if (!folder.mkpath(".")) return 1;
+}  // namespace
+
+void paint(Gallery& gallery) {
     BreakScene scene;
     bool longDay = false;
-    for (const auto& theme : scene.themes_.themes()) {
-        scene.theme_.switchTo(theme.id);
+    gallery.paintThemes(scene, [&](const QString& theme) {
         if (longDay) {
             scene.sitUntilAlert(11);
         } else {
@@ -28,24 +24,10 @@ int paintAll(const QString& path) {
         }
         scene.showWindow(longDay ? smallestWindow : largeWindow);
         QTest::qWait(300);
-        scene.picture().save(folder.filePath(QString::fromStdString(theme.id) + ".png"));
+        gallery.save(scene.picture(), theme);
         scene.presenter_.dismiss();
         longDay = !longDay;
-    }
-    for (const auto& warning : scene.viewWarnings_) std::fprintf(stderr, "%s\n", qPrintable(warning));
-    return scene.viewWarnings_.isEmpty() ? 0 : 1;
+    });
 }
 
-}  // namespace
 }  // namespace tidewatch
-
-int main(int argc, char* argv[]) {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-    QGuiApplication application(argc, argv);
-    if (application.arguments().size() != 2) {
-        std::fprintf(stderr, "usage: break_gallery FOLDER\n");
-        return 2;
-    }
-    tidewatch::registerFonts();
-    return tidewatch::paintAll(application.arguments().at(1));
-}

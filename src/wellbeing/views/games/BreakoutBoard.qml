@@ -8,11 +8,15 @@ Column {
 
     required property BreakoutPresenter presenter
 
-    spacing: Style.metrics.tightSpacing
+    /*! Pixels per point of the layout. */
+    property real unit: 1
+
+    spacing: Style.metrics.tightSpacing * unit
 
     BreakoutField {
         objectName: "breakoutField"
         presenter: root.presenter
+        unit: root.unit
         pieceColors: Style.palette.gamePieces
         plainColor: Style.palette.primaryText
         ballColor: Style.palette.tierProductive
@@ -25,30 +29,34 @@ Column {
 
         GameOverlay {
             presenter: root.presenter
+            unit: root.unit
         }
     }
 
     Row {
         anchors.horizontalCenter: parent.horizontalCenter
-        height: 16
-        spacing: Style.metrics.wideSpacing
+        height: 16 * root.unit
+        spacing: Style.metrics.wideSpacing * root.unit
 
         GameFigure {
             objectName: "lives"
             anchors.verticalCenter: parent.verticalCenter
             number: root.presenter.lives
+            unit: root.unit
         }
 
         GameFigure {
             objectName: "breakoutLevel"
             anchors.verticalCenter: parent.verticalCenter
             number: root.presenter.level
+            unit: root.unit
         }
 
         GameFigure {
             objectName: "breakoutBest"
             anchors.verticalCenter: parent.verticalCenter
             number: root.presenter.best
+            unit: root.unit
         }
     }
 }

@@ -11,7 +11,10 @@ Item {
     required property GamesPresenter presenter
     readonly property GamePresenter game: presenter.current
 
-    implicitHeight: 24
+    /*! Pixels per point of the layout. */
+    property real unit: 1
+
+    implicitHeight: 24 * unit
 
     Repeater {
         id: buttons
@@ -24,10 +27,10 @@ Item {
 
             objectName: "control" + index
             x: index === 0 ? 0 : root.width - (buttons.count - index) * width
-            width: 28
+            width: 28 * root.unit
             height: root.height
             symbol: row.symbol
-            symbolSide: 18
+            symbolSide: 18 * root.unit
             accessibleName: row.name
             onClicked: root.game.press(index)
         }
@@ -37,12 +40,12 @@ Item {
         objectName: "leave"
         anchors.centerIn: parent
         height: root.height
-        horizontalPadding: 16
+        horizontalPadding: 16 * root.unit
         visible: root.game.over
         text: root.presenter.leaveText
         contentItem: PlainText {
             text: root.presenter.leaveText
-            font: Style.sans(11, Style.Medium)
+            font: Style.sans(11 * root.unit, Style.Medium)
             color: Style.palette.primaryText
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter

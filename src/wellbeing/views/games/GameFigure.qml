@@ -8,7 +8,10 @@ Row {
 
     required property gameNumber number
 
-    spacing: 3
+    /*! Pixels per point of the layout. */
+    property real unit: 1
+
+    spacing: 3 * unit
     Accessible.role: Accessible.StaticText
     Accessible.name: number.accessibleText
     Accessible.ignored: !visible
@@ -16,7 +19,7 @@ Row {
     PlainText {
         anchors.baseline: value.baseline
         text: root.number.title
-        font: Style.sans(8, Style.Medium)
+        font: Style.sans(8 * root.unit, Style.Medium)
         color: Style.legibleOn(Style.palette.textGround, Style.palette.mute)
     }
 
@@ -24,7 +27,7 @@ Row {
         id: value
 
         text: root.number.value
-        font: Style.mono(10, Style.Medium)
+        font: Style.mono(10 * root.unit, Style.Medium)
         color: Style.palette.primaryText
     }
 }

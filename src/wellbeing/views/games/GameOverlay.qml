@@ -8,11 +8,14 @@ Rectangle {
 
     required property GamePresenter presenter
 
+    /*! Pixels per point of the layout. */
+    property real unit: 1
+
     anchors.centerIn: parent
     visible: presenter.overlayTitle !== ""
-    width: Math.max(title.implicitWidth, line.visible ? line.implicitWidth : 0) + 24
-    height: words.implicitHeight + 20
-    radius: Style.metrics.chipRadius
+    width: Math.max(title.implicitWidth, line.visible ? line.implicitWidth : 0) + 24 * unit
+    height: words.implicitHeight + 20 * unit
+    radius: Style.metrics.chipRadius * unit
     // The cards of some themes are translucent.
     color: Style.palette.windowBackground
     border.width: 1
@@ -22,7 +25,7 @@ Rectangle {
         id: words
 
         anchors.centerIn: parent
-        spacing: Style.metrics.tightSpacing
+        spacing: Style.metrics.tightSpacing * root.unit
 
         AccessibleText {
             id: title
@@ -30,7 +33,7 @@ Rectangle {
             objectName: "overlayTitle"
             anchors.horizontalCenter: parent.horizontalCenter
             text: root.presenter.overlayTitle
-            font: Style.tracked(Style.serif(13, Style.Semibold), 1.2)
+            font: Style.tracked(Style.serif(13 * root.unit, Style.Semibold), 1.2 * root.unit)
             color: Style.palette.primaryText
         }
 
@@ -41,7 +44,7 @@ Rectangle {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: text !== ""
             text: root.presenter.overlayText
-            font: Style.sans(11, Style.Regular)
+            font: Style.sans(11 * root.unit, Style.Regular)
             color: Style.palette.secondaryText
         }
     }

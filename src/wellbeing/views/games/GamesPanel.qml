@@ -11,13 +11,16 @@ FocusScope {
 
     required property GamesPresenter presenter
 
+    /*! Pixels per point of the layout. */
+    property real unit: 1
+
     /*! Given by a pane. */
     property string title
 
     readonly property bool playing: presenter.face === GamesPresenter.Playing
 
-    implicitWidth: 190
-    implicitHeight: content.implicitHeight + 24
+    implicitWidth: 190 * unit
+    implicitHeight: content.implicitHeight + 24 * unit
     Accessible.role: Accessible.Grouping
     Accessible.name: presenter.accessibleText
 
@@ -25,20 +28,21 @@ FocusScope {
         id: content
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 12
-        width: Math.min(root.width, 214) - 24
-        spacing: 10
+        y: 12 * root.unit
+        width: Math.min(root.width, 214 * root.unit) - 24 * root.unit
+        spacing: 10 * root.unit
 
         Item {
             width: parent.width
-            height: root.playing ? 16 : 24
+            height: (root.playing ? 16 : 24) * root.unit
 
             IconButton {
                 objectName: "previous"
                 anchors.left: parent.left
                 visible: !root.playing
-                width: 24
-                height: 24
+                width: 24 * root.unit
+                height: 24 * root.unit
+                symbolSide: 20 * root.unit
                 symbol: "chevron.left"
                 accessibleName: root.presenter.previousText
                 onClicked: root.presenter.switchGame()
@@ -50,7 +54,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.playing
                 name: "gamecontroller.fill"
-                side: 16
+                side: 16 * root.unit
                 color: Style.legibleOn(Style.palette.textGround, Style.palette.tierProductive)
             }
 
@@ -58,7 +62,7 @@ FocusScope {
                 objectName: "game"
                 anchors.centerIn: parent
                 text: root.presenter.title
-                font: Style.tracked(Style.serif(10, Style.Medium), 1.8)
+                font: Style.tracked(Style.serif(10 * root.unit, Style.Medium), 1.8 * root.unit)
                 color: Style.palette.strongMute
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
@@ -71,7 +75,7 @@ FocusScope {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: root.playing
                 text: root.presenter.current.scoreText
-                font: Style.mono(13, Style.Light)
+                font: Style.mono(13 * root.unit, Style.Light)
                 color: Style.palette.primaryText
                 Accessible.role: Accessible.StaticText
                 Accessible.name: root.presenter.current.scoreAccessibleText
@@ -82,8 +86,9 @@ FocusScope {
                 objectName: "next"
                 anchors.right: parent.right
                 visible: !root.playing
-                width: 24
-                height: 24
+                width: 24 * root.unit
+                height: 24 * root.unit
+                symbolSide: 20 * root.unit
                 symbol: "chevron.right"
                 accessibleName: root.presenter.nextText
                 onClicked: root.presenter.switchGame()
@@ -95,6 +100,7 @@ FocusScope {
             width: parent.width
             visible: !root.playing
             presenter: root.presenter
+            unit: root.unit
         }
 
         TetrisBoard {
@@ -102,6 +108,7 @@ FocusScope {
             width: parent.width
             visible: root.playing && root.presenter.game === GamesPresenter.Tetris
             presenter: root.presenter.tetris
+            unit: root.unit
         }
 
         BreakoutBoard {
@@ -109,6 +116,7 @@ FocusScope {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: root.playing && root.presenter.game === GamesPresenter.Breakout
             presenter: root.presenter.breakout
+            unit: root.unit
         }
 
         GameControls {
@@ -116,6 +124,7 @@ FocusScope {
             width: parent.width
             visible: root.playing
             presenter: root.presenter
+            unit: root.unit
         }
     }
 }

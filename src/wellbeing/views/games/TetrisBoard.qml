@@ -8,11 +8,14 @@ Column {
 
     required property TetrisPresenter presenter
 
-    /*! Side of a cell. */
+    /*! Pixels per point of the layout. */
+    property real unit: 1
+
+    /*! Side of a cell, in points. */
     property real cell: 15
 
     width: field.width
-    spacing: Style.metrics.tightSpacing
+    spacing: Style.metrics.tightSpacing * unit
 
     TetrisField {
         id: field
@@ -21,6 +24,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         presenter: root.presenter
         cell: root.cell
+        unit: root.unit
         pieceColors: Style.palette.gamePieces
         plainColor: Style.palette.primaryText
         // The cards of some themes are translucent.
@@ -32,12 +36,13 @@ Column {
 
         GameOverlay {
             presenter: root.presenter
+            unit: root.unit
         }
     }
 
     Item {
         width: parent.width
-        height: 16
+        height: 16 * root.unit
 
         PlainText {
             id: nextTitle
@@ -45,16 +50,17 @@ Column {
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             text: root.presenter.nextTitle
-            font: Style.sans(8, Style.Medium)
+            font: Style.sans(8 * root.unit, Style.Medium)
             color: Style.legibleOn(Style.palette.textGround, Style.palette.mute)
         }
 
         NextPiece {
             objectName: "nextPiece"
             anchors.left: nextTitle.right
-            anchors.leftMargin: 3
+            anchors.leftMargin: 3 * root.unit
             anchors.verticalCenter: parent.verticalCenter
             presenter: root.presenter
+            unit: root.unit
             pieceColors: Style.palette.gamePieces
             plainColor: Style.palette.primaryText
             Accessible.role: Accessible.Graphic
@@ -65,21 +71,24 @@ Column {
         Row {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 6
+            spacing: 6 * root.unit
 
             GameFigure {
                 objectName: "lines"
                 number: root.presenter.lines
+                unit: root.unit
             }
 
             GameFigure {
                 objectName: "tetrisLevel"
                 number: root.presenter.level
+                unit: root.unit
             }
 
             GameFigure {
                 objectName: "tetrisBest"
                 number: root.presenter.best
+                unit: root.unit
             }
         }
     }

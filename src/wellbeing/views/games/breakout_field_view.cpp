@@ -21,7 +21,7 @@ static_assert(breakout::brickRows * breakout::brickColumns <= 32);
 }  // namespace
 
 BreakoutFieldView::BreakoutFieldView(QQuickItem* parent) : GameField(parent) {
-    setDrawingSize({breakout::fieldWidth, breakout::fieldHeight});
+    setLayoutSize({breakout::fieldWidth, breakout::fieldHeight});
     setAcceptedMouseButtons(Qt::LeftButton);
     setKeepMouseGrab(true);
 }
@@ -46,9 +46,9 @@ BreakoutFieldView::Shown BreakoutFieldView::shownOf(const BreakoutModel& model) 
     const auto& ball = model.ball();
     const double paddle = breakout::paddleWidth(model.level());
     Shown shown{
-        .ball = QRectF(ball.x - breakout::ballRadius, ball.y - breakout::ballRadius, 2 * breakout::ballRadius,
-                       2 * breakout::ballRadius),
-        .paddle = QRectF(model.paddleX() - paddle / 2, breakout::paddleTop, paddle, breakout::paddleHeight),
+        .ball = inItem({ball.x - breakout::ballRadius, ball.y - breakout::ballRadius,
+                        2 * breakout::ballRadius, 2 * breakout::ballRadius}),
+        .paddle = inItem({model.paddleX() - paddle / 2, breakout::paddleTop, paddle, breakout::paddleHeight}),
     };
     for (const auto& brick : model.bricks()) {
         if (brick.alive) shown.livingBricks |= 1U << brick.id;
@@ -70,7 +70,7 @@ void BreakoutFieldView::sync() {
     if (shown.paddle != shown_.paddle) repaint(shown_.paddle | shown.paddle);
     if (const auto changed = shown.livingBricks ^ shown_.livingBricks; changed != 0) {
         for (const auto& brick : presenter_->model().bricks()) {
-            if ((changed >> brick.id & 1U) != 0) repaint(rectOf(brick));
+            if ((changed >> brick.id & 1U) != 0) repaint(inItem(rectOf(brick)));
         }
     }
     shown_ = shown;
@@ -89,10 +89,10 @@ void BreakoutFieldView::paintField(QPainter& painter, const QRectF& dirty) {
         painter.drawRoundedRect(rect, radius, radius);
     };
     for (const auto& brick : model.bricks()) {
-        if (brick.alive) fill(onPixels(rectOf(brick)), brickRadius, brickColor(brick));
+        if (brick.alive) fill(onPixels(inItem(rectOf(brick))), brickRadius * unit(), brickColor(brick));
     }
     const auto shown = shownOf(model);
-    fill(onPixels(shown.paddle), paddleRadius, plainColor());
+    fill(onPixels(shown.paddle), paddleRadius * unit(), plainColor());
     fill(shown.ball, shown.ball.width() / 2, colorAt(0, ballColor_));
 }
 
@@ -105,7 +105,7 @@ void BreakoutFieldView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BreakoutFieldView::dragTo(double x) {
-    if (presenter_) presenter_->setPaddle(x);
+    if (presenter_) presenter_->setPaddle(x / unit());
 }
 
 }  // namespace tidewatch

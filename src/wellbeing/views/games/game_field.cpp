@@ -52,6 +52,13 @@ void GameField::setEdge(const QColor& color) {
     changeLook(edge_, color);
 }
 
+void GameField::setUnit(double unit) {
+    if (unit == unit_) return;
+    unit_ = unit;
+    setLayoutSize(layoutSize_);
+    Q_EMIT unitChanged();
+}
+
 void GameField::paint(QPainter* painter) {
     painter->setPen(Qt::NoPen);
     if (ground_.alpha() > 0) {
@@ -59,8 +66,8 @@ void GameField::paint(QPainter* painter) {
         painter->setBrush(ground_);
         painter->setPen(QPen(edge_, line));
         painter->drawRoundedRect(
-            QRectF(QPointF(), drawingSize_).adjusted(line / 2, line / 2, -line / 2, -line / 2), groundRadius,
-            groundRadius);
+            QRectF(QPointF(), drawingSize()).adjusted(line / 2, line / 2, -line / 2, -line / 2),
+            groundRadius * unit_, groundRadius * unit_);
         painter->setPen(Qt::NoPen);
     }
     paintField(*painter, painter->hasClipping() ? painter->clipBoundingRect() : QRectF(QPointF(), size()));
@@ -91,8 +98,8 @@ void GameField::repaint(const QRectF& area) {
     update(QRect(topLeft, QSize(up(area.right()) - topLeft.x(), up(area.bottom()) - topLeft.y())));
 }
 
-void GameField::setDrawingSize(const QSizeF& size) {
-    drawingSize_ = size;
+void GameField::setLayoutSize(const QSizeF& size) {
+    layoutSize_ = size;
     coverWholePixels();
     update();
 }
@@ -100,10 +107,15 @@ void GameField::setDrawingSize(const QSizeF& size) {
 void GameField::coverWholePixels() {
     const int step = std::max(pointsOfWholePixels(pixelRatio()), 1);
     const auto up = [step](double length) { return std::ceil(length / step) * step; };
-    setImplicitSize(up(drawingSize_.width()), up(drawingSize_.height()));
+    setImplicitSize(up(drawingSize().width()), up(drawingSize().height()));
 }
 
 QSGNode* GameField::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) {
+    // Otherwise a game that nobody plays would have its picture in memory.
+    if (!isVisible()) {
+        delete old;
+        return nullptr;
+    }
     auto* place = old != nullptr ? static_cast<QSGTransformNode*>(old) : new QSGTransformNode;
     auto* const before = place->firstChild();
     auto* const drawing = QQuickPaintedItem::updatePaintNode(before, data);
@@ -118,6 +130,10 @@ QSGNode* GameField::updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) {
 
 void GameField::itemChange(ItemChange change, const ItemChangeData& data) {
     QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemVisibleHasChanged) {
+        // Not update(), after which a smaller area would count alone.
+        update(boundingRect().toAlignedRect());
+    }
     if (change != ItemSceneChange && change != ItemDevicePixelRatioHasChanged) return;
     coverWholePixels();
     update();

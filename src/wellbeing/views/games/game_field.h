@@ -19,6 +19,8 @@ class GameField : public QQuickPaintedItem {
     Q_PROPERTY(QColor plainColor READ plainColor WRITE setPlainColor NOTIFY lookChanged FINAL)
     Q_PROPERTY(QColor ground READ ground WRITE setGround NOTIFY lookChanged FINAL)
     Q_PROPERTY(QColor edge READ edge WRITE setEdge NOTIFY lookChanged FINAL)
+    /// Pixels per point of the game's layout.
+    Q_PROPERTY(double unit READ unit WRITE setUnit NOTIFY unitChanged FINAL)
 
 public:
     explicit GameField(QQuickItem* parent = nullptr);
@@ -34,21 +36,29 @@ public:
     /// A line around the ground.
     [[nodiscard]] QColor edge() const { return edge_; }
     void setEdge(const QColor& color);
+    [[nodiscard]] double unit() const { return unit_; }
+    void setUnit(double unit);
 
     /// What is drawn on, from the top left corner.
-    [[nodiscard]] QSizeF drawingSize() const { return drawingSize_; }
+    [[nodiscard]] QSizeF drawingSize() const { return layoutSize_ * unit_; }
 
     void paint(QPainter* painter) final;
 
 Q_SIGNALS:
     void lookChanged();
+    void unitChanged();
 
 protected:
     /// Paints what touches `dirty`, in the item's coordinates, over the ground.
     virtual void paintField(QPainter& painter, const QRectF& dirty) = 0;
 
-    /// `rect` moved to the nearest screen pixels and of the nearest size in whole pixels, so that equal
-    /// rectangles stay equal.
+    /// A rectangle of the layout in the item's coordinates.
+    [[nodiscard]] QRectF inItem(const QRectF& rect) const {
+        return {rect.topLeft() * unit_, rect.size() * unit_};
+    }
+
+    /// `rect`, in the item's coordinates, moved to the nearest screen pixels and of the nearest size in whole
+    /// pixels, so that equal rectangles stay equal.
     [[nodiscard]] QRectF onPixels(const QRectF& rect) const;
 
     /// The theme's colour for `index`, from 0; `otherwise` if the theme has none.
@@ -57,8 +67,8 @@ protected:
     /// Repaints this area, in the item's coordinates, with its antialiased edges.
     void repaint(const QRectF& area);
 
-    /// Makes the item as large as necessary.
-    void setDrawingSize(const QSizeF& size);
+    /// Makes the item as large as necessary for a layout of this size.
+    void setLayoutSize(const QSizeF& size);
 
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
     void itemChange(ItemChange change, const ItemChangeData& data) override;
@@ -71,7 +81,8 @@ private:
 
     void coverWholePixels();
 
-    QSizeF drawingSize_;
+    QSizeF layoutSize_;
+    double unit_ = 1;
     QList<QColor> pieceColors_;
     QColor plainColor_ = Qt::white;
     QColor ground_ = Qt::transparent;

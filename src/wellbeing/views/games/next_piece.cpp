@@ -15,7 +15,7 @@ constexpr int previewRows = 2;
 }  // namespace
 
 NextPiece::NextPiece(QQuickItem* parent) : GameField(parent) {
-    setDrawingSize({previewColumns * previewStep, previewRows * previewStep});
+    setLayoutSize({previewColumns * previewStep, previewRows * previewStep});
 }
 
 void NextPiece::setPresenter(TetrisPresenter* presenter) {
@@ -32,8 +32,9 @@ void NextPiece::paintField(QPainter& painter, const QRectF& /*dirty*/) {
     if (piece == 0) return;
     painter.setBrush(colorAt(piece - 1, plainColor()));
     for (const auto& [row, column] : tetris::cellsOf({piece, 0, 0, 0})) {
-        const auto cell = onPixels({column * previewStep, row * previewStep, previewSide, previewSide});
-        painter.drawRoundedRect(cell, previewRadius, previewRadius);
+        const auto cell =
+            onPixels(inItem({column * previewStep, row * previewStep, previewSide, previewSide}));
+        painter.drawRoundedRect(cell, previewRadius * unit(), previewRadius * unit());
     }
 }
 

@@ -24,7 +24,7 @@ auto& lookAt(auto& looks, const tetris::Cell& cell) {
 }  // namespace
 
 TetrisField::TetrisField(QQuickItem* parent) : GameField(parent) {
-    setDrawingSize({cell_ * tetris::columns, cell_ * tetris::rows});
+    setLayoutSize({cell_ * tetris::columns, cell_ * tetris::rows});
 }
 
 void TetrisField::setPresenter(TetrisPresenter* presenter) {
@@ -39,7 +39,7 @@ void TetrisField::setPresenter(TetrisPresenter* presenter) {
 void TetrisField::setCell(double cell) {
     if (cell == cell_) return;
     cell_ = cell;
-    setDrawingSize({cell_ * tetris::columns, cell_ * tetris::rows});
+    setLayoutSize({cell_ * tetris::columns, cell_ * tetris::rows});
     Q_EMIT cellChanged();
 }
 
@@ -58,11 +58,12 @@ TetrisField::Looks TetrisField::looksOf(const TetrisModel& model) const {
 }
 
 QRectF TetrisField::place(int row, int column) const {
-    return {column * cell_, row * cell_, cell_, cell_};
+    return inItem({column * cell_, row * cell_, cell_, cell_});
 }
 
 QRectF TetrisField::square(int row, int column) const {
-    return onPixels(place(row, column).adjusted(cellInset, cellInset, -cellInset, -cellInset));
+    const double inset = cellInset * unit();
+    return onPixels(place(row, column).adjusted(inset, inset, -inset, -inset));
 }
 
 void TetrisField::sync() {
@@ -106,7 +107,7 @@ void TetrisField::paintField(QPainter& painter, const QRectF& dirty) {
                 kind == Kind::solid ? pieceMarks.at(static_cast<std::size_t>(piece - 1)) : PieceMark::none;
             if (kind == Kind::ghost) color.setAlphaF(color.alphaF() * static_cast<float>(ghostOpacity));
             painter.setBrush(color);
-            painter.drawRoundedRect(cell, cellRadius, cellRadius);
+            painter.drawRoundedRect(cell, cellRadius * unit(), cellRadius * unit());
             drawMark(painter, mark, cell, color);
         }
     }

@@ -17,7 +17,7 @@ class TetrisField : public tidewatch::GameField {
     QML_ELEMENT
     Q_PROPERTY(
         tidewatch::TetrisPresenter* presenter READ presenter WRITE setPresenter NOTIFY presenterChanged FINAL)
-    /// Side of a cell, in points.
+    /// Side of a cell, in points of the layout.
     Q_PROPERTY(double cell READ cell WRITE setCell NOTIFY cellChanged FINAL)
 
 public:

@@ -92,6 +92,21 @@ TEST_F(GameFieldsTest, StepsBeforeTheLaunchRepaintNothing) {
     EXPECT_TRUE(paintedBy(field).isEmpty());
 }
 
+TEST_F(GameFieldsTest, AFieldIsPaintedOnlyWhileItIsVisibleAndThenAllOfIt) {
+    presenter_.switchGame();
+    play();
+    pressKeys("_");
+    wait(300ms);
+    Recording<BreakoutFieldView> field;
+    showField(field, presenter_.breakout());
+    field.setVisible(false);
+    presenter_.breakout()->setPaddle(60);
+    EXPECT_TRUE(paintedBy(field).isEmpty());
+    field.setVisible(true);
+    presenter_.breakout()->setPaddle(90);
+    EXPECT_TRUE(paintedBy(field).contains(QRectF(QPointF(), field.drawingSize())));
+}
+
 TEST_F(GameFieldsTest, APieceThatMovesRepaintsItsColumnsAlone) {
     random_.addPieces("JJOT");
     play();

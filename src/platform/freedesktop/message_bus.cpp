@@ -1,16 +1,16 @@
-#include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/message_bus.h"
 
 #include <utility>
 
 namespace tidewatch::platform {
 
-SessionBus::SessionBus(QString address) : address_(std::move(address)) {}
+MessageBus::MessageBus(QString address) : address_(std::move(address)) {}
 
-SessionBus::~SessionBus() {
+MessageBus::~MessageBus() {
     if (!name_.isEmpty()) QDBusConnection::disconnectFromBus(name_);
 }
 
-QDBusConnection SessionBus::connection() {
+QDBusConnection MessageBus::connection() {
     if (!name_.isEmpty()) {
         QDBusConnection current(name_);
         if (current.isConnected()) return current;

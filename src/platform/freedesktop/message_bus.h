@@ -5,15 +5,15 @@
 
 namespace tidewatch::platform {
 
-/// This program's own connection to the session bus, separate from the toolkit's. Reconnects on the next use
+/// This program's own connection to a message bus, separate from the toolkit's. Reconnects on the next use
 /// after the bus was restarted. Main thread only.
-class SessionBus final {
+class MessageBus final {
 public:
     /// For the bus at `address`; does not connect yet.
-    explicit SessionBus(QString address);
-    ~SessionBus();
-    SessionBus(const SessionBus&) = delete;
-    SessionBus& operator=(const SessionBus&) = delete;
+    explicit MessageBus(QString address);
+    ~MessageBus();
+    MessageBus(const MessageBus&) = delete;
+    MessageBus& operator=(const MessageBus&) = delete;
 
     /// Not connected if there is no bus.
     [[nodiscard]] QDBusConnection connection();

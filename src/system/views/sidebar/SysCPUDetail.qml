@@ -1,0 +1,4 @@
+import Tidewatch.System
+
+/*! The processors, and who keeps them busy. */
+SysConsumers {}

@@ -1,0 +1,4 @@
+import Tidewatch.System
+
+/*! The memory, and who takes most of it. */
+SysConsumers {}
