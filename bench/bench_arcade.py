@@ -49,6 +49,14 @@ def moved(area, by):
     return Rectangle(area.x + by.x, area.y + by.y, area.width, area.height)
 
 
+def close_statistics(world):
+    """Waits for the window first."""
+    window = wait_until(world.statistics, "the statistics window")
+    world.input.focus(window.id)
+    world.input.key("ctrl+w")
+    wait_until(lambda: world.statistics() is None, "the statistics to close")
+
+
 class Arcade:
     """The window, which has the focus."""
 
@@ -59,15 +67,11 @@ class Arcade:
     def open(self):
         """Shows it by a second start, which shows the statistics too; these are closed again."""
         self._world.start_program(wait_for_clock=False).wait()
-        statistics = wait_until(self._world.statistics, "the statistics window")
+        close_statistics(self._world)
         self.take_over()
-        self._world.input.focus(statistics.id)
-        self._world.input.key("ctrl+w")
-        wait_until(lambda: self._world.statistics() is None, "the statistics to close")
-        self._world.input.focus(self.window.id)
 
     def take_over(self):
-        """Gives the window that is there the focus."""
+        """Gives the window that is there the focus. Another that is just being shown would take it away again."""
         self.window = wait_until(lambda: self._world.screen.window(title=TITLE), "the mini-arcade")
         self._world.input.focus(self.window.id)
 
@@ -225,7 +229,7 @@ def left_behind(world, binary, game):
     time.sleep(SETTLE_SECONDS)
     before = private_megabytes(program)
     world.start(binary).wait()
-    statistics = wait_until(world.statistics, "the statistics window")
+    close_statistics(world)
     if game:
         arcade = Arcade(world)
         arcade.take_over()
@@ -233,9 +237,6 @@ def left_behind(world, binary, game):
         arcade.launch()
         arcade.play(MEASURED_SECONDS)
         arcade.close()
-    world.input.focus(statistics.id)
-    world.input.key("ctrl+w")
-    wait_until(lambda: world.statistics() is None, "the statistics to close")
     time.sleep(SETTLE_SECONDS)
     more = private_megabytes(program) - before
     program.end()

@@ -71,6 +71,10 @@ bool DashboardModel::isSelectedToday() const {
     return dayOf(selectedDate_) == dayOf(sources_.clock.now());
 }
 
+bool DashboardModel::isRecordEmpty() const {
+    return allDayApps_.empty() && sources_.apps.allDayKeys().empty();
+}
+
 void DashboardModel::previousDay() {
     moveByDays(-1);
 }

@@ -112,6 +112,9 @@ public:
     void nextDay();
     void today();
 
+    /// Whether no application has been booked yet, on any day.
+    [[nodiscard]] bool isRecordEmpty() const;
+
     /// In the order of AppUsageStore::aggregate.
     [[nodiscard]] const std::vector<AppEntry>& allDayApps() const { return allDayApps_; }
     [[nodiscard]] const std::vector<HourSummary>& hourSummaries() const { return hourSummaries_; }

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "shell/menu_sections.h"
+#include "shell/welcome.h"
 
 namespace tidewatch {
 
@@ -29,6 +30,7 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .notifications = platform.notifications,
           .title = [this] { return statusTitle(); },
           .menu = [this] { return buildStatusMenu(menu_); },
+          .trayKnown = [&services](bool hasTray) { welcome(services.wellbeing.notifications, hasTray); },
       }),
       clock_({
           .settings = services.counting.settings,

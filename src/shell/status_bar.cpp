@@ -32,11 +32,19 @@ void StatusBar::openMenu() {
 
 void StatusBar::secondPassed() {
     if (secondsWithoutTray_ > trayTimeout) return;
-    secondsWithoutTray_ = item_->isShown() ? 0 : secondsWithoutTray_ + 1;
-    if (secondsWithoutTray_ > trayTimeout) {
-        dependencies_.surfaces.showHint(
-            "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj.");
+    if (item_->isShown()) {
+        secondsWithoutTray_ = 0;
+        reportTray(true);
+        return;
     }
+    if (++secondsWithoutTray_ <= trayTimeout) return;
+    dependencies_.surfaces.showHint(
+        "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj.");
+    reportTray(false);
+}
+
+void StatusBar::reportTray(bool hasTray) {
+    if (!std::exchange(isTrayReported_, true)) dependencies_.trayKnown(hasTray);
 }
 
 }  // namespace tidewatch

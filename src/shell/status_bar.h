@@ -23,6 +23,8 @@ public:
         std::function<StatusTitle()> title;
         /// The current status menu.
         std::function<MenuRows()> menu;
+        /// Called once, when the item is in a tray or when none has appeared for a while.
+        std::function<void(bool hasTray)> trayKnown;
     };
 
     explicit StatusBar(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
@@ -33,13 +35,17 @@ public:
     void refreshTitle();
     void openMenu();
 
-    /// Must be called once a second: warns once if no tray has appeared for a while.
+    /// Must be called once a second: looks for the tray, and gives a hint once if it has been missing for a
+    /// while.
     void secondPassed();
 
 private:
+    void reportTray(bool hasTray);
+
     const Dependencies dependencies_;
     std::unique_ptr<StatusItem> item_;
     int secondsWithoutTray_ = 0;
+    bool isTrayReported_ = false;
 };
 
 }  // namespace tidewatch

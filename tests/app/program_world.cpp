@@ -15,6 +15,7 @@ constexpr Instant start = sys_days(year(2026) / 1 / 15) + hours(9);
 ProgramWorld::ProgramWorld()
     : machine_(start, [](const std::string& complaint) { ADD_FAILURE() << complaint; }) {
     machine_.frontmost.set(AppId("org.example.Editor"));
+    machine_.preferences.setBoolean("notif-welcome", true);
 }
 
 void ProgramWorld::launch() {

@@ -139,6 +139,7 @@ class AtTheStart(unittest.TestCase):
         before = os.umask(0)
         try:
             with World("files-new-modes", tray=False) as world:
+                world.home.settings_file.unlink()
                 world.stop_program(world.start_program())
                 self.assertEqual(mode(world.home.data), 0o700)
                 self.assertEqual({mode(path) for path in world.home.data.iterdir()}, {0o600})

@@ -22,7 +22,7 @@ class Hostile(unittest.TestCase):
         """Pipes that nobody writes to and folders without an end, wherever the program reads."""
         record.write(home)
         home.write("registered.json", "{ garbled")
-        home.settings_file.parent.mkdir(parents=True)
+        home.settings_file.unlink()
         os.mkfifo(home.settings_file)
         entries = home.path / ".local/share/applications"
         os.mkfifo(entries / "pipe.desktop")

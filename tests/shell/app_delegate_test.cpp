@@ -231,6 +231,38 @@ TEST_F(AppDelegateTest, AMissingTrayIsShownOnce) {
                   "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj."});
 }
 
+TEST_F(AppDelegateTest, TheFirstStartEverSaysWhatIsCountedAndWhereTheIconIs) {
+    machine_.preferences.remove("notif-welcome");
+    launch();
+    runFor(60s);
+    program_->delegate.applicationWillTerminate();
+    launch();
+    runFor(60s);
+    EXPECT_EQ(
+        machine_.notifications.delivered(),
+        (std::vector<platform::UserNotification>{
+            {.title = "Tidewatch ya cuenta tu tiempo",
+             .body = "Apunta cada segundo que trabajas, por día, hora, aplicación y proyecto; si paras, "
+                     "espera. Su icono está en la bandeja: un clic abre las estadísticas; el botón "
+                     "derecho, el menú. Tus datos no salen de este equipo."}}));
+}
+
+TEST_F(AppDelegateTest, AFirstStartWithoutATrayPointsToNoIcon) {
+    machine_.preferences.remove("notif-welcome");
+    launch();
+    surfaces_.statusItem().setShown(false);
+    runFor(10s);
+    EXPECT_TRUE(machine_.notifications.delivered().empty());
+    runFor(60s);
+    ASSERT_EQ(machine_.notifications.delivered().size(), 1U);
+    EXPECT_EQ(machine_.notifications.delivered().front().body,
+              "Apunta cada segundo que trabajas, por día, hora, aplicación y proyecto; si paras, espera. "
+              "Tus datos no salen de este equipo.");
+    surfaces_.statusItem().setShown(true);
+    runFor(60s);
+    EXPECT_EQ(machine_.notifications.delivered().size(), 1U);
+}
+
 TEST_F(AppDelegateTest, ATrayThatComesLateIsNotMissed) {
     launch();
     surfaces_.statusItem().setShown(false);

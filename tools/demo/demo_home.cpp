@@ -22,6 +22,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view settings =
     "[General]\n"
     "activeThemeID=ochre\n"
+    "notif-welcome=true\n"
     "windowVisible=true\n";
 
 /// All of them, in columns at the left of the screen.

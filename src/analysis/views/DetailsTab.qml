@@ -106,19 +106,13 @@ TabPane {
                     visible: root.presenter.isEmpty
                     symbol: "magnifyingglass"
                     title: root.presenter.emptyText
+                    text: root.presenter.preview
                 }
             }
         }
-        Band {
+        Hint {
             Layout.fillWidth: true
-
-            AccessibleText {
-                anchors.fill: parent
-                text: root.presenter.hint
-                elide: Text.ElideRight
-                font: Style.sans(12, Style.Regular)
-                color: Style.palette.secondaryText
-            }
+            text: root.presenter.hint
         }
     }
 }

@@ -15,6 +15,11 @@ TabPane {
         width: parent.width
         spacing: Style.metrics.wideSpacing
 
+        Hint {
+            objectName: "preview"
+            Layout.fillWidth: true
+            text: root.presenter.preview
+        }
         Card {
             Layout.fillWidth: true
 

@@ -13,6 +13,11 @@ TabPane {
         width: parent.width
         spacing: Style.metrics.wideSpacing
 
+        Hint {
+            objectName: "preview"
+            Layout.fillWidth: true
+            text: root.presenter.overview.preview
+        }
         RowLayout {
             Layout.fillWidth: true
             Layout.preferredHeight: 320

@@ -33,17 +33,10 @@ TabPane {
                 Layout.fillWidth: true
             }
         }
-        Band {
+        Hint {
             Layout.fillWidth: true
             visible: !root.presenter.isEmpty
-
-            AccessibleText {
-                anchors.fill: parent
-                text: root.presenter.hint
-                wrapMode: Text.WordWrap
-                font: Style.sans(12, Style.Regular)
-                color: Style.palette.secondaryText
-            }
+            text: root.presenter.hint
         }
     }
 }

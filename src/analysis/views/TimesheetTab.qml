@@ -53,6 +53,7 @@ TabPane {
                 objectName: "empty"
                 symbol: "clock"
                 title: root.presenter.emptyText
+                text: root.presenter.preview
             }
         }
     }

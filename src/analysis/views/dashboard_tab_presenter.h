@@ -13,16 +13,25 @@ class DashboardTabPresenter : public tidewatch::TabPresenter {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("What the presenters of the dashboard's tabs are")
+    /// What the tab will show, as long as the record is empty; then an empty text.
+    Q_PROPERTY(QString preview READ preview NOTIFY previewChanged FINAL)
 
 public:
     /// `model` must outlive it.
-    explicit DashboardTabPresenter(DashboardModel& model);
+    explicit DashboardTabPresenter(DashboardModel& model, QString preview = {});
+
+    [[nodiscard]] QString preview() const { return isRecordEmpty_ ? preview_ : QString(); }
+
+Q_SIGNALS:
+    void previewChanged();
 
 protected:
     [[nodiscard]] DashboardModel& model() const { return model_; }
 
 private:
     DashboardModel& model_;
+    const QString preview_;
+    bool isRecordEmpty_ = false;
     Connection modelChanged_;
 };
 

@@ -29,7 +29,9 @@ AppDetails details(const AppEntry& app, Seconds total) {
 }  // namespace
 
 DetailsPresenter::DetailsPresenter(DashboardModel& model, OpenMenu openMenu)
-    : DashboardTabPresenter(model),
+    : DashboardTabPresenter(
+          model,
+          "Cuando lleves unos segundos trabajando, aquí verás cada aplicación con su tiempo y su categoría."),
       openMenu_(std::move(openMenu)),
       filtersChanged_(model.changed.connect([this](DashboardModel::Field field) {
           if (field == DashboardModel::Field::searchText) Q_EMIT searchTextChanged();

@@ -53,7 +53,10 @@ std::vector<GoalStepper> stepperRows(const GoalSettings& settings) {
 
 GoalsPresenter::GoalsPresenter(DashboardModel& model, const Sources& sources,
                                std::function<void()> exportReport)
-    : DashboardTabPresenter(model),
+    : DashboardTabPresenter(
+          model,
+          "Cuando lleves unos segundos trabajando, aquí crecerán tus estrellas y el progreso hacia "
+          "tus metas. Las metas las fijas tú, más abajo."),
       sources_(sources),
       exportReport_(std::move(exportReport)),
       goalsChanged_(sources_.goals.changed.connect([this] {

@@ -22,7 +22,11 @@ void TierColumnPresenter::update(const DashboardModel& model) {
     Q_EMIT changed();
 }
 
-OverviewPresenter::OverviewPresenter(DashboardModel& model) : DashboardTabPresenter(model) {
+OverviewPresenter::OverviewPresenter(DashboardModel& model)
+    : DashboardTabPresenter(
+          model,
+          "Cuando lleves unos segundos trabajando, aquí verás lo productivo que es tu día, con qué "
+          "aplicaciones y a qué horas. Mañana lo verás comparado con hoy.") {
     updateScore();
 }
 

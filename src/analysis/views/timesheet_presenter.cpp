@@ -78,6 +78,12 @@ HourSheet sheet(const HourGroup& group) {
 
 }  // namespace
 
+TimesheetPresenter::TimesheetPresenter(DashboardModel& model)
+    : DashboardTabPresenter(
+          model,
+          "Cuando lleves unos segundos trabajando, aquí verás tu día hora a hora, de diez en diez minutos.") {
+}
+
 void TimesheetPresenter::update() {
     std::vector<HourSheet> rows;
     for (const auto& group : model().hourGroups()) rows.push_back(sheet(group));

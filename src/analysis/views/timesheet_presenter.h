@@ -80,7 +80,8 @@ class TimesheetPresenter final : public tidewatch::DashboardTabPresenter {
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT FINAL)
 
 public:
-    using DashboardTabPresenter::DashboardTabPresenter;
+    /// `model` must outlive it.
+    explicit TimesheetPresenter(DashboardModel& model);
 
     [[nodiscard]] QStringList columns() const { return {"HORA", "SUMARIO", "ACTIVIDADES"}; }
     [[nodiscard]] RowListModel* hours() { return &hours_; }

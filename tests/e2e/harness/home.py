@@ -11,6 +11,10 @@ from harness import local_time
 FILES = ("today.json", "apps.json", "hours.json", "minutes.json", "project_time.json")
 
 
+# The setting that says that the first start's message has been shown.
+WELCOMED = "notif-welcome"
+
+
 class Home:
     def __init__(self, path):
         self.path = Path(path)
@@ -18,10 +22,12 @@ class Home:
         self.data = self.path / ".tidewatch"
         self.settings_file = self.path / ".config/brightlooms/tidewatch.conf"
         self.login_entry = self.path / ".config/autostart/com.brightlooms.tidewatch.desktop"
+        if not self.settings_file.exists():
+            self.write_settings()
 
     def write_settings(self, **values):
-        """Writes settings before the program starts."""
-        lines = ["[General]", *(f"{key}={value}" for key, value in values.items())]
+        """Writes settings before the program starts; it has been welcomed already."""
+        lines = ["[General]", f"{WELCOMED}=true", *(f"{key}={value}" for key, value in values.items())]
         self.settings_file.parent.mkdir(parents=True, exist_ok=True)
         self.settings_file.write_text("\n".join(lines) + "\n", encoding="utf-8")
 
