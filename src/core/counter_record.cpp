@@ -112,7 +112,7 @@ void CounterRecord::insert(std::size_t level, Index index, std::string_view text
 std::uint32_t CounterRecord::idInOrder(std::size_t level, std::string_view text) {
     const auto id = storeText(level, text);
     auto& last = lastAppended_[level];
-    if (last && textOf(level, *last) >= textOf(level, id)) inOrder_ = false;
+    if (last && textOf(level, *last) >= text) inOrder_ = false;
     last = id;
     return id;
 }

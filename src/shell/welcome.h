@@ -4,8 +4,7 @@
 
 namespace tidewatch {
 
-/// Tells the user, once ever, what is counted, where the icon is if there is a tray, and that the data stays
-/// here.
+/// Tells the user, once ever, what is counted, where to click, and that the data stays on the machine.
 void welcome(NotificationManager& notifications, bool hasTray);
 
 }  // namespace tidewatch

@@ -247,7 +247,7 @@ TEST_F(AppDelegateTest, TheFirstStartEverSaysWhatIsCountedAndWhereTheIconIs) {
                      "derecho, el menú. Tus datos no salen de este equipo."}}));
 }
 
-TEST_F(AppDelegateTest, AFirstStartWithoutATrayPointsToNoIcon) {
+TEST_F(AppDelegateTest, AFirstStartWithoutATrayPointsToTheClock) {
     machine_.preferences.remove("notif-welcome");
     launch();
     surfaces_.statusItem().setShown(false);
@@ -255,9 +255,11 @@ TEST_F(AppDelegateTest, AFirstStartWithoutATrayPointsToNoIcon) {
     EXPECT_TRUE(machine_.notifications.delivered().empty());
     runFor(60s);
     ASSERT_EQ(machine_.notifications.delivered().size(), 1U);
-    EXPECT_EQ(machine_.notifications.delivered().front().body,
-              "Apunta cada segundo que trabajas, por día, hora, aplicación y proyecto; si paras, espera. "
-              "Tus datos no salen de este equipo.");
+    EXPECT_EQ(
+        machine_.notifications.delivered().front().body,
+        "Apunta cada segundo que trabajas, por día, hora, aplicación y proyecto; si paras, espera. "
+        "Sobre su reloj, un clic abre las estadísticas; el botón derecho, el menú. Tus datos no salen de "
+        "este equipo.");
     surfaces_.statusItem().setShown(true);
     runFor(60s);
     EXPECT_EQ(machine_.notifications.delivered().size(), 1U);
