@@ -31,6 +31,8 @@ PAINTED = {
     "wellbeing/views/games_gallery": {"ochre": "games-ochre"},
     "system/views/system_gallery": {"system-1139-ochre-used": "system-ochre", "disk-1139-ochre-used": "disk-ochre"},
 }
+# Only their middle: behind the alert is no real window.
+CROPPED = {"break-ochre": (700, 640)}
 GROUND = ("#3c5a6c", "#26394a")
 CLOCK_ORIGIN = (40, 40)
 CLOCK_MARGIN = 40
@@ -157,6 +159,11 @@ def save(picture, path):
     print(path)
 
 
+def middle(picture, size):
+    left, top = ((whole - part) // 2 for whole, part in zip(picture.size, size))
+    return picture.crop((left, top, left + size[0], top + size[1]))
+
+
 def paint_documented(galleries, folder):
     for gallery, pictures in PAINTED.items():
         with tempfile.TemporaryDirectory() as painted:
@@ -167,7 +174,8 @@ def paint_documented(galleries, folder):
                 check=True,
             )
             for name, documented in pictures.items():
-                save(Image.open(Path(painted) / f"{name}.png"), folder / f"{documented}.png")
+                picture = Image.open(Path(painted) / f"{name}.png")
+                save(middle(picture, CROPPED.get(documented, picture.size)), folder / f"{documented}.png")
 
 
 def take_documented(studio, folder):
