@@ -12,11 +12,11 @@ struct RangeRow {
     std::optional<int> days;
 };
 
-constexpr std::array rangeRows{
+constexpr auto rangeRows = enumTable(std::array{
     RangeRow{InsightsRange::week, "week", "Semana", 7},
     RangeRow{InsightsRange::month, "month", "Mes", 30},
     RangeRow{InsightsRange::all, "all", "Todo", std::nullopt},
-};
+});
 
 constexpr auto ranges = valuesOf(rangeRows);
 

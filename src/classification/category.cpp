@@ -14,7 +14,7 @@ struct CategoryRow {
 };
 
 // Browsers and "other" count as productive on purpose: the user refines that.
-constexpr std::array categoryRows{
+constexpr auto categoryRows = enumTable(std::array{
     CategoryRow{Category::audioVideo, "Audio/Video", Tier::productive},
     CategoryRow{Category::design, "Diseño", Tier::productive},
     CategoryRow{Category::development, "Desarrollo", Tier::productive},
@@ -30,7 +30,7 @@ constexpr std::array categoryRows{
     CategoryRow{Category::social, "Social", Tier::distracting},
     CategoryRow{Category::other, "Otro", Tier::productive},
     CategoryRow{Category::uncategorized, "Sin categorizar", Tier::uncategorized},
-};
+});
 
 constexpr auto allValues = valuesOf(categoryRows);
 

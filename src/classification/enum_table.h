@@ -11,6 +11,15 @@ namespace tidewatch {
 // Tables of an enumeration: one row per enumerator, in the order of the enumeration, with the enumerator as
 // `value` and its stored value as `raw`.
 
+/// The table, checked: does not compile unless each row stands in the place of its enumerator.
+template <class Row, std::size_t N>
+[[nodiscard]] consteval std::array<Row, N> enumTable(const std::array<Row, N>& rows) {
+    for (std::size_t place = 0; place < N; ++place) {
+        if (static_cast<std::size_t>(rows[place].value) != place) throw "a row in another's place";
+    }
+    return rows;
+}
+
 template <class Row, std::size_t N>
 [[nodiscard]] constexpr auto valuesOf(const std::array<Row, N>& rows) {
     std::array<decltype(Row::value), N> values{};

@@ -13,12 +13,12 @@ struct TierRow {
     std::string_view displayName;
 };
 
-constexpr std::array tierRows{
+constexpr auto tierRows = enumTable(std::array{
     TierRow{Tier::productive, "productivo", "Productivo"},
     TierRow{Tier::neutral, "neutral", "Neutral"},
     TierRow{Tier::distracting, "distrayendo", "Distrayendo"},
     TierRow{Tier::uncategorized, "sincategorizar", "Sin categorizar"},
-};
+});
 
 constexpr auto tiers = valuesOf(tierRows);
 

@@ -16,7 +16,7 @@ struct WidgetRow {
     int cascadeIndex;
 };
 
-constexpr std::array widgetRows{
+constexpr auto widgetRows = enumTable(std::array{
     WidgetRow{WidgetKind::productivity, "productivity", "Productividad", "chart.pie.fill", {214, 150}, 0},
     WidgetRow{WidgetKind::system, "system", "Sistema", "cpu", {214, 176}, 1},
     WidgetRow{WidgetKind::streak, "streak", "Racha & Análisis", "flame.fill", {226, 138}, 2},
@@ -25,7 +25,7 @@ constexpr std::array widgetRows{
     WidgetRow{WidgetKind::project, "project", "Proyecto Activo", "folder.fill", {206, 92}, 5},
     WidgetRow{WidgetKind::topApps, "topApps", "Top Apps", "square.grid.2x2.fill", {214, 176}, 6},
     WidgetRow{WidgetKind::arcade, "arcade", "Mini-Arcade", "gamecontroller.fill", {214, 374}, 7},
-};
+});
 
 constexpr auto widgetKinds = valuesOf(widgetRows);
 

@@ -15,7 +15,7 @@ struct GadgetLook {
     const char* heading;
 };
 
-constexpr std::array looks{
+constexpr auto looks = enumTable(std::array{
     GadgetLook{WidgetKind::productivity, "ProductivityGadget", "PRODUCTIVIDAD HOY"},
     GadgetLook{WidgetKind::system, "SystemGadget", "SISTEMA"},
     GadgetLook{WidgetKind::streak, "StreakGadget", "RACHA & ANÁLISIS"},
@@ -24,7 +24,7 @@ constexpr std::array looks{
     GadgetLook{WidgetKind::project, "ProjectGadget", "PROYECTO ACTIVO"},
     GadgetLook{WidgetKind::topApps, "TopAppsGadget", "TOP APPS HOY"},
     GadgetLook{WidgetKind::arcade, "ArcadeGadget", ""},
-};
+});
 
 }  // namespace
 
