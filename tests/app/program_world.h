@@ -189,8 +189,8 @@ private:
     std::function<void(std::string)> placed_;
 };
 
-/// The whole program without the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front, the user
-/// welcomed long ago.
+/// The whole program without the toolkit, on a fake machine: 2026-01-15 09:00 UTC, an editor in front, the
+/// user welcomed long ago.
 class ProgramWorld : public testing::Test {
 protected:
     ProgramWorld();

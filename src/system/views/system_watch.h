@@ -7,8 +7,8 @@
 
 namespace tidewatch {
 
-/// Runs the monitor while anyone watches and it is not paused. When nobody watches any longer, a speed test is
-/// cancelled, too. Main thread only.
+/// Runs the monitor while anyone watches and it is not paused. When nobody watches any longer, a speed test
+/// is cancelled, too. Main thread only.
 class SystemWatch final {
 public:
     /// Lasts until the last copy is destroyed.
