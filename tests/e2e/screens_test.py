@@ -1,12 +1,14 @@
 """Screens that are detached, change their resolution or their scale factor while the program runs."""
 
 import contextlib
+import json
 import unittest
 
 from harness.monitors import Monitors
 from harness.screen import Rectangle, difference
 from harness.shared_settings import SharedSettings
 from harness.waiting import stays, wait_until
+from harness.widgets import SIZES, Widgets
 from harness.world import World
 
 DESKTOP = (1920, 1080)
@@ -15,6 +17,8 @@ MARGIN = 24
 SIZE = (220, 124)
 LABEL = Rectangle(20, 14, 180, 20)
 """What stands still on the clock, without a scale factor, from its top left corner."""
+
+WIDGET = "project"
 
 
 class Screens(unittest.TestCase):
@@ -119,6 +123,53 @@ class Screens(unittest.TestCase):
         self.drag_by(world, -900, 0)
         wait_until(lambda: world.clock().frame.width == SIZE[0], "the clock at its size")
         self.assertTrue(LEFT.contains(*world.clock().frame.centre))
+
+    def enter_with_widget(self, name, place):
+        """With the one widget that shows nothing that changes: no project is active."""
+        world = self.enter(name)
+        world.home.write("widgets.json", json.dumps({WIDGET: {"visible": True, "x": place[0], "y": place[1], "scale": 1}}))
+        return world, Widgets(world)
+
+    def wait_for_widget(self, widgets, x, y, factor=1):
+        width, height = SIZES[WIDGET]
+        frame = Rectangle(x, y, width * factor, height * factor)
+        wait_until(lambda: widgets.window(WIDGET) and widgets.window(WIDGET).frame == frame, f"the widget at {frame}")
+        stays(lambda: widgets.window(WIDGET).frame == frame, f"the widget at {frame}")
+
+    def test_a_widget_whose_screen_is_detached_comes_into_reach_and_goes_back_with_it(self):
+        world, widgets = self.enter_with_widget("screens-widget-detached", (1400, 700))
+        monitors = self.two_monitors(world)
+        world.start_program()
+        self.wait_for_widget(widgets, 1400, 700)
+        monitors.detach("right")
+        wait_until(lambda: LEFT.contains(*widgets.window(WIDGET).frame.centre), "the widget on the other screen")
+        self.assertEqual(json.loads((world.home.data / "widgets.json").read_text())[WIDGET]["x"], 1400)
+        monitors.attach("right", RIGHT)
+        self.wait_for_widget(widgets, 1400, 700)
+
+    def test_another_scale_factor_redraws_a_widget_as_after_a_start(self):
+        world, widgets = self.enter_with_widget("screens-widget-scale", (600, 300))
+        settings = self.enterContext(contextlib.closing(SharedSettings(world.display)))
+
+        def picture():
+            return world.screen.grab(widgets.window(WIDGET).frame)
+
+        program = world.start_program()
+        self.wait_for_widget(widgets, 600, 300)
+        plain = picture()
+        settings.set_scale(2)
+        self.wait_for_widget(widgets, 1200, 600, factor=2)
+        doubled = picture()
+        world.screenshot("doubled")
+        settings.set_scale(1)
+        self.wait_for_widget(widgets, 600, 300)
+        wait_until(lambda: difference(plain, picture()) is None, "the widget as it was")
+        settings.set_scale(2)
+        world.stop_program(program)
+        world.start_program()
+        self.wait_for_widget(widgets, 1200, 600, factor=2)
+        wait_until(lambda: difference(doubled, picture()) is None, "the same picture after a start")
+        self.assertIsNotNone(difference(plain.resize(doubled.size), doubled))
 
 
 if __name__ == "__main__":
