@@ -26,6 +26,8 @@ class Arcade:
     def open(self):
         """It comes with the statistics, which a second start of the program shows."""
         self._world.start_program(wait_for_clock=False).wait()
+        # These may come last, and would then cover it.
+        wait_until(self._world.statistics, "the statistics window")
         window = wait_until(self.window, "the mini-arcade")
         self._world.input.focus(window.id)
 

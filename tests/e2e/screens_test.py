@@ -32,6 +32,17 @@ class Screens(unittest.TestCase):
         wait_until(lambda: world.clock() and world.clock().frame == frame, f"the clock at {frame}")
         stays(lambda: world.clock().frame == frame, f"the clock at {frame}")
 
+    def frame_at_rest(self, world):
+        """Where the clock is, once it has been there for a second."""
+        frames = []
+
+        def rests():
+            frames.append(world.clock().frame)
+            return len(frames) > 10 and all(frame == frames[-1] for frame in frames[-10:])
+
+        wait_until(rests, "the clock to rest", every=0.1)
+        return frames[-1]
+
     def drag_by(self, world, x, y):
         start = world.clock().frame.centre
         world.input.drag(start, (start[0] + x, start[1] + y))
@@ -110,11 +121,10 @@ class Screens(unittest.TestCase):
         self.wait_for_frame(world, 500, 200, *SIZE)
         self.drag_by(world, 700, 100)
         wait_until(lambda: world.clock().frame.width == 2 * SIZE[0], "the clock at twice the size")
+        frame = self.frame_at_rest(world)
         world.screenshot("right")
-        frame = world.clock().frame
         self.assertEqual(frame.height, 2 * SIZE[1])
         self.assertTrue(RIGHT.contains(*frame.centre))
-        self.wait_for_frame(world, frame.x, frame.y, frame.width, frame.height)
         doubled = self.label(world, 2)
         world.stop_program(program)
         program = world.start_program(environment=factors)
