@@ -6,7 +6,7 @@ from contextlib import contextmanager
 
 from harness.accessibility import wait_for_window
 from harness.timing import Elapsed, EventTime
-from harness.waiting import wait_until
+from harness.waiting import repeat_until, wait_until
 from harness.world import World
 
 TITLE = "Mini-Arcade"
@@ -26,10 +26,9 @@ class Arcade:
     def open(self):
         """It comes with the statistics, which a second start of the program shows."""
         self._world.start_program(wait_for_clock=False).wait()
-        # These may come last, and would then cover it.
         wait_until(self._world.statistics, "the statistics window")
-        window = wait_until(self.window, "the mini-arcade")
-        self._world.input.focus(window.id)
+        wait_until(self.window, "the mini-arcade")
+        self._bring_to_front()
 
     def window(self):
         return self._world.screen.window(title=TITLE)
@@ -41,12 +40,20 @@ class Arcade:
     def shows(self, name):
         return bool(self._shown(self._read(), name))
 
-    def click(self, name):
-        self._world.input.click(*self.wait_for(name, "push button").frame().centre)
+    def click(self, name, result):
+        """Clicks the button until `result` is on the screen: the statistics may come late and cover the first click."""
+        def click():
+            self._bring_to_front()
+            self._world.input.click(*self.wait_for(name, "push button").frame().centre)
+
+        repeat_until(click, lambda: self.shows(result), f"{result!r} after a click on {name!r}")
 
     def close(self):
         self._world.input.key("alt+F4")
         wait_until(lambda: self.window() is None, "the mini-arcade to close")
+
+    def _bring_to_front(self):
+        self._world.input.focus(self.window().id)
 
     def _read(self, condition=lambda window: True, what="the mini-arcade"):
         return wait_for_window(self._world.accessibility, self._pid, TITLE, condition, what)
@@ -76,7 +83,7 @@ class Games(unittest.TestCase):
             arcade.open()
             arcade.wait_for("¡PARTIDA LISTA!")
             world.screenshot("ready", arcade.window().frame)
-            began = EventTime.of(lambda: (arcade.click("JUGAR TETRIS"), arcade.wait_for("Tetris, en juego")))
+            began = EventTime.of(lambda: arcade.click("JUGAR TETRIS", "Tetris, en juego"))
             self.assertEqual(world.home.setting("gate.ready"), "false", "the game is spent")
 
             until = time.monotonic() + SECONDS_OF_PLAY
@@ -85,13 +92,12 @@ class Games(unittest.TestCase):
             world.screenshot("playing", arcade.window().frame)
             world.input.key("p")
             arcade.wait_for("PAUSA")
-            arcade.click("Continuar")
-            arcade.wait_for("Tetris, en juego")
+            arcade.click("Continuar", "Tetris, en juego")
             while not arcade.shows("GAME OVER"):
                 world.input.key("space")
             world.screenshot("over", arcade.window().frame)
             self.assertFalse(arcade.shows("EN PAUSA"), "the final board stays")
-            ended = EventTime.of(lambda: (arcade.click("Salir"), arcade.wait_for("EN PAUSA")))
+            ended = EventTime.of(lambda: arcade.click("Salir", "EN PAUSA"))
             world.screenshot("locked", arcade.window().frame)
             world.stop_program(program)
 
@@ -105,7 +111,7 @@ class Games(unittest.TestCase):
     def test_closing_the_window_during_a_game_ends_the_session_and_reopening_shows_the_lock(self):
         with running("games-closed") as (world, program, arcade):
             arcade.open()
-            began = EventTime.of(lambda: (arcade.click("JUGAR TETRIS"), arcade.wait_for("Tetris, en juego")))
+            began = EventTime.of(lambda: arcade.click("JUGAR TETRIS", "Tetris, en juego"))
             ended = EventTime.of(arcade.close)
             arcade.open()
             arcade.wait_for("EN PAUSA")
