@@ -31,6 +31,7 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .title = [this] { return statusTitle(); },
           .menu = [this] { return buildStatusMenu(menu_); },
           .trayKnown = [&services](bool hasTray) { welcome(services.wellbeing.notifications, hasTray); },
+          .trayMissing = [this] { clock_.hintAtMenu(); },
       }),
       clock_({
           .settings = services.counting.settings,
@@ -39,6 +40,7 @@ Program::Program(const platform::Platform& platform, Services& services, const S
           .theme = services.theme,
           .surfaces = screen.surfaces,
           .openMenu = [this] { statusBar_.openMenu(); },
+          .hasTray = [this] { return statusBar_.isInTray(); },
       }),
       widgetDependencies_({
           .hub = services.widgets.hub,

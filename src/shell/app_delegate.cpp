@@ -30,6 +30,7 @@ void AppDelegate::applicationWillTerminate() {
 void AppDelegate::applicationShouldHandleReopen() {
     dependencies_.record.flushForReopening();
     dependencies_.statistics.showWindow();
+    dependencies_.clock.bringBackWithoutTray();
 }
 
 void AppDelegate::flushAllStores() {

@@ -20,6 +20,18 @@ void FloatingClock::toggleVisible() {
         panel_->orderFrontRegardless();
     }
     dependencies_.settings.setWindowVisible(!wasVisible);
+    if (wasVisible && !dependencies_.hasTray()) hintAtMenu();
+}
+
+void FloatingClock::bringBackWithoutTray() {
+    if (!panel_->isVisible() && !dependencies_.hasTray()) toggleVisible();
+}
+
+void FloatingClock::hintAtMenu() {
+    dependencies_.surfaces.showHint(
+        panel_->isVisible()
+            ? "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj."
+            : "No hay bandeja del sistema: para volver a ver el reloj y su menú, abre Tidewatch otra vez.");
 }
 
 FloatingPanel::Owner FloatingClock::owner() {

@@ -29,6 +29,8 @@ public:
         Surfaces& surfaces;
         /// Opens the program's menu, when requested on the clock.
         std::function<void()> openMenu;
+        /// Whether the menu can also be opened from a tray.
+        std::function<bool()> hasTray;
     };
 
     explicit FloatingClock(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
@@ -40,8 +42,14 @@ public:
     /// Applies a size changed by theme or settings.
     void applySize();
 
-    /// Shows or hides it, persistently.
+    /// Shows or hides it, persistently. Without a tray, a hint says how a hidden clock comes back.
     void toggleVisible();
+
+    /// Shows a hidden clock, persistently, if there is no tray whose menu could.
+    void bringBackWithoutTray();
+
+    /// Tells the user where the menu is without a tray.
+    void hintAtMenu();
 
 private:
     [[nodiscard]] FloatingPanel::Owner owner();

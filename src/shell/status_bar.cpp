@@ -6,7 +6,7 @@ namespace tidewatch {
 
 namespace {
 
-/// How long a tray may take to appear before the user is notified, in seconds; at session start the program
+/// How long a tray may take to appear before it counts as missing, in seconds; at session start the program
 /// may be faster than the tray.
 constexpr int trayTimeout = 10;
 
@@ -32,14 +32,13 @@ void StatusBar::openMenu() {
 
 void StatusBar::secondPassed() {
     if (secondsWithoutTray_ > trayTimeout) return;
-    if (item_->isShown()) {
+    if (isInTray()) {
         secondsWithoutTray_ = 0;
         reportTray(true);
         return;
     }
     if (++secondsWithoutTray_ <= trayTimeout) return;
-    dependencies_.surfaces.showHint(
-        "No hay bandeja del sistema: el menú se abre con el botón derecho sobre el reloj.");
+    dependencies_.trayMissing();
     reportTray(false);
 }
 

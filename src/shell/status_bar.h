@@ -25,6 +25,8 @@ public:
         std::function<MenuRows()> menu;
         /// Called once, when the item is in a tray or when none has appeared for a while.
         std::function<void(bool hasTray)> trayKnown;
+        /// Called once, when there has been no tray for a while.
+        std::function<void()> trayMissing;
     };
 
     explicit StatusBar(Dependencies dependencies) : dependencies_(std::move(dependencies)) {}
@@ -35,8 +37,10 @@ public:
     void refreshTitle();
     void openMenu();
 
-    /// Must be called once a second: looks for the tray, and gives a hint once if it has been missing for a
-    /// while.
+    /// Whether a tray shows the item.
+    [[nodiscard]] bool isInTray() const { return item_->isShown(); }
+
+    /// Must be called once a second: looks for the tray.
     void secondPassed();
 
 private:

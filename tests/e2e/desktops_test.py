@@ -99,16 +99,16 @@ class Core(unittest.TestCase):
         return self.menu.open_from_tray() if DESKTOP.tray else self.menu.open_from_clock()
 
     def show_clock_again(self):
-        """By a row of the menu, which only a tray opens while the clock is hidden."""
-        if not DESKTOP.tray:
-            self.world.stop_program(self.program)
-            self.start_again()
-            return
-        for shown in (False, True):
-            self.menu.click_row_until(
-                self.open_menu, rows.TOGGLE_VISIBLE, lambda: bool(self.world.clock()) == shown,
-                "the clock to come back" if shown else "the clock to hide",
-            )
+        """By a row of the menu; without a tray, whose menu is gone with the clock, by a second start."""
+        self.click_toggle("the clock to hide", lambda: self.world.clock() is None)
+        if DESKTOP.tray:
+            self.click_toggle("the clock to come back", self.world.clock)
+        else:
+            self.world.start_program(wait_for_clock=False).wait()
+            wait_until(self.world.clock, "the clock to come back")
+
+    def click_toggle(self, what, condition):
+        self.menu.click_row_until(self.open_menu, rows.TOGGLE_VISIBLE, condition, what)
 
     def test_work_is_booked_to_the_application_in_front_and_absence_is_not(self):
         self.start(idleThresholdSeconds=THRESHOLD)
@@ -130,9 +130,7 @@ class Core(unittest.TestCase):
         popup = self.open_menu()
         self.world.screenshot("menu")
         self.menu.close()
-        self.menu.click_row_until(
-            self.open_menu, rows.TOGGLE_VISIBLE, lambda: self.world.clock() is None, "the clock to hide"
-        )
+        self.click_toggle("the clock to hide", lambda: self.world.clock() is None)
         wait_until(lambda: self.world.home.setting("windowVisible") == "false", "the setting")
 
     @needs("window_manager")

@@ -2,7 +2,7 @@
 
 import unittest
 
-from harness.menu import QUIT, Menu
+from harness.menu import QUIT, TOGGLE_VISIBLE, Menu
 from harness.waiting import stays, wait_until
 from harness.world import World, sleep_until
 
@@ -24,6 +24,30 @@ class Tray(unittest.TestCase):
             menu.open_from_clock()
             menu.choose(QUIT)
             self.assertEqual(program.wait(), 0)
+
+    def test_without_one_a_hidden_clock_says_how_it_comes_back_and_does(self):
+        with World("tray-none-hidden", tray=False) as world:
+            world.home.write_settings(sizeScale=1.0)
+            program = world.start_program()
+            place = world.clock().frame
+            menu = Menu(world)
+            menu.open_from_clock()
+            menu.choose(TOGGLE_VISIBLE)
+            wait_until(lambda: world.clock() is None, "the clock to hide")
+            wait_until(lambda: self.tooltip(world), "the hint")
+            world.screenshot("hidden")
+            world.start_program(wait_for_clock=False).wait()
+            wait_until(world.clock, "the clock")
+            self.assertEqual(world.clock().frame, place)
+            wait_until(lambda: world.home.setting("windowVisible") == "true", "the setting")
+            world.screenshot("back")
+            menu.open_from_clock()
+            menu.choose(QUIT)
+            self.assertEqual(program.wait(), 0)
+
+    @staticmethod
+    def tooltip(world):
+        return next((window for window in world.screen.windows() if world.screen.is_tooltip(window.id)), None)
 
     def test_one_that_comes_later_takes_the_icon(self):
         with World("tray-later", tray=False) as world:

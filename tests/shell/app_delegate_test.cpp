@@ -10,6 +10,9 @@ namespace {
 using namespace std::chrono;
 using namespace std::chrono_literals;
 
+constexpr auto hiddenClockHint =
+    "No hay bandeja del sistema: para volver a ver el reloj y su menú, abre Tidewatch otra vez.";
+
 class AppDelegateTest : public ProgramWorld {
 protected:
     void clickPanel() {
@@ -140,11 +143,12 @@ TEST_F(AppDelegateTest, AReopenShowsTheStatisticsWindowWhetherOrNotItIsVisible) 
 }
 
 TEST_F(AppDelegateTest, AReopenLeavesAHiddenPanelHidden) {
-    machine_.preferences.setBoolean("windowVisible", false);
     launch();
+    ASSERT_TRUE(choose("Ocultar ventana"));
     program_->delegate.applicationShouldHandleReopen();
     EXPECT_TRUE(statistics_.isVisible());
     EXPECT_FALSE(surfaces_.panel().isVisible());
+    EXPECT_TRUE(surfaces_.hints().empty());
 }
 
 TEST_F(AppDelegateTest, TheEndWritesEverythingAndARestartContinuesTheDay) {
@@ -263,6 +267,29 @@ TEST_F(AppDelegateTest, AFirstStartWithoutATrayPointsToTheClock) {
     surfaces_.statusItem().setShown(true);
     runFor(60s);
     EXPECT_EQ(machine_.notifications.delivered().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, AClockThatIsHiddenWithoutATrayComesBackAtASecondStart) {
+    launch();
+    surfaces_.statusItem().setShown(false);
+    ASSERT_TRUE(choose("Ocultar ventana"));
+    EXPECT_EQ(surfaces_.hints(), std::vector<std::string>{hiddenClockHint});
+    ASSERT_FALSE(surfaces_.panel().isVisible());
+    program_->delegate.applicationShouldHandleReopen();
+    EXPECT_TRUE(surfaces_.panel().isVisible());
+    EXPECT_TRUE(program_->services.counting.settings.windowVisible());
+    program_->delegate.applicationShouldHandleReopen();
+    EXPECT_TRUE(surfaces_.panel().isVisible());
+    EXPECT_EQ(surfaces_.hints().size(), 1U);
+}
+
+TEST_F(AppDelegateTest, AMissingTrayIsNotSaidToHaveItsMenuOnAHiddenClock) {
+    machine_.preferences.setBoolean("windowVisible", false);
+    launch();
+    surfaces_.statusItem().setShown(false);
+    runFor(60s);
+    EXPECT_EQ(surfaces_.hints(), std::vector<std::string>{hiddenClockHint});
+    EXPECT_FALSE(surfaces_.panel().isVisible());
 }
 
 TEST_F(AppDelegateTest, ATrayThatComesLateIsNotMissed) {

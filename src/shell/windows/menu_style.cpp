@@ -38,7 +38,7 @@ MenuInk menuInk(const DashboardStyle& style) {
 QString hintStyleSheet(const DashboardStyle& style) {
     const auto shade = [&](const Color& colour) { return over(style.bg, colour).name(); };
     return QStringLiteral(
-               "QLabel { background: %1; border: 1px solid %2; color: %3; padding: 10px; font-size: 13px; }")
+               "QLabel { background: %1; border: 1px solid %2; color: %3; padding: 10px; font: 13px Inter; }")
         .arg(shade(style.card), shade(style.stroke), shade(style.primaryText));
 }
 

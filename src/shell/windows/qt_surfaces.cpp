@@ -110,9 +110,9 @@ void QtSurfaces::showHint(const std::string& hint) {
     label->adjustSize();
     if (clockWindow_ && clockWindow_->screen() != nullptr) {
         const auto free = clockWindow_->screen()->availableGeometry();
-        const auto below = clockWindow_->geometry().bottomLeft() + QPoint(0, hintGap);
-        label->move(std::clamp(below.x(), free.left(), std::max(free.left(), free.right() - label->width())),
-                    std::min(below.y(), free.bottom() - label->height()));
+        const auto clock = clockWindow_->geometry();
+        label->move(std::max(free.left(), clock.right() + 1 - label->width()),
+                    std::min(clock.bottom() + hintGap, free.bottom() - label->height()));
     }
     label->show();
     QTimer::singleShot(hintMilliseconds, label, &QWidget::close);

@@ -79,7 +79,7 @@ class Menu:
 
     def _can_be_ours(self, window):
         if window.window_class == CLOCK_CLASS:
-            return True
+            return not self._world.screen.is_tooltip(window.id)
         tray = self._world.desktop.tray
         return tray is not None and not tray.embeds and self._world.screen.is_menu(window.id)
 

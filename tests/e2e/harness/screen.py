@@ -130,8 +130,14 @@ class Screen:
 
     def is_menu(self, window_id):
         """Whether a window says that it is one."""
-        types = {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_WINDOW_TYPE")}
-        return bool(types & {"_NET_WM_WINDOW_TYPE_POPUP_MENU", "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"})
+        return bool(self._types(window_id) & {"_NET_WM_WINDOW_TYPE_POPUP_MENU", "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"})
+
+    def is_tooltip(self, window_id):
+        """Whether a window says that it is one."""
+        return "_NET_WM_WINDOW_TYPE_TOOLTIP" in self._types(window_id)
+
+    def _types(self, window_id):
+        return {self._display.get_atom_name(atom) for atom in self.property(window_id, "_NET_WM_WINDOW_TYPE")}
 
     def active_window(self):
         """The id of the focused window, or 0."""
