@@ -1,7 +1,7 @@
-"""The cost of the mini-arcade in the demonstration's window: the brick game at play, paused and over; whether its frames
-are even; what stays in memory after it."""
+"""The cost of the mini-arcade as a widget: the brick game at play, paused and over; whether its frames are even; what stays
+in memory after it."""
 
-import os
+import json
 import sys
 import time
 from contextlib import contextmanager
@@ -17,9 +17,11 @@ from Xlib.ext import damage, xtest  # noqa: E402
 from bench_statistics import after_a_write  # noqa: E402
 from harness.screen import Rectangle  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
-from harness.world import PROGRAM, World  # noqa: E402
+from harness.widgets import Widgets, all_placed  # noqa: E402
+from harness.world import World  # noqa: E402
 
-TITLE = "Mini-Arcade"
+NAME = "arcade"
+OTHER = "project"  # a widget without a game
 CHARGED = {"gate.initialized": "true", "gate.workSeconds": 3600, "gate.ready": "true", "gate.lockedUntil": 0}
 
 MEASURED_SECONDS = 10 if JUDGED else 4
@@ -37,10 +39,13 @@ PARTS_OF_A_FRAME_MILLISECONDS = 2
 LATE_LIMIT = 1
 LEFT_BEHIND_LIMIT = 2  # megabytes of private memory
 
-# In the window.
+# In the widget.
+NEXT_GAME, PLAY = (190, 24), (107, 236)
+BUTTON_GROUND = (50, 224)
+PAUSE, LAUNCH = (25, 332), (159, 332)
 BOARD = Rectangle(32, 38, 150, 252)
 BELOW_THE_BRICKS = Rectangle(BOARD.x + 2, BOARD.y + 86, BOARD.width - 4, 140)
-BALL = (122, 217, 143)
+GREEN = (122, 217, 143)  # the button, the first row of bricks, the ball
 SIMILAR = 40
 FIRST_BRICK = (BOARD.x + 13, BOARD.y + 15)
 BACK_AND_FORTH_SECONDS = 0.03
@@ -50,56 +55,39 @@ def moved(area, by):
     return Rectangle(area.x + by.x, area.y + by.y, area.width, area.height)
 
 
-def close_statistics(world):
-    """Waits for the window first."""
-    window = wait_until(world.statistics, "the statistics window")
-    world.input.focus(window.id)
-    world.input.key("ctrl+w")
-    wait_until(lambda: world.statistics() is None, "the statistics to close")
-
-
 class Arcade:
-    """The window, which has the focus."""
+    """The widget, played with the mouse."""
 
     def __init__(self, world):
         self._world = world
+        self._widgets = Widgets(world)
         self._display = display.Display(world.display)
 
     def open(self):
-        """Shows it by a second start, which shows the statistics too; these are closed again."""
-        self._world.start_program(wait_for_clock=False).wait()
-        close_statistics(self._world)
-        self.take_over()
-
-    def take_over(self):
-        """Gives the window that is there the focus. Another that is just being shown would take it away again."""
-        self.window = wait_until(lambda: self._world.screen.window(title=TITLE), "the mini-arcade")
-        self._world.input.focus(self.window.id)
+        self._widgets.toggle(NAME)
+        self.window = self._widgets.window(NAME)
 
     def close(self):
-        self._world.input.focus(self.window.id)
-        self._world.input.key("alt+F4")
-        wait_until(lambda: not self._world.screen.window(title=TITLE), "the mini-arcade to close")
+        self._widgets.toggle(NAME)
 
     def start_bricks(self):
-        self._world.input.key("Tab", "Return", "Tab", "Tab", "Return")
+        wait_until(lambda: self._looks_like(GREEN, BUTTON_GROUND), "the button")
+        self._click(NEXT_GAME)
+        self._click(PLAY)
         wait_until(lambda: self._world.home.setting("gate.ready") == "false", "the game")
-        wait_until(lambda: self._looks_like_the_ball(self._pixel(*FIRST_BRICK)), "the wall")
-        # To the first of the controls.
-        self._world.input.key("Tab")
+        wait_until(lambda: self._looks_like(GREEN, FIRST_BRICK), "the wall")
 
     def launch(self):
-        self._world.input.key("space")
+        self._click(LAUNCH)
 
     def toggle_pause(self):
-        self._world.input.key("Return")
+        self._click(PAUSE)
 
     def play(self, seconds):
         """Drags the paddle along below the ball, and launches the next one if one is lost; returns how many were."""
         frame = self.window.frame
         board = moved(BOARD, frame)
-        self._move(board.centre[0], board.bottom - 20)
-        xtest.fake_input(self._display, X.ButtonPress, 1)
+        self._grip_paddle(board.centre[0])
         until = time.monotonic() + seconds
         seen, lost = time.monotonic(), 0
         while time.monotonic() < until:
@@ -108,11 +96,12 @@ class Arcade:
                 seen = time.monotonic()
                 self._move(ball, board.bottom - 20)
             elif time.monotonic() - seen > 1.5:
+                self._release_paddle()
                 self.launch()
+                self._grip_paddle(board.centre[0])
                 seen, lost = time.monotonic(), lost + 1
             time.sleep(BACK_AND_FORTH_SECONDS)
-        xtest.fake_input(self._display, X.ButtonRelease, 1)
-        self._display.sync()
+        self._release_paddle()
         return lost
 
     def lose(self):
@@ -145,6 +134,19 @@ class Arcade:
                     drawn.append(event.timestamp)
             connection.close()
 
+    def _click(self, place):
+        frame = self.window.frame
+        self._world.input.click(frame.x + place[0], frame.y + place[1])
+
+    def _grip_paddle(self, x):
+        self._move(x, moved(BOARD, self.window.frame).bottom - 20)
+        xtest.fake_input(self._display, X.ButtonPress, 1)
+        self._display.sync()
+
+    def _release_paddle(self):
+        xtest.fake_input(self._display, X.ButtonRelease, 1)
+        self._display.sync()
+
     def _move(self, x, y):
         xtest.fake_input(self._display, X.MotionNotify, x=int(x), y=int(y))
         self._display.sync()
@@ -153,18 +155,15 @@ class Arcade:
         """Where it is across the screen; None if it is not below the bricks."""
         area = moved(BELOW_THE_BRICKS, self.window.frame)
         picture = self._world.screen.grab(area)
-        channels = ImageChops.difference(picture, Image.new("RGB", picture.size, BALL)).split()
+        channels = ImageChops.difference(picture, Image.new("RGB", picture.size, GREEN)).split()
         differences = ImageChops.lighter(ImageChops.lighter(channels[0], channels[1]), channels[2])
         box = differences.point(lambda value: 255 if value < SIMILAR else 0).getbbox()
         return None if box is None else area.x + (box[0] + box[2]) / 2
 
-    @staticmethod
-    def _looks_like_the_ball(color):
-        return max(abs(one - other) for one, other in zip(color, BALL)) < SIMILAR
-
-    def _pixel(self, x, y):
+    def _looks_like(self, color, place):
         frame = self.window.frame
-        return self._world.screen.pixel(frame.x + x, frame.y + y)
+        pixel = self._world.screen.pixel(frame.x + place[0], frame.y + place[1])
+        return max(abs(one - other) for one, other in zip(pixel, color)) < SIMILAR
 
     def _is_over(self):
         """The score is stored at the end."""
@@ -178,6 +177,12 @@ def late_frames(drawn):
     gaps = [after - before for before, after in zip(frames, frames[1:])]
     limit = 1000 / FRAMES_A_SECOND + LATE_MILLISECONDS
     return sum(gap > limit for gap in gaps), max(gaps), len(frames)
+
+
+def prepare(world):
+    """An earned game, and all widgets hidden in their places."""
+    world.home.write_settings(**CHARGED)
+    world.home.write("widgets.json", json.dumps({name: {**state, "visible": False} for name, state in all_placed().items()}))
 
 
 def measure_play(report, world):
@@ -223,42 +228,49 @@ def measure_rest(report, world, program, what, alone, limit):
     report.line(f"a second more than the clock, {what}", (spent - alone) / REST_SECONDS, limit, "ms")
 
 
-def left_behind(world, binary, game):
-    """How much more memory a program has once its windows have been shown and closed again, in megabytes."""
-    program = world.start(binary)
-    wait_until(world.clock, "the clock")
+def left_behind(world, show):
+    """How much more memory a program has once `show(world)` has shown a widget and hidden it again, in megabytes."""
+    program = world.start_program()
     time.sleep(SETTLE_SECONDS)
     before = private_megabytes(program)
-    world.start(binary).wait()
-    close_statistics(world)
-    if game:
-        arcade = Arcade(world)
-        arcade.take_over()
-        arcade.start_bricks()
-        arcade.launch()
-        arcade.play(MEASURED_SECONDS)
-        arcade.close()
+    show(world)
     time.sleep(SETTLE_SECONDS)
     more = private_megabytes(program) - before
-    program.end()
+    world.stop_program(program)
     return more
 
 
+def show_other_widget(world):
+    widgets = Widgets(world)
+    for _ in range(2):
+        widgets.toggle(OTHER)
+        time.sleep(SETTLE_SECONDS)
+
+
+def play_a_game(world):
+    arcade = Arcade(world)
+    arcade.open()
+    arcade.start_bricks()
+    arcade.launch()
+    arcade.play(MEASURED_SECONDS)
+    arcade.close()
+
+
 def measure_memory(report):
-    """The demonstration, whose mini-arcade comes with the statistics, beside the program, which has the statistics alone."""
     with World("bench-arcade-memory") as world, World("bench-arcade-no-games") as plain:
-        world.home.write_settings(**CHARGED)
-        without = left_behind(plain, os.environ["TIDEWATCH_PROGRAM_WITHOUT_GAMES"], game=False)
-        with_game = left_behind(world, PROGRAM, game=True)
-    report.remark("more memory after the statistics", without, "MB")
-    report.remark("more memory after statistics and a game", with_game, "MB")
+        for each in (world, plain):
+            prepare(each)
+        without = left_behind(plain, show_other_widget)
+        with_game = left_behind(world, play_a_game)
+    report.remark("more memory after a widget without a game", without, "MB")
+    report.remark("more memory after a game", with_game, "MB")
     report.line("left behind by the game", with_game - without, LEFT_BEHIND_LIMIT, "MB")
 
 
 def main():
     report = Report()
     with World("bench-arcade") as world:
-        world.home.write_settings(**CHARGED)
+        prepare(world)
         measure_play(report, world)
     measure_memory(report)
     return 1 if report.exceeded else 0

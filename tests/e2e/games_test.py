@@ -1,15 +1,15 @@
-"""The mini-arcade in the demonstration's window: an earned game is played with real keys, and its time is booked."""
+"""The mini-arcade beside the statistics: an earned game is played with real keys, and its time is booked."""
 
 import time
 import unittest
 from contextlib import contextmanager
 
-from harness.accessibility import wait_for_window
+from harness.statistics_window import StatisticsWindow
 from harness.timing import Elapsed, EventTime
 from harness.waiting import repeat_until, wait_until
-from harness.world import World
+from harness.world import WIDTH, World
 
-TITLE = "Mini-Arcade"
+HEIGHT = 1080  # shows all of the column beside the tabs
 GAMES = "com.brightlooms.fathom.games"
 SECONDS_OF_PLAY = 5
 
@@ -17,50 +17,38 @@ CHARGED = {"gate.initialized": "true", "gate.workSeconds": 3600, "gate.ready": "
 
 
 class Arcade:
-    """The window, operated by input events and read through the accessibility bus."""
+    """Its card in the statistics window, operated by input events and read through the accessibility bus."""
 
     def __init__(self, world, program):
         self._world = world
-        self._pid = program.pid
+        self._statistics = StatisticsWindow(world, program)
 
     def open(self):
-        """It comes with the statistics, which a second start of the program shows."""
-        self._world.start_program(wait_for_clock=False).wait()
-        wait_until(self._world.statistics, "the statistics window")
-        wait_until(self.window, "the mini-arcade")
-        self._bring_to_front()
-
-    def window(self):
-        return self._world.screen.window(title=TITLE)
-
-    def wait_for(self, name, role=None):
-        """The object with this name, once it is on the screen."""
-        return self._shown(self._read(lambda window: self._shown(window, name, role), repr(name)), name, role)[0]
-
-    def shows(self, name):
-        return bool(self._shown(self._read(), name))
-
-    def click(self, name, result):
-        """Clicks the button until `result` is on the screen: the statistics may come late and cover the first click."""
-        def click():
-            self._bring_to_front()
-            self._world.input.click(*self.wait_for(name, "push button").frame().centre)
-
-        repeat_until(click, lambda: self.shows(result), f"{result!r} after a click on {name!r}")
+        self._statistics.open()
 
     def close(self):
-        self._world.input.key("alt+F4")
-        wait_until(lambda: self.window() is None, "the mini-arcade to close")
+        self._world.input.key("ctrl+w")
+        wait_until(lambda: self._world.statistics() is None, "the statistics to close")
 
-    def _bring_to_front(self):
-        self._world.input.focus(self.window().id)
+    def frame(self):
+        return self._statistics.wait_for_text("panel", "Mini-Arcade").frame()
 
-    def _read(self, condition=lambda window: True, what="the mini-arcade"):
-        return wait_for_window(self._world.accessibility, self._pid, TITLE, condition, what)
+    def wait_for(self, name):
+        self._statistics.wait_for(lambda read: self._shown(read, name), f"{name!r} on the screen")
+
+    def shows(self, name):
+        return self._shown(self._statistics.wait_for(lambda read: True, "the window"), name)
+
+    def click(self, name, result):
+        """Clicks the button until `result` is on the screen."""
+        repeat_until(
+            lambda: self._statistics.click("push button", name), lambda: self.shows(result),
+            f"{result!r} after a click on {name!r}",
+        )
 
     @staticmethod
-    def _shown(window, name, role=None):
-        return [node for node in window.find(role, name) if "showing" in node.states]
+    def _shown(window, name):
+        return any("showing" in node.states for node in window.find(name=name))
 
 
 def booked(home, name):
@@ -71,7 +59,7 @@ def booked(home, name):
 @contextmanager
 def running(name):
     """A program with an earned game, and its mini-arcade."""
-    with World(name, accessibility=True) as world:
+    with World(name, accessibility=True, size=(WIDTH, HEIGHT)) as world:
         world.home.write_settings(**CHARGED)
         program = world.start_program()
         yield world, program, Arcade(world, program)
@@ -82,23 +70,23 @@ class Games(unittest.TestCase):
         with running("games") as (world, program, arcade):
             arcade.open()
             arcade.wait_for("¡PARTIDA LISTA!")
-            world.screenshot("ready", arcade.window().frame)
+            world.screenshot("ready", arcade.frame())
             began = EventTime.of(lambda: arcade.click("JUGAR TETRIS", "Tetris, en juego"))
             self.assertEqual(world.home.setting("gate.ready"), "false", "the game is spent")
 
             until = time.monotonic() + SECONDS_OF_PLAY
             while time.monotonic() < until:
                 world.input.key("Left", "Up", "Right", "Down")
-            world.screenshot("playing", arcade.window().frame)
+            world.screenshot("playing", arcade.frame())
             world.input.key("p")
             arcade.wait_for("PAUSA")
             arcade.click("Continuar", "Tetris, en juego")
             while not arcade.shows("GAME OVER"):
                 world.input.key("space")
-            world.screenshot("over", arcade.window().frame)
+            world.screenshot("over", arcade.frame())
             self.assertFalse(arcade.shows("EN PAUSA"), "the final board stays")
             ended = EventTime.of(lambda: arcade.click("Salir", "EN PAUSA"))
-            world.screenshot("locked", arcade.window().frame)
+            world.screenshot("locked", arcade.frame())
             world.stop_program(program)
 
             seconds = booked(world.home, "apps.json")

@@ -49,7 +49,7 @@ Application::~Application() {
     QObject::disconnect(&toolkit_, &QObject::destroyed, nullptr, nullptr);
 }
 
-int Application::run(const platform::Platform& platform, const Addition& addition) {
+int Application::run(const platform::Platform& platform) {
     const auto directory = dataDirectory(platform.files);
     if (const auto made = platform.files.createDirectories(directory); !made) {
         platform.log.warning("Tidewatch: " + made.error().message);
@@ -66,7 +66,6 @@ int Application::run(const platform::Platform& platform, const Addition& additio
     platform.termination.onRequested([] { QCoreApplication::quit(); });
     DesktopComposition composition(platform, [] { QCoreApplication::quit(); });
     auto& delegate = composition.delegate();
-    const auto added = addition ? addition(composition) : nullptr;
     delegate.applicationDidFinishLaunching();
     platform.singleInstance.onReopen([&] { delegate.applicationShouldHandleReopen(); });
     platform.termination.onSessionEnding([&] { delegate.flushAllStores(); });

@@ -2,15 +2,11 @@
 
 #include <QApplication>
 #include <array>
-#include <functional>
-#include <memory>
 
 #include "platform/api/platform.h"
 #include "shell/windows/toolkit_translator.h"
 
 namespace tidewatch {
-
-class DesktopComposition;
 
 /// The program: the toolkit's application object, configured for a tray program, and its life cycle. One per
 /// process.
@@ -22,12 +18,9 @@ public:
     Application& operator=(const Application&) = delete;
     ~Application();
 
-    /// Builds what a program has beside the ordinary one. It is destroyed before the composition.
-    using Addition = std::function<std::shared_ptr<void>(DesktopComposition&)>;
-
     /// Runs until the user, the session or a signal ends the program. Returns the exit code: 0 also if
     /// another instance was running and was asked to come to the front.
-    [[nodiscard]] int run(const platform::Platform& platform, const Addition& addition = nullptr);
+    [[nodiscard]] int run(const platform::Platform& platform);
 
 private:
     int argumentCount_ = 1;

@@ -47,14 +47,10 @@ DesktopComposition::DesktopComposition(const platform::Platform& platform, std::
                    .terminate = std::move(terminate),
                }) {}
 
-GamesPresenter::Sources DesktopComposition::games() {
-    return gamesSources(platform_, services_, keys_);
-}
-
 WidgetViews& DesktopComposition::widgets() {
     if (!widgets_) {
         widgets_ = std::make_unique<WidgetViews>(
-            services_.widgets.hub, games(),
+            services_.widgets.hub, gamesSources(platform_, services_, keys_),
             [this](QObject& presenter) { return surfaces_.makeView("WidgetContainer", presenter); },
             [this] {
                 surfaces_.clearViewCache();

@@ -14,7 +14,6 @@
 #include "shell/windows/qt_surfaces.h"
 #include "shell/windows/statistics_window.h"
 #include "shell/windows/window_key_monitor.h"
-#include "wellbeing/views/games/games_presenter.h"
 
 namespace tidewatch {
 
@@ -25,12 +24,6 @@ public:
     DesktopComposition(const platform::Platform& platform, std::function<void()> terminate);
 
     [[nodiscard]] AppDelegate& delegate() { return program_.delegate(); }
-
-    // For windows beyond those of the program itself.
-    [[nodiscard]] GamesPresenter::Sources games();
-    [[nodiscard]] QtSurfaces& surfaces() { return surfaces_; }
-    [[nodiscard]] ThemeController& theme() { return services_.theme; }
-    [[nodiscard]] Broadcaster& broadcaster() { return services_.broadcaster; }
 
 private:
     [[nodiscard]] QuickStatisticsWindow::Content statisticsContent();
