@@ -3,8 +3,10 @@
 #include <gmock/gmock.h>
 
 #include <QGuiApplication>
+#include <QPainter>
 #include <QQuickPaintedItem>
 
+#include "ui/backgrounds/pixel_picture.h"
 #include "ui/ui_scene.h"
 
 namespace tidewatch {
@@ -43,6 +45,30 @@ INSTANTIATE_TEST_SUITE_P(
                     "AppIconView { side: 40; symbolName: 'clock'; color: 'red' }",
                     "DonutRing { width: 80; height: 80; fraction: 0.3; color: 'red'; track: 'blue' }",
                     "PanelBackground { width: 100; height: 60; cornerRadius: 16 }"));
+
+/// Remembers how large a picture it is asked to paint.
+class MeasuredItem final : public QQuickPaintedItem {
+public:
+    using QQuickPaintedItem::QQuickPaintedItem;
+
+    void paint(QPainter* painter) override {
+        const auto* picture = painter->device();
+        painted_ = {picture->width(), picture->height()};
+    }
+
+    QSize painted_;
+};
+
+TEST(PixelPicture, HasNoMorePixelsThanTheScreenShows) {
+    QQuickWindow window;
+    window.resize(120, 120);
+    MeasuredItem item(window.contentItem());
+    item.setSize({53.5, 21});
+    setPictureSize(item);
+    window.show();
+    window.grabWindow();
+    EXPECT_EQ(item.painted_, QSize(54, 21) * pixelsToAPoint);
+}
 
 }  // namespace
 }  // namespace tidewatch

@@ -90,7 +90,6 @@ void LiquidBackground::geometryChange(const QRectF& to, const QRectF& from) {
 void LiquidBackground::itemChange(ItemChange change, const ItemChangeData& data) {
     if (change == ItemSceneChange) watch(data.window);
     QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) setPictureSize(*this);
     if (change == ItemSceneChange || change == ItemVisibleHasChanged) updateMoving();
 }
 

@@ -74,11 +74,6 @@ void PanelBackgroundItem::geometryChange(const QRectF& to, const QRectF& from) {
     setPictureSize(*this);
 }
 
-void PanelBackgroundItem::itemChange(ItemChange change, const ItemChangeData& data) {
-    QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) setPictureSize(*this);
-}
-
 void PanelBackgroundItem::announce() {
     update();
     Q_EMIT changed();

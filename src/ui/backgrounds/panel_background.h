@@ -43,7 +43,6 @@ Q_SIGNALS:
 
 protected:
     void geometryChange(const QRectF& to, const QRectF& from) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     void announce();

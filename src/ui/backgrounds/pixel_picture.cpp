@@ -1,6 +1,5 @@
 #include "ui/backgrounds/pixel_picture.h"
 
-#include <QQuickWindow>
 #include <cmath>
 
 namespace tidewatch {
@@ -9,10 +8,9 @@ void setPictureSize(QQuickPaintedItem& item, const QSizeF& size) {
     const auto covered = size.expandedTo(item.size());
     const QSize whole(static_cast<int>(std::ceil(covered.width())),
                       static_cast<int>(std::ceil(covered.height())));
-    const double ratio = item.window() != nullptr ? item.window()->effectiveDevicePixelRatio() : 1;
     item.setContentsSize(whole);
-    // Otherwise a texture with an explicit size is painted in points and scaled up.
-    item.setTextureSize((QSizeF(whole) * ratio).toSize());
+    // In points, too. Without it the picture would have one pixel for each point of the contents.
+    item.setTextureSize(whole);
     item.update();
 }
 

@@ -5,8 +5,8 @@
 
 namespace tidewatch {
 
-/// Sets the texture size of `item` to whole screen pixels covering it and at least `size`, so that it is
-/// copied to the screen unscaled. Must be called again when a size or the device pixel ratio changes.
+/// Sets the picture of `item` to whole points covering it and at least `size`, painted in the pixels of the
+/// screen. Must be called again when a size changes.
 void setPictureSize(QQuickPaintedItem& item, const QSizeF& size = {});
 
 }  // namespace tidewatch

@@ -46,12 +46,6 @@ void Symbol::geometryChange(const QRectF& to, const QRectF& from) {
     setPictureSize(*this, {side_, side_});
 }
 
-void Symbol::itemChange(ItemChange change, const ItemChangeData& data) {
-    QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged)
-        setPictureSize(*this, {side_, side_});
-}
-
 void Symbol::paint(QPainter* painter) {
     painter->translate(width() / 2, height() / 2);
     painter->rotate(turn_);

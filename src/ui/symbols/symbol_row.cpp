@@ -55,13 +55,6 @@ void SymbolRow::geometryChange(const QRectF& to, const QRectF& from) {
     setPictureSize(*this, {length(), side_});
 }
 
-void SymbolRow::itemChange(ItemChange change, const ItemChangeData& data) {
-    QQuickPaintedItem::itemChange(change, data);
-    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged) {
-        setPictureSize(*this, {length(), side_});
-    }
-}
-
 void SymbolRow::paint(QPainter* painter) {
     painter->translate((width() - length()) / 2, (height() - side_) / 2);
     const auto count = std::min(names_.size(), colors_.size());

@@ -40,7 +40,6 @@ Q_SIGNALS:
 
 protected:
     void geometryChange(const QRectF& to, const QRectF& from) override;
-    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
 private:
     [[nodiscard]] double length() const;
