@@ -15,14 +15,14 @@ from Xlib import X, display  # noqa: E402
 from Xlib.ext import damage, xtest  # noqa: E402
 
 from bench_statistics import after_a_write  # noqa: E402
-from harness.screen import Rectangle  # noqa: E402
+from harness.home import EARNED_GAME  # noqa: E402
+from harness.screen import Rectangle, distance  # noqa: E402
 from harness.waiting import wait_until  # noqa: E402
 from harness.widgets import Widgets, all_placed  # noqa: E402
 from harness.world import World  # noqa: E402
 
 NAME = "arcade"
 OTHER = "project"  # a widget without a game
-CHARGED = {"gate.initialized": "true", "gate.workSeconds": 3600, "gate.ready": "true", "gate.lockedUntil": 0}
 
 MEASURED_SECONDS = 10 if JUDGED else 4
 REST_SECONDS = 30 if JUDGED else 4  # from one write of the record to the next
@@ -71,11 +71,11 @@ class Arcade:
         self._widgets.toggle(NAME)
 
     def start_bricks(self):
-        wait_until(lambda: self._looks_like(GREEN, BUTTON_GROUND), "the button")
+        wait_until(lambda: self._is_green(BUTTON_GROUND), "the button")
         self._click(NEXT_GAME)
         self._click(PLAY)
         wait_until(lambda: self._world.home.setting("gate.ready") == "false", "the game")
-        wait_until(lambda: self._looks_like(GREEN, FIRST_BRICK), "the wall")
+        wait_until(lambda: self._is_green(FIRST_BRICK), "the wall")
 
     def launch(self):
         self._click(LAUNCH)
@@ -160,10 +160,9 @@ class Arcade:
         box = differences.point(lambda value: 255 if value < SIMILAR else 0).getbbox()
         return None if box is None else area.x + (box[0] + box[2]) / 2
 
-    def _looks_like(self, color, place):
+    def _is_green(self, place):
         frame = self.window.frame
-        pixel = self._world.screen.pixel(frame.x + place[0], frame.y + place[1])
-        return max(abs(one - other) for one, other in zip(pixel, color)) < SIMILAR
+        return distance(self._world.screen.pixel(frame.x + place[0], frame.y + place[1]), GREEN) < SIMILAR
 
     def _is_over(self):
         """The score is stored at the end."""
@@ -181,7 +180,7 @@ def late_frames(drawn):
 
 def prepare(world):
     """An earned game, and all widgets hidden in their places."""
-    world.home.write_settings(**CHARGED)
+    world.home.write_settings(**EARNED_GAME)
     world.home.write("widgets.json", json.dumps({name: {**state, "visible": False} for name, state in all_placed().items()}))
 
 
@@ -242,9 +241,9 @@ def left_behind(world, show):
 
 def show_other_widget(world):
     widgets = Widgets(world)
-    for _ in range(2):
-        widgets.toggle(OTHER)
-        time.sleep(SETTLE_SECONDS)
+    widgets.toggle(OTHER)
+    time.sleep(SETTLE_SECONDS)
+    widgets.toggle(OTHER)
 
 
 def play_a_game(world):

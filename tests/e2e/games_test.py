@@ -4,6 +4,7 @@ import time
 import unittest
 from contextlib import contextmanager
 
+from harness.home import EARNED_GAME
 from harness.statistics_window import StatisticsWindow
 from harness.timing import Elapsed, EventTime
 from harness.waiting import repeat_until, wait_until
@@ -12,8 +13,6 @@ from harness.world import WIDTH, World
 HEIGHT = 1080  # shows all of the column beside the tabs
 GAMES = "com.brightlooms.fathom.games"
 SECONDS_OF_PLAY = 5
-
-CHARGED = {"gate.initialized": "true", "gate.workSeconds": 3600, "gate.ready": "true", "gate.lockedUntil": 0}
 
 
 class Arcade:
@@ -60,7 +59,7 @@ def booked(home, name):
 def running(name):
     """A program with an earned game, and its mini-arcade."""
     with World(name, accessibility=True, size=(WIDTH, HEIGHT)) as world:
-        world.home.write_settings(**CHARGED)
+        world.home.write_settings(**EARNED_GAME)
         program = world.start_program()
         yield world, program, Arcade(world, program)
 

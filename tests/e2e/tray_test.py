@@ -7,19 +7,19 @@ from harness.waiting import stays, wait_until
 from harness.world import World, sleep_until
 
 
+def hint(world):
+    """The program's words about the missing tray, while they are on the screen."""
+    return next((window for window in world.screen.windows() if world.screen.is_tooltip(window.id)), None)
+
+
 class Tray(unittest.TestCase):
     def test_without_one_the_menu_opens_on_the_clock_and_the_program_says_so_once(self):
         with World("tray-none", tray=False) as world:
             world.home.write_settings(sizeScale=1.0)
             program = world.start_program()
-            before = {window.id for window in world.screen.windows()}
-
-            def hint():
-                return [window for window in world.screen.windows() if window.id not in before]
-
-            wait_until(hint, "the hint")
+            wait_until(lambda: hint(world), "the hint")
             world.screenshot("hint")
-            wait_until(lambda: not hint(), "the hint to go")
+            wait_until(lambda: not hint(world), "the hint to go")
             menu = Menu(world)
             menu.open_from_clock()
             menu.choose(QUIT)
@@ -34,7 +34,7 @@ class Tray(unittest.TestCase):
             menu.open_from_clock()
             menu.choose(TOGGLE_VISIBLE)
             wait_until(lambda: world.clock() is None, "the clock to hide")
-            wait_until(lambda: self.tooltip(world), "the hint")
+            wait_until(lambda: hint(world), "the hint")
             world.screenshot("hidden")
             world.start_program(wait_for_clock=False).wait()
             wait_until(world.clock, "the clock")
@@ -44,10 +44,6 @@ class Tray(unittest.TestCase):
             menu.open_from_clock()
             menu.choose(QUIT)
             self.assertEqual(program.wait(), 0)
-
-    @staticmethod
-    def tooltip(world):
-        return next((window for window in world.screen.windows() if world.screen.is_tooltip(window.id)), None)
 
     def test_one_that_comes_later_takes_the_icon(self):
         with World("tray-later", tray=False) as world:

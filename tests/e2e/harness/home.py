@@ -10,9 +10,11 @@ from harness import local_time
 # The counter files.
 FILES = ("today.json", "apps.json", "hours.json", "minutes.json", "project_time.json")
 
-
 # The setting that says that the first start's message has been shown.
 WELCOMED = "notif-welcome"
+
+# The settings with which a game waits to be played.
+EARNED_GAME = {"gate.initialized": "true", "gate.workSeconds": 3600, "gate.ready": "true", "gate.lockedUntil": 0}
 
 
 class Home:
